@@ -1,0 +1,246 @@
+#include "canvas.h"
+#include "pictures.h"
+#include "rows.h"
+
+#include <marclist.h>
+#include <QApplication>
+#include <QGlyphRun>
+#include <QListWidget>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QTextLayout>
+
+#include <vector>
+
+namespace
+{
+
+constexpr QSize kSize(560, 400);
+constexpr int kBox = 40; // px
+constexpr int kCurrent = 3; // D
+constexpr int kRowHeight = 40; // px
+constexpr double kAngle = -20; // degrees
+constexpr double kRadius = 470; // px
+constexpr double kPitch = 8; // degrees
+constexpr double kFloorLimit = 1.2;
+constexpr double kPeerLimit = 1;
+
+QFont letterFont()
+{
+    QFont font = QApplication::font();
+    font.setPixelSize(24);
+    return font;
+}
+
+const QPixmap &marker()
+{
+    static const QPixmap instance = keyPicture(QColor(60, 170, 200), QSize(64, 44));
+    return instance;
+}
+
+void prepareList(MArcList &list)
+{
+    list.setFont(letterFont());
+    list.setPointPixmap(marker());
+    for (char c = 'A'; c <= 'Z'; ++c)
+        list.addAlpha(QLatin1Char(c));
+    list.setCurrentIndex(QLatin1Char('A' + kCurrent));
+}
+
+PaintingMaker arc()
+{
+    return widgetOf<MArcList>(kSize, [](MArcList &list) {
+        prepareList(list);
+        list.setStartAngle(kAngle);
+    });
+}
+
+PaintingMaker column()
+{
+    return widgetOf<MArcList>(kSize, [](MArcList &list) {
+        list.setAcrListStyle(MArcList::ARCLIST_STYLE_1);
+        list.setItemHight(kRowHeight);
+        list.setShowItem(10);
+        prepareList(list);
+        list.setStartAngle(0);
+    });
+}
+
+// A letter with everything that can be known before the paint.
+struct Letter {
+    QTransform transform;
+    QGlyphRun run;
+    QPointF at;
+};
+
+// The layout of a letter in a box, centred, and in the middle or at the bottom of it.
+Letter laidOut(const QTransform &transform, const QRectF &box, int flags, QChar letter)
+{
+    const QFont font = letterFont();
+    const auto cut = [](qreal value) {
+        return qreal(int(value * 64)) / 64; // where Qt begins lines
+    };
+    QTextLayout layout(letter, font);
+    layout.beginLayout();
+    QTextLine line = layout.createLine();
+    line.setLineWidth(kSize.width());
+    layout.endLayout();
+    const qreal y = QFontMetricsF(font).boundingRect(box, flags, letter).top();
+    return {transform,
+            layout.glyphRuns().constFirst(),
+            {cut(box.left() + (box.width() - line.horizontalAdvance()) / 2), cut(y)}};
+}
+
+// The marker turned to its place on the arc, as pixels.
+QImage turnedMarker()
+{
+    QImage image(kSize, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter.translate(0, 200);
+    painter.rotate(kCurrent * kPitch + kAngle + 2.5);
+    painter.drawPixmap(int(kRadius) - 32, -22, marker());
+    return image;
+}
+
+PaintingMaker arcFloor()
+{
+    std::vector<Letter> letters;
+    QTransform turned = QTransform::fromTranslate(0, 200);
+    turned.rotate(kAngle - 90);
+    const QRectF box(-20, 0, kBox, kBox);
+    for (char c = 'A'; c <= 'Z'; ++c) {
+        QTransform upright = turned;
+        upright.translate(0, kRadius).rotate(90);
+        if (upright.mapRect(box).intersects(QRectF(QPointF(), kSize)))
+            letters.push_back(laidOut(upright, box, Qt::AlignCenter, QLatin1Char(c)));
+        turned.rotate(kPitch);
+    }
+    // Around the marker there is nothing to copy.
+    const QRect place(390, 140, 170, 140);
+    const QImage turnedPicture = turnedMarker().copy(place);
+    return bareWidget(kSize, [letters, turnedPicture, place](QPainter &painter) {
+        painter.setFont(letterFont());
+        painter.setPen(QApplication::palette().color(QPalette::WindowText));
+        for (const Letter &letter : letters) {
+            painter.setWorldTransform(letter.transform);
+            painter.drawGlyphRun(letter.at, letter.run);
+        }
+        painter.resetTransform();
+        painter.drawImage(place.topLeft(), turnedPicture);
+    });
+}
+
+PaintingMaker columnFloor()
+{
+    std::vector<Letter> letters;
+    const int left = (kSize.width() - marker().width()) / 2;
+    for (int row = 0; row < 10; ++row)
+        letters.push_back(laidOut({}, QRect(left, row * kRowHeight + 5, kBox, kBox),
+                                  Qt::AlignHCenter | Qt::AlignBottom,
+                                  QLatin1Char(char('A' + row))));
+    return bareWidget(kSize, [letters, left](QPainter &painter) {
+        painter.setPen(QApplication::palette().color(QPalette::WindowText));
+        for (const Letter &letter : letters)
+            painter.drawGlyphRun(letter.at, letter.run);
+        painter.drawPixmap(left + 2, kCurrent * kRowHeight, marker());
+    });
+}
+
+void fillPeer(QListWidget &list)
+{
+    list.setFont(letterFont());
+    for (char c = 'A'; c <= 'Z'; ++c)
+        list.addItem(QString(QLatin1Char(c)));
+    for (int i = 0; i < list.count(); ++i) {
+        list.item(i)->setSizeHint(QSize(kBox, kRowHeight));
+        list.item(i)->setTextAlignment(Qt::AlignCenter);
+    }
+    list.item(kCurrent)->setIcon(QIcon(marker()));
+    list.setCurrentRow(kCurrent);
+}
+
+// Ten rows with the same letters; a list view paints in its viewport.
+PaintingMaker peer()
+{
+    return []() -> Painting {
+        const auto canvas = makeCanvas(kSize);
+        const auto list = std::make_shared<QListWidget>();
+        fillPeer(*list);
+        list->resize(kSize);
+        list->setAttribute(Qt::WA_DontShowOnScreen);
+        list->show();
+        return {canvas, [list, canvas] {
+                    list->viewport()->render(canvas.get(), QPoint(), QRegion(),
+                                             QWidget::DrawChildren);
+                }};
+    };
+}
+
+void send(QWidget &widget, QEvent::Type type, const QPoint &pos)
+{
+    QMouseEvent event(type, pos, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&widget, &event);
+}
+
+// One step of a drag, up and down, and the paint that it asks for.
+StepMaker drag(MArcList::ARCLIST_STYLE style)
+{
+    return [style]() -> Step {
+        const auto canvas = makeCanvas(kSize);
+        const auto list = std::make_shared<OnCanvas<MArcList>>(canvas);
+        list->setAcrListStyle(style);
+        if (style == MArcList::ARCLIST_STYLE_1)
+            list->setItemHight(kRowHeight);
+        prepareList(*list);
+        list->resize(kSize);
+        list->setAttribute(Qt::WA_DontShowOnScreen);
+        list->show();
+        send(*list, QEvent::MouseButtonPress, {460, 300});
+        return [list, y = 300, way = -4]() mutable {
+            y += way;
+            if (y < 60 || y > 340)
+                way = -way;
+            send(*list, QEvent::MouseMove, {460, y});
+            list->paint();
+        };
+    };
+}
+
+// The same with a list view that is scrolled.
+StepMaker peerDrag()
+{
+    return []() -> Step {
+        const auto canvas = makeCanvas(kSize);
+        const auto list = std::make_shared<QListWidget>();
+        fillPeer(*list);
+        list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+        list->resize(kSize);
+        list->setAttribute(Qt::WA_DontShowOnScreen);
+        list->show();
+        return [list, canvas, y = 300, way = -4]() mutable {
+            y += way;
+            if (y < 60 || y > 340)
+                way = -way;
+            list->verticalScrollBar()->setValue(y);
+            list->viewport()->render(canvas.get(), QPoint(), QRegion(), QWidget::DrawChildren);
+        };
+    };
+}
+
+} // namespace
+
+void defineRows(Rows &rows, Tag<MArcList>)
+{
+    rows.paint("MArcList", "arc", arc(), {arcFloor(), kFloorLimit},
+               {{"QListWidget", peer(), kPeerLimit}});
+    rows.paint("MArcList", "column", column(), {columnFloor(), kFloorLimit},
+               {{"QListWidget", peer(), kPeerLimit}});
+    rows.work("MArcList", "column dragged", drag(MArcList::ARCLIST_STYLE_1),
+              {[] { return columnFloor()().step; }, kNoLimit},
+              {{"QListWidget", peerDrag(), kPeerLimit}});
+    rows.work("MArcList", "arc dragged", drag(MArcList::ARCLIST_STYLE_0),
+              {[] { return arcFloor()().step; }, kNoLimit},
+              {{"QListWidget", peerDrag(), kNoLimit}});
+}

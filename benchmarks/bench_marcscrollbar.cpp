@@ -1,0 +1,149 @@
+#include "canvas.h"
+#include "pictures.h"
+#include "rows.h"
+
+#include <marcscrollbar.h>
+#include <QApplication>
+#include <QScrollBar>
+
+namespace
+{
+
+constexpr QSize kSize(160, 400);
+constexpr int kRange = 100;
+constexpr int kValue = 37;
+constexpr double kFloorLimit = 1.2;
+constexpr double kArcFloorLimit =
+    1.4; // two turned layers are two comparisons of what they depend on
+constexpr double kPeerLimit = 1;
+
+const QPixmap &knob()
+{
+    static const QPixmap instance = keyPicture(QColor(60, 170, 200), QSize(44, 44));
+    return instance;
+}
+
+template <class Prepare> PaintingMaker bar(Prepare prepare)
+{
+    return widgetOf<MArcScrollBar>(kSize, [prepare](MArcScrollBar &bar) {
+        bar.setRange(0, kRange);
+        bar.setValue(kValue);
+        prepare(bar);
+    });
+}
+
+// What a painter on the arc with these hints leaves, cut to what is not empty.
+struct Stamp {
+    QPoint at;
+    QImage image;
+};
+
+template <class Draw> Stamp stamp(const QRect &place, Draw draw)
+{
+    QImage image(kSize, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setPen(QApplication::palette().color(QPalette::WindowText));
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter.translate(-460, 200);
+    painter.rotate(90);
+    draw(painter);
+    painter.end();
+    return {place.topLeft(), image.copy(place)};
+}
+
+Stamp ticks()
+{
+    return stamp({40, 20, 62, 360}, [](QPainter &painter) {
+        painter.rotate(162);
+        for (int i = 0; i <= kRange; ++i) {
+            painter.drawLine(QLineF(0, qreal(0.9299999999999999 * 570), 0, qreal(0.98 * 570)));
+            painter.rotate(qreal(36.0 / kRange));
+        }
+    });
+}
+
+Stamp triangle()
+{
+    return stamp({0, 150, 112, 40}, [](QPainter &painter) {
+        painter.rotate(162 - 180);
+        painter.rotate(qreal(36.0 / kRange * kValue));
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QColor(94, 94, 94));
+        painter.drawConvexPolygon(QVector<QPointF>{{-2, -456}, {2, -456}, {0, -570}});
+    });
+}
+
+Stamp turnedKnob()
+{
+    return stamp({55, 120, 60, 60}, [](QPainter &painter) {
+        painter.rotate(162 - 180);
+        painter.rotate(qreal(36.0 / kRange * kValue));
+        painter.drawPixmap(-22, -570, knob());
+    });
+}
+
+PaintingMaker floorOf(const Stamp &first, const Stamp &second)
+{
+    return bareWidget(kSize, [first, second](QPainter &painter) {
+        painter.drawImage(first.at, first.image);
+        painter.drawImage(second.at, second.image);
+    });
+}
+
+PaintingMaker straightFloor()
+{
+    QVector<QRect> rows;
+    for (int i = 0; i <= kRange; ++i)
+        rows += QRect(0, 50 + i * 3, kSize.width(), 1);
+    return bareWidget(kSize, [rows](QPainter &painter) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QApplication::palette().color(QPalette::WindowText));
+        painter.drawRects(rows);
+        painter.drawPixmap(0, 300 * kValue / kRange - 22 + 50, knob());
+    });
+}
+
+PaintingMaker peer()
+{
+    return widgetOf<QScrollBar>(kSize, [](QScrollBar &bar) {
+        bar.setRange(0, kRange);
+        bar.setValue(kValue);
+    });
+}
+
+// Another value, and its paint.
+StepMaker slide()
+{
+    return []() -> Step {
+        const auto bar = std::make_shared<OnCanvas<MArcScrollBar>>(makeCanvas(kSize));
+        bar->setRange(0, kRange);
+        bar->resize(kSize);
+        bar->setAttribute(Qt::WA_DontShowOnScreen);
+        bar->show();
+        return [bar] {
+            bar->setValue((bar->value() + 1) % kRange);
+            bar->paint();
+        };
+    };
+}
+
+} // namespace
+
+void defineRows(Rows &rows, Tag<MArcScrollBar>)
+{
+    rows.paint("MArcScrollBar", "arc", bar([](MArcScrollBar &) {}),
+               {floorOf(ticks(), triangle()), kArcFloorLimit},
+               {{"QScrollBar", peer(), kPeerLimit}});
+    rows.paint("MArcScrollBar", "arc with picture",
+               bar([](MArcScrollBar &b) { b.setPointPixmap(knob()); }),
+               {floorOf(ticks(), turnedKnob()), kArcFloorLimit},
+               {{"QScrollBar", peer(), kPeerLimit}});
+    rows.paint("MArcScrollBar", "straight", bar([](MArcScrollBar &b) {
+                   b.setRadius(0);
+                   b.setPointPixmap(knob());
+               }),
+               {straightFloor(), kFloorLimit}, {{"QScrollBar", peer(), kPeerLimit}});
+    rows.work("MArcScrollBar", "value moved", slide(),
+              {[] { return floorOf(ticks(), triangle())().step; }, kNoLimit}, {});
+}

@@ -1,0 +1,60 @@
+#include "rows.h"
+#include "scalefloor.h"
+
+#include <mkarvoslider.h>
+
+namespace
+{
+
+constexpr QSize kSize(795, 160);
+constexpr int kTop = 40; // px
+constexpr int kUnit = 30; // px
+constexpr int kMargin = 90; // px, for 3 px a step
+constexpr int kGap = 3; // px
+
+QPixmap indicator()
+{
+    QPixmap picture(3, 60);
+    picture.fill(QColor(255, 120, 0));
+    return picture;
+}
+
+// 206 steps and 21 labels. Minor ticks are not drawn.
+void setUp(MKARVOSlider &slider)
+{
+    slider.setFont(QApplication::font());
+    slider.setIndicatePix(indicator());
+    slider.setIsFM(true);
+    slider.setFreqStart(87.5F);
+    slider.setFreqEnd(108.0F);
+    slider.setFreqStep(0.1F);
+    slider.setMarginX(kMargin);
+    slider.setCurFreq(98.0F);
+}
+
+PaintingMaker floor()
+{
+    ScaleFloor scale;
+    scale.color = Qt::white;
+    for (int i = 0; i <= 205; i += 5) {
+        const int x = kMargin + i * kGap;
+        if (i % 10 == 5) {
+            scale.solid += QRect(QPoint(x, kTop), QPoint(x, kTop + 3 * kUnit));
+            scale.addLabel(QRect(x - 30, 5, 60, 25), QString::number(88 + i / 10));
+        } else {
+            scale.faint += QRect(QPoint(x, kTop), QPoint(x, kTop + kUnit));
+            scale.solid += QRect(QPoint(x, kTop + kUnit), QPoint(x, kTop + 3 * kUnit));
+        }
+    }
+    scale.indicator = indicator();
+    scale.indicatorPlace = QPointF(kMargin + 105 * kGap - 1, 50 + 46);
+    return bareWidget(kSize, scale);
+}
+
+} // namespace
+
+void defineRows(Rows &rows, Tag<MKARVOSlider>)
+{
+    rows.paint("MKARVOSlider", "full scale", widgetOf<MKARVOSlider>(kSize, setUp),
+               {floor(), kScaleFloorLimit}, {{"QwtSlider", qwtSlider(kSize), kQwtLimit}});
+}

@@ -1,0 +1,133 @@
+#include "instructions.h"
+#include "report.h"
+#include "rows.h"
+
+#include <benchmark/benchmark.h>
+#include <panelkitclasses.h>
+#include <QApplication>
+#include <QFont>
+#include <QString>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <optional>
+#include <vector>
+
+#define PANELKIT_DECLARE_ROWS(Class, ...) void defineRows(Rows &rows, Tag<Class>);
+PANELKIT_FOR_EACH_CLASS(PANELKIT_DECLARE_ROWS)
+
+namespace
+{
+
+// Keeps the fastest repetition of each benchmark: whatever else the machine does only makes one
+// slower, so that the fastest is the one nearest to what the code costs.
+class FastestReporter final : public benchmark::BenchmarkReporter
+{
+public:
+    bool ReportContext(const Context &) override { return true; }
+
+    void ReportRuns(const std::vector<Run> &runs) override
+    {
+        for (const Run &run : runs) {
+            if (run.run_type != Run::RT_Iteration || run.error_occurred)
+                continue;
+            const double cost = run.GetAdjustedCPUTime();
+            const auto known = m_costs.emplace(run.run_name.function_name, cost).first;
+            known->second = std::min(known->second, cost);
+        }
+    }
+
+    const Costs &costs() const { return m_costs; }
+
+private:
+    Costs m_costs;
+};
+
+Rows allRows()
+{
+    Rows rows;
+#define PANELKIT_DEFINE_ROWS(Class, ...) defineRows(rows, Tag<Class>());
+    PANELKIT_FOR_EACH_CLASS(PANELKIT_DEFINE_ROWS)
+    return rows;
+}
+
+// Each repetition measures a fresh subject: where its memory happens to lie is part of the noise.
+void measure(const std::string &name, const StepMaker &make)
+{
+    benchmark::RegisterBenchmark(name.c_str(), [make](benchmark::State &state) {
+        const Step step = make();
+        step();
+        for (auto _ : state)
+            step();
+    });
+}
+
+void registerAll(const std::vector<Row> &rows)
+{
+    for (const Row &row : rows) {
+        measure(row.nameOf("ours"), row.ours);
+        measure(row.nameOf(row.floor.name), row.floor.make);
+        for (const Against<StepMaker> &peer : row.peers)
+            measure(row.nameOf(peer.name), peer.make);
+    }
+}
+
+// Takes the argument that starts like this out of the arguments; the rest of it, if there is one.
+std::optional<QString> take(std::vector<char *> &arguments, const QString &start)
+{
+    for (auto argument = arguments.begin(); argument != arguments.end(); ++argument) {
+        const QString text = QString::fromLocal8Bit(*argument);
+        if (text.startsWith(start)) {
+            arguments.erase(argument);
+            return text.mid(start.size());
+        }
+    }
+    return std::nullopt;
+}
+
+// Runs what the arguments ask for. Repetitions of all benchmarks are mixed, so that a slow moment
+// of the machine meets all of them alike; the arguments may say otherwise.
+Costs measuredCosts(const std::vector<Row> &rows, std::vector<char *> arguments)
+{
+    static char interleaving[] = "--benchmark_enable_random_interleaving=true";
+    static char repetitions[] = "--benchmark_repetitions=21";
+    static char shortRuns[] = "--benchmark_min_time=0.005";
+    arguments.insert(arguments.begin() + 1, {interleaving, repetitions, shortRuns});
+    int count = int(arguments.size());
+    benchmark::Initialize(&count, arguments.data());
+    if (benchmark::ReportUnrecognizedArguments(count, arguments.data()))
+        std::exit(2);
+    registerAll(rows);
+    FastestReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    return reporter.costs();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    // The same style and font on every machine.
+    QApplication::setStyle(QStringLiteral("fusion"));
+    const QApplication application(argc, argv);
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(14);
+    QApplication::setFont(font);
+
+    std::vector<char *> arguments(argv, argv + argc);
+    const std::optional<QString> jsonPath = take(arguments, QStringLiteral("--json="));
+    const bool isCounting = take(arguments, QStringLiteral("--instructions")).has_value();
+
+    const Rows rows = allRows();
+    if (isCounting)
+        return countInstructions(rows.all()) && !rows.hasRefused() ? 0 : 1;
+
+    const Costs costs = measuredCosts(rows.all(), arguments);
+    printTable(rows.all(), costs);
+    if (jsonPath && !writeJson(*jsonPath, rows.all(), costs)) {
+        std::fprintf(stderr, "cannot write %s\n", qPrintable(*jsonPath));
+        return 1;
+    }
+    return rows.hasRefused() ? 1 : 0;
+}

@@ -1,0 +1,81 @@
+#ifndef PANELKIT_BENCHMARKS_ROWS_H
+#define PANELKIT_BENCHMARKS_ROWS_H
+
+#include <QImage>
+
+#include <functional>
+#include <limits>
+#include <memory>
+#include <string>
+#include <vector>
+
+/// One step of what is measured: a paint, a drag step, a tick, a start-up.
+using Step = std::function<void()>;
+
+/// Makes a fresh subject, ready to be measured; the step keeps it alive.
+using StepMaker = std::function<Step()>;
+
+/// A step that paints, and the canvas on which its picture then stands.
+struct Painting {
+    std::shared_ptr<QImage> canvas;
+    Step step;
+};
+
+using PaintingMaker = std::function<Painting()>;
+
+constexpr double kNoLimit = std::numeric_limits<double>::infinity();
+
+/// What ours is measured against. The limit is the largest acceptable ratio of our cost to this
+/// one.
+template <class Maker> struct Against {
+    std::string name;
+    Maker make;
+    double limit = kNoLimit;
+};
+
+/// The least that the same result can cost.
+template <class Maker> struct Floor {
+    Maker make;
+    double limit = kNoLimit;
+};
+
+/// One class in one state, beside its floor and its peers.
+struct Row {
+    std::string className;
+    std::string state;
+    StepMaker ours;
+    Against<StepMaker> floor;
+    std::vector<Against<StepMaker>> peers;
+
+    /// The full name of one of the things measured, as in "SpIconButton/pressed/floor".
+    std::string nameOf(const std::string &subject) const;
+};
+
+/// Everything that is measured, in the order of its definition.
+class Rows
+{
+public:
+    /// Adds the row of a look. The floor has to paint the very pixels of ours, in the first paint
+    /// and in the next: a row whose floor does not is refused, and why is printed.
+    void paint(const std::string &className, const std::string &state, const PaintingMaker &ours,
+               const Floor<PaintingMaker> &floor, const std::vector<Against<PaintingMaker>> &peers);
+
+    /// Adds the row of anything else.
+    void work(const std::string &className, const std::string &state, const StepMaker &ours,
+              const Floor<StepMaker> &floor, const std::vector<Against<StepMaker>> &peers);
+
+    const std::vector<Row> &all() const { return m_rows; }
+    bool hasRefused() const { return m_hasRefused; }
+
+private:
+    std::vector<Row> m_rows;
+    bool m_hasRefused = false;
+};
+
+template <class Class> struct Tag {
+};
+
+// Each class defines its rows in bench_<class>.cpp:
+//     void defineRows(Rows &rows, Tag<Class>);
+
+#endif // PANELKIT_BENCHMARKS_ROWS_H

@@ -1,0 +1,72 @@
+# The one list of classes. Everything that treats the classes alike is driven from it: the library's
+# sources and headers, the unit and interface tests, the robustness drive, the Designer plugin, the
+# catalogue, the benchmarks and the documentation. A row says only what the class cannot say itself:
+#
+#   panelkit_class(<Class>
+#       FAMILY  <heading under which the catalogue and the documentation list it>
+#       TOOLTIP <one line for Designer and the catalogue>
+#       SIZE    <width> <height>        initial size in Designer, in px
+#       [INITIAL <property>=<value>...] properties that Designer gives to a new one: texts, numbers,
+#                                       true or false, enumerators (Key or Key|Key), colours
+#                                       ("textColor=#202020", in quotation marks)
+#       [HEADER <name>]                 header and source, if not the class's name in lower case
+#       [CREATE <expression>]           how to make one under `parent`, if not new Class(parent)
+#       [NOT_A_WIDGET])                 a class that Designer and the catalogue cannot show
+#
+#   panelkit_class(<Class> PART_OF <Class above> [SOURCE <name>])
+#
+# is a class that only works inside the other one: it lives in its header, and in its source unless it
+# has one of its own, and is driven, shown, measured and documented with it. What it has for itself is
+# its unit test and its written interface.
+#
+# CONTRIBUTING.md lists the files that belong to a class.
+
+panelkit_class(SpIconButton
+    FAMILY "Touch buttons"
+    TOOLTIP "Image button with pressed, focused and disabled looks, caption, latch and long press"
+    SIZE 120 80
+    INITIAL displayText=Button "normalTextColor=#202020") # white is hard to see on Designer's form
+
+panelkit_class(SpTableList
+    FAMILY "Scrolling lists"
+    TOOLTIP "Kinetic list whose rows have icons, texts and seven styles, with clicks on rows and icons"
+    SIZE 400 300
+    INITIAL itemHeight=60 itemWidth=400)
+panelkit_class(styleDelegate NOT_A_WIDGET)
+
+panelkit_class(MArcList
+    FAMILY "Scrolling lists"
+    TOOLTIP "Letter index on an arc or in a column, scrolled and tapped with a finger"
+    SIZE 560 400)
+
+panelkit_class(MArcScrollBar
+    FAMILY "Scrolling lists"
+    TOOLTIP "Scroll bar in the shape of an arc, with ticks and a pointer, or straight"
+    SIZE 160 400)
+
+panelkit_class(MListView
+    FAMILY "Scrolling lists"
+    TOOLTIP "Column or free arrangement of image buttons, one of them down on request"
+    SIZE 160 320
+    CREATE "new MListView(parent, QRect(0, 0, 160, 320))")
+
+panelkit_class(MRadioMovePoint
+    FAMILY "Radio scales"
+    TOOLTIP "AM/FM tuner: a scale with a needle to be dragged over it"
+    SIZE 831 120
+    INITIAL bandType=FM freqStart=8750 lineStart=20 lineEnd=800 pixCountMeta=1 totalCountMeta=100 txtYpos=8 lineYpos=70 "lineColor=#202020" initByCustomeValue=true)
+panelkit_class(ScaleBkg PART_OF MRadioMovePoint SOURCE scalebkg)
+panelkit_class(MovePoint PART_OF MRadioMovePoint SOURCE movepoint)
+panelkit_class(FmMovePoint PART_OF MRadioMovePoint)
+
+panelkit_class(MRadioSlider
+    FAMILY "Radio scales"
+    TOOLTIP "AM/FM tuner: a scale that is dragged under a fixed indicator"
+    SIZE 640 100
+    INITIAL "lineColor=#202020" curFreq=98)
+
+panelkit_class(MKARVOSlider
+    FAMILY "Radio scales"
+    TOOLTIP "AM/FM tuner: an indicator to be dragged over a fixed scale, snapping to a band of its own"
+    SIZE 730 160
+    INITIAL "lineColor=#202020")

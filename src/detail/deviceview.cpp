@@ -1,0 +1,38 @@
+#include "deviceview.h"
+
+#include <QPaintDevice>
+#include <QPaintEngine>
+#include <QPainter>
+#include <QRect>
+
+namespace panelkit
+{
+
+DeviceView::DeviceView(const QPainter &painter)
+    : m_holdsPixels(painter.paintEngine() && painter.paintEngine()->type() == QPaintEngine::Raster)
+{
+    if (!m_holdsPixels)
+        return;
+    m_toDevice = painter.worldTransform().inverted() * painter.deviceTransform();
+    // Not painter.device(): inside a window that is the widget, but the pixels are the window's.
+    const QPaintDevice *device = painter.paintEngine()->paintDevice();
+    m_device = QRectF(QRect(0, 0, device->width(), device->height()));
+}
+
+// The comparisons are written so that a coordinate that is no number fails one of them.
+bool DeviceView::shows(const QTransform &world, const QRectF &area) const
+{
+    if (!m_holdsPixels)
+        return true;
+    const QRectF mapped = (world * m_toDevice).mapRect(area);
+    return mapped.left() < m_device.right() && mapped.right() > m_device.left()
+        && mapped.top() < m_device.bottom() && mapped.bottom() > m_device.top();
+}
+
+bool DeviceView::operator==(const DeviceView &other) const
+{
+    return m_holdsPixels == other.m_holdsPixels && m_toDevice == other.m_toDevice
+        && m_device == other.m_device;
+}
+
+} // namespace panelkit

@@ -1,0 +1,34 @@
+#ifndef PANELKIT_DETAIL_DEVICEVIEW_H
+#define PANELKIT_DETAIL_DEVICEVIEW_H
+
+#include <QRectF>
+#include <QTransform>
+
+class QPainter;
+
+namespace panelkit
+{
+
+/// What a painter's device can show. A widget asks it before it prepares something that would lie
+/// beside the device: rendering a glyph or turning a picture costs much more than this question.
+class DeviceView
+{
+public:
+    DeviceView() = default;
+    explicit DeviceView(const QPainter &painter);
+
+    /// False if an area, in the coordinates of this world transform, lies wholly beside the device
+    /// or has a coordinate that is no number. Always true on devices that do not hold pixels.
+    bool shows(const QTransform &world, const QRectF &area) const;
+
+    bool operator==(const DeviceView &other) const;
+
+private:
+    bool m_holdsPixels = false;
+    QTransform m_toDevice; // from the painter's combined coordinates
+    QRectF m_device; // px
+};
+
+} // namespace panelkit
+
+#endif // PANELKIT_DETAIL_DEVICEVIEW_H

@@ -1,0 +1,45 @@
+#include "geometry.h"
+
+#include <QtGlobal>
+
+namespace panelkit
+{
+
+namespace
+{
+
+constexpr int kFarthest = (1 << 24) - 1; // px, QWIDGETSIZE_MAX
+
+int halfTowardMinusInfinity(int value)
+{
+    return (value - (value < 0 ? 1 : 0)) / 2;
+}
+
+} // namespace
+
+QRect centredTowardZero(const QSize &size, const QRect &rect)
+{
+    const QSize spare = rect.size() - size;
+    return {rect.topLeft() + QPoint(spare.width() / 2, spare.height() / 2), size};
+}
+
+QRect centredTowardMinusInfinity(const QSize &size, const QRect &rect)
+{
+    const QSize spare = rect.size() - size;
+    return {rect.topLeft()
+                + QPoint(halfTowardMinusInfinity(spare.width()),
+                         halfTowardMinusInfinity(spare.height())),
+            size};
+}
+
+int boundedPixel(int value)
+{
+    return qBound(-kFarthest, value, kFarthest);
+}
+
+QRect boundedRect(int left, int top, int width, int height)
+{
+    return {boundedPixel(left), boundedPixel(top), boundedPixel(width), boundedPixel(height)};
+}
+
+} // namespace panelkit

@@ -1,0 +1,88 @@
+#include "imagelook.h"
+
+#include <QPainter>
+#include <QRect>
+#include <QTransform>
+
+namespace panelkit
+{
+
+namespace
+{
+
+// A scaled copy is worth its memory up to this many pixels (16 MiB), several times a car's screen.
+constexpr qint64 kLargestScaledCopy = qint64(4096) * 1024;
+
+// The nearest-neighbour scaling of drawPixmap, done once: the same pixels, ready to be copied.
+QImage scaledImage(const QPixmap &pixmap, const QSize &area)
+{
+    QImage image(area, QImage::Format_ARGB32_Premultiplied);
+    if (image.isNull())
+        return image;
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.drawPixmap(QRect(QPoint(), area), pixmap);
+    return image;
+}
+
+// A copy scaled in advance only has the right pixels where one unit is one pixel of the device.
+bool paintsUnscaled(const QPainter &painter)
+{
+    return painter.deviceTransform().type() <= QTransform::TxTranslate;
+}
+
+} // namespace
+
+QImage veiledImage(const QPixmap &pixmap, const QSize &area, int alpha)
+{
+    QImage image = pixmap.toImage();
+    if (image.isNull())
+        return image;
+    const QRect veilRect(QPoint(), area);
+    QPainter painter(&image);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.fillRect(veilRect, Qt::transparent);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    painter.drawPixmap(veilRect, pixmap);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceAtop);
+    painter.fillRect(veilRect, QColor(0, 0, 0, alpha));
+    return image;
+}
+
+bool ImageLook::Key::operator==(const Key &other) const
+{
+    return kind == other.kind && pixmap == other.pixmap && area == other.area
+        && alpha == other.alpha;
+}
+
+template <typename Compose> const QImage &ImageLook::kept(const Key &key, Compose compose)
+{
+    if (!(key == m_key)) {
+        m_image = compose();
+        m_key = key;
+        ++m_computations;
+    }
+    return m_image;
+}
+
+void ImageLook::drawScaled(QPainter &painter, const QRect &target, const QPixmap &pixmap)
+{
+    const QSize area = target.size();
+    const bool isWorthKeeping = area != pixmap.size() && !area.isEmpty()
+        && qint64(area.width()) * area.height() <= kLargestScaledCopy && paintsUnscaled(painter);
+    if (!isWorthKeeping) {
+        painter.drawPixmap(target, pixmap);
+        return;
+    }
+    const Key key{Kind::Scaled, pixmap.cacheKey(), area, 0};
+    painter.drawImage(target.topLeft(), kept(key, [&] { return scaledImage(pixmap, area); }));
+}
+
+void ImageLook::drawVeiled(QPainter &painter, const QRect &target, const QPixmap &pixmap, int alpha)
+{
+    const Key key{Kind::Veiled, pixmap.cacheKey(), target.size(), alpha};
+    painter.drawImage(target, kept(key, [&] { return veiledImage(pixmap, target.size(), alpha); }));
+}
+
+} // namespace panelkit

@@ -1,0 +1,54 @@
+#ifndef PANELKIT_DETAIL_IMAGELOOK_H
+#define PANELKIT_DETAIL_IMAGELOOK_H
+
+#include <QImage>
+#include <QPixmap>
+#include <QSize>
+
+class QPainter;
+class QRect;
+
+namespace panelkit
+{
+
+/// The veiled look: the picture scaled into an area at its own top left, with black of the given
+/// alpha (0..255; anything else leaves no veil) over its opaque pixels. The image is as large as
+/// the picture; a null picture has a null look.
+QImage veiledImage(const QPixmap &pixmap, const QSize &area, int alpha);
+
+/// One computed look of a picture, kept until the picture, the area or the alpha changes. A widget
+/// that shows one look at a time needs one of these.
+class ImageLook
+{
+public:
+    /// Draws what QPainter::drawPixmap(target, pixmap) draws, but scales only once.
+    void drawScaled(QPainter &painter, const QRect &target, const QPixmap &pixmap);
+
+    /// Draws the veiled look into the target.
+    void drawVeiled(QPainter &painter, const QRect &target, const QPixmap &pixmap, int alpha);
+
+    /// How often a look had to be computed.
+    int computations() const { return m_computations; }
+
+private:
+    enum class Kind { None, Scaled, Veiled };
+
+    struct Key {
+        Kind kind = Kind::None;
+        qint64 pixmap = 0; // QPixmap::cacheKey()
+        QSize area; // px
+        int alpha = 0;
+
+        bool operator==(const Key &other) const;
+    };
+
+    template <typename Compose> const QImage &kept(const Key &key, Compose compose);
+
+    Key m_key;
+    QImage m_image;
+    int m_computations = 0;
+};
+
+} // namespace panelkit
+
+#endif // PANELKIT_DETAIL_IMAGELOOK_H

@@ -1,0 +1,14 @@
+#include "minuteclock.h"
+
+#include <QTime>
+
+namespace panelkit
+{
+
+int minuteClock()
+{
+    const QTime now = QTime::currentTime();
+    return now.second() * 1000 + now.msec();
+}
+
+} // namespace panelkit

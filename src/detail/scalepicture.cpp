@@ -1,0 +1,145 @@
+#include "scalepicture.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QTransform>
+
+#include <algorithm>
+#include <cmath>
+
+namespace panelkit
+{
+
+namespace
+{
+
+constexpr std::size_t kMostKnown = 1024; // labels; several bands' worth
+
+// Rectangles without a pen are filled twenty times faster than lines are drawn. One unit has to be
+// one pixel of the device for both to be the same pixels.
+void drawLines(QPainter &painter, const QColor &color, const QRect *lines, int count)
+{
+    painter.setPen(color);
+    if (painter.deviceTransform().type() > QTransform::TxTranslate) {
+        for (int i = 0; i < count; ++i)
+            painter.drawLine(lines[i].topLeft(), lines[i].bottomLeft());
+        return;
+    }
+    painter.setBrush(painter.pen().color());
+    painter.setPen(Qt::NoPen);
+    painter.drawRects(lines, count);
+    painter.setBrush(Qt::NoBrush);
+}
+
+} // namespace
+
+void ScalePicture::clear(const QSize &area)
+{
+    m_area = area;
+    for (QVector<QRect> &lines : m_lines)
+        lines.clear();
+    m_labels.clear();
+    m_runs.clear();
+    m_lineRows = {};
+    m_labelRows = {};
+    m_lastSolid = -1;
+    m_isToneMixed = false;
+    if (m_written.size() > kMostKnown)
+        m_written.clear();
+}
+
+void ScalePicture::addLine(Tone tone, int x, int y1, int y2)
+{
+    const int top = std::max(std::min(y1, y2), 0);
+    const int bottom = std::min(std::max(y1, y2), m_area.height() - 1);
+    if (x < 0 || x >= m_area.width() || top > bottom)
+        return;
+    const QRect line(QPoint(x, top), QPoint(x, bottom));
+    m_lines[tone].append(line);
+    m_lineRows |= line;
+    if (tone == Solid)
+        m_lastSolid = std::max(m_lastSolid, x);
+    else if (x <= m_lastSolid)
+        m_isToneMixed = true;
+    extend(tone == Solid ? SolidLines : FaintLines, m_lines[tone].size());
+}
+
+void ScalePicture::addLabel(const QRectF &box, double value, Write write)
+{
+    if (!box.isValid() || !box.intersects(QRectF(QPointF(), m_area)))
+        return;
+    // Nothing equals a value that is no number: it is known by one that no scale shows.
+    constexpr double kNoNumber = -1e300;
+    auto known = m_written.find(std::isnan(value) ? kNoNumber : value);
+    if (known == m_written.end()) {
+        known = m_written.emplace(std::isnan(value) ? kNoNumber : value, Written()).first;
+        known->second.text = write(value);
+        ++m_writings;
+    }
+    m_labels.push_back({box, &known->second});
+    m_labelRows |= box;
+    extend(Labels, int(m_labels.size()));
+}
+
+void ScalePicture::draw(QPainter &painter, const QRect &part, const QColor &solid,
+                        const QColor &faint)
+{
+    const auto drawRun = [&](const Run &run) {
+        if (run.kind == Labels) {
+            painter.setPen(solid);
+            drawLabels(painter, part, run);
+        } else if (run.begin < run.end) {
+            const Tone tone = run.kind == SolidLines ? Solid : Faint;
+            drawLines(painter, tone == Solid ? solid : faint, m_lines[tone].constData() + run.begin,
+                      run.end - run.begin);
+        }
+    };
+    if (isOrderFree(painter)) {
+        drawRun({FaintLines, 0, m_lines[Faint].size()});
+        drawRun({SolidLines, 0, m_lines[Solid].size()});
+        drawRun({Labels, 0, int(m_labels.size())});
+    } else {
+        std::for_each(m_runs.begin(), m_runs.end(), drawRun);
+    }
+}
+
+int ScalePicture::layouts() const
+{
+    int sum = 0;
+    for (const auto &known : m_written)
+        sum += known.second.layout.layouts();
+    return sum;
+}
+
+void ScalePicture::extend(Kind kind, int end)
+{
+    if (m_runs.empty() || m_runs.back().kind != kind)
+        m_runs.push_back({kind, end - 1, end});
+    else
+        m_runs.back().end = end;
+}
+
+// Where nothing lies over anything of another kind, each kind can be drawn at once. Lines may well
+// reach into the boxes of labels, above or below their text.
+bool ScalePicture::isOrderFree(const QPainter &painter) const
+{
+    if (m_isToneMixed)
+        return false;
+    if (m_labels.empty() || !m_labelRows.intersects(QRectF(m_lineRows)))
+        return true;
+    constexpr qreal kRounding = 2; // px that a glyph may be moved or blurred by
+    const qreal textHeight = QFontMetricsF(painter.font()).height();
+    const qreal free = (m_labels.front().box.height() - textHeight) / 2 - kRounding;
+    return free > 0 && !m_labelRows.adjusted(0, free, 0, -free).intersects(QRectF(m_lineRows));
+}
+
+void ScalePicture::drawLabels(QPainter &painter, const QRect &part, const Run &run)
+{
+    const QRectF needed(part);
+    for (auto label = m_labels.begin() + run.begin; label != m_labels.begin() + run.end; ++label) {
+        if (label->box.intersects(needed))
+            label->written->layout.draw(painter, label->box, Qt::AlignCenter, label->written->text);
+    }
+}
+
+} // namespace panelkit

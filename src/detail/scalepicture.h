@@ -1,0 +1,84 @@
+#ifndef PANELKIT_DETAIL_SCALEPICTURE_H
+#define PANELKIT_DETAIL_SCALEPICTURE_H
+
+#include "kepttext.h"
+
+#include <QColor>
+#include <QRect>
+#include <QRectF>
+#include <QSize>
+#include <QString>
+#include <QVector>
+
+#include <unordered_map>
+#include <vector>
+
+class QPainter;
+
+namespace panelkit
+{
+
+/// The kept picture of a scale: vertical lines, one pixel wide and in two tones, and labels centred
+/// in boxes of one size. Drawing it makes the very pixels of drawing line after line with
+/// drawLine() and label after label with drawText(), in the order in which they were added, for a
+/// fraction of the cost.
+class ScalePicture
+{
+public:
+    enum Tone { Solid, Faint };
+    using Write = QString (*)(double value);
+
+    /// Starts a new picture of this size. Labels once written stay known, so that a value that
+    /// comes again is neither written nor laid out again.
+    void clear(const QSize &area);
+    /// A line between two rows, both included, in either order. What is outside is left out.
+    void addLine(Tone tone, int x, int y1, int y2);
+    /// The text for a value. A label outside, or in a box without extent, is left out and not even
+    /// written.
+    void addLabel(const QRectF &box, double value, Write write);
+
+    /// Draws what is needed for a part of the picture, with the painter's font; labels have the
+    /// solid colour. An invalid colour draws in black, as with any pen.
+    void draw(QPainter &painter, const QRect &part, const QColor &solid,
+              const QColor &faint = QColor());
+
+    /// How often a text had to be written, and how many layouts the known ones have taken.
+    int writings() const { return m_writings; }
+    int layouts() const;
+
+private:
+    enum Kind { SolidLines, FaintLines, Labels };
+
+    struct Run {
+        Kind kind = Labels;
+        int begin = 0;
+        int end = 0;
+    };
+    struct Written {
+        QString text;
+        KeptText layout;
+    };
+    struct Label {
+        QRectF box;
+        Written *written;
+    };
+
+    void extend(Kind kind, int end);
+    bool isOrderFree(const QPainter &painter) const;
+    void drawLabels(QPainter &painter, const QRect &part, const Run &run);
+
+    QSize m_area;
+    QVector<QRect> m_lines[2]; // by tone
+    std::vector<Label> m_labels;
+    std::vector<Run> m_runs; // in the order of adding
+    QRect m_lineRows; // the bounds of all lines
+    QRectF m_labelRows; // the bounds of all labels
+    int m_lastSolid = -1; // px, the right-most solid line
+    bool m_isToneMixed = false; // a faint line may lie over a solid one
+    std::unordered_map<double, Written> m_written;
+    int m_writings = 0;
+};
+
+} // namespace panelkit
+
+#endif // PANELKIT_DETAIL_SCALEPICTURE_H

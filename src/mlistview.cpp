@@ -1,0 +1,183 @@
+#include "mlistview.h"
+
+#include "spiconbutton.h"
+
+#include <QMouseEvent>
+
+#include <algorithm>
+
+/**
+ * An empty view of this geometry. The list is not owned and never called; that there is one keeps
+ * the view from reporting mouse events. May be null.
+ */
+MListView::MListView(QWidget *parent, SpTableList *list, QRect rect)
+    : QWidget(parent), m_tableList(list), m_viewRect(rect)
+{
+    setGeometry(m_viewRect);
+}
+
+/** An empty view of this geometry without a table list. */
+MListView::MListView(QWidget *parent, QRect rect) : MListView(parent, nullptr, rect) { }
+
+MListView::~MListView() = default;
+
+/**
+ * What the second picture of each pair is: that of the pressed look, or, with false, that of the
+ * focused look. True by default. Stored only: it counts for the next setPixmapList().
+ */
+void MListView::setIsNormalUse(bool normal)
+{
+    m_isNormalUse = normal;
+}
+
+/**
+ * Where the buttons stand: their top left corners, in px of the view. An empty list is ignored.
+ * Stored only: it counts for the next setPixmapList(), if that has as many buttons.
+ */
+void MListView::setPositionList(QList<QPoint> &list)
+{
+    if (!list.isEmpty())
+        m_positionList = list;
+}
+
+/**
+ * Makes a button of each two pictures and arranges the buttons; an empty list is ignored. Give
+ * pictures in pairs: the last button of an odd number lacks its second one. Buttons of an earlier
+ * call stay where they are, behind the new ones, on purpose: whoever holds one may go on using it.
+ */
+void MListView::setPixmapList(QList<QPixmap> &list)
+{
+    if (list.isEmpty())
+        return;
+    m_pixmapList = list;
+    m_buttonList.clear();
+    for (int i = 0; i < m_pixmapList.size(); i += 2)
+        m_buttonList.append(makeButton(m_pixmapList.at(i), m_pixmapList.value(i + 1)));
+    if (m_positionList.size() == m_buttonList.size())
+        placeButtons();
+    else
+        stackButtons();
+    raiseButtons();
+}
+
+/**
+ * With true, makes the buttons a group of which the last one clicked is down: their buttonID
+ * becomes their number from 0. With false nothing happens; a group stays one. A second call
+ * connects the buttons once more, on purpose, which does no harm.
+ */
+void MListView::setButtonIsChecked(bool enable)
+{
+    if (!enable)
+        return;
+    for (int i = 0; i < m_buttonList.size(); ++i) {
+        SpIconButton *button = m_buttonList.at(i);
+        if (!button)
+            continue;
+        button->setButtonID(QString::number(i));
+        connect(button, SIGNAL(btnClicked(QString)), this, SLOT(sltButtonClicked(QString)));
+    }
+}
+
+/** Shows the buttons of this buttonID down and all others up. An empty one is ignored. */
+void MListView::sltButtonClicked(QString id)
+{
+    if (id.isEmpty())
+        return;
+    for (SpIconButton *button : qAsConst(m_buttonList)) {
+        if (button)
+            button->setIsDown(button->buttonID() == id);
+    }
+}
+
+/** Remembers the index. Nothing else depends on it. */
+void MListView::sltItemClicked(int index)
+{
+    m_currentIndex = index;
+}
+
+/** With true, takes the focused look from all buttons. */
+void MListView::sltRowCountChange(bool change)
+{
+    if (!change)
+        return;
+    for (SpIconButton *button : qAsConst(m_buttonList)) {
+        if (button)
+            button->setFocus(false);
+    }
+}
+
+/** The event goes on to QWidget, here and below, and so to the parent. */
+void MListView::mousePressEvent(QMouseEvent *e)
+{
+    if (!e)
+        return;
+    const QPointer<MListView> guard(this);
+    if (!m_tableList)
+        emit sigMousePress(e->pos());
+    if (guard)
+        QWidget::mousePressEvent(e);
+}
+
+void MListView::mouseMoveEvent(QMouseEvent *e)
+{
+    if (!e)
+        return;
+    const QPointer<MListView> guard(this);
+    if (!m_tableList)
+        emit sigMouseMove(e->pos());
+    if (guard)
+        QWidget::mouseMoveEvent(e);
+}
+
+void MListView::mouseReleaseEvent(QMouseEvent *e)
+{
+    if (!e)
+        return;
+    const QPointer<MListView> guard(this);
+    if (!m_tableList)
+        emit sigMouseRelease(e->pos());
+    if (guard)
+        QWidget::mouseReleaseEvent(e);
+}
+
+SpIconButton *MListView::makeButton(const QPixmap &first, const QPixmap &second)
+{
+    auto *button = new SpIconButton(this);
+    button->setNormalImage(first);
+    if (m_isNormalUse) {
+        button->setPressImage(second);
+    } else {
+        button->setPressImage(first);
+        button->setFocusPixmap(second);
+    }
+    button->setFixedSize(first.size());
+    button->show();
+    return button;
+}
+
+void MListView::placeButtons()
+{
+    for (int i = 0; i < m_buttonList.size(); ++i)
+        m_buttonList.at(i)->move(m_positionList.at(i));
+}
+
+// Each button stands at its predecessor's height plus all tops before: buttons of one height h at
+// 0, h, 2h, 4h, 8h and so on. The growing distances are meant; even ones take a position list.
+void MListView::stackButtons()
+{
+    qint64 top = 0;
+    qint64 sum = 0;
+    for (SpIconButton *button : qAsConst(m_buttonList)) {
+        sum = std::min<qint64>(sum + top, QWIDGETSIZE_MAX);
+        button->move(0, int(top));
+        top = std::min<qint64>(button->height() + sum, QWIDGETSIZE_MAX);
+    }
+}
+
+// Neither the first button nor the last is raised, on purpose: where buttons overlap, these two lie
+// behind the others.
+void MListView::raiseButtons()
+{
+    for (int i = m_buttonList.size() - 2; i >= 1; --i)
+        m_buttonList.at(i)->raise();
+}

@@ -1,0 +1,161 @@
+#ifndef MRADIOSLIDER_H
+#define MRADIOSLIDER_H
+
+#include "panelkitglobal.h"
+
+#include <QColor>
+#include <QFont>
+#include <QPixmap>
+#include <QPoint>
+#include <QWidget>
+
+#include <memory>
+
+namespace panelkit
+{
+class ScalePicture;
+} // namespace panelkit
+
+/**
+ * A tuner whose scale is dragged sideways under a fixed indicator. The frequency under the middle
+ * of the widget is the tuned one; freqChangedSgl reports it whenever a finger lifts.
+ *
+ * The scale itself is in display units, MHz for FM; the signal and the slot for the tuned frequency
+ * are in hundredths of that for FM (8750 is 87.5 MHz) and unscaled for AM.
+ */
+class PANELKIT_EXPORT MRadioSlider : public QWidget
+{
+    Q_OBJECT
+    Q_PROPERTY(QPixmap indicatePix READ getIndicatePix WRITE setIndicatePix)
+    Q_PROPERTY(QColor lineColor READ getLineColor WRITE setLineColor)
+    Q_PROPERTY(QFont font READ getFont WRITE setFont)
+    Q_PROPERTY(int lineH READ getLineH WRITE setLineH)
+    Q_PROPERTY(int lineW READ getLineW WRITE setLineW)
+    Q_PROPERTY(int lineGap READ getLineGap WRITE setLineGap)
+    // Whole numbers as properties, on purpose: what has a fraction goes through the accessors.
+    Q_PROPERTY(int freqStart READ wholeFreqStart WRITE setWholeFreqStart)
+    Q_PROPERTY(int freqEnd READ wholeFreqEnd WRITE setWholeFreqEnd)
+    Q_PROPERTY(int freqStep READ wholeFreqStep WRITE setWholeFreqStep)
+    Q_PROPERTY(int curFreq READ wholeCurFreq WRITE setWholeCurFreq)
+    Q_PROPERTY(bool isFM READ getIsFM WRITE setIsFM)
+    Q_PROPERTY(int marginY READ marginY WRITE setMarginY)
+    Q_PROPERTY(ScaleAlignmentMode scaleMode READ scaleAlign WRITE setScaleAlign DESIGNABLE false)
+    Q_PROPERTY(TextPosition textPosition READ getTextPosition WRITE setTextPosition)
+    Q_PROPERTY(int textMarginY READ getTextMarginY WRITE setTextMarginY)
+    Q_PROPERTY(int scaleMarginY READ getScaleMarginY WRITE setScaleMarginY)
+    Q_PROPERTY(int PointMarginY READ getPointMarginY WRITE setPointMarginY)
+
+public:
+    /// Where the ticks stand.
+    enum ScaleAlignmentMode : int {
+        AlignBottom = 0, ///< On a common foot.
+        AlignTop = 1, ///< Hanging from a common top.
+        AlignCenter = 2 ///< Shorter ones raised, so that all have about the same middle.
+    };
+    Q_ENUM(ScaleAlignmentMode)
+
+    /// Where the labels stand.
+    enum TextPosition : int { TextBottom = 0, TextTop = 1 };
+    Q_ENUM(TextPosition)
+
+    explicit MRadioSlider(QWidget *parent = nullptr);
+    ~MRadioSlider() override;
+
+    QPixmap getIndicatePix() const { return m_indicatePix; }
+    void setIndicatePix(const QPixmap &pixmap);
+    QColor getLineColor() const { return m_lineColor; }
+    void setLineColor(const QColor &color);
+    QFont getFont() const { return m_font; }
+    void setFont(const QFont &font);
+    int getLineH() const { return m_lineH; }
+    void setLineH(int height);
+    int getLineW() const { return m_lineW; }
+    void setLineW(int width);
+    int getLineGap() const { return m_lineGap; }
+    void setLineGap(int gap);
+    float getFreqStart() const { return m_freqStart; }
+    void setFreqStart(float freq);
+    float getFreqEnd() const { return m_freqEnd; }
+    void setFreqEnd(float freq);
+    float getFreqStep() const { return m_freqStep; }
+    void setFreqStep(float step);
+    float getCurFreq() const { return m_curFreq; }
+    void setCurFreq(float freq);
+    bool getIsFM() const { return m_isFM; }
+    void setIsFM(bool isFM);
+    int marginY() const { return m_marginY; }
+    void setMarginY(int margin);
+    ScaleAlignmentMode scaleAlign() const { return m_scaleMode; }
+    void setScaleAlign(const ScaleAlignmentMode &mode);
+    TextPosition getTextPosition() const { return m_textPosition; }
+    void setTextPosition(const TextPosition &position);
+    int getTextMarginY() const { return m_textMarginY; }
+    void setTextMarginY(int margin);
+    int getScaleMarginY() const { return m_scaleMarginY; }
+    void setScaleMarginY(int margin);
+    int getPointMarginY() const { return m_pointMarginY; }
+    void setPointMarginY(int margin);
+
+    void initSliderRange();
+    bool isValidFreq(float freq) const;
+
+signals:
+    void freqChangedSgl(float freq);
+
+protected:
+    void paintEvent(QPaintEvent *e) override;
+    void mousePressEvent(QMouseEvent *e) override;
+    void mouseMoveEvent(QMouseEvent *e) override;
+    void mouseReleaseEvent(QMouseEvent *e) override;
+
+private slots:
+    void freqParamChangedSlot(bool isFM, float freqMin, float freqMax, float freqStep);
+    void curFreqChangedSlot(float freq);
+
+private:
+    struct Look;
+
+    int wholeFreqStart() const;
+    void setWholeFreqStart(int freq);
+    int wholeFreqEnd() const;
+    void setWholeFreqEnd(int freq);
+    int wholeFreqStep() const;
+    void setWholeFreqStep(int step);
+    int wholeCurFreq() const;
+    void setWholeCurFreq(int freq);
+
+    Look look() const;
+    void layOut(const Look &look);
+    void addTick(int count, int x);
+    int tickBase() const;
+    int labelTop() const;
+    void drawIndicator(QPainter &painter) const;
+
+    QPixmap m_indicatePix;
+    QColor m_lineColor;
+    QFont m_font;
+    QPoint m_pressPoint; // of the press or the last move
+    int m_scrollX = 0; // px, x of the tick of freqStart
+    int m_minScrollX = 0; // px
+    int m_maxScrollX = 0; // px
+    int m_stepCount = 0;
+    int m_lineH = 8; // px, of a minor tick
+    int m_lineW = 1; // px, without effect
+    int m_lineGap = 5; // px from tick to tick
+    float m_freqStart = 87.5F;
+    float m_freqEnd = 108.0F;
+    float m_freqStep = 0.1F;
+    bool m_isFM = true;
+    int m_marginY = 0; // px, without effect
+    ScaleAlignmentMode m_scaleMode = AlignBottom;
+    TextPosition m_textPosition = TextBottom;
+    int m_textMarginY = 0; // px
+    int m_scaleMarginY = 0; // px
+    int m_pointMarginY = 0; // px
+    float m_curFreq = m_freqStart;
+
+    std::unique_ptr<Look> m_look; // of the kept picture
+    std::unique_ptr<panelkit::ScalePicture> m_picture;
+};
+
+#endif // MRADIOSLIDER_H

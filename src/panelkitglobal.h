@@ -1,0 +1,13 @@
+#ifndef PANELKITGLOBAL_H
+#define PANELKITGLOBAL_H
+
+#include <QtGlobal>
+
+// Every exported class carries this macro; everything else in the library stays hidden.
+#ifdef PANELKIT_BUILD
+#define PANELKIT_EXPORT Q_DECL_EXPORT
+#else
+#define PANELKIT_EXPORT Q_DECL_IMPORT
+#endif
+
+#endif // PANELKITGLOBAL_H

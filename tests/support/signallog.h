@@ -1,0 +1,37 @@
+#ifndef SIGNALLOG_H
+#define SIGNALLOG_H
+
+#include <QMetaMethod>
+#include <QObject>
+#include <QStringList>
+#include <QVector>
+
+#include <functional>
+
+/// What one object said, in order: every signal of its own class as `name(arguments)` and, once
+/// they are delivered to it, its key requests as `beep` and the like. Strings stand in quotes.
+class SignalLog : public QObject
+{
+public:
+    explicit SignalLog(QObject *subject);
+    ~SignalLog() override;
+
+    /// The lines so far; the log starts anew.
+    QStringList take();
+
+    /// Called after each line, with it; for tests that act in the middle of a sequence.
+    void onLine(std::function<void(const QString &)> reaction);
+
+    bool eventFilter(QObject *receiver, QEvent *event) override;
+    int qt_metacall(QMetaObject::Call call, int id, void **arguments) override;
+
+private:
+    void add(const QString &line);
+
+    QObject *const m_subject;
+    QVector<QMetaMethod> m_signals;
+    QStringList m_lines;
+    std::function<void(const QString &)> m_reaction;
+};
+
+#endif // SIGNALLOG_H

@@ -1,0 +1,60 @@
+#include "detail/geometry.h"
+
+#include <QtTest>
+
+#include <climits>
+
+using namespace panelkit;
+
+class tst_Geometry : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void anEvenRemainderIsHalvedAlike()
+    {
+        const QRect rect(10, 20, 100, 50);
+        QCOMPARE(centredTowardZero({40, 20}, rect), QRect(40, 35, 40, 20));
+        QCOMPARE(centredTowardMinusInfinity({40, 20}, rect), QRect(40, 35, 40, 20));
+    }
+
+    void anOddRemainderIsHalvedAlikeWhereTheSizeFits()
+    {
+        const QRect rect(0, 0, 101, 51);
+        QCOMPARE(centredTowardZero({40, 20}, rect), QRect(30, 15, 40, 20));
+        QCOMPARE(centredTowardMinusInfinity({40, 20}, rect), QRect(30, 15, 40, 20));
+    }
+
+    void theTwoDifferWhereTheSizeIsLarger()
+    {
+        const QRect rect(0, 0, 35, 15);
+        QCOMPARE(centredTowardZero({40, 20}, rect), QRect(-2, -2, 40, 20));
+        QCOMPARE(centredTowardMinusInfinity({40, 20}, rect), QRect(-3, -3, 40, 20));
+    }
+
+    void boundedPixelLimitsANumber()
+    {
+        QCOMPARE(boundedPixel(-5), -5);
+        QCOMPARE(boundedPixel(16777215), 16777215);
+        QCOMPARE(boundedPixel(16777216), 16777215);
+        QCOMPARE(boundedPixel(INT_MIN), -16777215);
+    }
+
+    void boundedRectKeepsSensibleNumbers()
+    {
+        QCOMPARE(boundedRect(-5, 7, 300, 200), QRect(-5, 7, 300, 200));
+        QCOMPARE(boundedRect(0, 0, -4, 0), QRect(0, 0, -4, 0));
+    }
+
+    void boundedRectLimitsEachNumber()
+    {
+        constexpr int kFarthest = 16777215;
+        const QRect large = boundedRect(INT_MAX, INT_MIN, INT_MAX, kFarthest + 1);
+        QCOMPARE(large.topLeft(), QPoint(kFarthest, -kFarthest));
+        QCOMPARE(large.size(), QSize(kFarthest, kFarthest));
+        QCOMPARE(large.right(), 2 * kFarthest - 1);
+    }
+};
+
+QTEST_APPLESS_MAIN(tst_Geometry)
+#include "tst_geometry.moc"

@@ -1,0 +1,207 @@
+#include "detail/imagelook.h"
+
+#include "widgettest.h"
+
+#include <QBitmap>
+#include <QPainter>
+
+using namespace panelkit;
+
+namespace
+{
+
+// A round picture with soft edges: every alpha from none to full occurs.
+QPixmap disc(const QSize &size, const QColor &color)
+{
+    QPixmap pixmap(size);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QRadialGradient gradient(QRectF(pixmap.rect()).center(), qreal(size.width()) / 2);
+    gradient.setColorAt(0, color);
+    gradient.setColorAt(1, Qt::transparent);
+    painter.fillRect(pixmap.rect(), gradient);
+    painter.drawLine(0, 0, size.width(), size.height());
+    return pixmap;
+}
+
+QImage canvas()
+{
+    QImage image(120, 100, QImage::Format_ARGB32_Premultiplied);
+    image.fill(QColor(10, 60, 90));
+    return image;
+}
+
+using Paint = std::function<void(QPainter &)>;
+
+QImage onCanvas(const Paint &paint)
+{
+    QImage image = canvas();
+    QPainter painter(&image);
+    paint(painter);
+    return image;
+}
+
+} // namespace
+
+class tst_ImageLook : public WidgetTest
+{
+    Q_OBJECT
+
+private slots:
+    void theVeilDarkensOnlyOpaquePixels()
+    {
+        QImage image(2, 1, QImage::Format_ARGB32_Premultiplied);
+        image.setPixelColor(0, 0, QColor(200, 100, 50));
+        image.setPixelColor(1, 0, Qt::transparent);
+        const QImage veiled = veiledImage(QPixmap::fromImage(image), {2, 1}, 255);
+        QCOMPARE(veiled.pixelColor(0, 0), QColor(Qt::black));
+        QCOMPARE(veiled.pixelColor(1, 0).alpha(), 0);
+    }
+
+    void anAlphaOutOfRangeLeavesNoVeil_data()
+    {
+        QTest::addColumn<int>("alpha");
+        for (int alpha : {INT_MIN, -1, 0, 256, INT_MAX})
+            QTest::addRow("%d", alpha) << alpha;
+    }
+
+    void anAlphaOutOfRangeLeavesNoVeil()
+    {
+        QFETCH(int, alpha);
+        const QPixmap picture = disc({40, 30}, Qt::green);
+        QCOMPARE(veiledImage(picture, picture.size(), alpha), picture.toImage());
+    }
+
+    void aNullPictureHasANullLook() { QVERIFY(veiledImage(QPixmap(), {10, 10}, 154).isNull()); }
+
+    void aVeiledLookIsComposedOnce()
+    {
+        ImageLook look;
+        const QPixmap picture = disc({40, 30}, Qt::green);
+        for (int i = 0; i < 3; ++i)
+            onCanvas([&](QPainter &p) { look.drawVeiled(p, {5, 6, 40, 30}, picture, 154); });
+        QCOMPARE(look.computations(), 1);
+    }
+
+    void aVeiledLookIsComposedAnewForEachInput()
+    {
+        ImageLook look;
+        const QPixmap picture = disc({40, 30}, Qt::green);
+        const QPixmap other = disc({40, 30}, Qt::red);
+        int expected = 0;
+        const auto draws = [&](const QPixmap &p, const QRect &target, int alpha) {
+            const QImage kept =
+                onCanvas([&](QPainter &painter) { look.drawVeiled(painter, target, p, alpha); });
+            const QImage fresh = onCanvas([&](QPainter &painter) {
+                painter.drawImage(target, veiledImage(p, target.size(), alpha));
+            });
+            return kept == fresh && look.computations() == ++expected;
+        };
+        QVERIFY(draws(picture, {5, 6, 40, 30}, 154));
+        QVERIFY(draws(picture, {5, 6, 40, 30}, 153));
+        QVERIFY(draws(other, {5, 6, 40, 30}, 153));
+        QVERIFY(draws(other, {5, 6, 41, 30}, 153));
+        --expected; // another place needs no other look
+        QVERIFY(draws(other, {50, 60, 41, 30}, 153));
+    }
+
+    void aScaledLookHasThePixelsOfDrawPixmap_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<QRect>("target");
+        QTest::addColumn<QRect>("clip");
+        const QVector<QSize> sizes{{40, 30}, {41, 31}, {17, 90}, {1, 1}, {200, 3}};
+        const QVector<QRect> targets{{5, 6, 40, 30}, {-10, -7, 60, 61}, {100, 90, 33, 33}};
+        for (const QSize &size : sizes) {
+            for (const QRect &target : targets) {
+                for (const QRect &clip : {QRect(), QRect(20, 13, 9, 31)})
+                    QTest::addRow("%dx%d in %dx%d%s", size.width(), size.height(), target.width(),
+                                  target.height(), clip.isNull() ? "" : " clipped")
+                        << size << target << clip;
+            }
+        }
+    }
+
+    void aScaledLookHasThePixelsOfDrawPixmap()
+    {
+        QFETCH(QSize, size);
+        QFETCH(QRect, target);
+        QFETCH(QRect, clip);
+        const QPixmap picture = disc(size, Qt::yellow);
+        ImageLook look;
+        const auto clipped = [&](const Paint &paint) {
+            return onCanvas([&](QPainter &p) {
+                if (!clip.isNull())
+                    p.setClipRect(clip);
+                paint(p);
+            });
+        };
+        const QImage kept = clipped([&](QPainter &p) { look.drawScaled(p, target, picture); });
+        COMPARE_PICTURES(kept, clipped([&](QPainter &p) { p.drawPixmap(target, picture); }));
+    }
+
+    void aScaledLookIsScaledOnce()
+    {
+        ImageLook look;
+        const QPixmap picture = disc({40, 30}, Qt::green);
+        for (int i = 0; i < 3; ++i)
+            onCanvas([&](QPainter &p) { look.drawScaled(p, {5, 6, 60, 50}, picture); });
+        QCOMPARE(look.computations(), 1);
+    }
+
+    void aPictureOfTheRightSizeNeedsNoLook()
+    {
+        ImageLook look;
+        const QPixmap picture = disc({40, 30}, Qt::green);
+        const QImage drawn = onCanvas([&](QPainter &p) {
+            look.drawScaled(p, {5, 6, 40, 30}, picture);
+        });
+        COMPARE_PICTURES(drawn, onCanvas([&](QPainter &p) { p.drawPixmap(5, 6, picture); }));
+        QCOMPARE(look.computations(), 0);
+    }
+
+    void onAScaledDeviceThePictureItselfIsDrawn()
+    {
+        ImageLook look;
+        const QPixmap picture = disc({80, 60}, Qt::green);
+        const QRect target(5, 6, 40, 30);
+        const QImage drawn = onCanvas([&](QPainter &p) {
+            p.scale(2, 2);
+            look.drawScaled(p, target, picture);
+        });
+        COMPARE_PICTURES(drawn, onCanvas([&](QPainter &p) {
+                             p.scale(2, 2);
+                             p.drawPixmap(target, picture);
+                         }));
+    }
+
+    void aHugeTargetKeepsNoCopy()
+    {
+        ImageLook look;
+        const QPixmap picture = disc({40, 30}, Qt::green);
+        onCanvas([&](QPainter &p) { look.drawScaled(p, {0, 0, 20000, 20000}, picture); });
+        QCOMPARE(look.computations(), 0);
+    }
+
+    void anEmptyTargetDrawsNothing()
+    {
+        ImageLook look;
+        const QPixmap picture = disc({40, 30}, Qt::green);
+        COMPARE_PICTURES(onCanvas([&](QPainter &p) {
+                             look.drawScaled(p, {5, 5, 0, 30}, picture);
+                         }),
+                         onCanvas([&](QPainter &p) { p.drawPixmap(QRect(5, 5, 0, 30), picture); }));
+    }
+
+    void aBitmapCanBeVeiled()
+    {
+        QBitmap bitmap(16, 16);
+        bitmap.fill(Qt::color1);
+        QCOMPARE(veiledImage(bitmap, bitmap.size(), 154).size(), QSize(16, 16));
+        QCOMPARE(takeMessages(), QStringList());
+    }
+};
+
+WIDGET_TEST_MAIN(tst_ImageLook)
+#include "tst_imagelook.moc"

@@ -1,0 +1,275 @@
+#include "detail/keptlayer.h"
+
+#include "widgettest.h"
+
+#include <QPainter>
+#include <QPicture>
+
+#include <limits>
+
+using namespace panelkit;
+
+namespace
+{
+
+const KeptLayer::Content kContent{QRectF(-31, -31, 62, 62), {1, 2}, 3};
+
+void paintStar(QPainter &p)
+{
+    p.save();
+    p.setBrush(QColor(240, 160, 0, 130));
+    p.setPen(Qt::NoPen);
+    const QPointF corners[] = {{0, -30}, {7, 28}, {-9, 27}};
+    p.drawConvexPolygon(corners, 3);
+    p.restore();
+}
+
+QImage canvas()
+{
+    QImage image(120, 100, QImage::Format_ARGB32_Premultiplied);
+    image.fill(QColor(24, 28, 36));
+    return image;
+}
+
+using Paint = std::function<void(QPainter &)>;
+
+void turn(QPainter &p)
+{
+    p.setRenderHint(QPainter::Antialiasing);
+    p.translate(qreal(50.4), qreal(45.9));
+    p.rotate(qreal(23.7));
+}
+
+// Paints on a canvas, after `prepare`, through a layer or directly.
+QImage onCanvas(KeptLayer *layer, const Paint &prepare,
+                const KeptLayer::Content &content = kContent, const Paint &paint = paintStar)
+{
+    QImage image = canvas();
+    QPainter painter(&image);
+    prepare(painter);
+    if (layer)
+        layer->draw(painter, painter.worldTransform(), content, paint);
+    else
+        paint(painter);
+    return image;
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(KeptLayer::Content)
+Q_DECLARE_METATYPE(Paint)
+
+class tst_KeptLayer : public WidgetTest
+{
+    Q_OBJECT
+
+private slots:
+    void everyPaintIsTheSame()
+    {
+        KeptLayer layer;
+        for (int paint = 0; paint < 4; ++paint)
+            COMPARE_PICTURES(onCanvas(&layer, turn), onCanvas(nullptr, turn));
+    }
+
+    void theSecondPaintComposesAndFurtherOnesCopy()
+    {
+        KeptLayer layer;
+        int paints = 0;
+        const Paint counted = [&](QPainter &p) {
+            ++paints;
+            paintStar(p);
+        };
+        for (int paint = 0; paint < 5; ++paint)
+            onCanvas(&layer, turn, kContent, counted);
+        QCOMPARE(paints, 2);
+        QCOMPARE(layer.compositions(), 1);
+    }
+
+    void somethingInMotionIsNeverComposed()
+    {
+        KeptLayer layer;
+        for (int angle = 0; angle < 50; ++angle) {
+            const Paint prepare = [=](QPainter &p) {
+                turn(p);
+                p.rotate(qreal(angle));
+            };
+            COMPARE_PICTURES(onCanvas(&layer, prepare), onCanvas(nullptr, prepare));
+        }
+        QCOMPARE(layer.compositions(), 0);
+    }
+
+    void eachInputCounts_data()
+    {
+        QTest::addColumn<KeptLayer::Content>("content");
+        QTest::addColumn<Paint>("prepare");
+        const auto row = [](const char *name, const KeptLayer::Content &content,
+                            const Paint &prepare = turn) {
+            QTest::newRow(name) << content << prepare;
+        };
+        row("area", {QRectF(-31, -31, 62, 63), {1, 2}, 3});
+        row("numbers", {QRectF(-31, -31, 62, 62), {1, 2.5}, 3});
+        row("picture", {QRectF(-31, -31, 62, 62), {1, 2}, 4});
+        row("transform", kContent, [](QPainter &p) {
+            turn(p);
+            p.translate(1, 0);
+        });
+        row("hints", kContent, [](QPainter &p) {
+            turn(p);
+            p.setRenderHint(QPainter::Antialiasing, false);
+        });
+        row("pen", kContent, [](QPainter &p) {
+            turn(p);
+            p.setPen(Qt::red);
+        });
+    }
+
+    void eachInputCounts()
+    {
+        QFETCH(KeptLayer::Content, content);
+        QFETCH(Paint, prepare);
+        KeptLayer layer;
+        onCanvas(&layer, turn);
+        onCanvas(&layer, turn);
+        QCOMPARE(layer.compositions(), 1);
+        for (int paint = 0; paint < 3; ++paint) {
+            COMPARE_PICTURES(onCanvas(&layer, prepare, content), onCanvas(nullptr, prepare));
+            QCOMPARE(layer.compositions(), paint == 0 ? 1 : 2);
+        }
+    }
+
+    void thePenIsThatOfThePainter()
+    {
+        const Paint prepare = [](QPainter &p) {
+            turn(p);
+            p.setPen(QPen(Qt::green, 3));
+        };
+        const Paint line = [](QPainter &p) {
+            p.drawLine(-20, 0, 20, 3);
+        };
+        KeptLayer layer;
+        for (int paint = 0; paint < 3; ++paint)
+            COMPARE_PICTURES(onCanvas(&layer, prepare, kContent, line),
+                             onCanvas(nullptr, prepare, kContent, line));
+    }
+
+    void thePainterStaysAsItWas()
+    {
+        KeptLayer layer;
+        for (int paint = 0; paint < 3; ++paint) {
+            QImage image = canvas();
+            QPainter painter(&image);
+            turn(painter);
+            const QTransform transform = painter.transform();
+            layer.draw(painter, painter.worldTransform(), kContent,
+                       [](QPainter &p) { p.drawPoint(0, 0); });
+            QCOMPARE(painter.transform(), transform);
+        }
+    }
+
+    void aWidgetInAWindowIsPaintedWhereItStands()
+    {
+        class Star : public QWidget
+        {
+        public:
+            using QWidget::QWidget;
+            KeptLayer layer;
+
+        protected:
+            void paintEvent(QPaintEvent *) override
+            {
+                QPainter painter(this);
+                turn(painter);
+                layer.draw(painter, painter.worldTransform(), kContent, paintStar);
+            }
+        };
+        QWidget window;
+        window.resize(120, 100);
+        Star star(&window);
+        for (const QPoint &place : {QPoint(0, 0), QPoint(13, 9), QPoint(-40, 5)}) {
+            star.setGeometry(QRect(place, QSize(120, 100)));
+            for (int paint = 0; paint < 3; ++paint) {
+                COMPARE_PICTURES(painted(window), reference(window, [&](QPainter &p) {
+                                     p.translate(place);
+                                     turn(p);
+                                     paintStar(p);
+                                 }));
+            }
+        }
+    }
+
+    void whereItCannotBeCopiedItIsPainted_data()
+    {
+        QTest::addColumn<Paint>("change");
+        QTest::newRow("opacity") << Paint([](QPainter &p) { p.setOpacity(0.5); });
+        QTest::newRow("composition")
+            << Paint([](QPainter &p) { p.setCompositionMode(QPainter::CompositionMode_Multiply); });
+    }
+
+    void whereItCannotBeCopiedItIsPainted()
+    {
+        QFETCH(Paint, change);
+        const Paint prepare = [=](QPainter &p) {
+            turn(p);
+            change(p);
+        };
+        KeptLayer layer;
+        for (int paint = 0; paint < 3; ++paint)
+            COMPARE_PICTURES(onCanvas(&layer, prepare), onCanvas(nullptr, prepare));
+        QCOMPARE(layer.compositions(), 0);
+    }
+
+    void otherDevicesArePaintedDirectly()
+    {
+        KeptLayer layer;
+        for (int paint = 0; paint < 3; ++paint) {
+            QPicture picture;
+            QPainter painter(&picture);
+            layer.draw(painter, painter.worldTransform(), kContent, paintStar);
+            painter.end();
+            QVERIFY(picture.size() > 0);
+        }
+        QImage dense = canvas();
+        dense.setDevicePixelRatio(2);
+        for (int paint = 0; paint < 3; ++paint) {
+            QPainter painter(&dense);
+            layer.draw(painter, painter.worldTransform(), kContent, paintStar);
+        }
+        QCOMPARE(layer.compositions(), 0);
+    }
+
+    void whatLiesBesideTheDeviceIsNotPainted()
+    {
+        KeptLayer layer;
+        int paints = 0;
+        const Paint counted = [&](QPainter &) {
+            ++paints;
+        };
+        for (int paint = 0; paint < 3; ++paint) {
+            onCanvas(
+                &layer, [](QPainter &p) { p.translate(151, 0); }, kContent, counted);
+            onCanvas(
+                &layer, [](QPainter &p) { p.translate(-31, 0); }, kContent, counted);
+            onCanvas(
+                &layer, [](QPainter &p) { p.translate(0, 131); }, kContent, counted);
+            onCanvas(&layer, turn,
+                     {QRectF(std::numeric_limits<qreal>::quiet_NaN(), 0, 9, 9), {}, 0}, counted);
+        }
+        QCOMPARE(paints, 0);
+        onCanvas(
+            &layer, [](QPainter &p) { p.translate(150, 0); }, kContent, counted);
+        QCOMPARE(paints, 1);
+    }
+
+    void nothingToSeeIsKeptToo()
+    {
+        KeptLayer layer;
+        int paints = 0;
+        for (int paint = 0; paint < 4; ++paint)
+            COMPARE_PICTURES(onCanvas(&layer, turn, kContent, [&](QPainter &) { ++paints; }),
+                             canvas());
+        QCOMPARE(paints, 2);
+    }
+};
+
+WIDGET_TEST_MAIN(tst_KeptLayer)
+#include "tst_keptlayer.moc"

@@ -1,0 +1,138 @@
+#include "detail/keptletters.h"
+
+#include "widgettest.h"
+
+#include <QPainter>
+
+using namespace panelkit;
+
+namespace
+{
+
+const QRect kBox(-20, 0, 40, 40);
+constexpr int kFlags = Qt::AlignCenter;
+
+QFont fontOf(int px)
+{
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(px);
+    return font;
+}
+
+// A small canvas with the origin in its middle, turned.
+QImage onCanvas(double angle, const QFont &font, const std::function<void(QPainter &)> &paint)
+{
+    QImage image(110, 110, QImage::Format_ARGB32_Premultiplied);
+    image.fill(QColor(24, 28, 36));
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setFont(font);
+    painter.setPen(QColor(250, 240, 200, 210));
+    painter.translate(qreal(55.3), qreal(54.8));
+    painter.rotate(qreal(angle));
+    paint(painter);
+    return image;
+}
+
+void draw(KeptLetters &letters, QPainter &p, const QRect &box, int flags, QChar letter)
+{
+    letters.set(p, box.size(), flags);
+    letters.draw(p, box.topLeft(), letter);
+}
+
+} // namespace
+
+class tst_KeptLetters : public WidgetTest
+{
+    Q_OBJECT
+
+private slots:
+    void lettersArePaintedAsByDrawText_data()
+    {
+        QTest::addColumn<int>("flags");
+        QTest::newRow("centred") << kFlags;
+        QTest::newRow("at the bottom") << int(Qt::AlignHCenter | Qt::AlignBottom);
+        QTest::newRow("at the top") << int(Qt::AlignHCenter | Qt::AlignTop);
+    }
+
+    void lettersArePaintedAsByDrawText()
+    {
+        QFETCH(int, flags);
+        for (int px : {9, 14, 24, 31, 36, 60}) {
+            KeptLetters letters;
+            const QFont font = fontOf(px);
+            for (int code = 0x20; code < 0x180; code += code < 0x7f ? 1 : 5) {
+                for (double angle : {0.0, -61.7, 17.3, 90.0, 203.1}) {
+                    COMPARE_PICTURES(
+                        onCanvas(angle, font,
+                                 [&](QPainter &p) { draw(letters, p, kBox, flags, QChar(code)); }),
+                        onCanvas(angle, font, [&](QPainter &p) {
+                            p.drawText(kBox, flags, QString(QChar(code)));
+                        }));
+                }
+            }
+        }
+    }
+
+    void lettersThatNeedInterpretationToo()
+    {
+        KeptLetters letters;
+        for (int code :
+             {0, 9, 10, 0x9c, 0x26, 0x301, 0x5d0, 0x627, 0x2028, 0x202e, 0xd83d, 0xfffc, 0xffff}) {
+            COMPARE_PICTURES(
+                onCanvas(33, fontOf(20),
+                         [&](QPainter &p) { draw(letters, p, kBox, kFlags, QChar(code)); }),
+                onCanvas(33, fontOf(20),
+                         [&](QPainter &p) { p.drawText(kBox, kFlags, QString(QChar(code))); }));
+        }
+    }
+
+    void boxesMayLieAnywhere()
+    {
+        KeptLetters letters;
+        for (int x : {-37, -1, 0, 1, 12}) {
+            const QRect box(x, -x - 20, 40, 40);
+            COMPARE_PICTURES(
+                onCanvas(7, fontOf(17),
+                         [&](QPainter &p) { draw(letters, p, box, kFlags, QChar('K')); }),
+                onCanvas(7, fontOf(17),
+                         [&](QPainter &p) { p.drawText(box, kFlags, QStringLiteral("K")); }));
+        }
+        QCOMPARE(letters.layouts(), 1);
+    }
+
+    void aLetterIsLaidOutOnceForAllTransformsAndColours()
+    {
+        KeptLetters letters;
+        for (double angle = 0; angle < 90; angle += 7) {
+            onCanvas(angle, fontOf(20), [&](QPainter &p) {
+                p.setPen(QColor::fromHsv(int(angle), 200, 200));
+                for (char c : {'A', 'B'})
+                    draw(letters, p, kBox, kFlags, QChar(c));
+            });
+        }
+        QCOMPARE(letters.layouts(), 2);
+    }
+
+    void anotherFontBoxOrAlignmentLaysOutAnew()
+    {
+        KeptLetters letters;
+        const auto check = [&](const QFont &font, const QRect &box, int flags) {
+            COMPARE_PICTURES(
+                onCanvas(7, font, [&](QPainter &p) { draw(letters, p, box, flags, QChar('K')); }),
+                onCanvas(7, font,
+                         [&](QPainter &p) { p.drawText(box, flags, QStringLiteral("K")); }));
+        };
+        check(fontOf(20), kBox, kFlags);
+        check(fontOf(21), kBox, kFlags);
+        check(fontOf(21), QRect(-20, 0, 41, 44), kFlags);
+        check(fontOf(21), QRect(-20, 0, 41, 44), Qt::AlignHCenter | Qt::AlignBottom);
+        QFont underlined = fontOf(21);
+        underlined.setUnderline(true);
+        check(underlined, QRect(-20, 0, 41, 44), Qt::AlignHCenter | Qt::AlignBottom);
+        QCOMPARE(letters.layouts(), 5);
+    }
+};
+
+WIDGET_TEST_MAIN(tst_KeptLetters)
+#include "tst_keptletters.moc"

@@ -1,0 +1,703 @@
+// Frequencies are float, single multiplications and divisions are rounded one by one, and the tick
+// frequencies are fused multiply-adds: all of it whatever the width of qreal and the processor.
+// What is expected is computed here with float once more, or with whole numbers of hundredths.
+
+#include <MRadioSlider>
+
+#include "logrecord.h"
+#include "radiobands.h"
+#include "signallog.h"
+#include "touch.h"
+#include "widgettest.h"
+
+#include <QPainter>
+
+#include <climits>
+#include <cmath>
+#include <limits>
+#include <type_traits>
+
+static_assert(
+    std::is_same_v<decltype(&MRadioSlider::getFreqStart), float (MRadioSlider::*)() const>);
+static_assert(std::is_same_v<decltype(&MRadioSlider::setCurFreq), void (MRadioSlider::*)(float)>);
+static_assert(std::is_same_v<decltype(&MRadioSlider::setScaleAlign),
+                             void (MRadioSlider::*)(const MRadioSlider::ScaleAlignmentMode &)>);
+
+namespace
+{
+
+using Action = std::function<void(MRadioSlider &)>;
+
+QPixmap indicator(const QSize &size = QSize(9, 60))
+{
+    QPixmap pixmap(size);
+    pixmap.fill(QColor(255, 120, 0, 160));
+    return pixmap;
+}
+
+QFont labelFont()
+{
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(13);
+    return font;
+}
+
+float displayed(const RadioBand &band, int freq)
+{
+    return band.isFM ? float(freq) / 100.0F : float(freq);
+}
+
+std::unique_ptr<MRadioSlider> makeSlider(const RadioBand &band = kRadioBands[0],
+                                         const QSize &size = QSize(640, 100))
+{
+    auto slider = std::make_unique<MRadioSlider>(nullptr);
+    slider->resize(size);
+    slider->setLineColor(Qt::white);
+    slider->setFont(labelFont());
+    slider->setIsFM(band.isFM);
+    slider->setFreqStart(displayed(band, band.start));
+    slider->setFreqEnd(displayed(band, band.end));
+    slider->setFreqStep(displayed(band, band.step));
+    slider->initSliderRange();
+    return slider;
+}
+
+void call(MRadioSlider &slider, float freq)
+{
+    QMetaObject::invokeMethod(&slider, "curFreqChangedSlot", Q_ARG(float, freq));
+}
+
+void call(MRadioSlider &slider, bool isFM, float min, float max, float step)
+{
+    QMetaObject::invokeMethod(&slider, "freqParamChangedSlot", Q_ARG(bool, isFM), Q_ARG(float, min),
+                              Q_ARG(float, max), Q_ARG(float, step));
+}
+
+// Every tick, line after line and label after label, with the pens as they are set.
+void paintTicks(QPainter &p, const MRadioSlider &s, int scrollX, int stepCount)
+{
+    const int h = s.height();
+    const int unit = s.getLineH();
+    const bool isTextTop = s.getTextPosition() == MRadioSlider::TextTop;
+    const int ty = isTextTop ? s.getTextMarginY() : h - 1 - 25 + s.getTextMarginY();
+    int base = isTextTop ? h - 1 + s.getScaleMarginY()
+                         : h - 1 - 25 + s.getTextMarginY() + s.getScaleMarginY();
+    if (s.scaleAlign() == MRadioSlider::AlignTop)
+        base = isTextTop ? 25 + s.getTextMarginY() + s.getScaleMarginY() : s.getScaleMarginY();
+    for (int i = 0; i <= stepCount; ++i) {
+        const int x = scrollX + i * s.getLineGap();
+        const float f = std::fma(float(i), s.getFreqStep(), s.getFreqStart());
+        const int n = int(s.getIsFM() ? f * 100.0F : f);
+        const bool isMajor = n % (s.getIsFM() ? 100 : 10) == 0;
+        const bool isMiddle = !isMajor && n % (s.getIsFM() ? 50 : 5) == 0;
+        const int length = (isMajor ? 3 : isMiddle ? 2 : 1) * unit;
+        if (s.scaleAlign() == MRadioSlider::AlignTop) {
+            p.drawLine(x, base, x, base + length);
+        } else if (s.scaleAlign() == MRadioSlider::AlignCenter && isMiddle) {
+            p.drawLine(x, base - unit / 2, x, base - unit / 2 - 2 * unit);
+        } else if (s.scaleAlign() == MRadioSlider::AlignCenter && !isMajor) {
+            p.drawLine(x, base - unit, x, base - 2 * unit);
+        } else {
+            p.drawLine(x, base, x, base - length);
+        }
+        if (isMajor)
+            p.drawText(QRect(QPoint(x - 30, ty), QPoint(x + 29, ty + 24)), Qt::AlignCenter,
+                       QStringLiteral("%1").arg(double(f)));
+    }
+}
+
+void paintAll(QPainter &p, const MRadioSlider &s, int scrollX, int stepCount)
+{
+    p.setPen(QPen(QBrush(Qt::black), qreal(std::max(s.getLineW(), 1))));
+    p.setPen(s.getLineColor());
+    p.setFont(s.getFont());
+    paintTicks(p, s, scrollX, stepCount);
+    const QPixmap pix = s.getIndicatePix();
+    p.drawPixmap(QRectF(QRect((s.width() - pix.width()) / 2,
+                              (s.height() - pix.height()) / 2 + s.getPointMarginY(), pix.width(),
+                              pix.height())),
+                 pix, QRectF());
+}
+
+bool isAs(MRadioSlider &slider, int scrollX, int stepCount)
+{
+    return isSamePicture(
+        painted(slider),
+        reference(slider, [&](QPainter &p) { paintAll(p, slider, scrollX, stepCount); }), __FILE__,
+        __LINE__);
+}
+
+class Handlers : public MRadioSlider
+{
+public:
+    Handlers() : MRadioSlider(nullptr) { }
+    using MRadioSlider::mouseMoveEvent;
+    using MRadioSlider::mousePressEvent;
+    using MRadioSlider::mouseReleaseEvent;
+    using MRadioSlider::paintEvent;
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(Action)
+
+class tst_MRadioSlider : public WidgetTest
+{
+    Q_OBJECT
+
+private slots:
+    void defaults()
+    {
+        const MRadioSlider slider(nullptr);
+        QVERIFY(slider.getIndicatePix().isNull());
+        QVERIFY(!slider.getLineColor().isValid());
+        QCOMPARE(slider.getFont(), QFont());
+        QCOMPARE(slider.getLineH(), 8);
+        QCOMPARE(slider.getLineW(), 1);
+        QCOMPARE(slider.getLineGap(), 5);
+        QCOMPARE(slider.getFreqStart(), 87.5F);
+        QCOMPARE(slider.getFreqEnd(), 108.0F);
+        QCOMPARE(slider.getFreqStep(), 0.1F);
+        QCOMPARE(slider.getCurFreq(), 87.5F);
+        QCOMPARE(slider.getIsFM(), true);
+        QCOMPARE(slider.marginY(), 0);
+        QCOMPARE(slider.scaleAlign(), MRadioSlider::AlignBottom);
+        QCOMPARE(slider.getTextPosition(), MRadioSlider::TextBottom);
+        QCOMPARE(slider.getTextMarginY(), 0);
+        QCOMPARE(slider.getScaleMarginY(), 0);
+        QCOMPARE(slider.getPointMarginY(), 0);
+        QVERIFY(!slider.hasMouseTracking());
+    }
+
+    void onlyMarginYRepaints_data()
+    {
+        QTest::addColumn<Action>("action");
+        QTest::addColumn<int>("expected");
+        const auto row = [](const char *name, int expected, const Action &action) {
+            QTest::newRow(name) << action << expected;
+        };
+        row("indicatePix", 0, [](auto &s) { s.setIndicatePix(indicator()); });
+        row("lineColor", 0, [](auto &s) { s.setLineColor(Qt::red); });
+        row("font", 0, [](auto &s) { s.setFont(QFont()); });
+        row("lineH", 0, [](auto &s) { s.setLineH(3); });
+        row("lineW", 0, [](auto &s) { s.setLineW(3); });
+        row("lineGap", 0, [](auto &s) { s.setLineGap(3); });
+        row("freqStart", 0, [](auto &s) { s.setFreqStart(3); });
+        row("freqEnd", 0, [](auto &s) { s.setFreqEnd(3); });
+        row("freqStep", 0, [](auto &s) { s.setFreqStep(3); });
+        row("isFM", 0, [](auto &s) { s.setIsFM(false); });
+        row("marginY", 1, [](auto &s) { s.setMarginY(0); });
+        row("scaleMode", 0, [](auto &s) { s.setScaleAlign(MRadioSlider::AlignTop); });
+        row("textPosition", 0, [](auto &s) { s.setTextPosition(MRadioSlider::TextTop); });
+        row("textMarginY", 0, [](auto &s) { s.setTextMarginY(3); });
+        row("scaleMarginY", 0, [](auto &s) { s.setScaleMarginY(3); });
+        row("PointMarginY", 0, [](auto &s) { s.setPointMarginY(3); });
+        row("curFreq", 1, [](auto &s) { s.setCurFreq(100.0F); });
+        row("curFreq outside", 0, [](auto &s) { s.setCurFreq(108.1F); });
+        row("a band", 1, [](auto &s) { call(s, true, 76.0F, 95.0F, 0.1F); });
+        row("a tuned frequency", 1, [](auto &s) { call(s, 9850.0F); });
+        row("a press", 0, [](auto &s) { touch(&s).press(9, 9); });
+    }
+
+    void onlyMarginYRepaints()
+    {
+        QFETCH(Action, action);
+        const auto slider = makeSlider();
+        show(*slider);
+        QTEST(paints(*slider, [&] { action(*slider); }), "expected");
+    }
+
+    void everyPropertyKeepsWhatItIsGiven_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        QTest::addColumn<QVariant>("value");
+        int value = 90;
+        for (const char *name :
+             {"lineH", "lineW", "lineGap", "freqStart", "freqEnd", "freqStep", "curFreq", "marginY",
+              "textMarginY", "scaleMarginY", "PointMarginY"})
+            QTest::newRow(name) << QByteArray(name) << QVariant(++value);
+        QTest::newRow("isFM") << QByteArray("isFM") << QVariant(false);
+        QTest::newRow("scaleMode") << QByteArray("scaleMode") << QVariant(2);
+        QTest::newRow("textPosition") << QByteArray("textPosition") << QVariant(1);
+        QTest::newRow("lineColor") << QByteArray("lineColor") << QVariant(QColor(1, 2, 3));
+        QTest::newRow("font") << QByteArray("font") << QVariant(labelFont());
+    }
+
+    void everyPropertyKeepsWhatItIsGiven()
+    {
+        QFETCH(QByteArray, name);
+        QFETCH(QVariant, value);
+        MRadioSlider slider(nullptr);
+        QVERIFY(slider.property(name) != value);
+        QVERIFY(slider.setProperty(name, value));
+        QCOMPARE(slider.property(name), value);
+    }
+
+    void asPropertiesFrequenciesAreWholeNumbers()
+    {
+        MRadioSlider slider(nullptr);
+        QCOMPARE(slider.property("freqStart"), QVariant(87));
+        QCOMPARE(slider.property("freqStep"), QVariant(0));
+        slider.setProperty("freqEnd", 100.7); // converted before it is written
+        QCOMPARE(slider.getFreqEnd(), 101.0F);
+        slider.setFreqStart(std::numeric_limits<float>::infinity());
+        QCOMPARE(slider.property("freqStart"), QVariant(INT_MAX));
+        slider.setFreqStart(std::nanf(""));
+        QCOMPARE(slider.property("freqStart"), QVariant(0));
+    }
+
+    void theLabelFontIsNotTheWidgetsFont()
+    {
+        MRadioSlider slider(nullptr);
+        const QFont before = slider.font();
+        slider.setFont(labelFont());
+        QCOMPARE(slider.font(), before);
+    }
+
+    // --- Tuning ---------------------------------------------------------------------------------
+
+    void onlyFrequenciesOfTheScaleAreTuned()
+    {
+        const auto slider = makeSlider();
+        QVERIFY(slider->isValidFreq(87.5F));
+        QVERIFY(slider->isValidFreq(108.0F));
+        QVERIFY(!slider->isValidFreq(std::nextafter(87.5F, 0.0F)));
+        QVERIFY(!slider->isValidFreq(std::nextafter(108.0F, 200.0F)));
+        QVERIFY(!slider->isValidFreq(std::nanf("")));
+        slider->setCurFreq(98.5F);
+        slider->setCurFreq(87.4F);
+        QCOMPARE(slider->getCurFreq(), 98.5F);
+        QVERIFY(isAs(*slider, 320 - 110 * 5, 205));
+    }
+
+    void everyStepOfEveryBandIsTunedAndComesBack_data()
+    {
+        QTest::addColumn<int>("row");
+        for (int row = 0; row < int(std::size(kRadioBands)); ++row)
+            QTest::newRow(kRadioBands[row].name) << row;
+    }
+
+    void everyStepOfEveryBandIsTunedAndComesBack()
+    {
+        QFETCH(int, row);
+        const RadioBand &band = kRadioBands[row];
+        const auto slider = makeSlider(band);
+        const int steps = (band.end - band.start) / band.step;
+        SignalLog log(slider.get());
+        for (int i = 0; i <= steps; ++i) {
+            const int freq = band.start + i * band.step;
+            call(*slider, float(freq));
+            QCOMPARE(slider->getCurFreq(), displayed(band, freq));
+            touch(slider.get()).tap(9, 9);
+            const float reported =
+                band.isFM ? displayed(band, freq) * 100.0F : displayed(band, freq);
+            QCOMPARE(log.take(),
+                     QStringList{QStringLiteral("freqChangedSgl(%1)").arg(double(reported))});
+            QCOMPARE(std::lround(reported), long(freq));
+            // What stands under the middle: the step itself, but for a pixel of rounding.
+            const float way = (displayed(band, freq) - displayed(band, band.start)) * 5.0F
+                / displayed(band, band.step);
+            const int scrollX = int(320.0F - way);
+            QVERIFY(std::abs(scrollX - (320 - i * 5)) <= 1);
+            if (i % 40 == 0)
+                QVERIFY(isAs(*slider, scrollX, steps));
+        }
+    }
+
+    void everyStepOfEveryBandIsReachedByDragging_data()
+    {
+        everyStepOfEveryBandIsTunedAndComesBack_data();
+    }
+
+    void everyStepOfEveryBandIsReachedByDragging()
+    {
+        QFETCH(int, row);
+        const RadioBand &band = kRadioBands[row];
+        const auto slider = makeSlider(band);
+        const int steps = (band.end - band.start) / band.step;
+        Touch finger = touch(slider.get());
+        finger.press(0, 0).moveTo(10000, 0); // the first stands in the middle
+        for (int i = 0; i <= steps; ++i) {
+            const float product = displayed(band, band.step) * float(i);
+            const float expected = displayed(band, band.start) + product;
+            QCOMPARE(slider->getCurFreq(), expected);
+            const long number = std::lround(band.isFM ? expected * 100.0F : expected);
+            QCOMPARE(number, long(band.start + i * band.step));
+            finger.moveTo(10000 - (i + 1) * 5, 0);
+        }
+    }
+
+    void aTunedFrequencyFromOutsideIsInHundredths()
+    {
+        const auto slider = makeSlider();
+        SignalLog log(slider.get());
+        call(*slider, 9850.0F);
+        QCOMPARE(slider->getCurFreq(), 98.5F);
+        touch(slider.get()).tap(5, 5);
+        QCOMPARE(log.take(), QStringList{QStringLiteral("freqChangedSgl(9850)")});
+    }
+
+    void aNewSliderReportsTheStartOfTheScale()
+    {
+        MRadioSlider slider(nullptr);
+        SignalLog log(&slider);
+        touch(&slider).tap(5, 5);
+        QCOMPARE(log.take(), QStringList{QStringLiteral("freqChangedSgl(8750)")});
+    }
+
+    void amIsReportedUnscaled()
+    {
+        const auto slider = makeSlider(kRadioBands[3]);
+        SignalLog log(slider.get());
+        call(*slider, 999.0F);
+        touch(slider.get()).tap(5, 5);
+        QCOMPARE(log.take(), QStringList{QStringLiteral("freqChangedSgl(999)")});
+    }
+
+    // --- Dragging -------------------------------------------------------------------------------
+
+    void aDragMovesTheScaleByPixelsAndTunesByWholeSteps()
+    {
+        const auto slider = makeSlider();
+        slider->setCurFreq(98.5F);
+        SignalLog log(slider.get());
+        Touch finger = touch(slider.get());
+        finger.press(300, 50).moveTo(297, 50);
+        QCOMPARE(slider->getCurFreq(), 87.5F + 0.1F * 110.0F);
+        QVERIFY(isAs(*slider, 320 - 553, 205));
+        finger.moveTo(295, 50);
+        QCOMPARE(slider->getCurFreq(), 87.5F + 0.1F * 111.0F);
+        finger.moveTo(296, 50); // backwards: truncated again
+        QCOMPARE(slider->getCurFreq(), 87.5F + 0.1F * 110.0F);
+        QCOMPARE(log.take(), QStringList());
+        finger.release();
+        QCOMPARE(log.take(),
+                 QStringList{QStringLiteral("freqChangedSgl(%1)")
+                                 .arg(double((87.5F + 0.1F * 110.0F) * 100.0F))});
+    }
+
+    void theScaleIsPinnedAtItsEnds()
+    {
+        const auto slider = makeSlider();
+        touch(slider.get()).press(0, 0).moveTo(-20000, 0).release();
+        QCOMPARE(slider->getCurFreq(), 87.5F + 0.1F * 205.0F);
+        QVERIFY(isAs(*slider, 320 - 205 * 5, 205));
+        touch(slider.get()).press(0, 0).moveTo(20000, 0).release();
+        QCOMPARE(slider->getCurFreq(), 87.5F);
+        QVERIFY(isAs(*slider, 320, 205));
+    }
+
+    void eachMoveCountsFromTheOneBefore()
+    {
+        const auto slider = makeSlider();
+        slider->setCurFreq(98.5F);
+        Touch finger = touch(slider.get());
+        finger.press(300, 0).moveTo(290, 0).moveTo(290, 0).moveTo(280, 0);
+        QVERIFY(isAs(*slider, 320 - 570, 205));
+        finger.release().press(100, 0).moveTo(101, 0);
+        QVERIFY(isAs(*slider, 320 - 569, 205));
+    }
+
+    void aDragStepPaintsOnceAndLogsTwoLines()
+    {
+        const auto slider = makeSlider();
+        show(*slider);
+        Touch finger = touch(slider.get());
+        finger.press(300, 50);
+        QCOMPARE(paints(*slider, [&] { finger.moveTo(280, 50); }), 1);
+        LogRecord log;
+        finger.moveTo(275, 50);
+        const QVector<LoggedLine> lines = log.take();
+        QCOMPARE(lines.size(), 2);
+        QCOMPARE(lines[0].text, QStringLiteral("pressPoint.x(): 280"));
+        QCOMPARE(lines[1].text, QStringLiteral("curPoint.x(): 275"));
+        for (const LoggedLine &line : lines) {
+            QCOMPARE(line.file, QStringLiteral("src/mradioslider"));
+            QCOMPARE(line.function,
+                     QStringLiteral("virtual void MRadioSlider::mouseMoveEvent(QMouseEvent*)"));
+        }
+    }
+
+    void touchesAskForNoSoundAndStayHere()
+    {
+        QWidget parent;
+        MRadioSlider slider(&parent);
+        SignalLog log(&slider);
+        Touch finger = touch(&slider);
+        QVERIFY(finger.press(5, 5).wasAccepted());
+        QVERIFY(finger.moveTo(6, 5).wasAccepted());
+        QCoreApplication::processEvents();
+        QCOMPARE(log.take(), QStringList());
+    }
+
+    // --- Bands and sizes ------------------------------------------------------------------------
+
+    void stepsAreCountedInHundredths_data()
+    {
+        QTest::addColumn<float>("start");
+        QTest::addColumn<float>("end");
+        QTest::addColumn<float>("step");
+        QTest::addColumn<int>("steps");
+        QTest::newRow("FM Europe") << 87.5F << 108.0F << 0.1F << 205;
+        QTest::newRow("FM Americas") << 87.9F << 107.9F << 0.2F << 100;
+        QTest::newRow("truncated") << 0.0F << 1.0F << 0.3F << 3;
+        QTest::newRow("finer than a hundredth") << 0.0F << 1.0F << 0.004F << 0;
+        QTest::newRow("reversed") << 108.0F << 87.5F << 0.1F << -205;
+        QTest::newRow("twice reversed") << 108.0F << 87.5F << -0.1F << 205;
+        QTest::newRow("none") << 87.5F << 87.5F << 0.1F << 0;
+    }
+
+    void stepsAreCountedInHundredths()
+    {
+        QFETCH(float, start);
+        QFETCH(float, end);
+        QFETCH(float, step);
+        QFETCH(int, steps);
+        const auto slider = makeSlider();
+        call(*slider, true, start, end, step);
+        QVERIFY(isAs(*slider, 0, steps));
+    }
+
+    void aBandChangesNeitherTheOffsetNorTheTunedFrequency()
+    {
+        const auto slider = makeSlider();
+        slider->setCurFreq(98.5F);
+        call(*slider, false, 522.0F, 1620.0F, 9.0F);
+        QCOMPARE(slider->getCurFreq(), 98.5F);
+        QCOMPARE(slider->getIsFM(), false);
+        QCOMPARE(slider->getFreqStart(), 522.0F);
+        QCOMPARE(slider->getFreqEnd(), 1620.0F);
+        QCOMPARE(slider->getFreqStep(), 9.0F);
+        QVERIFY(isAs(*slider, 320 - 550, 122));
+    }
+
+    void aResizeKeepsTheBoundsOfTheDrag()
+    {
+        const auto slider = makeSlider(); // 640 px wide
+        slider->resize(200, 100);
+        touch(slider.get()).press(0, 0).moveTo(20000, 0).release();
+        QVERIFY(isAs(*slider, 320, 205));
+        QCOMPARE(slider->getCurFreq(), 87.5F + 0.1F * float((100 - 320) / 5));
+        slider->initSliderRange();
+        touch(slider.get()).press(0, 0).moveTo(20000, 0).release();
+        QVERIFY(isAs(*slider, 100, 205));
+    }
+
+    // --- Painting -------------------------------------------------------------------------------
+
+    void pictures_data()
+    {
+        QTest::addColumn<int>("row");
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<int>("position");
+        for (int row = 0; row < int(std::size(kRadioBands)); ++row) {
+            for (const int mode : {0, 1, 2, 3, -7}) {
+                for (const int position : {0, 1})
+                    QTest::addRow("%s, mode %d, text %d", kRadioBands[row].name, mode, position)
+                        << row << mode << position;
+            }
+        }
+    }
+
+    void pictures()
+    {
+        QFETCH(int, row);
+        QFETCH(int, mode);
+        QFETCH(int, position);
+        const RadioBand &band = kRadioBands[row];
+        const auto slider = makeSlider(band);
+        const int steps = (band.end - band.start) / band.step;
+        slider->setIndicatePix(indicator());
+        slider->setScaleAlign(MRadioSlider::ScaleAlignmentMode(mode));
+        slider->setTextPosition(MRadioSlider::TextPosition(position));
+        QVERIFY(isAs(*slider, 0, steps));
+        slider->setLineH(7); // an odd half
+        slider->setTextMarginY(3);
+        slider->setScaleMarginY(-4);
+        slider->setPointMarginY(11);
+        slider->setLineColor(QColor(90, 200, 255, 130));
+        QVERIFY(isAs(*slider, 0, steps));
+        slider->setScaleMarginY(position == 0 ? 20 : -70); // over the labels
+        QVERIFY(isAs(*slider, 0, steps));
+        QVERIFY(isAs(*slider, 0, steps)); // from what is kept
+    }
+
+    void theTicksOfTheDefaultScaleAreCounted()
+    {
+        int major = 0;
+        int middle = 0;
+        const auto slider = makeSlider(kRadioBands[0], {1200, 100});
+        const QImage picture = painted(*slider);
+        for (int i = 0; i <= 205; ++i) {
+            const int base = 99 - 25;
+            const bool isOver8 = qAlpha(picture.pixel(i * 5, base - 9)) > 0;
+            const bool isOver16 = qAlpha(picture.pixel(i * 5, base - 17)) > 0;
+            major += isOver16;
+            middle += isOver8 && !isOver16;
+            // 87.5 is the first; a whole MHz comes at tick 5 and then at every tenth.
+            QCOMPARE(isOver16, i % 10 == 5);
+            QCOMPARE(isOver8, i % 5 == 0);
+        }
+        QCOMPARE(major, 21);
+        QCOMPARE(middle, 21);
+    }
+
+    // Rounded twice, tick 384 would stand at 433.49997 and be no middle one.
+    void tickFrequenciesAreFused()
+    {
+        const auto slider = makeSlider();
+        call(*slider, true, 87.9F, 450.0F, 0.9F);
+        slider->setCurFreq(435.0F);
+        QVERIFY(isAs(*slider, int(320.0F - (435.0F - 87.9F) * 5.0F / 0.9F), 402));
+    }
+
+    void aWiderPenHasNoEffect()
+    {
+        const auto slider = makeSlider();
+        const QImage before = painted(*slider);
+        for (const int width : {5, 0, -3, INT_MAX}) {
+            slider->setLineW(width);
+            QCOMPARE(painted(*slider), before);
+        }
+    }
+
+    void anInvalidColourIsBlack()
+    {
+        const auto slider = makeSlider();
+        slider->setLineColor(QColor());
+        QVERIFY(isAs(*slider, 0, 205));
+        QCOMPARE(painted(*slider).pixel(0, 70), qRgb(0, 0, 0));
+    }
+
+    void theIndicatorIsCentredTowardZero()
+    {
+        for (const QSize &size : {QSize(10, 11), QSize(11, 10), QSize(700, 130), QSize(701, 131)}) {
+            const auto slider = makeSlider();
+            slider->setIndicatePix(indicator(size));
+            slider->setPointMarginY(-3);
+            QVERIFY(isAs(*slider, 0, 205));
+        }
+    }
+
+    void everySetterShowsAtTheNextPaint()
+    {
+        const auto slider = makeSlider();
+        QVERIFY(isAs(*slider, 0, 205));
+        for (const Action &action :
+             {Action([](auto &s) { s.setLineH(11); }), Action([](auto &s) { s.setLineGap(7); }),
+              Action([](auto &s) { s.setFreqStart(88.0F); }),
+              Action([](auto &s) { s.setFreqStep(0.2F); }),
+              Action([](auto &s) { s.setIsFM(false); }),
+              Action([](auto &s) { s.setTextMarginY(-9); }),
+              Action([](auto &s) { s.setScaleMarginY(-19); }),
+              Action([](auto &s) { s.setLineColor(Qt::green); }),
+              Action([](auto &s) { s.setFont(QFont()); }),
+              Action([](auto &s) { s.resize(500, 90); })}) {
+            action(*slider);
+            QVERIFY(isAs(*slider, 0, 205));
+        }
+    }
+
+    void widthsFromOneToTenThousandPixels()
+    {
+        for (const int width : {1, 2, 31, 10000}) {
+            const auto slider = makeSlider(kRadioBands[0], {width, 100});
+            slider->setIndicatePix(indicator());
+            slider->setCurFreq(98.5F);
+            QVERIFY(isAs(*slider, int(float(width / 2) - (98.5F - 87.5F) * 5.0F / 0.1F), 205));
+        }
+    }
+
+    void withoutAGapAllTicksStandInOnePlace()
+    {
+        const auto slider = makeSlider();
+        slider->setLineGap(0);
+        slider->setLineColor(QColor(255, 255, 255, 40));
+        QVERIFY(isAs(*slider, 0, 205));
+        slider->setCurFreq(98.5F);
+        touch(slider.get()).press(0, 0).moveTo(7, 0).release();
+        QCOMPARE(slider->getCurFreq(), 87.5F); // no steps from the middle
+    }
+
+    void aNegativeGapTurnsTheScaleRound()
+    {
+        const auto slider = makeSlider();
+        slider->setLineGap(-5);
+        slider->setCurFreq(98.5F);
+        QVERIFY(isAs(*slider, 320 + 550, 205));
+    }
+
+    void millionsOfTicksAreAsQuickAsTheOnesThatShow()
+    {
+        const auto slider = makeSlider();
+        slider->setLineGap(1);
+        call(*slider, true, 0.0F, 20000.0F, 0.01F);
+        slider->setCurFreq(15000.0F);
+        QVERIFY(cpuTime([&] {
+                    for (int i = 0; i < 20; ++i) {
+                        touch(slider.get()).press(0, 0).moveTo(-3, 0).release();
+                        painted(*slider);
+                    }
+                })
+                < 2000);
+        slider->setCurFreq(1000.0F);
+        QVERIFY(isAs(*slider, 320 - 100000, 200000));
+    }
+
+    void noNumberIsHarmful()
+    {
+        using Float = std::numeric_limits<float>;
+        const float hostile[] = {Float::quiet_NaN(),
+                                 Float::infinity(),
+                                 -Float::infinity(),
+                                 Float::max(),
+                                 -1e9F,
+                                 -1.0F,
+                                 -0.0F,
+                                 0.0F,
+                                 Float::denorm_min(),
+                                 0.01F,
+                                 1e9F};
+        const int ints[] = {INT_MIN, -1, 0, 1, INT_MAX};
+        const auto slider = makeSlider();
+        slider->setIndicatePix(indicator());
+        for (const float a : hostile) {
+            for (const float b : hostile) {
+                for (const int n : ints) {
+                    slider->setLineGap(n);
+                    call(*slider, n == 0, a, b, n == 1 ? b : 0.01F);
+                    call(*slider, a);
+                    slider->setLineH(n);
+                    slider->setTextMarginY(n);
+                    slider->setScaleMarginY(n);
+                    slider->setPointMarginY(n);
+                    touch(slider.get()).press(n / 2, 0).moveTo(-n / 2, 5).release();
+                    QVERIFY(cpuTime([&] { painted(*slider); }) < 1000);
+                }
+            }
+        }
+    }
+
+    void noEventIsNoHarm()
+    {
+        Handlers slider;
+        slider.mousePressEvent(nullptr);
+        slider.mouseMoveEvent(nullptr);
+        QCOMPARE(slider.getCurFreq(), 87.5F);
+        SignalLog log(&slider);
+        slider.mouseReleaseEvent(nullptr);
+        QCOMPARE(log.take(), QStringList{QStringLiteral("freqChangedSgl(8750)")});
+    }
+
+    void aSliderMayBeDeletedByItsReport()
+    {
+        auto *slider = new MRadioSlider(nullptr);
+        const QPointer<MRadioSlider> guard(slider);
+        connect(slider, &MRadioSlider::freqChangedSgl, slider, [slider] { delete slider; });
+        touch(slider).tap(5, 5);
+        QVERIFY(!guard);
+    }
+};
+
+WIDGET_TEST_MAIN(tst_MRadioSlider)
+#include "tst_mradioslider.moc"

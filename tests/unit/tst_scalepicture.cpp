@@ -1,0 +1,226 @@
+#include "detail/scalepicture.h"
+
+#include "widgettest.h"
+
+#include <QPainter>
+
+#include <climits>
+#include <cmath>
+
+using namespace panelkit;
+
+namespace
+{
+
+constexpr QSize kArea(300, 80);
+int writtenCount = 0;
+
+QString written(double value)
+{
+    ++writtenCount;
+    return QString::number(value);
+}
+
+// What was added, to be drawn item by item.
+struct Item {
+    bool isLabel;
+    bool isFaint;
+    int x;
+    int top;
+    int bottom;
+};
+
+QImage onCanvas(const std::function<void(QPainter &)> &paint)
+{
+    QImage image(kArea, QImage::Format_ARGB32_Premultiplied);
+    image.fill(QColor(10, 60, 90));
+    QPainter painter(&image);
+    painter.setBrush(Qt::NoBrush);
+    paint(painter);
+    return image;
+}
+
+void add(ScalePicture &picture, const QVector<Item> &items)
+{
+    picture.clear(kArea);
+    for (const Item &i : items) {
+        if (i.isLabel)
+            picture.addLabel(QRect(i.x - 30, i.top, 60, 25), i.x, written);
+        else
+            picture.addLine(i.isFaint ? ScalePicture::Faint : ScalePicture::Solid, i.x, i.top,
+                            i.bottom);
+    }
+}
+
+void drawOneByOne(QPainter &p, const QVector<Item> &items, const QColor &solid, const QColor &faint)
+{
+    for (const Item &i : items) {
+        p.setPen(i.isFaint ? faint : solid);
+        if (i.isLabel)
+            p.drawText(QRect(i.x - 30, i.top, 60, 25), Qt::AlignCenter, QString::number(i.x));
+        else
+            p.drawLine(i.x, i.top, i.x, i.bottom);
+    }
+}
+
+QVector<Item> scale(int labelTop, int gap)
+{
+    QVector<Item> items;
+    for (int i = 0; i < 40; ++i) {
+        const int x = 20 + i * gap;
+        if (i % 3 != 0)
+            items += {false, true, x, 60, 20 + i % 5};
+        items += {false, false, x, 70, 40};
+        if (i % 5 == 0)
+            items += {true, false, x, labelTop, 0};
+    }
+    return items;
+}
+
+} // namespace
+
+class tst_ScalePicture : public WidgetTest
+{
+    Q_OBJECT
+
+private slots:
+    void thePixelsAreThoseOfItemAfterItem_data()
+    {
+        QTest::addColumn<QVector<int>>("layout");
+        for (const int labelTop :
+             {-10, 0, 30, 55, 64, 66, 68, 70}) { // apart from the lines and over them
+            for (const int gap : {9, 1, 0, -4})
+                QTest::addRow("labels at %d, gap %d", labelTop, gap) << QVector<int>{labelTop, gap};
+        }
+    }
+
+    void thePixelsAreThoseOfItemAfterItem()
+    {
+        QFETCH(QVector<int>, layout);
+        const QVector<Item> items = scale(layout[0], layout[1]);
+        ScalePicture picture;
+        add(picture, items);
+        const QRect all(QPoint(), kArea);
+        for (const auto &[solid, faint] :
+             {std::pair(QColor(Qt::white), QColor(255, 255, 255, 70)),
+              std::pair(QColor(200, 30, 60, 120), QColor(200, 30, 60, 70)),
+              std::pair(QColor(), QColor())}) {
+            const QColor s = solid;
+            const QColor f = faint;
+            COMPARE_PICTURES(onCanvas([&](QPainter &p) { picture.draw(p, all, s, f); }),
+                             onCanvas([&](QPainter &p) { drawOneByOne(p, items, s, f); }));
+            const auto twice = [](const std::function<void(QPainter &)> &paint) {
+                return onCanvas([&](QPainter &p) {
+                    p.scale(2, 1.5);
+                    paint(p);
+                });
+            };
+            // A scaled line may reach beyond its area.
+            const auto clip = [&](QPainter &p) {
+                p.setClipRect(2, 2, 140, 40);
+            };
+            if (layout[1] > 0 && s.isValid())
+                COMPARE_PICTURES(twice([&](QPainter &p) {
+                                     clip(p);
+                                     picture.draw(p, all, s, f);
+                                 }),
+                                 twice([&](QPainter &p) {
+                                     clip(p);
+                                     drawOneByOne(p, items, s, f);
+                                 }));
+        }
+    }
+
+    void aValueIsWrittenAndLaidOutOnce()
+    {
+        ScalePicture picture;
+        writtenCount = 0;
+        for (int offset = 0; offset < 50; ++offset) {
+            picture.clear(kArea);
+            for (int value = 0; value < 4; ++value)
+                picture.addLabel(QRect(offset + value * 60, 5, 60, 25), 87.5 + value, written);
+            picture.addLabel(QRectF(20, 40, 60, 25), std::nan(""), written);
+            onCanvas([&](QPainter &p) { picture.draw(p, {QPoint(), kArea}, Qt::white); });
+            onCanvas([&](QPainter &p) { picture.draw(p, {QPoint(), kArea}, Qt::white); });
+        }
+        QCOMPARE(writtenCount, 5);
+        QCOMPARE(picture.writings(), 5);
+        QCOMPARE(picture.layouts(), 5);
+    }
+
+    void labelsOutsideAreNotEvenWritten()
+    {
+        ScalePicture picture;
+        picture.clear(kArea);
+        picture.addLabel(QRectF(-60, 5, 60, 25), 1, written);
+        picture.addLabel(QRectF(300, 5, 60, 25), 2, written);
+        picture.addLabel(QRectF(50, -25, 60, 25), 3, written);
+        picture.addLabel(QRectF(50, 80, 60, 25), 4, written);
+        picture.addLabel(QRectF(50, 30, 60, -25), 5, written);
+        QCOMPARE(picture.writings(), 0);
+        picture.addLabel(QRectF(-59, 5, 60, 25), 6, written);
+        QCOMPARE(picture.writings(), 1);
+    }
+
+    void onlyThePartThatIsNeededIsLaidOut()
+    {
+        ScalePicture picture;
+        picture.clear(kArea);
+        for (int i = 0; i < 5; ++i)
+            picture.addLabel(QRect(i * 60, 5, 60, 25), i, written);
+        onCanvas([&](QPainter &p) { picture.draw(p, QRect(60, 0, 60, 80), Qt::white); });
+        QCOMPARE(picture.layouts(), 1);
+    }
+
+    void theFontOfThePainterCounts()
+    {
+        ScalePicture picture;
+        picture.clear(kArea);
+        picture.addLabel(QRectF(5, 5, 60, 25), 87.5, written);
+        for (const int px : {12, 20}) {
+            QFont font(QStringLiteral("DejaVu Sans"));
+            font.setPixelSize(px);
+            COMPARE_PICTURES(onCanvas([&](QPainter &p) {
+                                 p.setFont(font);
+                                 picture.draw(p, {QPoint(), kArea}, Qt::white);
+                             }),
+                             onCanvas([&](QPainter &p) {
+                                 p.setFont(font);
+                                 p.setPen(Qt::white);
+                                 p.drawText(QRectF(5, 5, 60, 25), Qt::AlignCenter,
+                                            QStringLiteral("87.5"));
+                             }));
+        }
+    }
+
+    void whatIsKnownIsBounded()
+    {
+        ScalePicture picture;
+        for (int round = 0; round < 3; ++round) {
+            picture.clear(kArea);
+            for (int i = 0; i < 1100; ++i)
+                picture.addLabel(QRectF(5, 5, 60, 25), i, written);
+        }
+        QCOMPARE(picture.writings(), 3300); // forgotten, each time
+    }
+
+    void linesEndAtTheArea()
+    {
+        ScalePicture picture;
+        const QVector<Item> items{{false, false, 7, INT_MIN, INT_MAX}, {false, false, -1, 0, 50},
+                                  {false, false, 300, 0, 50},          {false, false, 9, 90, 200},
+                                  {false, false, 11, -9, -1},          {false, false, 299, 79, 60}};
+        add(picture, items);
+        COMPARE_PICTURES(onCanvas([&](QPainter &p) {
+                             picture.draw(p, {QPoint(), kArea}, Qt::white);
+                         }),
+                         onCanvas([&](QPainter &p) {
+                             p.setPen(Qt::white);
+                             p.drawLine(7, 0, 7, 79);
+                             p.drawLine(299, 60, 299, 79);
+                         }));
+    }
+};
+
+WIDGET_TEST_MAIN(tst_ScalePicture)
+#include "tst_scalepicture.moc"
