@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <tuple>
 #include <vector>
 
@@ -26,8 +27,11 @@ constexpr float kLabelWidth = 60.0F; // px
 constexpr int kLabelHeight = 25; // px
 constexpr int kFaintAlpha = 70;
 constexpr double kSame = 5e-5; // display units; frequencies nearer to each other are the same
-constexpr int kMostSteps = 1 << 20; // of a scale that are looked at one by one
-constexpr std::size_t kMostPiled = 64; // ticks in one column of pixels that can be told apart
+constexpr int kMostSteps = 1 << 18; // of a scale that are looked at one by one
+// Of the ticks in one column of pixels: how many lines and how many labels can be told apart.
+// Labels are as wide as dozens of columns, so that far fewer of them make a blot.
+constexpr std::size_t kMostPiled = 64;
+constexpr std::ptrdiff_t kMostPiledLabels = 16;
 
 enum TickKind { Minor, Middle, Major };
 
@@ -279,7 +283,7 @@ void MKARVOSlider::initSliderRange()
     m_widthF = float(width());
     m_stepCount = quotient(toInt(double((m_freqEnd - m_freqStart) * 100.0F)),
                            toInt(double(m_freqStep * 100.0F)));
-    m_lineGap = floatQuotient(m_widthF - float((2 * Whole(m_marginX)).value()), float(m_stepCount));
+    m_lineGap = ratio(m_widthF - float((2 * Whole(m_marginX)).value()), float(m_stepCount));
 }
 
 /**
@@ -418,7 +422,7 @@ void MKARVOSlider::setWholeCurFreq(int freq)
 
 float MKARVOSlider::freqAt(int x) const
 {
-    const float steps = floatQuotient(float(x) - m_leftX, m_lineGap);
+    const float steps = ratio(float(x) - m_leftX, m_lineGap);
     return calFreqRule(std::fma(m_freqStep, steps, m_freqStart));
 }
 
@@ -445,10 +449,17 @@ void MKARVOSlider::layOut(const Look &look)
     m_look = std::make_unique<Look>(look);
     m_picture->clear(size());
     std::vector<Tick> pile;
+    const auto isMajor = [](const Tick &tick) {
+        return tick.kind == Major;
+    };
     const auto addPile = [&] {
-        const auto first = pile.size() > kMostPiled ? pile.size() - kMostPiled : 0;
-        for (auto i = first; i < pile.size(); ++i)
-            addTick(pile[i]);
+        auto first = pile.end() - std::ptrdiff_t(std::min(pile.size(), kMostPiled));
+        auto labels = std::count_if(first, pile.end(), isMajor);
+        for (; first != pile.end(); ++first) {
+            addLines(*first);
+            if (isMajor(*first) && labels-- <= kMostPiledLabels)
+                addLabel(*first);
+        }
         pile.clear();
     };
     const int stride = strideOf(m_stepCount);
@@ -468,7 +479,7 @@ void MKARVOSlider::layOut(const Look &look)
     addPile();
 }
 
-void MKARVOSlider::addTick(const Tick &tick)
+void MKARVOSlider::addLines(const Tick &tick)
 {
     const Shape shape = shapeOf(m_scaleMode);
     const auto add = [&](ScalePicture::Tone tone, const Span &span) {
@@ -476,12 +487,16 @@ void MKARVOSlider::addTick(const Tick &tick)
         const int to = saturated(tickBase() + qint64(span.to) * m_lineH);
         m_picture->addLine(tone, from == to ? pointColumn(tick.x) : lineColumn(tick.x), from, to);
     };
-    if (tick.kind == Middle) {
-        add(ScalePicture::Faint, shape.faint);
-        add(ScalePicture::Solid, shape.solid);
+    if (tick.kind == Major) {
+        add(ScalePicture::Solid, shape.major);
         return;
     }
-    add(ScalePicture::Solid, shape.major);
+    add(ScalePicture::Faint, shape.faint);
+    add(ScalePicture::Solid, shape.solid);
+}
+
+void MKARVOSlider::addLabel(const Tick &tick)
+{
     const QRectF box(qreal(tick.x - kLabelWidth / 2), qreal(labelTop()), qreal(kLabelWidth),
                      kLabelHeight);
     m_picture->addLabel(box, double(tick.freq), written);
@@ -508,7 +523,7 @@ int MKARVOSlider::labelTop() const
 
 void MKARVOSlider::drawIndicator(QPainter &painter) const
 {
-    const float steps = floatQuotient((m_curFreq - m_freqStart) * 100.0F, m_freqStep * 100.0F);
+    const float steps = ratio((m_curFreq - m_freqStart) * 100.0F, m_freqStep * 100.0F);
     const int middle = toInt(double(std::fma(m_lineGap, steps, m_leftX)));
     const QSize size = m_indicatePix.size();
     const int left = saturated(qint64(middle) - size.width() / 2);

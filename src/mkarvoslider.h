@@ -142,7 +142,8 @@ private:
     void tune(float freq);
     Look look() const;
     void layOut(const Look &look);
-    void addTick(const Tick &tick);
+    void addLines(const Tick &tick);
+    void addLabel(const Tick &tick);
     int tickBase() const;
     int labelTop() const;
     void drawIndicator(QPainter &painter) const;

@@ -140,7 +140,7 @@ void MRadioSlider::setCurFreq(float freq)
     if (!isValidFreq(freq))
         return;
     m_curFreq = freq;
-    const float way = floatQuotient((freq - m_freqStart) * float(m_lineGap), m_freqStep);
+    const float way = ratio((freq - m_freqStart) * float(m_lineGap), m_freqStep);
     m_scrollX = toInt(double(float(width() / 2) - way));
     update();
 }

@@ -7,6 +7,22 @@
 namespace panelkit
 {
 
+namespace
+{
+
+// C++ leaves division by zero undefined, although every processor in use defines it.
+template <typename T> T dividedBy(T a, T b)
+{
+    using Limits = std::numeric_limits<T>;
+    if (b != 0)
+        return a / b;
+    if (a == 0 || std::isnan(a))
+        return Limits::quiet_NaN();
+    return std::signbit(a) == std::signbit(b) ? Limits::infinity() : -Limits::infinity();
+}
+
+} // namespace
+
 int quotient(int a, int b)
 {
     if (b == 0)
@@ -16,16 +32,14 @@ int quotient(int a, int b)
     return a / b;
 }
 
-// C++ leaves division by zero undefined, although every processor in use defines it.
+float ratio(float a, float b)
+{
+    return dividedBy(a, b);
+}
+
 double ratio(double a, double b)
 {
-    if (b != 0)
-        return a / b;
-    if (a == 0 || std::isnan(a))
-        return std::numeric_limits<double>::quiet_NaN();
-    const bool isNegative = std::signbit(a) != std::signbit(b);
-    return isNegative ? -std::numeric_limits<double>::infinity()
-                      : std::numeric_limits<double>::infinity();
+    return dividedBy(a, b);
 }
 
 int toInt(double value)
@@ -44,16 +58,6 @@ int saturated(long long value)
 {
     using Int = std::numeric_limits<int>;
     return int(std::clamp<long long>(value, Int::min(), Int::max()));
-}
-
-float floatQuotient(float a, float b)
-{
-    using Float = std::numeric_limits<float>;
-    if (b != 0.0F)
-        return a / b;
-    if (a == 0.0F || std::isnan(a))
-        return Float::quiet_NaN();
-    return std::signbit(a) == std::signbit(b) ? Float::infinity() : -Float::infinity();
 }
 
 long long distance(int a, int b)

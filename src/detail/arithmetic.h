@@ -9,6 +9,7 @@ int quotient(int a, int b);
 
 /// a / b in floating point: what the processor yields for a zero divisor too, an infinity of the
 /// right sign or, for 0 / 0, no number.
+float ratio(float a, float b);
 double ratio(double a, double b);
 
 /// A floating-point value as an int, truncated toward zero. Values outside the range of int
@@ -17,9 +18,6 @@ int toInt(double value);
 
 /// A sum or product computed in 64 bits as an int; values outside its range saturate.
 int saturated(long long value);
-
-/// a / b as the processor divides: a zero divisor makes an infinity, or NaN of 0 / 0.
-float floatQuotient(float a, float b);
 
 /// |a - b|, exact for every pair of ints.
 long long distance(int a, int b);

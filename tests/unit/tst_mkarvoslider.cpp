@@ -802,7 +802,7 @@ private slots:
                     if (n == INT_MAX)
                         slider->setLineGap(n);
                     touch(slider.get()).press(n / 2, 0).moveTo(-n / 2, 5).release();
-                    QVERIFY(cpuTime([&] { painted(*slider); }) < 20000);
+                    QVERIFY(cpuTime([&] { painted(*slider); }) < 10000);
                 }
             }
         }
