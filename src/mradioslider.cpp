@@ -141,7 +141,8 @@ void MRadioSlider::setCurFreq(float freq)
         return;
     m_curFreq = freq;
     const float way = ratio((freq - m_freqStart) * float(m_lineGap), m_freqStep);
-    m_scrollX = toInt(double(float(width() / 2) - way));
+    const int middle = width() / 2;
+    m_scrollX = toInt(double(float(middle) - way));
     update();
 }
 
@@ -344,7 +345,8 @@ void MRadioSlider::addTick(int count, int x)
         m_picture->addLine(ScalePicture::Solid, x, saturated(foot), saturated(foot - length));
     }
     if (kind == Major) {
-        const QRectF box(qreal(x) - kLabelWidth / 2, qreal(labelTop()), kLabelWidth, kLabelHeight);
+        const int halfLabel = kLabelWidth / 2;
+        const QRectF box(qreal(x) - qreal(halfLabel), qreal(labelTop()), kLabelWidth, kLabelHeight);
         m_picture->addLabel(box, double(freq), written);
     }
 }
