@@ -31,6 +31,8 @@ QPixmap indicator(const QSize &size = QSize(9, 60))
 {
     QPixmap pixmap(size);
     pixmap.fill(QColor(255, 120, 0, 160));
+    QPainter painter(&pixmap);
+    painter.fillRect(pixmap.rect(), QBrush(QColor(0, 60, 120), Qt::DiagCrossPattern));
     return pixmap;
 }
 
@@ -465,6 +467,28 @@ private slots:
         SignalLog log(slider.get());
         QCOMPARE(paints(*slider, [&] { finger.moveTo(286, 5).moveTo(284, 5); }), 0);
         QCOMPARE(log.take(), QStringList());
+    }
+
+    // The numbers next to 98.5 in single precision are 0.0000076 apart.
+    void aChangeTooSmallToMatterIsNone()
+    {
+        const auto slider = makeFor(kRadioBands[0]);
+        slider->resize(685, 160);
+        show(*slider);
+        SignalLog log(slider.get());
+        slider->setCurFreq(98.50004F);
+        QVERIFY(slider->getCurFreq() != 98.5F);
+        Touch finger = touch(slider.get());
+        finger.press(35 + 330, 5);
+        QCoreApplication::processEvents();
+        QCOMPARE(paints(*slider, [&] { finger.moveTo(35 + 330, 5); }), 0);
+        QVERIFY(slider->getCurFreq() == 98.50004F);
+        slider->setCurFreq(98.50006F);
+        finger.moveTo(35 + 330, 5);
+        QVERIFY(slider->getCurFreq() == 98.5F);
+        QCOMPARE(log.take(),
+                 (QStringList{QStringLiteral("mousePressed(true)"),
+                              QStringLiteral("freqChangedSgl(9850)")}));
     }
 
     void aReleaseReportsItselfBeforeTheFrequency()

@@ -32,6 +32,8 @@ QPixmap indicator(const QSize &size = QSize(9, 60))
 {
     QPixmap pixmap(size);
     pixmap.fill(QColor(255, 120, 0, 160));
+    QPainter painter(&pixmap);
+    painter.fillRect(pixmap.rect(), QBrush(QColor(0, 60, 120), Qt::DiagCrossPattern));
     return pixmap;
 }
 
@@ -320,7 +322,7 @@ private slots:
         for (int i = 0; i <= steps; ++i) {
             const float product = displayed(band, band.step) * float(i);
             const float expected = displayed(band, band.start) + product;
-            QCOMPARE(slider->getCurFreq(), expected);
+            QVERIFY(slider->getCurFreq() == expected); // to the last bit: rounded twice
             const long number = std::lround(band.isFM ? expected * 100.0F : expected);
             QCOMPARE(number, long(band.start + i * band.step));
             finger.moveTo(10000 - (i + 1) * 5, 0);
@@ -385,6 +387,20 @@ private slots:
         touch(slider.get()).press(0, 0).moveTo(20000, 0).release();
         QCOMPARE(slider->getCurFreq(), 87.5F);
         QVERIFY(isAs(*slider, 320, 205));
+    }
+
+    void theScaleCanStandOnePixelFromItsEnds()
+    {
+        const auto slider = makeSlider();
+        slider->resize(641, 100);
+        slider->initSliderRange();
+        Touch finger = touch(slider.get());
+        finger.press(0, 0).moveTo(20000, 0);
+        QVERIFY(isAs(*slider, 320, 205)); // half of an odd width, truncated
+        finger.moveTo(19999, 0);
+        QVERIFY(isAs(*slider, 319, 205));
+        finger.moveTo(-20000, 0).moveTo(-19999, 0);
+        QVERIFY(isAs(*slider, 320 - 205 * 5 + 1, 205));
     }
 
     void eachMoveCountsFromTheOneBefore()
