@@ -27,6 +27,24 @@ panelkit_class(SpIconButton
     SIZE 120 80
     INITIAL displayText=Button "normalTextColor=#202020") # white is hard to see on Designer's form
 
+panelkit_class(SpLockButton
+    FAMILY "State buttons"
+    TOOLTIP "Image button that each press turns over between up and down"
+    SIZE 120 80
+    INITIAL displayText=Lock "normalTextColor=#202020")
+
+panelkit_class(MultipleStateButton
+    FAMILY "State buttons"
+    TOOLTIP "Image button that each touch steps to its next state, made from image files"
+    SIZE 120 80
+    CREATE "new MultipleStateButton(0, 0, 0, {}, {}, {}, parent)")
+
+panelkit_class(PlayButton
+    FAMILY "State buttons"
+    TOOLTIP "Push button of two images, made from image files"
+    SIZE 120 80
+    CREATE "new PlayButton(0, 0, 0, {}, {}, parent)")
+
 panelkit_class(SpTableList
     FAMILY "Scrolling lists"
     TOOLTIP "Kinetic list whose rows have icons, texts and seven styles, with clicks on rows and icons"

@@ -24,7 +24,7 @@ QVector<Rendering> &renderings()
 
 QPixmap render(const QString &name, const QSize &wanted)
 {
-    QSvgRenderer drawing(kDirectory + name + QStringLiteral(".svg"));
+    QSvgRenderer drawing(Art::file(name));
     if (!drawing.isValid())
         return {};
     QPixmap pixmap(wanted.isValid() ? wanted : drawing.defaultSize());
@@ -46,6 +46,11 @@ QStringList names()
     for (QString &name : names)
         name.chop(4);
     return names;
+}
+
+QString file(const QString &name)
+{
+    return kDirectory + name + QStringLiteral(".svg");
 }
 
 QPixmap pixmap(const QString &name, const QSize &size)

@@ -50,6 +50,23 @@ QImage veiledImage(const QPixmap &pixmap, const QSize &area, int alpha)
     return image;
 }
 
+// An opaque picture has no room for alpha: its copy gets one.
+QImage fadedImage(const QPixmap &pixmap, const QSize &area, int alpha)
+{
+    QImage image = pixmap.toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    if (image.isNull())
+        return image;
+    const QRect fadeRect(QPoint(), area);
+    QPainter painter(&image);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.fillRect(fadeRect, Qt::transparent);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    painter.drawPixmap(fadeRect, pixmap);
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+    painter.fillRect(fadeRect, QColor(0, 0, 0, alpha));
+    return image;
+}
+
 bool ImageLook::Key::operator==(const Key &other) const
 {
     return kind == other.kind && pixmap == other.pixmap && area == other.area

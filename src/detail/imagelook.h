@@ -16,6 +16,12 @@ namespace panelkit
 /// the picture; a null picture has a null look.
 QImage veiledImage(const QPixmap &pixmap, const QSize &area, int alpha);
 
+/// The faded look: the picture with the alpha of each pixel multiplied by alpha / 255 (0..255;
+/// anything else leaves nothing), scaled into an area at its own top left. What of the picture lies
+/// outside the area stays as it is. The image is as large as the picture; a null picture has a null
+/// look.
+QImage fadedImage(const QPixmap &pixmap, const QSize &area, int alpha);
+
 /// One computed look of a picture, kept until the picture, the area or the alpha changes. A widget
 /// that shows one look at a time needs one of these.
 class ImageLook

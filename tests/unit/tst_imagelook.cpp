@@ -75,6 +75,52 @@ private slots:
 
     void aNullPictureHasANullLook() { QVERIFY(veiledImage(QPixmap(), {10, 10}, 154).isNull()); }
 
+    void theFadeMultipliesTheAlphaOfEachPixel()
+    {
+        QImage image(3, 1, QImage::Format_ARGB32_Premultiplied);
+        image.setPixelColor(0, 0, QColor(200, 100, 50));
+        image.setPixelColor(1, 0, QColor(200, 100, 50, 128));
+        image.setPixelColor(2, 0, Qt::transparent);
+        const QImage faded = fadedImage(QPixmap::fromImage(image), {3, 1}, 154);
+        QCOMPARE(faded.pixelColor(0, 0).alpha(), 154);
+        QCOMPARE(faded.pixelColor(1, 0).alpha(), 77);
+        QCOMPARE(faded.pixelColor(2, 0).alpha(), 0);
+    }
+
+    void anOpaquePictureFadesToo()
+    {
+        QPixmap picture(4, 4);
+        picture.fill(Qt::red);
+        QVERIFY(!picture.hasAlphaChannel());
+        QCOMPARE(fadedImage(picture, {4, 4}, 100).pixelColor(1, 1), QColor(255, 0, 0, 100));
+    }
+
+    void theFadeScalesIntoTheArea()
+    {
+        const QPixmap picture = disc({40, 30}, Qt::green);
+        QImage expected = picture.toImage();
+        QPainter painter(&expected);
+        painter.setCompositionMode(QPainter::CompositionMode_Source);
+        painter.fillRect(0, 0, 20, 20, Qt::transparent);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+        painter.drawPixmap(0, 0, 20, 20, picture);
+        painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+        painter.fillRect(0, 0, 20, 20, QColor(0, 0, 0, 90));
+        painter.end();
+        COMPARE_PICTURES(fadedImage(picture, {20, 20}, 90), expected);
+    }
+
+    void anAlphaOutOfRangeLeavesNothing()
+    {
+        const QPixmap picture = disc({40, 30}, Qt::green);
+        QImage nothing = picture.toImage();
+        nothing.fill(Qt::transparent);
+        for (int alpha : {INT_MIN, -1, 0, 256, INT_MAX})
+            QCOMPARE(fadedImage(picture, picture.size(), alpha), nothing);
+        QCOMPARE(fadedImage(picture, picture.size(), 255), picture.toImage());
+        QVERIFY(fadedImage(QPixmap(), {10, 10}, 154).isNull());
+    }
+
     void aVeiledLookIsComposedOnce()
     {
         ImageLook look;
