@@ -45,6 +45,16 @@ panelkit_class(PlayButton
     SIZE 120 80
     CREATE "new PlayButton(0, 0, 0, {}, {}, parent)")
 
+panelkit_class(SpSetupSlider
+    FAMILY "Sliders"
+    TOOLTIP "Vertical slider for a setting, with its value above and buttons for single steps"
+    SIZE 50 230)
+
+panelkit_class(SpSetupSliderContainer
+    FAMILY "Sliders"
+    TOOLTIP "Page of setup sliders that hands on their signals and turns swipes into page changes"
+    SIZE 400 260)
+
 panelkit_class(SpTableList
     FAMILY "Scrolling lists"
     TOOLTIP "Kinetic list whose rows have icons, texts and seven styles, with clicks on rows and icons"

@@ -176,6 +176,7 @@ private slots:
         row("disableTextColor", 0, [](auto &b) { b.setDisableTextColor(Qt::blue); });
         row("buttonID", 0, [](auto &b) { b.setButtonID(QStringLiteral("x")); });
         row("fontSize", 1, [](auto &b) { b.setFontSize(31); });
+        row("fontSize 1", 1, [](auto &b) { b.setFontSize(1); });
         row("fontSize below 1", 0, [](auto &b) { b.setFontSize(0); });
     }
 
@@ -253,6 +254,17 @@ private slots:
         COMPARE_PICTURES(painted(*button), shown(*button, made));
         button->setImageAlpha(60);
         COMPARE_PICTURES(painted(*button), shown(*button, faded(picture(kNormal), 60, {40, 30})));
+    }
+
+    void eachFadeHasItsOwnAlpha()
+    {
+        SpLockButton button;
+        button.setImageAlpha(60);
+        button.setDisableAlpha(90);
+        button.setNormalImage(picture(kNormal));
+        button.setDisableMode(SpLockButton::Show_NormalImageAlpha);
+        QCOMPARE(button.pressImage().toImage(), faded(picture(kNormal), 60, {40, 30}).toImage());
+        QCOMPARE(button.disableImage().toImage(), faded(picture(kNormal), 90, {40, 30}).toImage());
     }
 
     void inHighlightModeNothingIsMade()

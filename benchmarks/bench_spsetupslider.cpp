@@ -1,0 +1,63 @@
+#include "canvas.h"
+#include "pictures.h"
+#include "rows.h"
+
+#include <QSlider>
+#include <spsetupslider.h>
+
+namespace
+{
+
+constexpr QSize kTrack(20, 240);
+constexpr QSize kKnob(40, 30);
+constexpr int kBand = 30; // px above the track
+constexpr QSize kSize(50, kTrack.height() + kBand);
+constexpr int kLeft = (kSize.width() - kTrack.width()) / 2;
+constexpr int kMiddle = kBand + kTrack.height() / 2; // px, of the knob at 0
+constexpr double kFloorLimit = 1.15;
+
+struct Artwork {
+    QPixmap track = keyPicture(QColor(60, 60, 70), kTrack);
+    QPixmap fill = keyPicture(QColor(40, 90, 160), kTrack);
+    QPixmap knob = keyPicture(QColor(230, 120, 20), kKnob);
+};
+
+const Artwork &artwork()
+{
+    static const Artwork instance;
+    return instance;
+}
+
+void prepare(SpSetupSlider &slider)
+{
+    slider.setSliderNormalImage(artwork().track);
+    slider.setSliderPressImage(artwork().fill);
+    slider.setPointNormalImage(artwork().knob);
+    slider.setPointPressImage(artwork().knob);
+}
+
+} // namespace
+
+void defineRows(Rows &rows, Tag<SpSetupSlider>)
+{
+    const int rowsBelow = kBand + kTrack.height() - 1 - kMiddle;
+    rows.paint("SpSetupSlider", "track and fill", widgetOf<SpSetupSlider>(kSize, prepare),
+               {bareWidget(kSize,
+                           [=](QPainter &painter) {
+                               painter.drawPixmap(kLeft, kBand, artwork().track);
+                               painter.drawPixmap(kLeft, kMiddle, artwork().fill, 0,
+                                                  kMiddle - kBand, kTrack.width(), rowsBelow);
+                           }),
+                kFloorLimit},
+               {{"QSlider style sheet",
+                 widgetOf<QSlider>(
+                     kSize,
+                     [](QSlider &slider) {
+                         slider.setOrientation(Qt::Vertical);
+                         slider.setStyleSheet(QStringLiteral(
+                             "QSlider::groove:vertical { width: 20px; background: #3c3c46; }"
+                             "QSlider::add-page:vertical { background: #285aa0; }"
+                             "QSlider::handle:vertical { height: 30px; background: #e67814; }"));
+                     }),
+                 1.0}});
+}

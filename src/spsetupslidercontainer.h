@@ -1,0 +1,55 @@
+#ifndef SPSETUPSLIDERCONTAINER_H
+#define SPSETUPSLIDERCONTAINER_H
+
+#include "panelkitglobal.h"
+
+#include <QList>
+#include <QPoint>
+#include <QPointF>
+#include <QWidget>
+
+/**
+ * The page on which an application places several SpSetupSlider, such as an equaliser. It hands
+ * their signals on as its own, keeps a point and a value for each of them, and reports a long swipe
+ * to either side as a change of the page.
+ *
+ * Connect valueChangeSig of each slider to valueChangeSlot and its saveDataSig to saveDataSlot.
+ */
+class PANELKIT_EXPORT SpSetupSliderContainer : public QWidget
+{
+    Q_OBJECT
+    Q_PROPERTY(int totalNumber READ totalNumber WRITE setTotalNumber)
+
+public:
+    explicit SpSetupSliderContainer(QWidget *parent = nullptr);
+
+    int totalNumber() const { return m_totalNumber; }
+    void setTotalNumber(int number);
+    QList<QPointF> getPointList() const { return m_pointList; }
+    void setPointList(QList<QPointF> list);
+    QList<int> getValueList() const { return m_valueList; }
+    void setValueList(QList<int> list);
+
+public slots:
+    void valueChangeSlot(int id, int value, QPoint pos);
+    void saveDataSlot();
+
+signals:
+    void valueChangeSig(QList<int> list);
+    void saveDataSig();
+    void valueChangedSig(int id, int value);
+    void pageChanged(bool left);
+
+protected:
+    void paintEvent(QPaintEvent *e) override;
+    void mousePressEvent(QMouseEvent *e) override;
+    void mouseReleaseEvent(QMouseEvent *e) override;
+
+private:
+    QList<QPointF> m_pointList{{0, 0}, {1, 1}}; // one for each slider
+    QList<int> m_valueList{0, 0}; // one for each slider
+    QPoint m_pressPos; // px
+    int m_totalNumber = 2;
+};
+
+#endif // SPSETUPSLIDERCONTAINER_H
