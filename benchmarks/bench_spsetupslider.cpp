@@ -49,15 +49,12 @@ void defineRows(Rows &rows, Tag<SpSetupSlider>)
                                                   kMiddle - kBand, kTrack.width(), rowsBelow);
                            }),
                 kFloorLimit},
-               {{"QSlider style sheet",
-                 widgetOf<QSlider>(
-                     kSize,
-                     [](QSlider &slider) {
-                         slider.setOrientation(Qt::Vertical);
-                         slider.setStyleSheet(QStringLiteral(
-                             "QSlider::groove:vertical { width: 20px; background: #3c3c46; }"
-                             "QSlider::add-page:vertical { background: #285aa0; }"
-                             "QSlider::handle:vertical { height: 30px; background: #e67814; }"));
-                     }),
-                 1.0}});
+               // In plain colours: a style sheet has no picture that ends at the handle.
+               {{"QSlider style sheet", widgetOf<QSlider>(kSize, [](QSlider &slider) {
+                     slider.setOrientation(Qt::Vertical);
+                     slider.setStyleSheet(QStringLiteral(
+                         "QSlider::groove:vertical { width: 20px; background: #3c3c46; }"
+                         "QSlider::add-page:vertical { background: #285aa0; }"
+                         "QSlider::handle:vertical { height: 30px; background: #e67814; }"));
+                 })}});
 }
