@@ -55,6 +55,11 @@ panelkit_class(SpSetupSliderContainer
     TOOLTIP "Page of setup sliders that hands on their signals and turns swipes into page changes"
     SIZE 400 260)
 
+panelkit_class(MHorSlider
+    FAMILY "Sliders"
+    TOOLTIP "Horizontal slider of images, filled from the left end or from the middle"
+    SIZE 260 40)
+
 panelkit_class(SpTableList
     FAMILY "Scrolling lists"
     TOOLTIP "Kinetic list whose rows have icons, texts and seven styles, with clicks on rows and icons"

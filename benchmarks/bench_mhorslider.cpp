@@ -1,0 +1,73 @@
+#include "canvas.h"
+#include "pictures.h"
+#include "rows.h"
+
+#include <mhorslider.h>
+#include <QSlider>
+
+namespace
+{
+
+constexpr QSize kGroove(320, 20);
+constexpr QSize kKnob(40, 40);
+constexpr int kTop = (kKnob.height() - kGroove.height()) / 2;
+constexpr int kMiddle = kGroove.width() / 2; // px, of the knob at 0
+constexpr QSize kSize(kGroove.width(), kKnob.height());
+constexpr double kFloorLimit = 1.15;
+
+struct Artwork {
+    QPixmap groove = keyPicture(QColor(60, 60, 70), kGroove);
+    QPixmap fill = keyPicture(QColor(40, 90, 160), kGroove);
+    QPixmap knob = keyPicture(QColor(230, 120, 20), kKnob);
+};
+
+const Artwork &artwork()
+{
+    static const Artwork instance;
+    return instance;
+}
+
+PaintingMaker slider(bool isNormal, int value)
+{
+    return widgetOf<MHorSlider>(kSize, [=](MHorSlider &slider) {
+        slider.setIsNormal(isNormal);
+        slider.setSliderNormalImage(artwork().groove);
+        slider.setSliderPressImage(artwork().fill);
+        slider.setPointNormalImage(artwork().knob);
+        slider.setPointPressImage(artwork().knob);
+        slider.setCurrentValue(value);
+    });
+}
+
+// The groove with the columns from `left` to `right` filled.
+PaintingMaker floorOf(int left, int right)
+{
+    return bareWidget(kSize, [=](QPainter &painter) {
+        painter.drawPixmap(0, kTop, artwork().groove);
+        painter.drawPixmap(left, kTop, artwork().fill, left, 0, right - left + 1, kGroove.height());
+    });
+}
+
+// In plain colours: a style sheet has no picture that ends at the handle.
+PaintingMaker styledSlider()
+{
+    return widgetOf<QSlider>(kSize, [](QSlider &slider) {
+        slider.setOrientation(Qt::Horizontal);
+        slider.setStyleSheet(
+            QStringLiteral("QSlider::groove:horizontal { height: 20px; background: #3c3c46; }"
+                           "QSlider::sub-page:horizontal { background: #285aa0; }"
+                           "QSlider::handle:horizontal { width: 40px; background: #e67814; }"));
+    });
+}
+
+} // namespace
+
+void defineRows(Rows &rows, Tag<MHorSlider>)
+{
+    const int knobAtEnd = kSize.width() - kKnob.width();
+    rows.paint("MHorSlider", "from the left", slider(true, 0),
+               {floorOf(0, kMiddle - 1), kFloorLimit}, {{"QSlider style sheet", styledSlider()}});
+    rows.paint("MHorSlider", "from the middle", slider(false, 5),
+               {floorOf(kMiddle + 2, knobAtEnd + kKnob.width() / 2 - 1), kFloorLimit},
+               {{"QSlider style sheet", styledSlider()}});
+}
