@@ -60,6 +60,12 @@ panelkit_class(MHorSlider
     TOOLTIP "Horizontal slider of images, filled from the left end or from the middle"
     SIZE 260 40)
 
+panelkit_class(MProgressBar
+    FAMILY "Progress"
+    TOOLTIP "Playback bar that can be dragged, in images or plain colours"
+    SIZE 400 60
+    INITIAL ponitRadius=24)
+
 panelkit_class(SpTableList
     FAMILY "Scrolling lists"
     TOOLTIP "Kinetic list whose rows have icons, texts and seven styles, with clicks on rows and icons"

@@ -507,6 +507,21 @@ private slots:
         }
     }
 
+    // Nothing has placed the knob yet, and nothing has cut the fill.
+    void withButtonsAValueOutOfRangeLeavesTheTrackFull()
+    {
+        SpSetupSlider slider;
+        slider.setMinValue(1);
+        slider.setHasAddDecBtn(1);
+        givePictures(slider);
+        slider.setAddBtnNormalImage(pictures().add);
+        slider.setDecBtnNormalImage(pictures().dec);
+        slider.setDecBtnPressImage(pictures().decPressed);
+        COMPARE_PICTURES(paintedItself(slider), reference(slider, [](QPainter &painter) {
+                             painter.drawPixmap(15, 54, pictures().fill);
+                         }));
+    }
+
     void withoutAPictureNoFillIsDrawn()
     {
         SpSetupSlider slider;
