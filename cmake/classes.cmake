@@ -66,6 +66,17 @@ panelkit_class(MProgressBar
     SIZE 400 60
     INITIAL ponitRadius=24)
 
+panelkit_class(MOProgress
+    FAMILY "Progress"
+    TOOLTIP "Progress as a ring with percentage and caption"
+    SIZE 220 220)
+
+panelkit_class(SpLoadingRound
+    FAMILY "Progress"
+    TOOLTIP "Busy ring of twelve spokes that turns, and a mask for touches"
+    SIZE 80 80
+    INITIAL "painterColor=#2f7fc6")
+
 panelkit_class(SpTableList
     FAMILY "Scrolling lists"
     TOOLTIP "Kinetic list whose rows have icons, texts and seven styles, with clicks on rows and icons"

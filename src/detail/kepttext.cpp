@@ -63,6 +63,14 @@ qreal leftOf(Qt::LayoutDirection direction, int flags, qreal spare)
     return alignment & Qt::AlignHCenter ? spare / 2 : 0;
 }
 
+// Where drawText() puts a line: it takes the place in 64ths of a pixel, truncated toward zero
+// before any translation of the painter.
+QPointF placed(const QPointF &point)
+{
+    constexpr qreal kUnit = 64;
+    return {std::trunc(point.x() * kUnit) / kUnit, std::trunc(point.y() * kUnit) / kUnit};
+}
+
 QPointF fractionOf(const QPointF &point)
 {
     return {point.x() - std::floor(point.x()), point.y() - std::floor(point.y())};
@@ -84,26 +92,25 @@ void KeptText::draw(QPainter &painter, const QRectF &rect, int flags, const QStr
     } else if (m_isClipped) {
         painter.save();
         painter.setClipRect(rect, Qt::IntersectClip);
-        painter.drawStaticText(rect.topLeft() + m_offset, m_static);
+        painter.drawStaticText(placed(rect.topLeft() + m_offset), m_static);
         painter.restore();
     } else {
-        painter.drawStaticText(rect.topLeft() + m_offset, m_static);
+        painter.drawStaticText(placed(rect.topLeft() + m_offset), m_static);
     }
 }
 
 bool KeptText::isCurrent(const QPainter &painter, const QRectF &rect, int flags,
                          const QString &text) const
 {
-    return m_layouts > 0 && m_size == rect.size() && m_fraction == fractionOf(rect.topLeft())
-        && m_flags == flags && m_direction == painter.layoutDirection() && m_text == text
-        && m_font == painter.font();
+    return m_layouts > 0 && m_size == rect.size() && m_flags == flags
+        && m_direction == painter.layoutDirection() && m_text == text && m_font == painter.font()
+        && (!m_isPlain || m_fraction == fractionOf(placed(rect.topLeft() + m_offset)));
 }
 
 void KeptText::layOut(QPainter &painter, const QRectF &rect, int flags, const QString &text)
 {
     m_text = text;
     m_size = rect.size();
-    m_fraction = fractionOf(rect.topLeft());
     m_flags = flags;
     m_font = painter.font();
     m_direction = painter.layoutDirection();
@@ -119,6 +126,7 @@ void KeptText::layOut(QPainter &painter, const QRectF &rect, int flags, const QS
     const QRectF bounds = painter.boundingRect(atOrigin, flags, text);
     m_offset = {leftOf(m_direction, flags, m_size.width() - advanceOf(painter, option, text)),
                 bounds.top()};
+    m_fraction = fractionOf(placed(rect.topLeft() + m_offset));
     m_isClipped = !atOrigin.contains(bounds);
     m_static = QStaticText(text);
     m_static.setTextFormat(Qt::PlainText);

@@ -32,8 +32,7 @@ private:
 
     QString m_text;
     QSizeF m_size; // of the rectangle
-    QPointF
-        m_fraction; // of a pixel at which it begins: a static text moves well by whole ones only
+    QPointF m_fraction; // of a pixel where the text stands: it moves well by whole ones only
     int m_flags = 0;
     QFont m_font;
     Qt::LayoutDirection m_direction = Qt::LeftToRight;

@@ -137,6 +137,30 @@ private slots:
         }
     }
 
+    // drawText() truncates a place left of or above the origin the other way.
+    void placesBeforeTheOriginAreTruncatedAsByDrawText()
+    {
+        const QString text = QStringLiteral("Updating");
+        KeptText kept;
+        for (int size = 8; size < 40; size += 3) {
+            QFont font(QStringLiteral("DejaVu Sans"));
+            font.setPixelSize(size);
+            for (int i = 0; i < 40; ++i) {
+                const QRectF rect(qreal(i * 0.3 - 105), qreal(-20 - i * 0.7), qreal(100 + i), 40);
+                const auto drawn = [&](const std::function<void(QPainter &)> &paint) {
+                    return onCanvas([&](QPainter &p) {
+                        p.translate(QPoint(110, 50));
+                        p.setFont(font);
+                        paint(p);
+                    });
+                };
+                COMPARE_PICTURES(
+                    drawn([&](QPainter &p) { kept.draw(p, rect, Qt::AlignCenter, text); }),
+                    drawn([&](QPainter &p) { p.drawText(rect, Qt::AlignCenter, text); }));
+            }
+        }
+    }
+
     void anUnchangedTextIsLaidOutOnce()
     {
         KeptText kept;

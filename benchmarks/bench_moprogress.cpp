@@ -1,0 +1,66 @@
+#include "canvas.h"
+#include "rows.h"
+
+#include <moprogress.h>
+#include <QFontMetricsF>
+#include <QPainterPath>
+#include <QProgressBar>
+#include <QStaticText>
+
+namespace
+{
+
+constexpr QSize kSize(220, 220);
+constexpr double kFloorLimit = 1.15;
+
+// The paths and layouts of a ring of 100 px at 50 %, made once.
+struct Prepared {
+    QPainterPath disc;
+    QPainterPath ring;
+    QPainterPath done;
+    QStaticText percentage{QStringLiteral("50%")};
+    QPointF percentageAt;
+
+    Prepared()
+    {
+        const QRectF square(-100, -100, 200, 200);
+        QPainterPath inside;
+        inside.addEllipse(square.adjusted(20, 20, -20, -20));
+        disc.arcMoveTo(square, 0);
+        disc.arcTo(square, 0, 360);
+        ring = disc - inside;
+        done.arcTo(square, 90, -180);
+        done = done - inside;
+        percentage.setTextFormat(Qt::PlainText);
+        percentageAt = QFontMetricsF(QFont())
+                           .boundingRect(QRectF(-100, -100, 200, 120),
+                                         Qt::AlignHCenter | Qt::AlignBottom, QStringLiteral("50%"))
+                           .topLeft();
+    }
+};
+
+PaintingMaker floorRing()
+{
+    return bareWidget(kSize, [prepared = Prepared()](QPainter &painter) {
+        painter.translate(110, 110);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setBrush(QColor(0, 0, 0, 100));
+        painter.drawPath(prepared.disc);
+        painter.setBrush(QColor(150, 150, 150, 100));
+        painter.setPen(QColor(255, 255, 255));
+        painter.drawPath(prepared.ring);
+        painter.setBrush(QColor(255, 125, 0));
+        painter.drawPath(prepared.done);
+        painter.drawStaticText(prepared.percentageAt, prepared.percentage);
+    });
+}
+
+} // namespace
+
+void defineRows(Rows &rows, Tag<MOProgress>)
+{
+    rows.paint("MOProgress", "half done", widgetOf<MOProgress>(kSize, [](MOProgress &) {}),
+               {floorRing(), kFloorLimit},
+               {{"QProgressBar",
+                 widgetOf<QProgressBar>(kSize, [](QProgressBar &bar) { bar.setValue(50); })}});
+}

@@ -1,0 +1,284 @@
+#include <MOProgress>
+
+#include "signallog.h"
+#include "touch.h"
+#include "widgettest.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <climits>
+#include <memory>
+
+namespace
+{
+
+// The documented picture, made anew each time.
+QImage documented(const MOProgress &ring)
+{
+    return reference(ring, [&](QPainter &p) {
+        const int r = ring.radius();
+        const int h = ring.arcHeight();
+        if (h >= r)
+            return;
+        p.setRenderHint(QPainter::Antialiasing);
+        p.translate(QPoint(ring.width() / 2, ring.height() / 2));
+        const QRectF square(QRect(-r, -r, 2 * r, 2 * r));
+        const int value = qBound(0, ring.currentValue(), 100);
+        QPainterPath disc;
+        disc.arcMoveTo(square, 0);
+        disc.arcTo(square, 0, 360);
+        QPainterPath inside;
+        inside.addEllipse(QRectF(QRect(-r + h, -r + h, 2 * r - 2 * h, 2 * r - 2 * h)));
+        p.setBrush(ring.insideColor());
+        p.drawPath(disc);
+        p.setBrush(ring.normalColor());
+        if (ring.boundary())
+            p.setPen(QPen(QBrush(ring.boundaryColor(), Qt::SolidPattern), qreal(1), Qt::SolidLine,
+                          Qt::SquareCap, Qt::BevelJoin));
+        else
+            p.setPen(Qt::NoPen);
+        p.drawPath(disc - inside);
+        QPainterPath sector;
+        sector.arcTo(square, 90, qreal((value * 360) / -100));
+        p.setBrush(ring.pressColor());
+        if (value != 0)
+            p.drawPath(sector - inside);
+        p.setPen(ring.displayTextColor());
+        const qreal split = qreal(2 * r * 3.0 / 5.0);
+        p.drawText(QRectF(qreal(-r), qreal(-r), qreal(2 * r), split),
+                   Qt::AlignHCenter | Qt::AlignBottom, QString::number(value) + QLatin1Char('%'));
+        QFont font;
+        font.setPixelSize(ring.fontSize());
+        p.setFont(font);
+        p.drawText(QRectF(qreal(-r), qreal(-r) + split, qreal(2 * r), qreal(2 * r * 2.0 / 5.0)),
+                   Qt::AlignHCenter | Qt::AlignTop, ring.dispalyText());
+    });
+}
+
+std::unique_ptr<MOProgress> makeRing()
+{
+    auto ring = std::make_unique<MOProgress>();
+    ring->resize(221, 211);
+    return ring;
+}
+
+// Handlers are called with what a subclass may hand them.
+class Handlers : public MOProgress
+{
+public:
+    using MOProgress::mouseReleaseEvent;
+};
+
+using Action = std::function<void(MOProgress &)>;
+
+} // namespace
+
+Q_DECLARE_METATYPE(Action)
+
+class tst_MOProgress : public WidgetTest
+{
+    Q_OBJECT
+
+private slots:
+    void defaults()
+    {
+        MOProgress ring;
+        QCOMPARE(ring.itemID(), 0);
+        QCOMPARE(ring.currentValue(), 50);
+        QCOMPARE(ring.radius(), 100);
+        QCOMPARE(ring.normalColor(), QColor(150, 150, 150, 100));
+        QCOMPARE(ring.pressColor(), QColor(255, 125, 0, 255));
+        QCOMPARE(ring.boundary(), true);
+        QCOMPARE(ring.boundaryColor(), QColor(255, 255, 255, 255));
+        QCOMPARE(ring.arcHeight(), 20);
+        QCOMPARE(ring.insideColor(), QColor(0, 0, 0, 100));
+        QCOMPARE(ring.fontSize(), 25);
+        QCOMPARE(ring.dispalyText(), QString());
+        QCOMPARE(ring.displayTextColor(), QColor(255, 255, 255, 255));
+    }
+
+    void settersRepaintOnAChangeOnly_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<int>("repaintsOnChange");
+        QTest::addColumn<int>("repaintsOtherwise");
+        const auto row = [](const char *name, const QVariant &value, int change, int otherwise) {
+            QTest::newRow(name) << QByteArray(name) << value << change << otherwise;
+        };
+        row("itemID", 3, 0, 0);
+        row("currentValue", 51, 1, 0);
+        row("radius", 90, 1, 0);
+        row("normalColor", QColor(Qt::red), 1, 0);
+        row("pressColor", QColor(Qt::red), 1, 0);
+        row("boundary", false, 1, 0);
+        row("boundaryColor", QColor(Qt::red), 1, 0);
+        row("arcHeight", 21, 1, 0);
+        row("insideColor", QColor(Qt::red), 1, 0);
+        row("fontSize", 26, 1, 0);
+        row("dispalyText", QStringLiteral("x"), 1, 1);
+        row("displayTextColor", QColor(Qt::red), 1, 0);
+    }
+
+    void settersRepaintOnAChangeOnly()
+    {
+        QFETCH(QByteArray, name);
+        QFETCH(QVariant, value);
+        const auto ring = makeRing();
+        show(*ring);
+        const auto set = [&] {
+            ring->setProperty(name.constData(), value);
+        };
+        QTEST(paints(*ring, set), "repaintsOnChange");
+        QCOMPARE(ring->property(name.constData()), value);
+        QTEST(paints(*ring, set), "repaintsOtherwise");
+    }
+
+    void fontSizesBelowOneAreIgnored()
+    {
+        MOProgress ring;
+        for (int size : {0, -1, INT_MIN})
+            ring.setFontSize(size);
+        QCOMPARE(ring.fontSize(), 25);
+        ring.setFontSize(1);
+        QCOMPARE(ring.fontSize(), 1);
+    }
+
+    // --- Looks ----------------------------------------------------------------------------------
+
+    void pictures_data()
+    {
+        QTest::addColumn<int>("value");
+        QTest::addColumn<bool>("boundary");
+        for (int value = 0; value <= 100; ++value)
+            QTest::addRow("%d", value) << value << (value % 2 == 0);
+        QTest::newRow("100, plain") << 100 << false;
+        QTest::newRow("0, plain") << 0 << false;
+        QTest::newRow("1, outlined") << 1 << true;
+    }
+
+    void pictures()
+    {
+        QFETCH(int, value);
+        QFETCH(bool, boundary);
+        const auto ring = makeRing();
+        ring->setCurrentValue(value);
+        ring->setBoundary(boundary);
+        ring->setDispalyText(QStringLiteral("Updating"));
+        COMPARE_PICTURES(painted(*ring), documented(*ring));
+        COMPARE_PICTURES(painted(*ring), documented(*ring)); // from what is kept
+    }
+
+    void everySetterShowsAtTheNextPaint()
+    {
+        const auto ring = makeRing();
+        ring->setDispalyText(QStringLiteral("Updating"));
+        for (const Action &action :
+             {Action([](auto &r) { r.setCurrentValue(70); }),
+              Action([](auto &r) { r.setRadius(80); }),
+              Action([](auto &r) { r.setNormalColor(Qt::green); }),
+              Action([](auto &r) { r.setPressColor(Qt::red); }),
+              Action([](auto &r) { r.setBoundaryColor(Qt::blue); }),
+              Action([](auto &r) { r.setArcHeight(31); }),
+              Action([](auto &r) { r.setInsideColor(Qt::darkGray); }),
+              Action([](auto &r) { r.setFontSize(12); }),
+              Action([](auto &r) { r.setDispalyText(QStringLiteral("Ready")); }),
+              Action([](auto &r) { r.setDisplayTextColor(Qt::cyan); }), Action([](auto &r) {
+                  QFont font;
+                  font.setPixelSize(33);
+                  r.setFont(font);
+              }),
+              Action([](auto &r) { r.resize(240, 300); })}) {
+            action(*ring);
+            COMPARE_PICTURES(painted(*ring), documented(*ring));
+        }
+    }
+
+    void thePaintLimitsTheValueAndWritesItBack()
+    {
+        const auto ring = makeRing();
+        ring->setCurrentValue(150);
+        QCOMPARE(ring->currentValue(), 150);
+        COMPARE_PICTURES(painted(*ring), documented(*ring));
+        QCOMPARE(ring->currentValue(), 100);
+        ring->setCurrentValue(-1);
+        painted(*ring);
+        QCOMPARE(ring->currentValue(), 0);
+    }
+
+    void aRingAsThickAsItsRadiusIsNotDrawn()
+    {
+        const auto ring = makeRing();
+        ring->setCurrentValue(150);
+        for (int height : {100, 101, INT_MAX}) {
+            ring->setArcHeight(height);
+            COMPARE_PICTURES(painted(*ring), reference(*ring, [](QPainter &) {}));
+        }
+        QCOMPARE(ring->currentValue(), 150); // nothing has limited it
+        ring->setArcHeight(99);
+        COMPARE_PICTURES(painted(*ring), documented(*ring));
+    }
+
+    // --- Touches --------------------------------------------------------------------------------
+
+    void aReleaseIsReported()
+    {
+        const auto ring = makeRing();
+        ring->setItemID(7);
+        SignalLog log(ring.get());
+        Touch finger = touch(ring.get());
+        finger.press(5, 5);
+        QVERIFY(!finger.wasAccepted());
+        finger.moveTo(500, 500).release();
+        QVERIFY(!finger.wasAccepted());
+        QCoreApplication::processEvents();
+        QCOMPARE(log.take(), QStringList{QStringLiteral("btnClicked(7)")});
+    }
+
+    void aDisabledRingReportsNothing()
+    {
+        Handlers ring;
+        ring.setEnabled(false);
+        SignalLog log(&ring);
+        QMouseEvent release(QEvent::MouseButtonRelease, QPointF(5, 5), Qt::LeftButton, Qt::NoButton,
+                            Qt::NoModifier);
+        ring.mouseReleaseEvent(&release);
+        QCOMPARE(log.take(), QStringList());
+        QVERIFY(!release.isAccepted());
+        ring.setEnabled(true);
+        ring.mouseReleaseEvent(nullptr);
+        QCOMPARE(log.take(), QStringList{QStringLiteral("btnClicked(0)")});
+    }
+
+    // --- Robustness -----------------------------------------------------------------------------
+
+    void hostileNumbers()
+    {
+        const int numbers[] = {INT_MIN, -100000, -1, 0, 1, 40000, INT_MAX};
+        const auto ring = makeRing();
+        for (const int radius : numbers) {
+            for (const int height : numbers) {
+                ring->setRadius(radius);
+                ring->setArcHeight(height);
+                ring->setCurrentValue(radius);
+                QVERIFY(cpuTime([&] { painted(*ring); }) < 2000);
+                ring->setCurrentValue(33);
+                QVERIFY(cpuTime([&] { painted(*ring); }) < 2000);
+            }
+        }
+    }
+
+    void aRingMayBeDeletedByItsReport()
+    {
+        auto *ring = makeRing().release();
+        const QPointer<MOProgress> guard(ring);
+        connect(ring, &MOProgress::btnClicked, ring, [ring] { delete ring; });
+        touch(ring).tap(5, 5);
+        QVERIFY(!guard);
+    }
+};
+
+WIDGET_TEST_MAIN(tst_MOProgress)
+#include "tst_moprogress.moc"
