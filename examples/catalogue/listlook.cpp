@@ -47,7 +47,7 @@ void darken(SpTableList &list)
 void giveBackgrounds(SpTableList &list, const QSize &size)
 {
     list.setNormalImage(rowPicture(size, QColor(0x24, 0x2b, 0x36)));
-    list.setPressImage(rowPicture(size, QColor(0x1f, 0x5f, 0x9a)));
+    list.setPressImage(rowPicture(size, QColor(0x14, 0x42, 0x70))); // gray text stands out on it
 }
 
 QPixmap keyPicture(const QString &key, const QString &drawing, const QSize &size)

@@ -16,7 +16,7 @@ namespace ListLook
 /// glass.
 void darken(SpTableList &list);
 
-/// Backgrounds of this size for its rows, of which the pressed one is bright.
+/// Backgrounds of this size for its rows, of which the pressed one is blue.
 void giveBackgrounds(SpTableList &list, const QSize &size);
 
 /// A drawing of Art on a round key of it.

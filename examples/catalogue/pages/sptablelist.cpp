@@ -189,8 +189,9 @@ void defineNumberedPage(PagesOf<SpTableList> &pages)
         .touches("highlight",
                  [](SpTableList &list, Touch &touch) {
                      giveBackgrounds(list);
+                     list.setHightColor(Qt::white);
                      list.setHighlightFlag(true);
-                     touch.press({200, 150}).hold(100).release().hold(200).picture();
+                     touch.press({200, 210}).hold(100).release().hold(200).picture();
                  })
         .emptyState("blank", [](SpTableList &list) {
             list.setUseDefaultStyle(false);
