@@ -336,7 +336,7 @@ void styleDelegate::clearRollData()
 void styleDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                           const QModelIndex &index) const
 {
-    if (!m_useIt)
+    if (!m_useIt || !painter)
         return;
     Row row(painter, option, index);
     row.isPressed = m_itemPressed && (option.state & QStyle::State_Selected);

@@ -220,6 +220,13 @@ class Watching : public SpTableList
 public:
     QVector<QRect> painted;
 
+    using SpTableList::hideEvent;
+    using SpTableList::mouseMoveEvent;
+    using SpTableList::mousePressEvent;
+    using SpTableList::mouseReleaseEvent;
+    using SpTableList::showEvent;
+    using SpTableList::timerEvent;
+
 protected:
     void paintEvent(QPaintEvent *e) override
     {
@@ -1983,6 +1990,23 @@ private slots:
         connect(list->verticalScrollBar(), &QScrollBar::valueChanged, this, [&] { delete guard; });
         virtualtime::advance(1000);
         QVERIFY(!guard);
+    }
+
+    void noEventIsNoHarm()
+    {
+        Rows rows(100, kLongText);
+        const auto list = makeRolling(&rows);
+        list->setHighlightFlag(true);
+        show(*list);
+        SignalLog log(list.get());
+        list->timerEvent(nullptr);
+        list->mousePressEvent(nullptr);
+        list->mouseMoveEvent(nullptr);
+        list->mouseReleaseEvent(nullptr);
+        list->hideEvent(nullptr);
+        list->showEvent(nullptr);
+        virtualtime::advance(5000);
+        QCOMPARE(log.take(), QStringList());
     }
 
     void hostileNumbersAreNoHarm()

@@ -1468,6 +1468,12 @@ private slots:
         }
     }
 
+    void noPainterIsNoHarm()
+    {
+        Subject s(allRoles(-1));
+        s.delegate.paint(nullptr, s.option, s.model.index(0, 0));
+    }
+
     void anIndexThatIsNoneIsNoHarm()
     {
         Subject s;
