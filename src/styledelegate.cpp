@@ -1,6 +1,7 @@
 #include "styledelegate.h"
 
 #include "detail/arithmetic.h"
+#include "detail/deviceview.h"
 #include "detail/geometry.h"
 #include "detail/imagelook.h"
 #include "detail/kepttexts.h"
@@ -8,7 +9,6 @@
 
 #include <QFontMetrics>
 #include <QPainter>
-#include <QTransform>
 
 #include <utility>
 
@@ -68,11 +68,10 @@ QFont resized(QFont font, int px)
     return font;
 }
 
-// One unit is one pixel of the device, and a line of it has no soft edges.
+// A line has no soft edges.
 bool paintsWholePixels(const QPainter &painter)
 {
-    return painter.deviceTransform().type() <= QTransform::TxTranslate
-        && !painter.testRenderHint(QPainter::Antialiasing);
+    return isOnPixels(painter) && !painter.testRenderHint(QPainter::Antialiasing);
 }
 
 } // namespace

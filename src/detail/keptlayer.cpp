@@ -18,20 +18,15 @@ namespace
 
 constexpr double kFarthest = 1 << 24; // px, no widget is larger
 
-constexpr double kHardlyAny = 0.01; // px, what rounding leaves of a whole number
-
 // Whether the device's coordinates are those of the painter, moved by whole pixels. They are where
 // a widget stands in a window, but not where it is rendered through a painter that scales it.
-bool isOnPixels(const QPainter &painter)
+bool isMovedByPixels(const QPainter &painter)
 {
     const QTransform &own = painter.worldTransform();
     const QTransform &device = painter.deviceTransform();
-    const auto isWhole = [](double offset) {
-        return std::abs(offset - std::round(offset)) <= kHardlyAny;
-    };
     return device.m11() == own.m11() && device.m12() == own.m12() && device.m21() == own.m21()
-        && device.m22() == own.m22() && isWhole(device.dx() - own.dx())
-        && isWhole(device.dy() - own.dy());
+        && device.m22() == own.m22() && isWholePixels(device.dx() - own.dx())
+        && isWholePixels(device.dy() - own.dy());
 }
 
 // Pixels kept for one device are right where they are copied one to one.
@@ -39,7 +34,7 @@ bool canCopyPixels(const QPainter &painter)
 {
     return painter.paintEngine()->type() == QPaintEngine::Raster && painter.opacity() >= 1
         && painter.compositionMode() == QPainter::CompositionMode_SourceOver
-        && !painter.viewTransformEnabled() && isOnPixels(painter)
+        && !painter.viewTransformEnabled() && isMovedByPixels(painter)
         && qFuzzyCompare(painter.paintEngine()->paintDevice()->devicePixelRatioF(), qreal(1));
 }
 

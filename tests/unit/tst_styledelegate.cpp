@@ -1315,6 +1315,10 @@ private slots:
         QTest::addColumn<Paint>("prepare");
         QTest::newRow("plain") << Paint([](QPainter &) {});
         QTest::newRow("moved") << Paint([](QPainter &p) { p.translate(3, -2); });
+        for (int tenths = -9; tenths < 10; tenths += 3) {
+            QTest::addRow("moved by %d tenths of a pixel", tenths) << Paint(
+                [tenths](QPainter &p) { p.translate(qreal(tenths) / 10, qreal(tenths) / 10); });
+        }
         QTest::newRow("enlarged") << Paint([](QPainter &p) { p.scale(1.5, 1.25); });
         QTest::newRow("turned") << Paint([](QPainter &p) { p.rotate(2); });
         QTest::newRow("smooth") << Paint(
