@@ -13,8 +13,6 @@ constexpr QSize kSize(160, 400);
 constexpr int kRange = 100;
 constexpr int kValue = 37;
 constexpr double kFloorLimit = 1.2;
-constexpr double kArcFloorLimit =
-    1.4; // two turned layers are two comparisons of what they depend on
 constexpr double kPeerLimit = 1;
 
 const QPixmap &knob()
@@ -38,7 +36,23 @@ struct Stamp {
     QImage image;
 };
 
-template <class Draw> Stamp stamp(const QRect &place, Draw draw)
+// The rectangle of what is not empty, out to where a vector register's worth of pixels begins:
+// single pixels at the ends of a line cost more than whole registers.
+QRect inkRect(const QImage &image)
+{
+    constexpr int kAlignment = 7; // px, the bits of eight pixels
+    QRect ink;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixel(x, y) != 0)
+                ink |= QRect(x, y, 1, 1);
+        }
+    }
+    return {QPoint(ink.left() & ~kAlignment, ink.top()),
+            QPoint(ink.right() | kAlignment, ink.bottom())};
+}
+
+template <class Draw> Stamp stamp(Draw draw)
 {
     QImage image(kSize, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
@@ -49,12 +63,13 @@ template <class Draw> Stamp stamp(const QRect &place, Draw draw)
     painter.rotate(90);
     draw(painter);
     painter.end();
-    return {place.topLeft(), image.copy(place)};
+    const QRect ink = inkRect(image);
+    return {ink.topLeft(), image.copy(ink)};
 }
 
 Stamp ticks()
 {
-    return stamp({40, 20, 62, 360}, [](QPainter &painter) {
+    return stamp([](QPainter &painter) {
         painter.rotate(162);
         for (int i = 0; i <= kRange; ++i) {
             painter.drawLine(QLineF(0, qreal(0.9299999999999999 * 570), 0, qreal(0.98 * 570)));
@@ -65,7 +80,7 @@ Stamp ticks()
 
 Stamp triangle()
 {
-    return stamp({0, 150, 112, 40}, [](QPainter &painter) {
+    return stamp([](QPainter &painter) {
         painter.rotate(162 - 180);
         painter.rotate(qreal(36.0 / kRange * kValue));
         painter.setPen(Qt::NoPen);
@@ -76,7 +91,7 @@ Stamp triangle()
 
 Stamp turnedKnob()
 {
-    return stamp({55, 120, 60, 60}, [](QPainter &painter) {
+    return stamp([](QPainter &painter) {
         painter.rotate(162 - 180);
         painter.rotate(qreal(36.0 / kRange * kValue));
         painter.drawPixmap(-22, -570, knob());
@@ -133,12 +148,10 @@ StepMaker slide()
 void defineRows(Rows &rows, Tag<MArcScrollBar>)
 {
     rows.paint("MArcScrollBar", "arc", bar([](MArcScrollBar &) {}),
-               {floorOf(ticks(), triangle()), kArcFloorLimit},
-               {{"QScrollBar", peer(), kPeerLimit}});
+               {floorOf(ticks(), triangle()), kFloorLimit}, {{"QScrollBar", peer(), kPeerLimit}});
     rows.paint("MArcScrollBar", "arc with picture",
                bar([](MArcScrollBar &b) { b.setPointPixmap(knob()); }),
-               {floorOf(ticks(), turnedKnob()), kArcFloorLimit},
-               {{"QScrollBar", peer(), kPeerLimit}});
+               {floorOf(ticks(), turnedKnob()), kFloorLimit}, {{"QScrollBar", peer(), kPeerLimit}});
     rows.paint("MArcScrollBar", "straight", bar([](MArcScrollBar &b) {
                    b.setRadius(0);
                    b.setPointPixmap(knob());

@@ -140,21 +140,40 @@ StepMaker dragSteps(int count)
     };
 }
 
-// The ticks of a fling; after a hundred of them another one is begun where the first one was.
+void tick(SpTableList &list)
+{
+    QMetaObject::invokeMethod(&list, "speedTimerSlot");
+}
+
+// Flings the list from its start. A finger that took too long, or that moved while a minute ended,
+// has flung nothing: it tries again.
+void fling(SpTableList &list)
+{
+    const QScrollBar *bar = list.verticalScrollBar();
+    int before = 0;
+    do {
+        list.verticalScrollBar()->setValue(0);
+        sendMouse(list.viewport(), QEvent::MouseButtonPress, kSize.height() - 1);
+        sendMouse(list.viewport(), QEvent::MouseMove, 0);
+        QThread::msleep(5);
+        sendMouse(list.viewport(), QEvent::MouseButtonRelease, 0);
+        before = bar->value();
+        tick(list);
+    } while (bar->value() == before);
+}
+
+// The ticks of a fling. Another one is begun in time: even the slowest lasts for this many.
 StepMaker flingTicks(int count)
 {
     return [count] {
+        constexpr int kTicks = 20;
         const auto list = shownList(count);
         const auto ticks = std::make_shared<int>(0);
         return [list, ticks] {
-            if ((*ticks)++ % 100 == 0) {
-                list->verticalScrollBar()->setValue(0);
-                sendMouse(list->viewport(), QEvent::MouseButtonPress, 400);
-                sendMouse(list->viewport(), QEvent::MouseMove, 100);
-                QThread::msleep(5);
-                sendMouse(list->viewport(), QEvent::MouseButtonRelease, 100);
-            }
-            QMetaObject::invokeMethod(list.get(), "speedTimerSlot");
+            if ((*ticks)++ % kTicks == 0)
+                fling(*list);
+            else
+                tick(*list);
         };
     };
 }

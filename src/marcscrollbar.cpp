@@ -61,8 +61,7 @@ bool drawsRows(const QPainter &painter)
 {
     const QPen &pen = painter.pen();
     return pen.style() == Qt::SolidLine && pen.widthF() <= 1
-        && !painter.testRenderHint(QPainter::Antialiasing)
-        && painter.deviceTransform().type() <= QTransform::TxTranslate;
+        && !painter.testRenderHint(QPainter::Antialiasing) && isOnPixels(painter);
 }
 
 } // namespace

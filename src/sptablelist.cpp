@@ -378,6 +378,8 @@ void SpTableList::listModelReset()
 /** Every timer event goes on to QTableView, which has timers of its own. */
 void SpTableList::timerEvent(QTimerEvent *e)
 {
+    if (!e)
+        return;
     const QPointer<SpTableList> guard(this);
     const int timer = e->timerId();
     if (timer == m_clickTimer) {
@@ -404,6 +406,8 @@ void SpTableList::timerEvent(QTimerEvent *e)
  */
 void SpTableList::mousePressEvent(QMouseEvent *e)
 {
+    if (!e)
+        return;
     m_isFirstMove = true;
     stop(m_clickTimer);
     // The delegate keeps the number of the timer that is gone, on purpose: with it, long texts are
@@ -443,6 +447,8 @@ void SpTableList::mousePressEvent(QMouseEvent *e)
  */
 void SpTableList::mouseMoveEvent(QMouseEvent *e)
 {
+    if (!e)
+        return;
     const QPointer<SpTableList> guard(this);
     {
         const ScrollingPause pause(this);
@@ -481,6 +487,8 @@ void SpTableList::mouseMoveEvent(QMouseEvent *e)
  */
 void SpTableList::mouseReleaseEvent(QMouseEvent *e)
 {
+    if (!e)
+        return;
     const QPointer<SpTableList> guard(this);
     QAbstractItemView::mouseReleaseEvent(e);
     if (!guard)

@@ -1,6 +1,7 @@
 #include "styledelegate.h"
 
 #include "detail/arithmetic.h"
+#include "detail/deviceview.h"
 #include "detail/geometry.h"
 #include "detail/imagelook.h"
 #include "detail/kepttexts.h"
@@ -8,7 +9,6 @@
 
 #include <QFontMetrics>
 #include <QPainter>
-#include <QTransform>
 
 #include <utility>
 
@@ -68,11 +68,10 @@ QFont resized(QFont font, int px)
     return font;
 }
 
-// One unit is one pixel of the device, and a line of it has no soft edges.
+// A line has no soft edges.
 bool paintsWholePixels(const QPainter &painter)
 {
-    return painter.deviceTransform().type() <= QTransform::TxTranslate
-        && !painter.testRenderHint(QPainter::Antialiasing);
+    return isOnPixels(painter) && !painter.testRenderHint(QPainter::Antialiasing);
 }
 
 } // namespace
@@ -336,7 +335,7 @@ void styleDelegate::clearRollData()
 void styleDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                           const QModelIndex &index) const
 {
-    if (!m_useIt)
+    if (!m_useIt || !painter)
         return;
     Row row(painter, option, index);
     row.isPressed = m_itemPressed && (option.state & QStyle::State_Selected);

@@ -5,8 +5,17 @@
 #include <QPainter>
 #include <QRect>
 
+#include <cmath>
+
 namespace panelkit
 {
+
+namespace
+{
+
+constexpr double kHardlyAny = 0.01; // px, what rounding leaves of a whole number
+
+} // namespace
 
 DeviceView::DeviceView(const QPainter &painter)
     : m_holdsPixels(painter.paintEngine() && painter.paintEngine()->type() == QPaintEngine::Raster)
@@ -33,6 +42,18 @@ bool DeviceView::operator==(const DeviceView &other) const
 {
     return m_holdsPixels == other.m_holdsPixels && m_toDevice == other.m_toDevice
         && m_device == other.m_device;
+}
+
+bool isWholePixels(double distance)
+{
+    return std::abs(distance - std::round(distance)) <= kHardlyAny;
+}
+
+bool isOnPixels(const QPainter &painter)
+{
+    const QTransform &device = painter.deviceTransform();
+    return device.type() <= QTransform::TxTranslate && isWholePixels(device.dx())
+        && isWholePixels(device.dy());
 }
 
 } // namespace panelkit

@@ -29,6 +29,14 @@ private:
     QRectF m_device; // px
 };
 
+/// Whether a distance is a whole number of pixels, but for what rounding leaves.
+bool isWholePixels(double distance);
+
+/// Whether one unit of a painter is one pixel of its device and begins where a pixel does. Only
+/// there is a picture scaled in advance the same as one that is scaled in drawing, and a filled
+/// rectangle the same as a line.
+bool isOnPixels(const QPainter &painter);
+
 } // namespace panelkit
 
 #endif // PANELKIT_DETAIL_DEVICEVIEW_H

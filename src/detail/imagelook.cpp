@@ -1,8 +1,9 @@
 #include "imagelook.h"
 
+#include "deviceview.h"
+
 #include <QPainter>
 #include <QRect>
-#include <QTransform>
 
 namespace panelkit
 {
@@ -24,12 +25,6 @@ QImage scaledImage(const QPixmap &pixmap, const QSize &area)
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     painter.drawPixmap(QRect(QPoint(), area), pixmap);
     return image;
-}
-
-// A copy scaled in advance only has the right pixels where one unit is one pixel of the device.
-bool paintsUnscaled(const QPainter &painter)
-{
-    return painter.deviceTransform().type() <= QTransform::TxTranslate;
 }
 
 } // namespace
@@ -87,7 +82,7 @@ void ImageLook::drawScaled(QPainter &painter, const QRect &target, const QPixmap
 {
     const QSize area = target.size();
     const bool isWorthKeeping = area != pixmap.size() && !area.isEmpty()
-        && qint64(area.width()) * area.height() <= kLargestScaledCopy && paintsUnscaled(painter);
+        && qint64(area.width()) * area.height() <= kLargestScaledCopy && isOnPixels(painter);
     if (!isWorthKeeping) {
         painter.drawPixmap(target, pixmap);
         return;

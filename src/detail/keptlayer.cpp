@@ -18,12 +18,23 @@ namespace
 
 constexpr double kFarthest = 1 << 24; // px, no widget is larger
 
+// Whether the device's coordinates are those of the painter, moved by whole pixels. They are where
+// a widget stands in a window, but not where it is rendered through a painter that scales it.
+bool isMovedByPixels(const QPainter &painter)
+{
+    const QTransform &own = painter.worldTransform();
+    const QTransform &device = painter.deviceTransform();
+    return device.m11() == own.m11() && device.m12() == own.m12() && device.m21() == own.m21()
+        && device.m22() == own.m22() && isWholePixels(device.dx() - own.dx())
+        && isWholePixels(device.dy() - own.dy());
+}
+
 // Pixels kept for one device are right where they are copied one to one.
 bool canCopyPixels(const QPainter &painter)
 {
     return painter.paintEngine()->type() == QPaintEngine::Raster && painter.opacity() >= 1
         && painter.compositionMode() == QPainter::CompositionMode_SourceOver
-        && !painter.viewTransformEnabled()
+        && !painter.viewTransformEnabled() && isMovedByPixels(painter)
         && qFuzzyCompare(painter.paintEngine()->paintDevice()->devicePixelRatioF(), qreal(1));
 }
 
@@ -106,10 +117,7 @@ void KeptLayer::draw(QPainter &painter, const QTransform &world, const Content &
         return;
     if (!m_isComposed)
         compose(paint);
-    const bool isTransformed = painter.worldMatrixEnabled();
-    painter.setWorldMatrixEnabled(false);
-    painter.drawImage(m_topLeft, m_image);
-    painter.setWorldMatrixEnabled(isTransformed);
+    copy(painter);
 }
 
 void KeptLayer::paintDirectly(QPainter &painter, const Paint &paint) const
@@ -118,6 +126,18 @@ void KeptLayer::paintDirectly(QPainter &painter, const Paint &paint) const
     painter.setWorldTransform(m_key.transform);
     paint(painter);
     painter.setWorldTransform(origin);
+}
+
+// Smoothing has nothing to do in a copy of whole pixels, and it would cost a third more.
+void KeptLayer::copy(QPainter &painter) const
+{
+    const bool isTransformed = painter.worldMatrixEnabled();
+    const bool isSmooth = painter.testRenderHint(QPainter::SmoothPixmapTransform);
+    painter.setWorldMatrixEnabled(false);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
+    painter.drawImage(m_topLeft, m_image);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, isSmooth);
+    painter.setWorldMatrixEnabled(isTransformed);
 }
 
 // It is composed at its place on a canvas as large as the device, because how edges are rounded

@@ -52,6 +52,7 @@ private:
     };
 
     void paintDirectly(QPainter &painter, const Paint &paint) const;
+    void copy(QPainter &painter) const;
     void compose(const Paint &paint);
 
     Key m_key;

@@ -1,8 +1,9 @@
 #include "scalepicture.h"
 
+#include "deviceview.h"
+
 #include <QFontMetricsF>
 #include <QPainter>
-#include <QTransform>
 
 #include <algorithm>
 #include <cmath>
@@ -20,7 +21,7 @@ constexpr std::size_t kMostKnown = 1024; // labels; several bands' worth
 void drawLines(QPainter &painter, const QColor &color, const QRect *lines, int count)
 {
     painter.setPen(color);
-    if (painter.deviceTransform().type() > QTransform::TxTranslate) {
+    if (!isOnPixels(painter)) {
         for (int i = 0; i < count; ++i)
             painter.drawLine(lines[i].topLeft(), lines[i].bottomLeft());
         return;

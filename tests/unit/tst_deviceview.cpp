@@ -51,6 +51,35 @@ private slots:
         QVERIFY(!DeviceView(painter).shows(QTransform(1, 0, 0, 1, nan, 0), QRectF(0, 0, 9, 9)));
     }
 
+    void pixelsAreMetByWholeStepsOnly_data()
+    {
+        QTest::addColumn<QTransform>("transform");
+        QTest::addColumn<bool>("expected");
+        QTest::newRow("none") << QTransform() << true;
+        QTest::newRow("whole") << QTransform::fromTranslate(-7, 300) << true;
+        QTest::newRow("rounded") << QTransform::fromTranslate(qreal(7.004), qreal(-0.004)) << true;
+        QTest::newRow("between two") << QTransform::fromTranslate(qreal(7.02), 0) << false;
+        QTest::newRow("between two rows") << QTransform::fromTranslate(0, -0.5) << false;
+        QTest::newRow("larger") << QTransform::fromScale(2, 2) << false;
+        QTest::newRow("turned") << QTransform().rotate(90) << false;
+    }
+
+    void pixelsAreMetByWholeStepsOnly()
+    {
+        QFETCH(QTransform, transform);
+        QImage image(50, 40, QImage::Format_RGB32);
+        QPainter painter(&image);
+        painter.setTransform(transform);
+        QTEST(isOnPixels(painter), "expected");
+    }
+
+    void whatIsNoNumberIsNoWholeNumber()
+    {
+        QVERIFY(!isWholePixels(std::numeric_limits<double>::quiet_NaN()));
+        QVERIFY(!isWholePixels(std::numeric_limits<double>::infinity()));
+        QVERIFY(isWholePixels(-1e300));
+    }
+
     void otherDevicesShowEverything()
     {
         QPicture picture;

@@ -222,6 +222,25 @@ private slots:
                          }));
     }
 
+    void betweenPixelsThePictureItselfIsDrawn()
+    {
+        const QPixmap picture = disc({80, 60}, Qt::green);
+        const QRect target(5, 6, 41, 33);
+        for (const QPointF &place :
+             {QPointF(qreal(0.4), 0), QPointF(0, qreal(-0.3)), QPointF(7, 4)}) {
+            ImageLook look;
+            COMPARE_PICTURES(onCanvas([&](QPainter &p) {
+                                 p.translate(place);
+                                 look.drawScaled(p, target, picture);
+                             }),
+                             onCanvas([&](QPainter &p) {
+                                 p.translate(place);
+                                 p.drawPixmap(target, picture);
+                             }));
+            QCOMPARE(look.computations(), place.x() > 1 ? 1 : 0);
+        }
+    }
+
     void aHugeTargetKeepsNoCopy()
     {
         ImageLook look;

@@ -159,11 +159,76 @@ private slots:
             QImage image = canvas();
             QPainter painter(&image);
             turn(painter);
+            painter.setRenderHint(QPainter::SmoothPixmapTransform);
             const QTransform transform = painter.transform();
+            const QPainter::RenderHints hints = painter.renderHints();
             layer.draw(painter, painter.worldTransform(), kContent,
                        [](QPainter &p) { p.drawPoint(0, 0); });
             QCOMPARE(painter.transform(), transform);
+            QCOMPARE(painter.renderHints(), hints);
         }
+    }
+
+    void aSmoothPainterCopiesTheSamePixels()
+    {
+        const Paint prepare = [](QPainter &p) {
+            turn(p);
+            p.setRenderHint(QPainter::SmoothPixmapTransform);
+        };
+        KeptLayer layer;
+        for (int paint = 0; paint < 3; ++paint)
+            COMPARE_PICTURES(onCanvas(&layer, prepare), onCanvas(nullptr, prepare));
+        QCOMPARE(layer.compositions(), 1);
+    }
+
+    void aWidgetRenderedOffThePixelsIsPainted_data()
+    {
+        QTest::addColumn<Paint>("place");
+        QTest::addColumn<int>("compositions");
+        QTest::newRow("whole pixels") << Paint([](QPainter &p) { p.translate(7, 5); }) << 1;
+        QTest::newRow("between two") << Paint([](QPainter &p) { p.translate(qreal(0.4), 0); }) << 0;
+        QTest::newRow("between two rows")
+            << Paint([](QPainter &p) { p.translate(0, qreal(-0.3)); }) << 0;
+        QTest::newRow("wider") << Paint([](QPainter &p) { p.scale(qreal(1.5), 1); }) << 0;
+        QTest::newRow("taller") << Paint([](QPainter &p) { p.scale(1, qreal(1.5)); }) << 0;
+        QTest::newRow("slanted") << Paint([](QPainter &p) { p.shear(qreal(0.5), 0); }) << 0;
+        QTest::newRow("sloping") << Paint([](QPainter &p) { p.shear(0, qreal(0.5)); }) << 0;
+    }
+
+    void aWidgetRenderedOffThePixelsIsPainted()
+    {
+        QFETCH(Paint, place);
+        class Star : public QWidget
+        {
+        public:
+            KeptLayer layer;
+            bool isKept = false;
+
+        protected:
+            void paintEvent(QPaintEvent *) override
+            {
+                QPainter painter(this);
+                painter.setRenderHint(QPainter::Antialiasing);
+                painter.translate(50, 40);
+                if (isKept)
+                    layer.draw(painter, painter.worldTransform(), kContent, paintStar);
+                else
+                    paintStar(painter);
+            }
+        };
+        Star star;
+        star.resize(120, 100);
+        const auto rendered = [&](bool isKept) {
+            star.isKept = isKept;
+            QImage image = canvas();
+            QPainter painter(&image);
+            place(painter);
+            star.render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
+            return image;
+        };
+        for (int paint = 0; paint < 3; ++paint)
+            COMPARE_PICTURES(rendered(true), rendered(false));
+        QTEST(star.layer.compositions(), "compositions");
     }
 
     void aWidgetInAWindowIsPaintedWhereItStands()

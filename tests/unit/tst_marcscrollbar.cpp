@@ -559,11 +559,12 @@ private slots:
     {
         const auto bar = makeStraightBar();
         bar->setRange(0, 20);
-        for (int kind = 0; kind < 4; ++kind) {
+        for (int kind = 0; kind < 5; ++kind) {
             const auto prepare = [kind](QPainter &p) {
                 p.setPen(QPen(Qt::red, kind == 0 ? 5 : 1, kind == 1 ? Qt::DotLine : Qt::SolidLine));
                 p.setRenderHint(QPainter::Antialiasing, kind == 2);
                 p.rotate(kind == 3 ? 10 : 0);
+                p.translate(0, kind == 4 ? qreal(-0.3) : 0);
             };
             COMPARE_PICTURES(reference(*bar,
                                        [&](QPainter &p) {

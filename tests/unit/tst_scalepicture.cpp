@@ -115,6 +115,14 @@ private slots:
                     paint(p);
                 });
             };
+            const auto between = [](const std::function<void(QPainter &)> &paint) {
+                return onCanvas([&](QPainter &p) {
+                    p.translate(qreal(0.6), qreal(-0.7));
+                    paint(p);
+                });
+            };
+            COMPARE_PICTURES(between([&](QPainter &p) { picture.draw(p, all, s, f); }),
+                             between([&](QPainter &p) { drawOneByOne(p, items, s, f); }));
             // A scaled line may reach beyond its area.
             const auto clip = [&](QPainter &p) {
                 p.setClipRect(2, 2, 140, 40);

@@ -7,7 +7,10 @@
 #include <QPainter>
 #include <QStandardItemModel>
 
+#include <malloc.h>
+
 #include <climits>
+#include <cstddef>
 #include <memory>
 #include <type_traits>
 
@@ -20,6 +23,8 @@ static_assert(std::is_same_v<decltype(&styleDelegate::setItemPressed),
                              void (styleDelegate::*)(bool, QPoint)>);
 static_assert(std::is_same_v<decltype(&styleDelegate::getAddRollData),
                              StringRollingData *(styleDelegate::*)(StringRollingData *)>);
+
+extern "C" __attribute__((weak)) std::size_t __sanitizer_get_current_allocated_bytes();
 
 namespace
 {
@@ -216,6 +221,15 @@ QVector<int> rows(const styleDelegate &delegate)
     for (const auto *data = delegate.rollData(); data; data = data->next)
         result += data->row;
     return result;
+}
+
+// What the program has allocated now; the allocator of a sanitized build counts by itself.
+std::size_t allocatedBytes()
+{
+    if (__sanitizer_get_current_allocated_bytes)
+        return __sanitizer_get_current_allocated_bytes();
+    const struct mallinfo2 info = mallinfo2();
+    return info.uordblks + info.hblkhd;
 }
 
 // Everything a row's paint might ask, answered as no model should.
@@ -1301,6 +1315,10 @@ private slots:
         QTest::addColumn<Paint>("prepare");
         QTest::newRow("plain") << Paint([](QPainter &) {});
         QTest::newRow("moved") << Paint([](QPainter &p) { p.translate(3, -2); });
+        for (int tenths = -9; tenths < 10; tenths += 3) {
+            QTest::addRow("moved by %d tenths of a pixel", tenths) << Paint(
+                [tenths](QPainter &p) { p.translate(qreal(tenths) / 10, qreal(tenths) / 10); });
+        }
         QTest::newRow("enlarged") << Paint([](QPainter &p) { p.scale(1.5, 1.25); });
         QTest::newRow("turned") << Paint([](QPainter &p) { p.rotate(2); });
         QTest::newRow("smooth") << Paint(
@@ -1324,6 +1342,28 @@ private slots:
                                             kRow.bottom());
                              }));
         }
+    }
+
+    // What is kept of the texts is bounded, however many rows pass by.
+    void theMemoryDoesNotGrowWithTheRowsPainted()
+    {
+        Subject s(allRoles(kCentre | kTailText));
+        const QString rest(1000, QLatin1Char('w'));
+        const auto paintRows = [&](int first, int count) {
+            onCanvas([&](QPainter &p) {
+                for (int row = first; row < first + count; ++row) {
+                    s.set(Centre, QString(QString::number(row) + rest));
+                    s.set(Tail, QString::number(row));
+                    s.paint(p);
+                }
+            });
+        };
+        paintRows(0, 2000); // fills what there is to fill
+        const std::size_t before = allocatedBytes();
+        paintRows(2000, 1000);
+        const std::size_t after = allocatedBytes();
+        QVERIFY(before > 0);
+        QVERIFY2(after < before + 100000, qPrintable(QString::number(after - before)));
     }
 
     void theFontsOfTheMomentCount()
@@ -1430,6 +1470,12 @@ private slots:
             s.press(10);
             s.painted();
         }
+    }
+
+    void noPainterIsNoHarm()
+    {
+        Subject s(allRoles(-1));
+        s.delegate.paint(nullptr, s.option, s.model.index(0, 0));
     }
 
     void anIndexThatIsNoneIsNoHarm()

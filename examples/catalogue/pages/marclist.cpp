@@ -1,7 +1,12 @@
 #include "catalogue.h"
+#include "contacts.h"
+#include "listlook.h"
 
 #include <marclist.h>
+#include <marcscrollbar.h>
 #include <QPainter>
+#include <QScrollBar>
+#include <sptablelist.h>
 
 namespace
 {
@@ -63,6 +68,127 @@ MArcList *buildColumn(Scene &scene)
     return list;
 }
 
+// The arcs of the contact book have one centre.
+constexpr QPoint kBookCentre(100, 210);
+constexpr QSize kBookRow(390, 84); // px
+
+SpTableList *buildNames(QWidget *book)
+{
+    auto *list = new SpTableList(book);
+    ListLook::darken(*list);
+    ListLook::giveBackgrounds(*list, kBookRow - QSize(0, 4));
+    list->setUIStyle(SpTableList::LIST_STYLE_5);
+    list->setItemHeight(kBookRow.height());
+    list->setItemWidth(kBookRow.width());
+    list->setCenterFontSize(24);
+    list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // the arc is in its place
+    list->setGeometry(0, 0, kBookRow.width(), 2 * kBookCentre.y());
+    list->setModel(new Contacts(list));
+    return list;
+}
+
+MArcScrollBar *buildBookBar(QWidget *book)
+{
+    auto *bar = new MArcScrollBar(book);
+    const QRect place(QPoint(kBookRow.width(), 0), QPoint(535, 2 * kBookCentre.y() - 1));
+    bar->setGeometry(place);
+    bar->setCenterPoint(kBookCentre - place.topLeft());
+    bar->setRadius(430);
+    bar->setStartAngle(155);
+    bar->setPointColor(QColor(255, 150, 40));
+    QPalette palette = bar->palette();
+    palette.setColor(bar->foregroundRole(), QColor(150, 165, 185));
+    bar->setPalette(palette);
+    return bar;
+}
+
+MArcList *buildBookLetters(QWidget *book)
+{
+    auto *letters = new MArcList(book);
+    letters->setGeometry(kBookCentre.x(), 0, 520, 2 * kBookCentre.y());
+    letters->setRadius(455);
+    letters->setItemHight(3.6);
+    letters->setPointPixmap(pill({46, 34}));
+    fill(*letters);
+    QFont font = letters->font();
+    font.setPixelSize(20);
+    letters->setFont(font);
+    return letters;
+}
+
+// A letter that is tapped takes the names to it, a touch of the bar to a share of them. Wherever
+// the names go, the bar and the letter follow.
+void wireBook(MArcList *letters, MArcScrollBar *bar, SpTableList *names)
+{
+    const auto *contacts = static_cast<Contacts *>(names->model());
+    QScrollBar *scrolling = names->verticalScrollBar();
+    bar->setRange(0, contacts->rowCount() - names->height() / kBookRow.height());
+    const auto showRow = [scrolling](int row) {
+        scrolling->setValue(row * kBookRow.height());
+    };
+    QObject::connect(letters, &MArcList::itemClicked, names,
+                     [contacts, showRow](QChar letter) { showRow(contacts->firstRowOf(letter)); });
+    QObject::connect(bar, &QScrollBar::sliderMoved, names, showRow);
+    QObject::connect(scrolling, &QScrollBar::valueChanged, bar,
+                     [letters, bar, contacts](int value) {
+                         const int row = value / kBookRow.height();
+                         bar->setValue(row);
+                         letters->setCurrentIndex(contacts->letterOf(row));
+                     });
+}
+
+// A contact book: the names, around them a bar that shows where they are, and the letters.
+MArcList *buildBook(Scene &scene)
+{
+    auto *letters = buildBookLetters(&scene);
+    SpTableList *names = buildNames(&scene);
+    MArcScrollBar *bar = buildBookBar(&scene);
+    wireBook(letters, bar, names);
+    letters->setCurrentIndex(QLatin1Char('A'));
+    scene.alsoShow(bar);
+    scene.alsoShow(names);
+    return letters;
+}
+
+template <class Widget> Widget *besides(const MArcList &letters)
+{
+    return letters.parentWidget()->findChild<Widget *>();
+}
+
+void defineBookPage(PagesOf<MArcList> &pages)
+{
+    pages.add(QStringLiteral("Contacts"), buildBook)
+        .touches("letter tapped",
+                 [](MArcList &, Touch &touch) {
+                     touch.press({438, 340}).hold(80).release().hold(60).picture();
+                 })
+        .touches("names dragged",
+                 [](MArcList &letters, Touch &touch) {
+                     touch.on(besides<SpTableList>(letters))
+                         .press({200, 380})
+                         .moveTo({200, 20}, 400)
+                         .hold(300)
+                         .picture()
+                         .release();
+                 })
+        .touches("names flung",
+                 [](MArcList &letters, Touch &touch) {
+                     touch.on(besides<SpTableList>(letters))
+                         .press({200, 380})
+                         .moveTo({200, 180}, 48)
+                         .release()
+                         .hold(1500)
+                         .picture();
+                 })
+        .touches("bar touched", [](MArcList &letters, Touch &touch) {
+            touch.on(besides<MArcScrollBar>(letters))
+                .press({100, 60})
+                .moveTo({110, 300}, 300)
+                .picture()
+                .release();
+        });
+}
+
 } // namespace
 
 void definePages(PagesOf<MArcList> &pages)
@@ -107,4 +233,6 @@ void definePages(PagesOf<MArcList> &pages)
         .touches("flung", [](MArcList &, Touch &touch) {
             touch.press({60, 380}).moveTo({60, 240}, 60).release().hold(120).picture();
         });
+
+    defineBookPage(pages);
 }

@@ -1,11 +1,10 @@
 #include "art.h"
 #include "catalogue.h"
+#include "listlook.h"
 #include "playlist.h"
 #include "theme.h"
 
 #include <QFont>
-#include <QLinearGradient>
-#include <QPainter>
 #include <sptablelist.h>
 #include <styledelegate.h>
 
@@ -18,53 +17,23 @@ constexpr int kTallRowHeight = 90; // px, for two lines
 constexpr int kBarWidth = 16; // px, with the scroll bar and the space before it
 constexpr int kRowWidth = kListSize.width() - kBarWidth;
 
-// A bar of glass with this colour in it.
-QPixmap rowPicture(const QColor &color)
-{
-    QPixmap pixmap(kRowWidth, kRowHeight - 4);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(color.lighter(140), 1));
-    QLinearGradient gloss(QPointF(0, 0), QPointF(pixmap.rect().bottomLeft()));
-    gloss.setColorAt(0, color.lighter(115));
-    gloss.setColorAt(1, color.darker(120));
-    painter.setBrush(gloss);
-    const QRectF outline = QRectF(pixmap.rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-    painter.drawRoundedRect(outline, 10, 10);
-    return pixmap;
-}
-
+// Between the rows shows a little of the glass.
 void giveBackgrounds(SpTableList &list)
 {
-    list.setNormalImage(rowPicture(QColor(0x24, 0x2b, 0x36)));
-    list.setPressImage(rowPicture(QColor(0x1f, 0x5f, 0x9a)));
-    list.setHightColor(Qt::white);
-}
-
-// The rows are all that is to be seen: the view's own ground and selection are the page's glass.
-void darken(SpTableList &list)
-{
-    QPalette dark = list.palette();
-    dark.setColor(QPalette::Base, Theme::kGlass);
-    dark.setColor(QPalette::Highlight, Theme::kGlass);
-    dark.setColor(QPalette::Text, Qt::white);
-    dark.setColor(QPalette::WindowText, Qt::white);
-    list.setPalette(dark);
-    list.viewport()->setPalette(dark);
-    list.setFrameShape(QFrame::NoFrame);
+    ListLook::giveBackgrounds(list, {kRowWidth, list.itemHeight() - 4});
 }
 
 SpTableList *buildList(Scene &scene, SpTableList::LIST_STYLE style, const PlaylistModel::Row &row,
                        int rowHeight = kRowHeight)
 {
     auto *list = new SpTableList(&scene);
-    darken(*list);
+    ListLook::darken(*list);
     list->setUIStyle(style);
     list->setItemHeight(rowHeight);
     list->setItemWidth(kRowWidth);
     list->setCenterFontSize(22);
     list->setTailFontSize(18);
+    list->setTailStrWidth(70);
     list->setHightColor(Theme::kAccent);
     list->setPressColor(QColor(0xff, 0xd0, 0x60));
     list->resize(kListSize);
@@ -124,6 +93,7 @@ SpTableList *buildMarked(Scene &scene)
     row.headerIcon = icon("music");
     SpTableList *list = buildList(scene, SpTableList::LIST_STYLE_1, row);
     giveBackgrounds(*list);
+    list->setHightColor(Qt::white);
     return list;
 }
 
@@ -136,7 +106,6 @@ SpTableList *buildSplit(Scene &scene)
     row.pressedTailIcon = icon("sun");
     SpTableList *list = buildList(scene, SpTableList::LIST_STYLE_2, row);
     giveBackgrounds(*list);
-    list->setHightColor(Theme::kAccent);
     list->setTailIconWidth(40);
     return list;
 }
@@ -151,19 +120,25 @@ SpTableList *buildRolling(Scene &scene)
     return buildList(scene, SpTableList::LIST_STYLE_3, row);
 }
 
-// A touch of the header plays the title, a touch of the tail gives it a star.
+QPixmap key(const char *key, const char *drawing)
+{
+    return ListLook::keyPicture(QString::fromLatin1(key), QString::fromLatin1(drawing), {44, 44});
+}
+
+// A touch of the header plays the title, a touch of the tail gives it the sun.
 SpTableList *buildIconKeys(Scene &scene)
 {
     PlaylistModel::Row row;
     row.parts = PlaylistModel::HeaderIcon | PlaylistModel::CentreText | PlaylistModel::TailIcon;
-    row.headerIcon = icon("key-normal");
-    row.pressedHeaderIcon = icon("key-pressed");
-    row.tailIcon = icon("key-normal");
-    row.pressedTailIcon = icon("key-focused");
+    row.headerIcon = key("key-normal", "music");
+    row.pressedHeaderIcon = key("key-pressed", "music");
+    row.tailIcon = key("key-normal", "lock");
+    row.pressedTailIcon = key("key-normal", "sun");
     SpTableList *list = buildList(scene, SpTableList::LIST_STYLE_4, row);
     giveBackgrounds(*list);
-    list->setHeaderIconWidth(40);
-    list->setTailIconWidth(40);
+    list->setHightColor(Qt::white);
+    list->setHeaderIconWidth(44);
+    list->setTailIconWidth(44);
     auto *model = static_cast<PlaylistModel *>(list->model());
     QObject::connect(list, QOverload<int, int>::of(&SpTableList::itemClicked), model,
                      [model](int index, int position) {
@@ -180,8 +155,11 @@ SpTableList *buildTwoLines(Scene &scene)
     PlaylistModel::Row row;
     row.parts = PlaylistModel::HeaderIcon | PlaylistModel::CentreText | PlaylistModel::TailText;
     row.centre = QStringLiteral("%1/%2");
-    row.headerIcon = icon("phone");
-    return buildList(scene, SpTableList::LIST_STYLE_5, row, kTallRowHeight);
+    row.headerIcon = icon("music");
+    SpTableList *list = buildList(scene, SpTableList::LIST_STYLE_5, row, kTallRowHeight);
+    giveBackgrounds(*list);
+    list->setCenterFontSize(28); // the lower line has 26
+    return list;
 }
 
 // The middle one of the three parts stays empty: the last one is drawn over it.
@@ -190,8 +168,9 @@ SpTableList *buildThreeParts(Scene &scene)
     PlaylistModel::Row row;
     row.parts = PlaylistModel::HeaderIcon | PlaylistModel::CentreText;
     row.centre = QStringLiteral("%3//%1");
-    row.headerIcon = icon("navigation");
+    row.headerIcon = icon("music");
     SpTableList *list = buildList(scene, SpTableList::LIST_STYLE_6, row, kTallRowHeight);
+    giveBackgrounds(*list);
     QFont font = list->font();
     font.setPointSize(24); // the small part is 14 px high
     delegateOf(*list).setCenterFont(font);
@@ -210,8 +189,9 @@ void defineNumberedPage(PagesOf<SpTableList> &pages)
         .touches("highlight",
                  [](SpTableList &list, Touch &touch) {
                      giveBackgrounds(list);
+                     list.setHightColor(Qt::white);
                      list.setHighlightFlag(true);
-                     touch.press({200, 150}).hold(100).release().hold(200).picture();
+                     touch.press({200, 210}).hold(100).release().hold(200).picture();
                  })
         .emptyState("blank", [](SpTableList &list) {
             list.setUseDefaultStyle(false);
@@ -219,17 +199,30 @@ void defineNumberedPage(PagesOf<SpTableList> &pages)
         });
 }
 
-void defineKeyPages(PagesOf<SpTableList> &pages)
+void defineRollingPage(PagesOf<SpTableList> &pages)
 {
-    auto split = pages.add(QStringLiteral("SpTableList-2"), buildSplit);
-    defineCommonActs(split);
-    split.state("tail pressed", [](SpTableList &list) { showPressed(list, kRowWidth - 10); })
+    auto page = pages.add(QStringLiteral("SpTableList-3"), buildRolling);
+    defineCommonActs(page);
+    page.touches("rolling", [](SpTableList &, Touch &touch) {
+        touch.press({200, 90}).hold(50).release().hold(3500).picture();
+    });
+}
+
+void defineSplitPage(PagesOf<SpTableList> &pages)
+{
+    auto page = pages.add(QStringLiteral("SpTableList-2"), buildSplit);
+    defineCommonActs(page);
+    page.state("tail pressed", [](SpTableList &list) { showPressed(list, kRowWidth - 10); })
         .touches("tail tapped", [](SpTableList &, Touch &touch) {
             touch.press({kRowWidth - 10, 90}).hold(320).picture().release().hold(120);
         });
-    auto keys = pages.add(QStringLiteral("SpTableList-4"), buildIconKeys);
-    defineCommonActs(keys);
-    keys.touches("header tapped",
+}
+
+void defineKeysPage(PagesOf<SpTableList> &pages)
+{
+    auto page = pages.add(QStringLiteral("SpTableList-4"), buildIconKeys);
+    defineCommonActs(page);
+    page.touches("header tapped",
                  [](SpTableList &, Touch &touch) {
                      touch.press({40, 90}).hold(320).picture().release().hold(120);
                  })
@@ -246,12 +239,9 @@ void definePages(PagesOf<SpTableList> &pages)
     defineNumberedPage(pages);
     auto marked = pages.add(QStringLiteral("SpTableList-1"), buildMarked);
     defineCommonActs(marked);
-    auto rolling = pages.add(QStringLiteral("SpTableList-3"), buildRolling);
-    defineCommonActs(rolling);
-    rolling.touches("rolling", [](SpTableList &, Touch &touch) {
-        touch.press({200, 90}).hold(50).release().hold(3500).picture();
-    });
-    defineKeyPages(pages);
+    defineSplitPage(pages);
+    defineRollingPage(pages);
+    defineKeysPage(pages);
     auto twoLines = pages.add(QStringLiteral("SpTableList-5"), buildTwoLines);
     defineCommonActs(twoLines);
     auto threeParts = pages.add(QStringLiteral("SpTableList-6"), buildThreeParts);
