@@ -27,6 +27,12 @@ panelkit_class(SpIconButton
     SIZE 120 80
     INITIAL displayText=Button "normalTextColor=#202020") # white is hard to see on Designer's form
 
+panelkit_class(SpHorStrButton
+    FAMILY "Touch buttons"
+    TOOLTIP "Button with an icon and a string side by side, or the string over the icon"
+    SIZE 160 60
+    INITIAL displayString=Button "normalTextColor=#202020")
+
 panelkit_class(SpTableList
     FAMILY "Scrolling lists"
     TOOLTIP "Kinetic list whose rows have icons, texts and seven styles, with clicks on rows and icons"
