@@ -33,6 +33,12 @@ panelkit_class(SpHorStrButton
     SIZE 160 60
     INITIAL displayString=Button "normalTextColor=#202020")
 
+panelkit_class(SpVerStrButton
+    FAMILY "Touch buttons"
+    TOOLTIP "Button with an icon above a string, with pressed, focused and disabled looks and a latch"
+    SIZE 120 120
+    INITIAL displayString=Button)
+
 panelkit_class(SpTableList
     FAMILY "Scrolling lists"
     TOOLTIP "Kinetic list whose rows have icons, texts and seven styles, with clicks on rows and icons"
