@@ -62,6 +62,11 @@ panelkit_class(MListView
     SIZE 160 320
     CREATE "new MListView(parent, QRect(0, 0, 160, 320))")
 
+panelkit_class(SpMultipleButton
+    FAMILY "State buttons"
+    TOOLTIP "Button that goes through up to 20 states, each with a picture and a pressed picture"
+    SIZE 120 120)
+
 panelkit_class(MRadioMovePoint
     FAMILY "Radio scales"
     TOOLTIP "AM/FM tuner: a scale with a needle to be dragged over it"
