@@ -39,6 +39,12 @@ panelkit_class(SpVerStrButton
     SIZE 120 120
     INITIAL displayString=Button)
 
+panelkit_class(SpDisLabel
+    FAMILY "Touch buttons"
+    TOOLTIP "Touchable label with a shortened string on a rounded ground, or with a picture"
+    SIZE 160 60
+    INITIAL text=Label "fontColor=#202020")
+
 panelkit_class(SpTableList
     FAMILY "Scrolling lists"
     TOOLTIP "Kinetic list whose rows have icons, texts and seven styles, with clicks on rows and icons"
