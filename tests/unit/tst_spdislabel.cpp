@@ -252,6 +252,7 @@ private slots:
         row("icon", 1, [](auto &l) { l.setIcon(picture(Qt::red)); });
         row("icon null", 1, [](auto &l) { l.setIcon({}); });
         row("iconSize of the label", 1, [](auto &l) { l.setIconSize({121, 40}); });
+        row("fontsize", 1, [](auto &l) { l.setFontSize(9); });
         row("isDown", 1, [](auto &l) { l.setIsDown(true); });
         row("isDown unchanged", 1, [](auto &l) { l.setIsDown(false); });
         row("isLock", 0, [](auto &l) { l.setIsLock(true); });
@@ -272,6 +273,13 @@ private slots:
         QTEST(paints(*label, [&] { action(*label); }), "expected");
         QCOMPARE(label->size(), QSize(121, 40));
         label->setParent(nullptr);
+    }
+
+    void nothingRepaintsWhileNothingChanges()
+    {
+        const auto label = makeLabel();
+        show(*label);
+        QCOMPARE(paints(*label, [] { virtualtime::advance(5000); }), 0);
     }
 
     void everyPropertyKeepsWhatItIsGiven_data()

@@ -368,6 +368,7 @@ private slots:
         row("textHeight", 0, [](auto &b) { b.setTextHeight(3); });
         row("textLeftMargin", 0, [](auto &b) { b.setTextLeftMargin(3); });
         row("textWidth", 0, [](auto &b) { b.setTextWidth(3); });
+        row("font size", 1, [](auto &b) { b.setFontSize(9); });
         row("btnDisable", 1, [](auto &b) { b.setBtnDisable(true); });
         row("btnDisable unchanged", 1, [](auto &b) { b.setBtnDisable(false); });
         row("pressState", 1, [](auto &b) { b.setPressState(true); });
@@ -383,6 +384,13 @@ private slots:
         QCOMPARE(button->size(), QSize(160, 81));
         QCOMPARE(button->minimumSize(), QSize(0, 0));
         QCOMPARE(button->maximumSize(), QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
+    }
+
+    void nothingRepaintsWhileNothingChanges()
+    {
+        const auto button = makeButton();
+        show(*button);
+        QCOMPARE(paints(*button, [] { virtualtime::advance(5000); }), 0);
     }
 
     void everyPropertyKeepsWhatItIsGiven_data()

@@ -238,6 +238,13 @@ private slots:
         QCOMPARE(button->font(), font);
     }
 
+    void nothingRepaintsWhileNothingChanges()
+    {
+        const auto button = makeButton();
+        show(*button);
+        QCOMPARE(paints(*button, [] { virtualtime::advance(5000); }), 0);
+    }
+
     void everyPropertyKeepsWhatItIsGiven_data()
     {
         QTest::addColumn<QByteArray>("name");
