@@ -298,7 +298,7 @@ void SpDisLabel::drawGround(QPainter &painter) const
         area, {double(m_roundXY), double(rgba >> 32), double(rgba & 0xffffffff)}};
     m_ground->draw(painter, painter.worldTransform(), content, [&](QPainter &p) {
         p.setBrush(color);
-        p.drawRoundedRect(area, m_roundXY, m_roundXY, Qt::AbsoluteSize);
+        p.drawRoundedRect(area, qreal(m_roundXY), qreal(m_roundXY), Qt::AbsoluteSize);
         p.setBrush(Qt::NoBrush);
     });
 }

@@ -564,7 +564,8 @@ private slots:
                     p.setRenderHint(QPainter::Antialiasing);
                     p.setPen(Qt::NoPen);
                     p.setBrush(ground);
-                    p.drawRoundedRect(QRectF(label->rect()), radius, radius, Qt::AbsoluteSize);
+                    p.drawRoundedRect(QRectF(label->rect()), qreal(radius), qreal(radius),
+                                      Qt::AbsoluteSize);
                 }
                 drawText(p, label->rect(), pen, kText, flags);
             });
