@@ -18,6 +18,26 @@ namespace
 constexpr int kMostStates = 20;
 constexpr qreal kDimmed = qreal(0.5); // opacity of a disabled button
 
+// An opacity effect composes all of its widget, on the screen or not. What is larger than several
+// screens (64 MiB) is shown as it is instead: a picture of a wrong size must not take the memory of
+// the whole device.
+class Dimming : public QGraphicsOpacityEffect
+{
+public:
+    using QGraphicsOpacityEffect::QGraphicsOpacityEffect;
+
+protected:
+    void draw(QPainter *painter) override
+    {
+        constexpr qreal kLargest = qreal(4096) * qreal(4096); // px
+        const QSizeF size = sourceBoundingRect().size();
+        if (size.width() * size.height() > kLargest)
+            drawSource(painter);
+        else
+            QGraphicsOpacityEffect::draw(painter);
+    }
+};
+
 QList<QPixmap> madeOfNull(int count)
 {
     QList<QPixmap> images;
@@ -69,7 +89,7 @@ QList<QPixmap> fromFiles(const QList<QString> &paths)
  */
 SpMultipleButton::SpMultipleButton(QWidget *parent)
     : QWidget(parent), m_normalImages(nullImages()), m_pressImages(nullImages()),
-      m_opacity(new QGraphicsOpacityEffect(this))
+      m_opacity(new Dimming(this))
 {
     setGraphicsEffect(m_opacity);
 }

@@ -10,6 +10,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPaintEvent>
 #include <QPointer>
 #include <QTemporaryDir>
 
@@ -182,6 +183,20 @@ class Handlers : public SpMultipleButton
 public:
     using SpMultipleButton::mousePressEvent;
     using SpMultipleButton::mouseReleaseEvent;
+};
+
+// Remembers what it was last asked to paint.
+class Probe : public SpMultipleButton
+{
+public:
+    QRect area;
+
+protected:
+    void paintEvent(QPaintEvent *e) override
+    {
+        area = e->rect();
+        SpMultipleButton::paintEvent(e);
+    }
 };
 
 } // namespace
@@ -1088,6 +1103,31 @@ private slots:
             touch(&button).press(10, 10);
             QCOMPARE(settled(button).size(), QSize(50, 50));
         }
+    }
+
+    // What is composed for an effect is painted as a whole, all else only where it is seen.
+    void aButtonLargerThanManyScreensIsNotComposed_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<QSize>("expected");
+        QTest::newRow("as large as may be") << QSize(16384, 1024) << QSize(16384, 1024);
+        QTest::newRow("larger") << QSize(16384, 1025) << QSize(50, 40);
+        QTest::newRow("huge") << QSize(60000, 60000) << QSize(50, 40);
+    }
+
+    void aButtonLargerThanManyScreensIsNotComposed()
+    {
+        QFETCH(QSize, size);
+        QWidget stage;
+        stage.resize(50, 40);
+        Probe button;
+        button.setParent(&stage);
+        button.setDisableState(true);
+        button.resize(size);
+        show(stage);
+        painted(stage);
+        QTEST(button.area.size(), "expected");
+        button.setParent(nullptr);
     }
 
     void anEmptyButtonIsNoHarm()
