@@ -27,11 +27,28 @@ panelkit_class(SpIconButton
     SIZE 120 80
     INITIAL displayText=Button "normalTextColor=#202020") # white is hard to see on Designer's form
 
-panelkit_class(SpLockButton
+panelkit_class(SpHorStrButton
+    FAMILY "Touch buttons"
+    TOOLTIP "Button with an icon and a string side by side, or the string over the icon"
+    SIZE 160 60
+    INITIAL displayString=Button "normalTextColor=#202020")
+
+panelkit_class(SpVerStrButton
+    FAMILY "Touch buttons"
+    TOOLTIP "Button with an icon above a string, with pressed, focused and disabled looks and a latch"
+    SIZE 120 120
+    INITIAL displayString=Button)
+
+panelkit_class(SpDisLabel
+    FAMILY "Touch buttons"
+    TOOLTIP "Touchable label with a shortened string on a rounded ground, or with a picture"
+    SIZE 160 60
+    INITIAL text=Label "fontColor=#202020")
+
+panelkit_class(SpMultipleButton
     FAMILY "State buttons"
-    TOOLTIP "Image button that each press turns over between up and down"
-    SIZE 120 80
-    INITIAL displayText=Lock "normalTextColor=#202020")
+    TOOLTIP "Button that goes through up to 20 states, each with a picture and a pressed picture"
+    SIZE 120 120)
 
 panelkit_class(MultipleStateButton
     FAMILY "State buttons"
@@ -44,6 +61,35 @@ panelkit_class(PlayButton
     TOOLTIP "Push button of two images, made from image files"
     SIZE 120 80
     CREATE "new PlayButton(0, 0, 0, {}, {}, parent)")
+
+panelkit_class(SpLockButton
+    FAMILY "State buttons"
+    TOOLTIP "Image button that each press turns over between up and down"
+    SIZE 120 80
+    INITIAL displayText=Lock "normalTextColor=#202020")
+
+panelkit_class(SpTableList
+    FAMILY "Scrolling lists"
+    TOOLTIP "Kinetic list whose rows have icons, texts and seven styles, with clicks on rows and icons"
+    SIZE 400 300
+    INITIAL itemHeight=60 itemWidth=400)
+panelkit_class(styleDelegate NOT_A_WIDGET)
+
+panelkit_class(MArcList
+    FAMILY "Scrolling lists"
+    TOOLTIP "Letter index on an arc or in a column, scrolled and tapped with a finger"
+    SIZE 560 400)
+
+panelkit_class(MArcScrollBar
+    FAMILY "Scrolling lists"
+    TOOLTIP "Scroll bar in the shape of an arc, with ticks and a pointer, or straight"
+    SIZE 160 400)
+
+panelkit_class(MListView
+    FAMILY "Scrolling lists"
+    TOOLTIP "Column or free arrangement of image buttons, one of them down on request"
+    SIZE 160 320
+    CREATE "new MListView(parent, QRect(0, 0, 160, 320))")
 
 panelkit_class(SpSetupSlider
     FAMILY "Sliders"
@@ -76,29 +122,6 @@ panelkit_class(SpLoadingRound
     TOOLTIP "Busy ring of twelve spokes that turns, and a mask for touches"
     SIZE 80 80
     INITIAL "painterColor=#2f7fc6")
-
-panelkit_class(SpTableList
-    FAMILY "Scrolling lists"
-    TOOLTIP "Kinetic list whose rows have icons, texts and seven styles, with clicks on rows and icons"
-    SIZE 400 300
-    INITIAL itemHeight=60 itemWidth=400)
-panelkit_class(styleDelegate NOT_A_WIDGET)
-
-panelkit_class(MArcList
-    FAMILY "Scrolling lists"
-    TOOLTIP "Letter index on an arc or in a column, scrolled and tapped with a finger"
-    SIZE 560 400)
-
-panelkit_class(MArcScrollBar
-    FAMILY "Scrolling lists"
-    TOOLTIP "Scroll bar in the shape of an arc, with ticks and a pointer, or straight"
-    SIZE 160 400)
-
-panelkit_class(MListView
-    FAMILY "Scrolling lists"
-    TOOLTIP "Column or free arrangement of image buttons, one of them down on request"
-    SIZE 160 320
-    CREATE "new MListView(parent, QRect(0, 0, 160, 320))")
 
 panelkit_class(MRadioMovePoint
     FAMILY "Radio scales"

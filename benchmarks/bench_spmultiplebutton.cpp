@@ -1,0 +1,124 @@
+#include "canvas.h"
+#include "pictures.h"
+#include "rows.h"
+
+#include <benchmark/benchmark.h>
+#include <QApplication>
+#include <QGraphicsOpacityEffect>
+#include <QIcon>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QToolButton>
+#include <spmultiplebutton.h>
+
+namespace
+{
+
+constexpr QSize kSize(120, 120);
+constexpr QSize kPicture(72, 72);
+constexpr QPoint kPicturePos(24, 24);
+constexpr double kFloorLimit = 1.15;
+constexpr double kPeerLimit = 1;
+constexpr double kStartUpLimit = 2;
+
+// The artwork of three states, made once.
+struct Artwork {
+    QPixmap background = keyPicture(QColor(50, 60, 80), kSize);
+    QList<QPixmap> normal{keyPicture(QColor(40, 90, 160), kPicture),
+                          keyPicture(QColor(60, 170, 200), kPicture),
+                          keyPicture(QColor(90, 190, 90), kPicture)};
+    QList<QPixmap> pressed{keyPicture(QColor(230, 120, 20), kPicture),
+                           keyPicture(QColor(220, 150, 30), kPicture),
+                           keyPicture(QColor(210, 180, 40), kPicture)};
+};
+
+const Artwork &artwork()
+{
+    static const Artwork instance;
+    return instance;
+}
+
+// Ours: a button with all its pictures, in the state into which the function brings it.
+template <class Enter> PaintingMaker button(Enter enter)
+{
+    return widgetOf<SpMultipleButton>(kSize, [enter](SpMultipleButton &button) {
+        button.setPixmapList(artwork().normal, artwork().pressed);
+        button.setBackgroundImage(artwork().background);
+        enter(button);
+    });
+}
+
+void press(SpMultipleButton &button)
+{
+    QMouseEvent event(QEvent::MouseButtonPress, QPointF(60, 60), Qt::LeftButton, Qt::LeftButton,
+                      Qt::NoModifier);
+    QApplication::sendEvent(&button, &event);
+}
+
+// One picture on the other, where both need no more work.
+PaintingMaker floorOf(const QPixmap &background, const QPixmap &picture)
+{
+    return bareWidget(kSize, [=](QPainter &painter) {
+        if (!background.isNull())
+            painter.drawPixmap(0, 0, background);
+        if (!picture.isNull())
+            painter.drawPixmap(kPicturePos, picture);
+    });
+}
+
+// Qt's own button with a picture; it has one layer less to paint than ours.
+template <class Button> PaintingMaker iconButton(const QPixmap &picture, bool isDown)
+{
+    return widgetOf<Button>(kSize, [=](Button &button) {
+        button.setIcon(QIcon(picture));
+        button.setIconSize(kPicture);
+        button.setDown(isDown);
+    });
+}
+
+void addLook(Rows &rows, const char *state, const PaintingMaker &ours, const PaintingMaker &floor,
+             const QPixmap &picture, bool isDown = false)
+{
+    rows.paint("SpMultipleButton", state, ours, {floor, kFloorLimit},
+               {{"QPushButton icon", iconButton<QPushButton>(picture, isDown), kPeerLimit},
+                {"QToolButton icon", iconButton<QToolButton>(picture, isDown), kPeerLimit}});
+}
+
+template <class Widget> StepMaker makeAndDelete()
+{
+    return [] {
+        return [] {
+            const Widget widget;
+            benchmark::DoNotOptimize(&widget);
+        };
+    };
+}
+
+// What is dimmed by an effect of its own.
+template <class Widget> class Dimmable : public Widget
+{
+public:
+    Dimmable() { this->setGraphicsEffect(new QGraphicsOpacityEffect(this)); }
+};
+
+} // namespace
+
+void defineRows(Rows &rows, Tag<SpMultipleButton>)
+{
+    const Artwork &art = artwork();
+    addLook(rows, "normal", button([](SpMultipleButton &) {}),
+            floorOf(art.background, art.normal.at(0)), art.normal.at(0));
+    addLook(rows, "last state", button([](SpMultipleButton &b) { b.setCurrentValue(2); }),
+            floorOf(art.background, art.normal.at(2)), art.normal.at(2));
+    addLook(rows, "pressed", button(press), floorOf(art.background, art.pressed.at(0)),
+            art.pressed.at(0), true);
+    addLook(rows, "disabled", button([](SpMultipleButton &b) { b.setDisableState(true); }),
+            floorOf(art.background, art.normal.at(0)), art.normal.at(0));
+    addLook(rows, "no background", button([](SpMultipleButton &b) { b.setBackgroundImage({}); }),
+            floorOf({}, art.normal.at(0)), art.normal.at(0));
+    addLook(rows, "incomplete", button([](SpMultipleButton &b) { b.setNormalImage1({}); }),
+            floorOf(art.background, {}), art.normal.at(0));
+    rows.work("SpMultipleButton", "made and deleted", makeAndDelete<SpMultipleButton>(),
+              {makeAndDelete<Dimmable<QWidget>>(), kStartUpLimit},
+              {{"QPushButton with an effect", makeAndDelete<Dimmable<QPushButton>>(), 1.0}});
+}
