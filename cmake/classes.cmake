@@ -50,6 +50,11 @@ panelkit_class(MListView
     SIZE 160 320
     CREATE "new MListView(parent, QRect(0, 0, 160, 320))")
 
+panelkit_class(MOnOffButton
+    FAMILY "Switches and selection"
+    TOOLTIP "On/off switch to be tapped or dragged, pictured or painted in two colours"
+    SIZE 90 44)
+
 panelkit_class(MRadioMovePoint
     FAMILY "Radio scales"
     TOOLTIP "AM/FM tuner: a scale with a needle to be dragged over it"
