@@ -1168,16 +1168,19 @@ private slots:
 
     void aDragOfASquareSwitchHasNoThreshold()
     {
-        Switch button;
-        button.setMinimumSize(0, 0);
-        button.resize(44, 44);
-        Touch finger = touch(&button);
-        finger.press(10, 20).moveTo(40, 20).moveTo(10, 20).release();
-        QVERIFY(button.onoffStatus());
-        finger.press(10, 20).moveTo(40, 20).moveTo(10, 20).release(); // dx 0 is not toward off
-        QVERIFY(button.onoffStatus());
-        finger.press(10, 20).moveTo(40, 20).moveTo(9, 20).release();
-        QVERIFY(!button.onoffStatus());
+        for (bool reversed : {false, true}) {
+            Switch button;
+            button.setMinimumSize(0, 0);
+            button.resize(44, 44);
+            button.setReverse(reversed);
+            Touch finger = touch(&button);
+            finger.press(10, 20).moveTo(40, 20).moveTo(10, 20).release();
+            QVERIFY(button.onoffStatus());
+            finger.press(10, 20).moveTo(40, 20).moveTo(10, 20).release(); // not toward off
+            QVERIFY(button.onoffStatus());
+            finger.press(10, 20).moveTo(40, 20).moveTo(reversed ? 11 : 9, 20).release();
+            QVERIFY(!button.onoffStatus());
+        }
     }
 
     void theStatusIsSetBeforeADragIsReported()
