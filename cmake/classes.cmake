@@ -55,6 +55,12 @@ panelkit_class(MOnOffButton
     TOOLTIP "On/off switch to be tapped or dragged, pictured or painted in two colours"
     SIZE 90 44)
 
+panelkit_class(MFocusButton
+    FAMILY "Switches and selection"
+    TOOLTIP "Image button of which one is the current choice, with caption and long press"
+    SIZE 120 80
+    INITIAL displayText=Focus)
+
 panelkit_class(MRadioMovePoint
     FAMILY "Radio scales"
     TOOLTIP "AM/FM tuner: a scale with a needle to be dragged over it"
