@@ -61,6 +61,12 @@ panelkit_class(MFocusButton
     SIZE 120 80
     INITIAL displayText=Focus)
 
+panelkit_class(MPresetButton
+    FAMILY "Switches and selection"
+    TOOLTIP "Preset key: image button with an icon, two lines of text and a long press"
+    SIZE 160 80
+    INITIAL displayText=Preset)
+
 panelkit_class(MRadioMovePoint
     FAMILY "Radio scales"
     TOOLTIP "AM/FM tuner: a scale with a needle to be dragged over it"
