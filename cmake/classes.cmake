@@ -67,6 +67,12 @@ panelkit_class(MPresetButton
     SIZE 160 80
     INITIAL displayText=Preset)
 
+panelkit_class(MSelectButton
+    FAMILY "Switches and selection"
+    TOOLTIP "Image button that can be selected, with a caption in a colour for each look"
+    SIZE 120 80
+    INITIAL displayText=Select "normalTextColor=#202020")
+
 panelkit_class(MRadioMovePoint
     FAMILY "Radio scales"
     TOOLTIP "AM/FM tuner: a scale with a needle to be dragged over it"
