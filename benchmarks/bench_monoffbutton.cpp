@@ -116,7 +116,7 @@ Shape roundKnob(int left, const QColor &pen, const QColor &brush)
 
 Shape plate(const QRect &rect, const QColor &pen, const QColor &brush)
 {
-    return {roundedPath(rect, rect.height() / 2), pen, brush};
+    return {roundedPath(rect, qreal(rect.height() / 2)), pen, brush};
 }
 
 QVector<Shape> plates(int knobLeft, const QColor &innerPen, const QColor &innerBrush)

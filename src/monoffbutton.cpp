@@ -291,8 +291,8 @@ void MOnOffButton::timerEvent(QTimerEvent *e)
 
 void MOnOffButton::createRectPath(QPainterPath &path, QRectF rect, int radius) const
 {
-    const QPointF across(radius, 0);
-    const QPointF down(0, radius);
+    const QPointF across(qreal(radius), 0);
+    const QPointF down(0, qreal(radius));
     path.moveTo(rect.topRight() - across);
     path.lineTo(rect.topLeft() + across);
     path.quadTo(rect.topLeft(), rect.topLeft() + down);
@@ -431,7 +431,7 @@ void MOnOffButton::drawSlimTrack(QPainter &painter, int left, int right,
 {
     const int sixth = height() / 6;
     QPainterPath path;
-    createRectPath(path, QRectF(left, sixth + 1, right - left + 1, 4 * sixth), 2 * sixth);
+    createRectPath(path, QRectF(QRect(left, sixth + 1, right - left + 1, 4 * sixth)), 2 * sixth);
     painter.fillPath(path, surface.ground);
     painter.setPen(surface.pen);
     painter.setBrush(surface.brush);

@@ -118,7 +118,7 @@ void moveKnobTo(MOnOffButton &button, int x)
 
 QPainterPath roundedPath(const QRectF &r, int radius)
 {
-    const qreal k = radius;
+    const qreal k = qreal(radius);
     QPainterPath path;
     path.moveTo(r.right() - k, r.top());
     path.lineTo(r.left() + k, r.top());
@@ -264,7 +264,7 @@ void drawDimmed(QPainter &p, const QRect &target, const QPixmap &pixmap)
     inner.setCompositionMode(QPainter::CompositionMode_DestinationIn);
     inner.fillRect(target, QColor(0, 0, 0, 154));
     inner.end();
-    p.drawImage(QRectF(target), image, QRectF(0, 0, image.width(), image.height()));
+    p.drawImage(QRectF(target), image, QRectF(image.rect()));
 }
 
 // Whatever is painted in the whole widget, over an opaque ground as in a window.
@@ -1210,7 +1210,8 @@ private slots:
     {
         const auto button = makeSwitch();
         const auto send = [&](QEvent::Type type, int x) {
-            QMouseEvent event(type, QPointF(x, 0), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+            QMouseEvent event(type, QPointF(QPoint(x, 0)), Qt::LeftButton, Qt::LeftButton,
+                              Qt::NoModifier);
             QCoreApplication::sendEvent(button.get(), &event);
         };
         send(QEvent::MouseButtonPress, -2000000000);

@@ -599,7 +599,7 @@ private slots:
         const auto button = makeButton();
         SignalLog log(button.get());
         const auto send = [&](QEvent::Type type, int at) {
-            QMouseEvent event(type, QPointF(at, at), Qt::LeftButton, Qt::LeftButton,
+            QMouseEvent event(type, QPointF(QPoint(at, at)), Qt::LeftButton, Qt::LeftButton,
                               Qt::NoModifier);
             QCoreApplication::sendEvent(button.get(), &event);
         };
