@@ -66,7 +66,14 @@ public:
     using MFocusButton::MFocusButton;
     using MFocusButton::mousePressEvent;
     using MFocusButton::mouseReleaseEvent;
-    using MFocusButton::timerEvent;
+
+    int ticks = 0;
+
+    void timerEvent(QTimerEvent *e) override
+    {
+        ++ticks;
+        MFocusButton::timerEvent(e);
+    }
 };
 
 // A button of 100 x 80 with a picture and a text colour for each look.
@@ -358,7 +365,7 @@ private slots:
                                   QRect(QPoint(INT_MAX, INT_MAX), QPoint(INT_MIN, INT_MIN))}) {
             button->setdisplayTextRect(rect);
             painted(*button);
-            QCOMPARE(button->displayTextRect(), rect);
+            QVERIFY(button->displayTextRect() == rect);
         }
     }
 
@@ -523,6 +530,18 @@ private slots:
         finger.press(10, 10).hold(2400).release();
         virtualtime::advance(10000);
         QCOMPARE(log.take(), (QStringList{kClicked, kBeep}));
+        QCOMPARE(button->ticks, 0);
+    }
+
+    void aPressAfterALostReleaseStartsAnew()
+    {
+        const auto button = makeButton();
+        SignalLog log(button.get());
+        Touch finger = touch(button.get());
+        finger.press(10, 10).hold(2500).press(10, 10).hold(0);
+        log.take();
+        finger.release();
+        QCOMPARE(log.take(), QStringList{kClicked});
     }
 
     void aSecondPressTimesAnew()
@@ -536,6 +555,7 @@ private slots:
         QCOMPARE(log.take(), QStringList{kLongClicked});
         finger.hold(20000);
         QCOMPARE(log.take(), QStringList());
+        QCOMPARE(button->ticks, 1);
     }
 
     void theIntervalIsThatOfThePress()

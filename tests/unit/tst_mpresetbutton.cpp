@@ -76,7 +76,14 @@ public:
     using MPresetButton::mousePressEvent;
     using MPresetButton::mouseReleaseEvent;
     using MPresetButton::MPresetButton;
-    using MPresetButton::timerEvent;
+
+    int ticks = 0;
+
+    void timerEvent(QTimerEvent *e) override
+    {
+        ++ticks;
+        MPresetButton::timerEvent(e);
+    }
 };
 
 // A key of 100 x 80 with everything that it can show.
@@ -633,6 +640,18 @@ private slots:
         SignalLog log(button.get());
         touch(button.get()).press(10, 10).hold(1400).release().hold(5000);
         QCOMPARE(log.take(), (QStringList{kBeep, kClicked}));
+        QCOMPARE(button->ticks, 0);
+    }
+
+    void aPressAfterALostReleaseStartsAnew()
+    {
+        const auto button = makeButton();
+        SignalLog log(button.get());
+        Touch finger = touch(button.get());
+        finger.press(10, 10).hold(1500).press(10, 10).hold(0);
+        log.take();
+        finger.release();
+        QCOMPARE(log.take(), QStringList{kClicked});
     }
 
     void aSecondPressTimesAnew()
@@ -646,6 +665,7 @@ private slots:
         QCOMPARE(log.take(), QStringList{kLongClicked});
         finger.hold(20000);
         QCOMPARE(log.take(), QStringList());
+        QCOMPARE(button->ticks, 1);
     }
 
     void theWholeWidgetTakesTouches()
@@ -713,6 +733,17 @@ private slots:
         QCOMPARE(parent.events, (QStringList{"press", "release", "press", "move", "release"}));
         QCOMPARE(heardByParent, QVector<int>{1});
         button->setParent(nullptr);
+    }
+
+    void aMoveRepaintsNothing()
+    {
+        // QCheckBox would, to show that a finger is over it.
+        const auto button = makeButton();
+        show(*button);
+        button->setAttribute(Qt::WA_Hover);
+        Touch finger = touch(button.get());
+        finger.press(10, 10);
+        QCOMPARE(paints(*button, [&] { finger.moveTo(11, 10); }), 0);
     }
 
     void timersOfTheBaseClassAreAnswered()

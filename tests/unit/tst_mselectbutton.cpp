@@ -66,7 +66,14 @@ public:
     using MSelectButton::mousePressEvent;
     using MSelectButton::mouseReleaseEvent;
     using MSelectButton::MSelectButton;
-    using MSelectButton::timerEvent;
+
+    int ticks = 0;
+
+    void timerEvent(QTimerEvent *e) override
+    {
+        ++ticks;
+        MSelectButton::timerEvent(e);
+    }
 };
 
 // A button of 100 x 80 with a picture and a text colour for each look.
@@ -476,7 +483,7 @@ private slots:
                                   QRect(QPoint(INT_MAX, INT_MAX), QPoint(INT_MIN, INT_MIN))}) {
             button->setdisplayTextRect(rect);
             painted(*button);
-            QCOMPARE(button->displayTextRect(), rect);
+            QVERIFY(button->displayTextRect() == rect);
         }
     }
 
@@ -635,6 +642,18 @@ private slots:
         SignalLog log(button.get());
         touch(button.get()).press(10, 10).hold(1400).release().hold(5000);
         QCOMPARE(log.take(), (QStringList{kBeep, kClicked}));
+        QCOMPARE(button->ticks, 0);
+    }
+
+    void aPressAfterALostReleaseStartsAnew()
+    {
+        const auto button = makeButton();
+        SignalLog log(button.get());
+        Touch finger = touch(button.get());
+        finger.press(10, 10).hold(1500).press(10, 10).hold(0);
+        log.take();
+        finger.release();
+        QCOMPARE(log.take(), QStringList{kClicked});
     }
 
     void aSecondPressTimesAnew()
@@ -648,6 +667,7 @@ private slots:
         QCOMPARE(log.take(), QStringList{kLongClicked});
         finger.hold(20000);
         QCOMPARE(log.take(), QStringList());
+        QCOMPARE(button->ticks, 1);
     }
 
     // --- Disabled -------------------------------------------------------------------------------
