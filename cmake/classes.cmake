@@ -45,6 +45,29 @@ panelkit_class(SpDisLabel
     SIZE 160 60
     INITIAL text=Label "fontColor=#202020")
 
+panelkit_class(MOnOffButton
+    FAMILY "Switches and selection"
+    TOOLTIP "On/off switch to be tapped or dragged, pictured or painted in two colours"
+    SIZE 90 44)
+
+panelkit_class(MFocusButton
+    FAMILY "Switches and selection"
+    TOOLTIP "Image button of which one is the current choice, with caption and long press"
+    SIZE 120 80
+    INITIAL displayText=Focus)
+
+panelkit_class(MPresetButton
+    FAMILY "Switches and selection"
+    TOOLTIP "Preset key: image button with an icon, two lines of text and a long press"
+    SIZE 160 80
+    INITIAL displayText=Preset)
+
+panelkit_class(MSelectButton
+    FAMILY "Switches and selection"
+    TOOLTIP "Image button that can be selected, with a caption in a colour for each look"
+    SIZE 120 80
+    INITIAL displayText=Select "normalTextColor=#202020")
+
 panelkit_class(SpMultipleButton
     FAMILY "State buttons"
     TOOLTIP "Button that goes through up to 20 states, each with a picture and a pressed picture"

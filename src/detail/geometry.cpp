@@ -42,4 +42,12 @@ QRect boundedRect(int left, int top, int width, int height)
     return {boundedPixel(left), boundedPixel(top), boundedPixel(width), boundedPixel(height)};
 }
 
+QRect boundedOr(const QRect &rect, const QRect &fallback)
+{
+    if (!rect.isValid())
+        return fallback;
+    return {QPoint(boundedPixel(rect.left()), boundedPixel(rect.top())),
+            QPoint(boundedPixel(rect.right()), boundedPixel(rect.bottom()))};
+}
+
 } // namespace panelkit

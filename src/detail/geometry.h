@@ -24,6 +24,10 @@ int boundedPixel(int value);
 /// pixels in a single-precision coordinate.
 QRect boundedRect(int left, int top, int width, int height);
 
+/// A rectangle that came from a caller, if it is valid, with each edge limited as a single pixel
+/// is, so that its width does not overflow an int; otherwise the one to fall back to.
+QRect boundedOr(const QRect &rect, const QRect &fallback);
+
 } // namespace panelkit
 
 #endif // PANELKIT_DETAIL_GEOMETRY_H

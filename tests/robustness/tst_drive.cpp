@@ -121,10 +121,13 @@ public:
         }
     }
 
-    // QAbstractSlider goes on to its members after this one, in any class derived from it.
+    // After these QAbstractSlider, QAbstractButton and QCheckBox go on to their members, in any
+    // class derived from them.
     static bool isSurvivedByQt(const QMetaMethod &signal)
     {
-        return signal.name() != "actionTriggered";
+        static const QByteArrayList fatal{"actionTriggered", "released", "toggled", "stateChanged"};
+        const bool isOfQt = *signal.enclosingMetaObject()->className() == 'Q';
+        return !isOfQt || !fatal.contains(signal.name());
     }
 
     int qt_metacall(QMetaObject::Call call, int id, void **arguments) override

@@ -54,6 +54,30 @@ private slots:
         QCOMPARE(large.size(), QSize(kFarthest, kFarthest));
         QCOMPARE(large.right(), 2 * kFarthest - 1);
     }
+
+    void boundedOrKeepsAValidRectangle()
+    {
+        const QRect fallback(0, 0, 100, 50);
+        QCOMPARE(boundedOr({-5, 7, 300, 200}, fallback), QRect(-5, 7, 300, 200));
+        QCOMPARE(boundedOr({10, 20, 1, 1}, fallback), QRect(10, 20, 1, 1));
+    }
+
+    void boundedOrFallsBackWhereARectangleIsNotValid()
+    {
+        const QRect fallback(0, 0, 100, 50);
+        QCOMPARE(boundedOr(QRect(), fallback), fallback);
+        QCOMPARE(boundedOr({10, 20, 0, 30}, fallback), fallback);
+        QCOMPARE(boundedOr({10, 20, 30, 0}, fallback), fallback);
+    }
+
+    void boundedOrLimitsEachEdge()
+    {
+        constexpr int kFarthest = 16777215;
+        const QRect large =
+            boundedOr(QRect(QPoint(INT_MIN, INT_MIN), QPoint(INT_MAX, INT_MAX)), {});
+        QCOMPARE(large.topLeft(), QPoint(-kFarthest, -kFarthest));
+        QCOMPARE(large.bottomRight(), QPoint(kFarthest, kFarthest));
+    }
 };
 
 QTEST_APPLESS_MAIN(tst_Geometry)

@@ -1,0 +1,251 @@
+#include "canvas.h"
+#include "pictures.h"
+#include "rows.h"
+
+#include <benchmark/benchmark.h>
+#include <monoffbutton.h>
+#include <QCheckBox>
+#include <QCoreApplication>
+#include <QMouseEvent>
+#include <QPainterPath>
+
+namespace
+{
+
+constexpr QSize kSize(120, 48);
+constexpr QRect kWhole(QPoint(), kSize);
+constexpr int kKnob = 52; // px, in motion
+constexpr double kFloorLimit = 1.15;
+constexpr double kPeerLimit = 0.6; // of what paints pictures only
+constexpr double kStartUpLimit = 2;
+constexpr QColor kOn(255, 145, 20);
+constexpr QColor kOff(155, 155, 155);
+
+struct Artwork {
+    QPixmap on = keyPicture(QColor(230, 120, 20), kSize);
+    QPixmap off = keyPicture(QColor(110, 110, 110), kSize);
+    QPixmap knob = keyPicture(QColor(40, 90, 160), QSize(48, 48));
+    QPixmap moving = keyPicture(QColor(60, 170, 200), QSize(48, 48));
+};
+
+const Artwork &artwork()
+{
+    static const Artwork instance;
+    return instance;
+}
+
+// Ours, in the state into which the function brings it.
+template <class Enter> PaintingMaker button(Enter enter)
+{
+    return widgetOf<MOnOffButton>(kSize, enter);
+}
+
+void setPictures(MOnOffButton &button)
+{
+    button.setNormalBkgPix(artwork().on);
+    button.setPressBkgPix(artwork().off);
+    button.setNormalChunkPix(artwork().knob);
+    button.setPressChunkPix(artwork().moving);
+}
+
+void moveKnob(MOnOffButton &button)
+{
+    button.resize(kSize);
+    QMouseEvent move(QEvent::MouseMove, QPointF(kKnob, 10), Qt::NoButton, Qt::LeftButton,
+                     Qt::NoModifier);
+    QCoreApplication::sendEvent(&button, &move);
+}
+
+QPainterPath roundedPath(const QRectF &r, qreal k)
+{
+    QPainterPath path;
+    path.moveTo(r.right() - k, r.top());
+    path.lineTo(r.left() + k, r.top());
+    path.quadTo(r.topLeft(), r.topLeft() + QPointF(0, k));
+    path.lineTo(r.left(), r.bottom() - k);
+    path.quadTo(r.bottomLeft(), r.bottomLeft() + QPointF(k, 0));
+    path.lineTo(r.right() - k, r.bottom());
+    path.quadTo(r.bottomRight(), r.bottomRight() - QPointF(0, k));
+    path.lineTo(r.right(), r.top() + k);
+    path.quadTo(r.topRight(), r.topRight() - QPointF(k, 0));
+    return path;
+}
+
+// One shape of a painted look, with everything about it prepared.
+struct Shape {
+    QPainterPath path;
+    QPen pen;
+    QBrush brush;
+    QBrush ground = QBrush(Qt::NoBrush); // painted first, under the soft edge
+    QRect circle = QRect(); // instead of the path
+};
+
+PaintingMaker floorOf(const QVector<Shape> &shapes)
+{
+    return bareWidget(kSize, [shapes](QPainter &painter) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        for (const Shape &shape : shapes) {
+            if (shape.ground.style() != Qt::NoBrush)
+                painter.fillPath(shape.path, shape.ground);
+            painter.setPen(shape.pen);
+            painter.setBrush(shape.brush);
+            if (shape.circle.isNull())
+                painter.drawPath(shape.path);
+            else
+                painter.drawEllipse(shape.circle);
+        }
+    });
+}
+
+QColor part(const QColor &color, int numerator, int denominator, int alpha = 255)
+{
+    return {color.red() * numerator / denominator, color.green() * numerator / denominator,
+            color.blue() * numerator / denominator, alpha};
+}
+
+Shape slimTrack(int left, int right, const QColor &pen, const QColor &brush, const QColor &ground)
+{
+    const QRectF rect(QRect(QPoint(left, 9), QPoint(right, 40)));
+    return {roundedPath(rect, 16), pen, brush, ground};
+}
+
+Shape roundKnob(int left, const QColor &pen, const QColor &brush)
+{
+    return {{}, pen, brush, QBrush(Qt::NoBrush), QRect(left, 0, 48, 48)};
+}
+
+Shape plate(const QRect &rect, const QColor &pen, const QColor &brush)
+{
+    return {roundedPath(rect, qreal(rect.height() / 2)), pen, brush};
+}
+
+QVector<Shape> plates(int knobLeft, const QColor &innerPen, const QColor &innerBrush)
+{
+    return {plate(kWhole.adjusted(1, 1, -1, -1), kOn, kOn),
+            plate(kWhole.adjusted(6, 6, -6, -6), innerPen, innerBrush),
+            plate(QRect(knobLeft, 16, 28, 16), kOn, kOn)};
+}
+
+PaintingMaker picturesFloor(const QImage &track, const QImage &knob, const QPoint &at)
+{
+    return bareWidget(kSize, [=](QPainter &painter) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.drawImage(0, 0, track);
+        painter.drawImage(at, knob);
+    });
+}
+
+// The picture as it is dimmed for a place on the widget.
+QImage dimmed(const QPixmap &pixmap, const QPoint &at)
+{
+    const QRect target(at, pixmap.size());
+    QImage image = pixmap.toImage();
+    QPainter painter(&image);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.fillRect(target, Qt::transparent);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    painter.drawPixmap(target, pixmap);
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+    painter.fillRect(target, QColor(0, 0, 0, 154));
+    return image;
+}
+
+// Qt's own thing with two states.
+PaintingMaker checkBox(bool enabled)
+{
+    return widgetOf<QCheckBox>(kSize, [enabled](QCheckBox &box) {
+        box.setChecked(true);
+        box.setEnabled(enabled);
+    });
+}
+
+void addPaintedLooks(Rows &rows)
+{
+    const QColor line(70, 70, 70);
+    rows.paint("MOnOffButton", "style 0", button([](MOnOffButton &b) { b.setOnoffStatus(true); }),
+               {floorOf({slimTrack(1, 118, line, part(kOn, 2, 3), kOn), roundKnob(71, line, kOn)}),
+                kFloorLimit},
+               {{"QCheckBox", checkBox(true)}});
+    rows.paint("MOnOffButton", "style 0 in motion", button(moveKnob),
+               {floorOf({slimTrack(1, kKnob - 1, line, part(kOff, 2, 3), kOff),
+                         slimTrack(kKnob, 118, line, part(kOn, 2, 3), kOn),
+                         roundKnob(kKnob - 24, line, kOff)}),
+                kFloorLimit},
+               {{"QCheckBox", checkBox(true)}});
+    rows.paint("MOnOffButton", "style 0 disabled", button([](MOnOffButton &b) {
+                   b.setOnoffStatus(true);
+                   b.setBtnDisable(true);
+               }),
+               {floorOf({slimTrack(1, 118, part(kOn, 2, 5), part(kOn, 2, 5), part(kOn, 2, 3)),
+                         roundKnob(71, part(kOn, 2, 3), part(kOn, 2, 3))}),
+                kFloorLimit},
+               {{"QCheckBox", checkBox(false)}});
+    rows.paint("MOnOffButton", "style 1", button([](MOnOffButton &b) {
+                   b.setOnoffStatus(true);
+                   b.setUIStyle(MOnOffButton::ONOFF_STYLE_1);
+               }),
+               {floorOf(plates(76, kOn, part(kOn, 1, 2, 155))), kFloorLimit},
+               {{"QCheckBox", checkBox(true)}});
+    rows.paint("MOnOffButton", "style 1 in motion", button([](MOnOffButton &b) {
+                   b.setOnoffStatus(true);
+                   b.setUIStyle(MOnOffButton::ONOFF_STYLE_1);
+                   moveKnob(b);
+               }),
+               {floorOf(plates(39, part(kOn, 1, 2), part(kOn, 1, 2))), kFloorLimit},
+               {{"QCheckBox", checkBox(true)}});
+}
+
+void addPicturedLooks(Rows &rows)
+{
+    const Artwork &art = artwork();
+    rows.paint("MOnOffButton", "pictures", button([](MOnOffButton &b) {
+                   setPictures(b);
+                   b.setOnoffStatus(true);
+               }),
+               {picturesFloor(art.on.toImage(), art.knob.toImage(), {71, 0}), kFloorLimit},
+               {{"QCheckBox", checkBox(true), kPeerLimit}});
+    rows.paint(
+        "MOnOffButton", "pictures disabled", button([](MOnOffButton &b) {
+            setPictures(b);
+            b.setOnoffStatus(true);
+            b.setBtnDisable(true);
+        }),
+        {picturesFloor(dimmed(art.on, {0, 0}), dimmed(art.knob, {71, 0}), {71, 0}), kFloorLimit},
+        {{"QCheckBox", checkBox(false), kPeerLimit}});
+    // A knob in motion never stands in one place twice: squeezing the tracks is part of the floor.
+    rows.paint("MOnOffButton", "pictures in motion", button([](MOnOffButton &b) {
+                   setPictures(b);
+                   moveKnob(b);
+               }),
+               {bareWidget(kSize,
+                           [&art](QPainter &painter) {
+                               painter.setRenderHint(QPainter::Antialiasing);
+                               painter.drawPixmap(0, 0, kKnob, 48, art.on);
+                               painter.drawPixmap(kKnob, 0, 120 - kKnob, 48, art.off);
+                               painter.drawPixmap(kKnob - 24, 0, art.moving);
+                           }),
+                kFloorLimit},
+               {{"QCheckBox", checkBox(true)}});
+}
+
+// What a settings page full of switches costs before its first paint.
+template <class Widget> StepMaker makeAndDelete()
+{
+    return [] {
+        return [] {
+            const Widget widget;
+            benchmark::DoNotOptimize(&widget);
+        };
+    };
+}
+
+} // namespace
+
+void defineRows(Rows &rows, Tag<MOnOffButton>)
+{
+    addPaintedLooks(rows);
+    addPicturedLooks(rows);
+    rows.work("MOnOffButton", "made and deleted", makeAndDelete<MOnOffButton>(),
+              {makeAndDelete<QWidget>(), kStartUpLimit},
+              {{"QCheckBox", makeAndDelete<QCheckBox>(), 1.0}});
+}

@@ -1,0 +1,662 @@
+#include <MFocusButton>
+
+#include "signallog.h"
+#include "touch.h"
+#include "virtualtime.h"
+#include "widgettest.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPointer>
+#include <QTimerEvent>
+
+#include <climits>
+#include <memory>
+#include <type_traits>
+
+// The accessors that are part of the interface exactly as they are written.
+static_assert(std::is_same_v<decltype(&MFocusButton::setNormalImage),
+                             void (MFocusButton::*)(const QPixmap &)>);
+static_assert(std::is_same_v<decltype(&MFocusButton::setdisplayTextRect),
+                             void (MFocusButton::*)(const QRect &)>);
+static_assert(
+    std::is_same_v<decltype(&MFocusButton::setButtonID), void (MFocusButton::*)(const QString &)>);
+static_assert(
+    std::is_same_v<decltype(&MFocusButton::setLongPressIntal), void (MFocusButton::*)(int)>);
+static_assert(
+    std::is_same_v<decltype(&MFocusButton::getLongPressIntal), int (MFocusButton::*)() const>);
+static_assert(std::is_same_v<decltype(&MFocusButton::hitButton),
+                             bool (MFocusButton::*)(const QPoint &) const>);
+
+namespace
+{
+
+using Action = std::function<void(MFocusButton &)>;
+using Paint = std::function<void(QPainter &)>;
+
+const QString kClicked = QStringLiteral("btnClicked(\"MFocusButton_ID\")");
+const QString kLongClicked = QStringLiteral("btnLongClicked(\"MFocusButton_ID\")");
+const QString kBeep = QStringLiteral("beep");
+
+QPixmap picture(const QColor &color, const QSize &size = QSize(40, 30))
+{
+    QPixmap pixmap(size);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(color);
+    painter.drawEllipse(pixmap.rect().adjusted(2, 2, -2, -2));
+    return pixmap;
+}
+
+const QColor kNormal = Qt::green;
+const QColor kPress = Qt::yellow;
+const QColor kDisable = Qt::magenta;
+const QColor kNormalText(10, 20, 30);
+const QColor kPressText(40, 50, 160);
+const QColor kDisableText(100, 110, 120, 130);
+const QString kText = QStringLiteral("Radio");
+
+const QRect kImageRect(30, 25, 40, 30); // of makeButton()
+
+// Handlers are called with what a subclass may hand them.
+class Button : public MFocusButton
+{
+public:
+    using MFocusButton::MFocusButton;
+    using MFocusButton::mousePressEvent;
+    using MFocusButton::mouseReleaseEvent;
+
+    int ticks = 0;
+
+    void timerEvent(QTimerEvent *e) override
+    {
+        ++ticks;
+        MFocusButton::timerEvent(e);
+    }
+};
+
+// A button of 100 x 80 with a picture and a text colour for each look.
+std::unique_ptr<Button> makeButton(QWidget *parent = nullptr)
+{
+    auto button = std::make_unique<Button>(parent);
+    button->setNormalImage(picture(kNormal));
+    button->setPressImage(picture(kPress));
+    button->setDisableImage(picture(kDisable));
+    button->setNormalTextColor(kNormalText);
+    button->setPressTextColor(kPressText);
+    button->setDisableTextColor(kDisableText);
+    button->resize(100, 80);
+    return button;
+}
+
+Paint look(const QColor &image, const QColor &text)
+{
+    return [=](QPainter &p) {
+        if (image.isValid())
+            p.drawPixmap(kImageRect, picture(image));
+        p.setPen(text);
+        p.drawText(QRect(0, 0, 100, 80), Qt::AlignCenter, kText);
+    };
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Action)
+Q_DECLARE_METATYPE(Paint)
+
+class tst_MFocusButton : public WidgetTest
+{
+    Q_OBJECT
+
+private slots:
+    // --- Construction and setters ---------------------------------------------------------------
+
+    void defaults()
+    {
+        QWidget parent;
+        const MFocusButton button(&parent);
+        QCOMPARE(button.parentWidget(), &parent);
+        QVERIFY(button.normalImage().isNull());
+        QVERIFY(button.pressImage().isNull());
+        QVERIFY(button.disableImage().isNull());
+        QCOMPARE(button.displayText(), QString());
+        QVERIFY(!button.normalTextColor().isValid());
+        QVERIFY(!button.pressTextColor().isValid());
+        QVERIFY(!button.disableTextColor().isValid());
+        QVERIFY(button.displayTextRect().isNull());
+        QCOMPARE(button.buttonID(), QStringLiteral("MFocusButton_ID"));
+        QCOMPARE(button.getLongPressIntal(), 2500);
+        QVERIFY(!button.isChecked());
+        QVERIFY(button.autoExclusive());
+        QCOMPARE(button.minimumSize(), QRadioButton().minimumSize());
+    }
+
+    void settersThatRepaintDoItOnceAndOthersDoNot_data()
+    {
+        QTest::addColumn<Action>("action");
+        QTest::addColumn<int>("expected");
+        const auto row = [](const char *name, int expected, const Action &action) {
+            QTest::newRow(name) << action << expected;
+        };
+        row("normalImage", 1, [](auto &b) { b.setNormalImage(picture(Qt::red)); });
+        row("normalImage null", 0, [](auto &b) { b.setNormalImage(QPixmap()); });
+        row("pressImage", 0, [](auto &b) { b.setPressImage(picture(Qt::red)); });
+        row("disableImage", 1, [](auto &b) { b.setDisableImage(picture(Qt::red)); });
+        row("disableImage null", 1, [](auto &b) { b.setDisableImage(QPixmap()); });
+        row("displayText", 1, [](auto &b) { b.setDisplayText(QStringLiteral("x")); });
+        row("displayText unchanged", 1, [](auto &b) { b.setDisplayText(QString()); });
+        row("normalTextColor", 0, [](auto &b) { b.setNormalTextColor(Qt::red); });
+        row("pressTextColor", 0, [](auto &b) { b.setPressTextColor(Qt::red); });
+        row("disableTextColor", 0, [](auto &b) { b.setDisableTextColor(Qt::red); });
+        row("displayTextRect", 0, [](auto &b) { b.setdisplayTextRect(QRect(1, 2, 3, 4)); });
+        row("buttonID", 0, [](auto &b) { b.setButtonID(QStringLiteral("x")); });
+        row("longPressIntal", 0, [](auto &b) { b.setLongPressIntal(7); });
+    }
+
+    void settersThatRepaintDoItOnceAndOthersDoNot()
+    {
+        QFETCH(Action, action);
+        const auto button = makeButton();
+        show(*button);
+        QTEST(paints(*button, [&] { action(*button); }), "expected");
+    }
+
+    void everyPropertyKeepsWhatItIsGiven_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        QTest::addColumn<QVariant>("value");
+        const auto row = [](const char *name, const QVariant &value) {
+            QTest::newRow(name) << QByteArray(name) << value;
+        };
+        row("displayText", QStringLiteral("text"));
+        row("normalTextColor", QColor(1, 2, 3, 4));
+        row("pressTextColor", QColor(2, 2, 3, 4));
+        row("disableTextColor", QColor(3, 2, 3, 4));
+        row("displayTextRect", QRect(1, -2, 3, 4));
+        row("buttonID", QStringLiteral("left"));
+    }
+
+    void everyPropertyKeepsWhatItIsGiven()
+    {
+        QFETCH(QByteArray, name);
+        QFETCH(QVariant, value);
+        MFocusButton button;
+        QVERIFY(button.property(name) != value);
+        QVERIFY(button.setProperty(name, value));
+        QCOMPARE(button.property(name), value);
+    }
+
+    void everyPictureIsKept()
+    {
+        MFocusButton button;
+        for (const char *name : {"normalImage", "pressImage", "disableImage"}) {
+            const QPixmap image = picture(Qt::red);
+            QVERIFY(button.setProperty(name, image));
+            QCOMPARE(button.property(name).value<QPixmap>().cacheKey(), image.cacheKey());
+        }
+    }
+
+    void onlyANormalImageSetsTheMinimumSize()
+    {
+        MFocusButton button;
+        button.setPressImage(picture(kPress, {170, 144}));
+        button.setDisableImage(picture(kDisable, {171, 145}));
+        QCOMPARE(button.minimumSize(), QSize(0, 0));
+        button.setNormalImage(picture(kNormal, {70, 44}));
+        QCOMPARE(button.minimumSize(), QSize(70, 44));
+        button.setNormalImage(QPixmap());
+        QVERIFY(button.normalImage().isNull());
+        QCOMPARE(button.minimumSize(), QSize(70, 44));
+    }
+
+    void setFontSizeChangesOnlyThePixelSize()
+    {
+        MFocusButton button;
+        QFont expected = button.font();
+        expected.setPixelSize(29);
+        button.setFontSize(29);
+        QCOMPARE(button.font(), expected);
+        for (int px : {0, -1, INT_MIN}) {
+            button.setFontSize(px);
+            QCOMPARE(button.font(), expected);
+        }
+    }
+
+    // --- Looks ----------------------------------------------------------------------------------
+
+    void looks_data()
+    {
+        QTest::addColumn<Action>("state");
+        QTest::addColumn<Paint>("expected");
+        const auto row = [](const char *name, const Action &state, const Paint &expected) {
+            QTest::newRow(name) << state << expected;
+        };
+        row(
+            "normal", [](auto &) {}, look(kNormal, kNormalText));
+        row(
+            "down", [](auto &b) { b.setDown(true); }, look(kPress, kPressText));
+        row(
+            "checked", [](auto &b) { b.setChecked(true); }, look(kPress, kPressText));
+        row(
+            "down without press image",
+            [](auto &b) {
+                b.setDown(true);
+                b.setPressImage(QPixmap());
+            },
+            look(QColor(), kPressText));
+        row(
+            "checked without press image",
+            [](auto &b) {
+                b.setChecked(true);
+                b.setPressImage(QPixmap());
+            },
+            look(QColor(), kPressText));
+        row(
+            "disabled", [](auto &b) { b.setEnabled(false); }, look(kDisable, kDisableText));
+        row(
+            "disabled and checked",
+            [](auto &b) {
+                b.setChecked(true);
+                b.setEnabled(false);
+            },
+            look(kDisable, kDisableText));
+        row(
+            "disabled without disable image",
+            [](auto &b) {
+                b.setDisableImage(QPixmap());
+                b.setEnabled(false);
+            },
+            look(kNormal, kDisableText));
+        row(
+            "disabled and checked without disable image",
+            [](auto &b) {
+                b.setDisableImage(QPixmap());
+                b.setChecked(true);
+                b.setEnabled(false);
+            },
+            look(kNormal, kDisableText));
+        // What a painter makes of a colour that was never set.
+        row(
+            "colour not set", [](auto &b) { b.setNormalTextColor(QColor()); },
+            look(kNormal, QColor()));
+    }
+
+    void looks()
+    {
+        QFETCH(Action, state);
+        QFETCH(Paint, expected);
+        const auto button = makeButton();
+        button->setDisplayText(kText);
+        state(*button);
+        COMPARE_PICTURES(painted(*button), reference(*button, expected));
+        COMPARE_PICTURES(painted(*button), reference(*button, expected));
+    }
+
+    void picturesAreStretchedToTheSizeOfTheNormalOne()
+    {
+        const QPixmap large = picture(Qt::red, {131, 77});
+        const auto button = makeButton();
+        button->setPressImage(large);
+        button->setDisableImage(large);
+        button->setChecked(true);
+        const auto stretched = [&](QPainter &p) {
+            p.drawPixmap(kImageRect, large);
+        };
+        COMPARE_PICTURES(painted(*button), reference(*button, stretched));
+        button->setEnabled(false);
+        COMPARE_PICTURES(painted(*button), reference(*button, stretched));
+    }
+
+    void theImageIsCentredTowardZero_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<QPoint>("topLeft");
+        QTest::newRow("even") << QSize(100, 80) << QPoint(30, 25);
+        QTest::newRow("odd") << QSize(101, 81) << QPoint(30, 25);
+        QTest::newRow("smaller") << QSize(35, 25) << QPoint(-2, -2);
+    }
+
+    void theImageIsCentredTowardZero()
+    {
+        QFETCH(QSize, size);
+        QFETCH(QPoint, topLeft);
+        const auto button = makeButton();
+        button->setMinimumSize(0, 0);
+        button->resize(size);
+        COMPARE_PICTURES(painted(*button), reference(*button, [&](QPainter &p) {
+                             p.drawPixmap(topLeft, picture(kNormal));
+                         }));
+    }
+
+    void captionRectangle_data()
+    {
+        QTest::addColumn<QRect>("rect");
+        QTest::addColumn<QRect>("expected");
+        const QRect whole(0, 0, 100, 80);
+        QTest::newRow("none") << QRect() << whole;
+        QTest::newRow("valid") << QRect(20, 50, 70, 25) << QRect(20, 50, 70, 25);
+        QTest::newRow("one pixel") << QRect(50, 40, 1, 1) << QRect(50, 40, 1, 1);
+        QTest::newRow("beside") << QRect(-30, -20, 70, 60) << QRect(-30, -20, 70, 60);
+        QTest::newRow("no width") << QRect(20, 50, 0, 25) << whole;
+        QTest::newRow("no height") << QRect(20, 50, 70, 0) << whole;
+    }
+
+    void captionRectangle()
+    {
+        QFETCH(QRect, rect);
+        QFETCH(QRect, expected);
+        const auto button = makeButton();
+        button->setDisplayText(kText);
+        button->setdisplayTextRect(rect);
+        COMPARE_PICTURES(painted(*button), reference(*button, [&](QPainter &p) {
+                             p.drawPixmap(kImageRect, picture(kNormal));
+                             p.setPen(kNormalText);
+                             p.drawText(expected, Qt::AlignCenter, kText);
+                         }));
+    }
+
+    void hostileCaptionRectanglesAreSurvived()
+    {
+        const auto button = makeButton();
+        button->setDisplayText(kText);
+        for (const QRect &rect : {QRect(QPoint(INT_MIN, INT_MIN), QPoint(INT_MAX, INT_MAX)),
+                                  QRect(QPoint(INT_MAX, INT_MAX), QPoint(INT_MAX, INT_MAX)),
+                                  QRect(QPoint(INT_MAX, INT_MAX), QPoint(INT_MIN, INT_MIN))}) {
+            button->setdisplayTextRect(rect);
+            painted(*button);
+            QVERIFY(button->displayTextRect() == rect);
+        }
+    }
+
+    void theCaptionFollowsTheFont()
+    {
+        const auto button = makeButton();
+        button->setDisplayText(kText);
+        painted(*button);
+        button->setFontSize(25);
+        COMPARE_PICTURES(painted(*button), reference(*button, look(kNormal, kNormalText)));
+    }
+
+    void withoutANormalImageItIsAPlainRadioButton()
+    {
+        for (bool checked : {false, true}) {
+            const auto button = makeButton();
+            button->setDisplayText(QStringLiteral("not shown"));
+            button->setText(kText);
+            button->setChecked(checked);
+            button->setNormalImage(QPixmap());
+            QRadioButton plain;
+            plain.setText(kText);
+            plain.setChecked(checked);
+            plain.resize(button->size());
+            COMPARE_PICTURES(painted(*button), painted(plain));
+        }
+    }
+
+    // --- Touch ----------------------------------------------------------------------------------
+
+    void aTapClicksAndSoundsOnRelease()
+    {
+        const auto button = makeButton();
+        button->setButtonID(QStringLiteral("radio"));
+        SignalLog log(button.get());
+        Touch finger = touch(button.get());
+        finger.press(10, 10).hold(100);
+        QVERIFY(button->isDown());
+        QCOMPARE(log.take(), QStringList());
+        finger.release();
+        QCOMPARE(log.take(), QStringList{"btnClicked(\"radio\")"});
+        virtualtime::advance(0);
+        QCOMPARE(log.take(), QStringList{kBeep});
+        QVERIFY(button->isChecked());
+    }
+
+    void theClickIsReportedBeforeTheButtonIsChecked()
+    {
+        const auto button = makeButton();
+        bool wasDown = false;
+        bool wasChecked = true;
+        connect(button.get(), &MFocusButton::btnClicked, this, [&] {
+            wasDown = button->isDown();
+            wasChecked = button->isChecked();
+        });
+        touch(button.get()).tap(10, 10);
+        QVERIFY(wasDown);
+        QVERIFY(!wasChecked);
+        QVERIFY(button->isChecked());
+    }
+
+    void aCheckedButtonClicksAgain()
+    {
+        const auto button = makeButton();
+        button->setChecked(true);
+        SignalLog log(button.get());
+        touch(button.get()).tap(10, 10);
+        QCOMPARE(log.take(), QStringList{kClicked});
+        QVERIFY(button->isChecked());
+    }
+
+    void buttonsOfOneParentExcludeEachOther()
+    {
+        QWidget parent;
+        const auto first = makeButton(&parent);
+        const auto second = makeButton(&parent);
+        touch(first.get()).tap(10, 10);
+        QVERIFY(first->isChecked());
+        touch(second.get()).tap(10, 10);
+        QVERIFY(!first->isChecked());
+        QVERIFY(second->isChecked());
+        COMPARE_PICTURES(painted(*first), reference(*first, [](QPainter &p) {
+                             p.drawPixmap(kImageRect, picture(kNormal));
+                         }));
+        first->setParent(nullptr);
+        second->setParent(nullptr);
+    }
+
+    void theWholeWidgetTakesTouches()
+    {
+        const auto button = makeButton();
+        for (const QPoint &pos : {QPoint(0, 0), QPoint(99, 79), QPoint(-5, -500)})
+            QVERIFY(button->hitButton(pos));
+        touch(button.get()).tap(99, 79); // far from what a radio button paints
+        QVERIFY(button->isChecked());
+    }
+
+    void aReleaseAnywhereIsAClick()
+    {
+        const auto button = makeButton();
+        SignalLog log(button.get());
+        touch(button.get()).press(10, 10).moveTo(500, -400).release();
+        QCOMPARE(log.take(), QStringList{kClicked});
+        QVERIFY(button->isChecked());
+    }
+
+    void withoutANormalImageItStillReports()
+    {
+        Button button;
+        button.resize(100, 40);
+        SignalLog log(&button);
+        touch(&button).tap(90, 30);
+        touch(&button).press(90, 30).hold(2500).release();
+        QCOMPARE(log.take(), (QStringList{kClicked, kBeep, kLongClicked}));
+    }
+
+    void aDisabledWidgetIsDeaf()
+    {
+        const auto button = makeButton();
+        button->setEnabled(false);
+        SignalLog log(button.get());
+        touch(button.get()).tap(10, 10);
+        virtualtime::advance(5000);
+        QCOMPARE(log.take(), QStringList());
+        QVERIFY(!button->isChecked());
+    }
+
+    // --- Long press -----------------------------------------------------------------------------
+
+    void aHoldIsALongPressAndNoClick()
+    {
+        const auto button = makeButton();
+        SignalLog log(button.get());
+        Touch finger = touch(button.get());
+        finger.press(10, 10).hold(2499);
+        QCOMPARE(log.take(), QStringList());
+        finger.hold(1);
+        QCOMPARE(log.take(), QStringList{kLongClicked});
+        finger.hold(20000).release();
+        virtualtime::advance(5000);
+        QCOMPARE(log.take(), QStringList()); // neither a click nor its sound
+        QVERIFY(button->isChecked());
+    }
+
+    void theNextPressStartsAnew()
+    {
+        const auto button = makeButton();
+        SignalLog log(button.get());
+        touch(button.get()).press(10, 10).hold(2500).release();
+        log.take();
+        touch(button.get()).tap(10, 10);
+        QCOMPARE(log.take(), QStringList{kClicked});
+        virtualtime::advance(10000);
+        QCOMPARE(log.take(), QStringList{kBeep});
+    }
+
+    void aReleaseEndsTheTiming()
+    {
+        const auto button = makeButton();
+        SignalLog log(button.get());
+        Touch finger = touch(button.get());
+        finger.press(10, 10).hold(2400).release();
+        virtualtime::advance(10000);
+        QCOMPARE(log.take(), (QStringList{kClicked, kBeep}));
+        QCOMPARE(button->ticks, 0);
+    }
+
+    void aPressAfterALostReleaseStartsAnew()
+    {
+        const auto button = makeButton();
+        SignalLog log(button.get());
+        Touch finger = touch(button.get());
+        finger.press(10, 10).hold(2500).press(10, 10).hold(0);
+        log.take();
+        finger.release();
+        QCOMPARE(log.take(), QStringList{kClicked});
+    }
+
+    void aSecondPressTimesAnew()
+    {
+        const auto button = makeButton();
+        SignalLog log(button.get());
+        Touch finger = touch(button.get());
+        finger.press(10, 10).hold(2000).press(10, 10).hold(2000);
+        QCOMPARE(log.take(), QStringList());
+        finger.hold(500);
+        QCOMPARE(log.take(), QStringList{kLongClicked});
+        finger.hold(20000);
+        QCOMPARE(log.take(), QStringList());
+        QCOMPARE(button->ticks, 1);
+    }
+
+    void theIntervalIsThatOfThePress()
+    {
+        const auto button = makeButton();
+        SignalLog log(button.get());
+        button->setLongPressIntal(400);
+        QCOMPARE(button->getLongPressIntal(), 400);
+        Touch finger = touch(button.get());
+        finger.press(10, 10);
+        button->setLongPressIntal(800);
+        finger.hold(399);
+        QCOMPARE(log.take(), QStringList());
+        finger.hold(1);
+        QCOMPARE(log.take(), QStringList{kLongClicked});
+    }
+
+    void hostileIntervals_data()
+    {
+        QTest::addColumn<int>("interval");
+        QTest::addColumn<bool>("fires");
+        QTest::newRow("negative never passes") << -1 << false;
+        QTest::newRow("smallest") << INT_MIN << false;
+        QTest::newRow("at once") << 0 << true;
+        QTest::newRow("largest") << INT_MAX << false;
+    }
+
+    void hostileIntervals()
+    {
+        QFETCH(int, interval);
+        QFETCH(bool, fires);
+        const auto button = makeButton();
+        button->setLongPressIntal(interval);
+        SignalLog log(button.get());
+        touch(button.get()).press(10, 10).hold(60000).release();
+        QCOMPARE(log.take(), QStringList{fires ? kLongClicked : kClicked});
+    }
+
+    void aReleaseWithoutAPressIsAClick()
+    {
+        const auto button = makeButton();
+        SignalLog log(button.get());
+        touch(button.get()).release();
+        QCOMPARE(log.take(), QStringList{kClicked});
+        QVERIFY(!button->isChecked());
+    }
+
+    // --- Handlers -------------------------------------------------------------------------------
+
+    void timersOfTheBaseClassAreNotAnswered()
+    {
+        const auto button = makeButton();
+        SignalLog log(button.get());
+        button->animateClick(100);
+        virtualtime::advance(1000);
+        QVERIFY(button->isDown());
+        QCOMPARE(log.take(), QStringList());
+    }
+
+    void nullEventsAreTaken()
+    {
+        const auto button = makeButton();
+        SignalLog log(button.get());
+        button->mousePressEvent(nullptr);
+        button->mouseReleaseEvent(nullptr);
+        button->timerEvent(nullptr);
+        QVERIFY(!button->isDown());
+        QCOMPARE(log.take(), QStringList());
+    }
+
+    void theClickSoundIsHeardByTheParent()
+    {
+        QWidget parent;
+        const auto button = makeButton(&parent);
+        SignalLog log(&parent);
+        touch(button.get()).tap(10, 10);
+        virtualtime::advance(0);
+        QCOMPARE(log.take(), QStringList{kBeep});
+        button->setParent(nullptr);
+    }
+
+    void aSlotMayDeleteTheButton_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::newRow("at a click") << kClicked;
+        QTest::newRow("at a long press") << kLongClicked;
+    }
+
+    void aSlotMayDeleteTheButton()
+    {
+        QFETCH(QString, line);
+        QPointer<Button> button = makeButton().release();
+        SignalLog log(button);
+        log.onLine([&](const QString &said) {
+            if (said == line)
+                delete button;
+        });
+        touch(button).press(10, 10).hold(line == kClicked ? 0 : 2500).release();
+        QVERIFY(!button);
+    }
+};
+
+WIDGET_TEST_MAIN(tst_MFocusButton)
+#include "tst_mfocusbutton.moc"
