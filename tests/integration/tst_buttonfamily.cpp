@@ -1,0 +1,324 @@
+// What every button of the library does on every kind of touch, in one table. They look alike and
+// are not: how far a finger may slide, what a long hold means, which flag disables what, who asks
+// for a click sound and when. Applications rely on these differences.
+
+#include "signallog.h"
+#include "touch.h"
+#include "virtualtime.h"
+#include "widgettest.h"
+
+#include <MFocusButton>
+#include <MOnOffButton>
+#include <MPresetButton>
+#include <MSelectButton>
+#include <MultipleStateButton>
+#include <PlayButton>
+#include <QTemporaryDir>
+#include <SpDisLabel>
+#include <SpHorStrButton>
+#include <SpIconButton>
+#include <SpLockButton>
+#include <SpMultipleButton>
+#include <SpVerStrButton>
+
+#include <memory>
+
+namespace
+{
+
+constexpr QSize kSize(100, 40); // px; the drag of a switch needs 30 px then
+constexpr QPoint kFinger(40, 20);
+constexpr int kLongHold = 3000; // ms; longer than any long press takes
+
+// How a button is made for a row of the table.
+enum Kind { Ready, Disabled, Latched, WithoutImage };
+
+QPixmap image()
+{
+    QPixmap pixmap(30, 30);
+    pixmap.fill(Qt::green);
+    return pixmap;
+}
+
+using Make = std::function<std::unique_ptr<QWidget>(Kind)>;
+
+template <class Button, class Set> Make make(Set set)
+{
+    return [set](Kind kind) {
+        auto button = std::make_unique<Button>();
+        set(*button, kind);
+        return button;
+    };
+}
+
+// One line of the table: what a button says, in order; a request for a click sound counts as said
+// when it is delivered, which is after the event that asked for it. "-" stands for a kind that the
+// class does not have.
+struct Behaviour {
+    const char *name;
+    Make make;
+    const char *press; // and nothing more
+    const char *tap;
+    const char *slid49; // sideways, released there
+    const char *slid50;
+    const char *slid51;
+    const char *moved1;
+    const char *moved10;
+    const char *moved11;
+    const char *moved20;
+    const char *moved21;
+    const char *longHold;
+    const char *disabledTap; // by its own flag
+    const char *latchedTap;
+    const char *tapWithoutImage;
+};
+
+using Column = const char *Behaviour::*;
+
+} // namespace
+
+Q_DECLARE_METATYPE(const Behaviour *)
+
+class tst_ButtonFamily : public WidgetTest
+{
+    Q_OBJECT
+
+    QTemporaryDir m_folder;
+    QVector<Behaviour> m_table;
+
+    QString file(Kind kind) const
+    {
+        return kind == WithoutImage ? QString() : m_folder.filePath(QStringLiteral("image.png"));
+    }
+
+    void fillTable();
+
+    // What a button says during an action and until all that it posted has been delivered.
+    static QString said(QWidget &button, const std::function<void(Touch &)> &action)
+    {
+        button.resize(kSize);
+        SignalLog log(&button);
+        Touch finger = touch(&button);
+        action(finger);
+        virtualtime::advance(0);
+        QStringList names;
+        for (const QString &line : log.take())
+            names += line.section(QLatin1Char('('), 0, 0);
+        return names.join(QLatin1Char(' '));
+    }
+
+    static void tap(Touch &finger) { finger.tap(kFinger.x(), kFinger.y()); }
+
+    static std::function<void(Touch &)> slideBy(int dx)
+    {
+        return [dx](Touch &finger) {
+            finger.press(kFinger).moveTo(kFinger.x() + dx, kFinger.y()).release();
+        };
+    }
+
+    static void holdLong(Touch &finger) { finger.press(kFinger).hold(kLongHold).release(); }
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY(image().save(file(Ready)));
+        fillTable();
+    }
+
+    void everyCellOfTheTable_data()
+    {
+        QTest::addColumn<const Behaviour *>("behaviour");
+        for (const Behaviour &behaviour : qAsConst(m_table))
+            QTest::newRow(behaviour.name) << &behaviour;
+    }
+
+    void everyCellOfTheTable()
+    {
+        QFETCH(const Behaviour *, behaviour);
+        struct Cell {
+            Column column;
+            Kind kind;
+            std::function<void(Touch &)> action;
+        };
+        const Cell cells[] = {
+            {&Behaviour::press, Ready,
+             [](Touch &finger) {
+                 finger.press(kFinger);
+             }},
+            {&Behaviour::tap, Ready, tap},
+            {&Behaviour::slid49, Ready, slideBy(49)},
+            {&Behaviour::slid50, Ready, slideBy(50)},
+            {&Behaviour::slid51, Ready, slideBy(51)},
+            {&Behaviour::moved1, Ready, slideBy(1)},
+            {&Behaviour::moved10, Ready, slideBy(10)},
+            {&Behaviour::moved11, Ready, slideBy(11)},
+            {&Behaviour::moved20, Ready, slideBy(20)},
+            {&Behaviour::moved21, Ready, slideBy(21)},
+            {&Behaviour::longHold, Ready, holdLong},
+            {&Behaviour::disabledTap, Disabled, tap},
+            {&Behaviour::latchedTap, Latched, tap},
+            {&Behaviour::tapWithoutImage, WithoutImage, tap},
+        };
+        for (const Cell &cell : cells) {
+            const QString expected = QLatin1String(behaviour->*cell.column);
+            if (expected == QLatin1String("-"))
+                continue; // there is no such kind of this button
+            QCOMPARE(said(*behaviour->make(cell.kind), cell.action), expected);
+        }
+    }
+
+    void aWidgetThatIsNotEnabledSaysNothing_data() { everyCellOfTheTable_data(); }
+
+    void aWidgetThatIsNotEnabledSaysNothing()
+    {
+        QFETCH(const Behaviour *, behaviour);
+        const auto button = behaviour->make(Ready);
+        button->setEnabled(false);
+        QCOMPARE(said(*button, tap), QString());
+        QCOMPARE(said(*button, holdLong), QString());
+    }
+
+    void onlyALatchedButtonStaysDown_data() { everyCellOfTheTable_data(); }
+
+    void onlyALatchedButtonStaysDown()
+    {
+        QFETCH(const Behaviour *, behaviour);
+        const auto button = behaviour->make(Ready);
+        if (!button->metaObject()
+                 ->property(button->metaObject()->indexOfProperty("isDown"))
+                 .isValid())
+            return; // its being down is not a property
+        const bool isLockButton = QByteArray(behaviour->name) == "SpLockButton"; // latches always
+        said(*button, tap);
+        QCOMPARE(button->property("isDown").toBool(), isLockButton);
+        const auto latched = behaviour->make(Latched);
+        said(*latched, tap);
+        QCOMPARE(latched->property("isDown").toBool(), true);
+    }
+
+    void anySignalMayDeleteItsButton_data() { everyCellOfTheTable_data(); }
+
+    void anySignalMayDeleteItsButton()
+    {
+        QFETCH(const Behaviour *, behaviour);
+        for (const auto &action : {std::function<void(Touch &)>(tap),
+                                   std::function<void(Touch &)>(holdLong), slideBy(49)}) {
+            const QString all = said(*behaviour->make(Ready), action);
+            const int count = all.isEmpty() ? 0 : all.count(QLatin1Char(' ')) + 1;
+            for (int number = 0; number < count; ++number) {
+                QWidget *button = behaviour->make(Ready).release();
+                button->resize(kSize);
+                const QPointer<QWidget> guard(button);
+                int seen = 0;
+                SignalLog log(button);
+                log.onLine([&](const QString &line) {
+                    if (seen++ == number && line != QLatin1String("beep"))
+                        delete button;
+                });
+                Touch finger = touch(button);
+                action(finger);
+                virtualtime::advance(0);
+                if (guard)
+                    delete button; // that line was a request for a sound
+                QVERIFY(!guard);
+            }
+        }
+    }
+};
+
+void tst_ButtonFamily::fillTable()
+{
+    const auto icon = make<SpIconButton>([](SpIconButton &b, Kind kind) {
+        b.setSupportLongPress(true);
+        b.setDisableState(kind == Disabled);
+        b.setIsLock(kind == Latched);
+        if (kind != WithoutImage)
+            b.setNormalImage(image());
+    });
+    const auto horizontal = make<SpHorStrButton>([](SpHorStrButton &b, Kind kind) {
+        b.setBtnDisable(kind == Disabled);
+        if (kind != WithoutImage)
+            b.setNormalPixmap(image());
+    });
+    const auto vertical = make<SpVerStrButton>([](SpVerStrButton &b, Kind kind) {
+        b.setDisable(kind == Disabled);
+        b.setIsLock(kind == Latched);
+        if (kind != WithoutImage)
+            b.setNormalPixmap(image());
+    });
+    const auto label = make<SpDisLabel>([](SpDisLabel &b, Kind kind) {
+        b.setIsLock(kind == Latched);
+        if (kind == WithoutImage)
+            b.setDisplayMode(SpDisLabel::Picture);
+    });
+    const auto onOff = make<MOnOffButton>([](MOnOffButton &b, Kind kind) {
+        b.setMinimumSize(0, 0);
+        b.setBtnDisable(kind == Disabled);
+        if (kind != WithoutImage) {
+            b.setNormalBkgPix(image());
+            b.setNormalChunkPix(image());
+        }
+    });
+    const auto focus = make<MFocusButton>([](MFocusButton &b, Kind kind) {
+        if (kind != WithoutImage)
+            b.setNormalImage(image());
+    });
+    const auto preset = make<MPresetButton>([](MPresetButton &b, Kind kind) {
+        if (kind != WithoutImage)
+            b.setNormalImage(image());
+    });
+    const auto select = make<MSelectButton>([](MSelectButton &b, Kind kind) {
+        b.setDisableState(kind == Disabled);
+        if (kind != WithoutImage)
+            b.setNormalImage(image());
+    });
+    const auto multiple = make<SpMultipleButton>([](SpMultipleButton &b, Kind kind) {
+        b.setDisableState(kind == Disabled);
+        if (kind != WithoutImage)
+            b.setPixmapList(QList<QPixmap>{image(), image()}, QList<QPixmap>{image(), image()});
+    });
+    const Make states = [this](Kind kind) {
+        auto b = std::make_unique<MultipleStateButton>(0, 0, 1, QStringList{file(kind)},
+                                                       QStringList{file(kind)}, QString());
+        if (kind == Disabled)
+            b->setButtonDisable(true);
+        return b;
+    };
+    const Make play = [this](Kind kind) {
+        auto b = std::make_unique<PlayButton>(0, 0, 1, file(kind), file(kind));
+        if (kind == Disabled)
+            b->setButtonDisable(true);
+        return b;
+    };
+    const auto lock = make<SpLockButton>([](SpLockButton &b, Kind kind) {
+        b.setDisableState(kind == Disabled);
+        if (kind != WithoutImage)
+            b.setNormalImage(image());
+    });
+
+    const char *const iconTap = "btnPressed btnClicked btnReleased beep";
+    const char *const iconSlid = "btnPressed btnReleased beep";
+    const char *const switchTap = "buttonClicked onoffStatusChanged beep";
+    const char *const lockTap = "btnPressed btnReleased beep";
+
+    // clang-format off
+    m_table = {
+        //                                press                 tap        by 49      50         51         1          10         11         20         21         long hold                                                       disabled         latched           without image
+        {"SpIconButton",        icon,       "btnPressed beep",    iconTap,   iconTap,   iconSlid,  iconSlid,  iconTap,   iconTap,   iconTap,   iconTap,   iconTap,   "btnPressed beep btnLongPress btnLongRelease btnReleased",      "",              iconTap,          iconTap},
+        {"SpHorStrButton",      horizontal, "beep",               "clicked beep", "clicked beep", "clicked beep", "clicked beep", "clicked beep", "clicked beep", "clicked beep", "clicked beep", "clicked beep", "beep clicked", "clicked",       "-",              "clicked beep"},
+        {"SpVerStrButton",      vertical,   "pressed beep",       "pressed clicked beep", "pressed clicked beep", "pressed clicked beep", "pressed clicked beep", "pressed clicked beep", "pressed clicked beep", "pressed clicked beep", "pressed clicked beep", "pressed clicked beep", "pressed beep clicked", "", "pressed clicked beep", "pressed clicked beep"},
+        {"SpDisLabel",          label,      "pressed beep",       "pressed released beep", "pressed released beep", "pressed released beep", "pressed released beep", "pressed released beep", "pressed released beep", "pressed released beep", "pressed released beep", "pressed released beep", "pressed beep released", "-", "pressed released beep", "pressed released beep"},
+        {"MOnOffButton",        onOff,      "buttonClicked beep", switchTap, switchTap, switchTap, switchTap, switchTap, switchTap, switchTap, switchTap, "buttonClicked beep", "buttonClicked beep onoffStatusChanged",             "buttonClicked", "-",              switchTap},
+        {"MFocusButton",        focus,      "",                   "btnClicked beep", "btnClicked beep", "btnClicked beep", "btnClicked beep", "btnClicked beep", "btnClicked beep", "btnClicked beep", "btnClicked beep", "btnClicked beep", "btnLongClicked", "-", "-",       "btnClicked beep"},
+        {"MPresetButton",       preset,     "beep",               "btnClicked beep", "beep", "beep", "beep", "beep", "beep", "beep", "beep", "beep", "beep btnLongClicked",                                                        "-",             "-",              "btnClicked beep"},
+        {"MSelectButton",       select,     "beep",               "btnClicked beep", "beep", "beep", "beep", "btnClicked beep", "btnClicked beep", "beep", "beep", "beep", "beep btnLongClicked",                                  "",              "-",              "btnClicked beep"},
+        {"SpMultipleButton",    multiple,   "beep",               "clicked beep", "clicked beep", "clicked beep", "clicked beep", "clicked beep", "clicked beep", "clicked beep", "clicked beep", "clicked beep", "beep clicked", "",              "-",              ""},
+        {"MultipleStateButton", states,     "",                   "clicked", "clicked", "clicked", "clicked", "clicked", "clicked", "clicked", "clicked", "clicked", "clicked",                                                       "",              "-",              ""},
+        {"PlayButton",          play,       "",                   "clicked", "clicked", "clicked", "clicked", "clicked", "clicked", "clicked", "clicked", "clicked", "clicked",                                                       "",              "-",              ""},
+        {"SpLockButton",        lock,       "btnPressed beep",    lockTap,   lockTap,   lockTap,   lockTap,   lockTap,   lockTap,   lockTap,   lockTap,   lockTap,   "btnPressed beep btnReleased",                                  "",              lockTap,          lockTap},
+    };
+    // clang-format on
+}
+
+WIDGET_TEST_MAIN(tst_ButtonFamily)
+#include "tst_buttonfamily.moc"
