@@ -174,8 +174,9 @@ void MOProgress::layOut()
     QPainterPath disc;
     disc.arcMoveTo(square(), 0);
     disc.arcTo(square(), 0, 360);
+    const int sweep = m_currentValue * 360 / -100; // whole degrees, clockwise
     QPainterPath done; // a sector: it starts and ends in the middle
-    done.arcTo(square(), kTop, qreal(m_currentValue * 360 / -100));
+    done.arcTo(square(), kTop, qreal(sweep));
 
     m_kept->radius = m_radius;
     m_kept->arcHeight = m_arcHeight;

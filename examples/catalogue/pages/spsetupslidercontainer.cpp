@@ -5,14 +5,14 @@
 #include <spsetupslider.h>
 #include <spsetupslidercontainer.h>
 
-#include <array>
-
 namespace
 {
 
 constexpr int kBands = 5; // on one page
 constexpr int kColumn = 80; // px
 constexpr int kHeight = 290; // px
+constexpr const char *kNames[] = {"31", "62", "125", "250", "500", "1k", "2k", "4k", "8k", "16k"};
+constexpr int kValues[] = {6, 4, 2, 0, -2, -3, -1, 2, 5, 7};
 
 SpSetupSlider *addBand(SpSetupSliderContainer &page, int band, int column)
 {
@@ -36,16 +36,13 @@ SpSetupSlider *addBand(SpSetupSliderContainer &page, int band, int column)
 // Five bands, named below.
 SpSetupSliderContainer *addPage(Scene &scene, int firstBand)
 {
-    static const std::array<const char *, 10> names{"31", "62", "125", "250", "500",
-                                                    "1k", "2k", "4k",  "8k",  "16k"};
-    static const std::array<int, 10> values{6, 4, 2, 0, -2, -3, -1, 2, 5, 7};
     auto *page = new SpSetupSliderContainer(&scene);
     page->setTotalNumber(kBands);
     page->resize(kBands * kColumn, kHeight);
     for (int i = 0; i < kBands; ++i) {
-        const auto band = std::size_t(firstBand + i);
-        addBand(*page, firstBand + i, i)->setCurrentValue(values.at(band));
-        auto *label = new QLabel(QLatin1String(names.at(band)), page);
+        const int band = firstBand + i;
+        addBand(*page, band, i)->setCurrentValue(kValues[band]);
+        auto *label = new QLabel(QLatin1String(kNames[band]), page);
         label->setAlignment(Qt::AlignCenter);
         label->setGeometry(i * kColumn, kHeight - 30, kColumn, 30);
     }
