@@ -269,13 +269,15 @@ int MProgressBar::bounded(int value) const
     return std::max(m_minValue, std::min(value, m_maxValue));
 }
 
-// The part of a length that is played. A range of one value has none.
+// The part of a length that is played. A range of one value has none; a value left outside of a
+// range that has shrunk may make it longer than the length.
 int MProgressBar::partOf(int length) const
 {
     const qint64 span = qint64(m_maxValue) - m_minValue;
     if (span == 0)
         return 0;
-    return saturated((qint64(m_currentValue) - m_minValue) * boundedPixel(length) / span);
+    return boundedPixel(
+        saturated((qint64(m_currentValue) - m_minValue) * boundedPixel(length) / span));
 }
 
 // With pictures it does not depend on the radius, on purpose, although the place of the knob does:

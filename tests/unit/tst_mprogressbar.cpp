@@ -590,6 +590,23 @@ private slots:
         }
     }
 
+    void aValueFarOutsideAShrunkRangeIsNoHarm()
+    {
+        for (const int value : {INT_MIN, INT_MAX}) {
+            MProgressBar bar;
+            bar.resize(200, 40);
+            bar.setMinValue(INT_MIN);
+            bar.setMaxValue(INT_MAX);
+            bar.setCurrentValue(value);
+            bar.setMinValue(0);
+            bar.setMaxValue(1);
+            bar.setPonitRadius(INT_MAX);
+            painted(bar);
+            givePictures(bar);
+            painted(bar);
+        }
+    }
+
     void noEventIsNoHarm()
     {
         Handlers bar;

@@ -69,7 +69,7 @@ SpSetupSliderContainer *buildEqualiser(Scene &scene)
 
 void definePages(PagesOf<SpSetupSliderContainer> &pages)
 {
-    auto page = pages.add(QStringLiteral("Equaliser"), buildEqualiser);
+    auto page = pages.add(buildEqualiser);
     page.touches("band dragged",
                  [](SpSetupSliderContainer &, Touch &touch) {
                      touch.press({120, 100}).moveTo({120, 200}, 200).picture().release();
