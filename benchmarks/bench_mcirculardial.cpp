@@ -70,31 +70,54 @@ template <class Draw> QImage stamp(const QRect &part, Draw draw)
     return image.copy(part);
 }
 
-// Both pictures made once, and the pointer drawn between them.
+void drawPointer(QPainter &painter)
+{
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(94, 94, 94));
+    painter.rotate(-60);
+    painter.rotate(qreal(120.0 / 205 * ((kValue - 87.5) / 0.1)));
+    const QPointF triangle[] = {{-2, 0}, {2, 0}, {0, -250}};
+    painter.drawConvexPolygon(triangle, 3);
+}
+
+void drawHub(QPainter &painter)
+{
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(94, 94, 94));
+    painter.drawEllipse(QRect(-6, -6, 12, 12));
+}
+
+template <class Draw> void drawPlaced(QPainter &painter, Draw draw)
+{
+    painter.save();
+    place(painter);
+    draw(painter);
+    painter.restore();
+}
+
+// Both pictures made once, and the pointer drawn between them. The first paint is drawn directly:
+// what is copied is one level off in pixels at the rim.
 PaintingMaker floor()
 {
-    constexpr QRect kText(144, 220, 32, 60); // the box of the value, turned by 90 degrees
-    return bareWidget(kSize,
-                      [face = stamp(QRect(QPoint(0, 0), kSize), drawFace),
-                       text = stamp(kText, drawValue), kText](QPainter &painter) {
-                          painter.drawImage(0, 0, face);
-                          painter.save();
-                          place(painter);
-                          painter.setPen(Qt::NoPen);
-                          painter.setBrush(QColor(94, 94, 94));
-                          painter.rotate(-60);
-                          painter.rotate(qreal(120.0 / 205 * ((kValue - 87.5) / 0.1)));
-                          const QPointF triangle[] = {{-2, 0}, {2, 0}, {0, -250}};
-                          painter.drawConvexPolygon(triangle, 3);
-                          painter.restore();
-                          painter.save();
-                          place(painter);
-                          painter.setPen(Qt::NoPen);
-                          painter.setBrush(QColor(94, 94, 94));
-                          painter.drawEllipse(QRect(-6, -6, 12, 12));
-                          painter.restore();
-                          painter.drawImage(kText.topLeft(), text);
-                      });
+    const QRect textPart(144, 220, 32, 60); // the box of the value, turned by 90 degrees
+    return [=] {
+        const QImage face = stamp(QRect(QPoint(0, 0), kSize), drawFace);
+        const QImage text = stamp(textPart, drawValue);
+        const auto draw = [=, isFirst = true](QPainter &painter) mutable {
+            if (isFirst)
+                drawPlaced(painter, drawFace);
+            else
+                painter.drawImage(0, 0, face);
+            drawPlaced(painter, drawPointer);
+            drawPlaced(painter, drawHub);
+            if (isFirst)
+                drawPlaced(painter, drawValue);
+            else
+                painter.drawImage(textPart.topLeft(), text);
+            isFirst = false;
+        };
+        return bareWidget(kSize, draw)();
+    };
 }
 
 PaintingMaker qwtDial()
