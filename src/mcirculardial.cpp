@@ -451,8 +451,9 @@ void MCircularDial::drawValue(QPainter &painter) const
 // beside the centre. The report carries the value that was touched.
 void MCircularDial::calcCurValue(QPoint p, bool release)
 {
-    const double x = double(p.x()) - width() / 2;
-    const double y = double(p.y()) - height() / 2;
+    const QPoint centre(width() / 2, height() / 2);
+    const double x = double(p.x()) - centre.x();
+    const double y = double(p.y()) - centre.y();
     const double off = std::sqrt(x * x + y * y) - m_radius;
     if (!(off > -kReach && off < kReach))
         return;

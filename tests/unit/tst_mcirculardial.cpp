@@ -846,7 +846,7 @@ private slots:
                     touch(dial.get())
                         .press(150, 160)
                         .moveTo(40, 50)
-                        .moveTo(INT_MIN, INT_MAX)
+                        .moveTo(-1000000000, 1000000000)
                         .release();
                     painted(*dial);
                 });
