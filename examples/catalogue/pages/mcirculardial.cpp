@@ -68,7 +68,7 @@ template <class Writer> void addTouches(Writer &page)
                  [](MCircularDial &, Touch &touch) {
                      touch.press(kLow).moveTo(kHigh, 300).picture().release();
                  })
-        .silentTouches("touched where the arc does not reach", [](MCircularDial &, Touch &touch) {
+        .silentTouches("touched below the arc", [](MCircularDial &, Touch &touch) {
             touch.press({75, 285}).hold(80).release();
         });
 }
