@@ -129,6 +129,12 @@ panelkit_class(MHorSlider
     TOOLTIP "Horizontal slider of images, filled from the left end or from the middle"
     SIZE 260 40)
 
+panelkit_class(MCircularDial
+    FAMILY "Sliders"
+    TOOLTIP "Round dial with ticks, labels and a pointer, turned by touching near its rim"
+    SIZE 300 300
+    INITIAL radius=150 scaleLong=5)
+
 panelkit_class(MProgressBar
     FAMILY "Progress"
     TOOLTIP "Playback bar that can be dragged, in images or plain colours"

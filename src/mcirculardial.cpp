@@ -1,0 +1,475 @@
+#include "mcirculardial.h"
+
+#include "detail/arithmetic.h"
+#include "detail/keptlayer.h"
+
+#include <QFont>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QRadialGradient>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <optional>
+
+using namespace panelkit;
+
+namespace
+{
+
+constexpr double kFinestValue = 0.05; // a smaller change of a value or a limit is none
+constexpr double kFinestAngle = 0.01; // degrees; a smaller change of an angle is none
+constexpr double kFinestScale = 0.01; // the scale is coarser
+constexpr double kNearWhole = 0.01;
+constexpr double kTickEnd = 0.98; // of the radius
+constexpr double kLongTick = 0.1; // of the radius
+constexpr double kShortTick = 0.05; // of the radius
+constexpr double kClearRim = 2.2; // px outside the ticks, for them to touch no pixel of the rim
+constexpr double kLabelAt = 0.82; // of the radius
+constexpr QRect kLabel(-15, 0, 30, 10); // px
+constexpr qreal kPointerHalfBase = 2; // px
+constexpr QRect kHub(-6, -6, 12, 12); // px
+constexpr double kValueAt = 0.6 * 0.5; // of the radius
+constexpr QSizeF kValueSize(60, 30); // px
+constexpr double kReach = 200.0; // px inside and outside the rim; a touch from there on is none
+constexpr double kPi = 3.14159; // as coarse as this on purpose: touch angles are part of it
+constexpr double kFullTurn = 360.0; // degrees
+constexpr int kMostTicks = 10000; // many more than there is room for
+constexpr double kLargestRadius = 1 << 24; // px, no widget is larger
+
+// The direction of a point from the centre in degrees clockwise from the top; none on the axes.
+std::optional<double> directionOf(double x, double y)
+{
+    const auto degrees = [](double opposite, double adjacent) {
+        return std::atan2(opposite, adjacent) * 180 / kPi;
+    };
+    if (x > 0 && y < 0)
+        return degrees(x, -y);
+    if (x > 0 && y > 0)
+        return degrees(y, x) + 90;
+    if (x < 0 && y > 0)
+        return degrees(-x, y) + 180;
+    if (x < 0 && y < 0)
+        return degrees(-y, -x) + 270;
+    return std::nullopt;
+}
+
+bool isSameAngle(double a, double b)
+{
+    return !(std::abs(a - b) >= kFinestAngle);
+}
+
+// No number is the same as any: it changes nothing.
+bool isSameValue(double a, double b)
+{
+    return std::isnan(a) || std::abs(a - b) < kFinestValue;
+}
+
+// What texts are laid out by.
+struct Lettering {
+    QFont font;
+    int dpi = 0;
+    Qt::LayoutDirection direction = Qt::LeftToRight;
+    QRgb color = 0;
+
+    Lettering() = default;
+    Lettering(const QPainter &painter, const QColor &ink)
+        : font(painter.font()), dpi(painter.device()->logicalDpiY()),
+          direction(painter.layoutDirection()), color(ink.rgba())
+    {
+    }
+
+    bool operator==(const Lettering &other) const
+    {
+        return dpi == other.dpi && direction == other.direction && color == other.color
+            && font == other.font;
+    }
+};
+
+// Everything that the ground, the ticks and their labels depend on, but for the transform.
+struct FaceInputs {
+    std::array<double, 5> numbers{};
+    int scaleLong = 0;
+    QRgb ground = 0;
+    Lettering lettering;
+
+    bool operator==(const FaceInputs &other) const
+    {
+        return numbers == other.numbers && scaleLong == other.scaleLong && ground == other.ground
+            && lettering == other.lettering;
+    }
+};
+
+// Everything that the text of the value depends on, but for the transform.
+struct ValueInputs {
+    double radius = 0;
+    QString text;
+    Lettering lettering;
+
+    bool operator==(const ValueInputs &other) const
+    {
+        return radius == other.radius && text == other.text && lettering == other.lettering;
+    }
+};
+
+// A layer with the inputs that it was last drawn from; other inputs are another picture.
+template <class Inputs> struct KeptPart {
+    KeptLayer layer;
+    Inputs inputs;
+    qint64 revision = 0;
+
+    void draw(QPainter &painter, const Inputs &wanted, const QRectF &area,
+              const KeptLayer::Paint &paint)
+    {
+        if (!(inputs == wanted)) {
+            inputs = wanted;
+            ++revision;
+        }
+        layer.draw(painter, painter.worldTransform(), {area, {}, revision}, paint);
+    }
+};
+
+} // namespace
+
+struct MCircularDial::Kept {
+    KeptPart<FaceInputs> face;
+    KeptPart<ValueInputs> value;
+};
+
+/** A dial of 250 px at the lower end of the FM band. */
+MCircularDial::MCircularDial(QWidget *parent)
+    : QWidget(parent), m_kept(std::make_unique<Kept>()) { }
+
+MCircularDial::~MCircularDial() = default;
+
+/** The radius in px; 250 by default. Stored only: it shows at the next paint. */
+void MCircularDial::setRadius(double radius)
+{
+    m_radius = radius;
+}
+
+/**
+ * The lowest value; 87.5 by default. A change of less than 0.05 is ignored, and so is a minimum
+ * that is not below the maximum. Repaints. A value below it follows, unless by less than 0.05: then
+ * the value stays where it is and nothing is repainted, on purpose, as with any other change of the
+ * value that is too small to be one.
+ */
+void MCircularDial::setMinValue(double minimum)
+{
+    if (isSameValue(minimum, m_minValue) || minimum >= m_maxValue)
+        return;
+    m_minValue = minimum;
+    if (m_value < minimum)
+        setValue(minimum);
+    else
+        update();
+}
+
+/** The highest value; 108 by default. The mirror image of setMinValue(). */
+void MCircularDial::setMaxValue(double maximum)
+{
+    if (isSameValue(maximum, m_maxValue) || maximum <= m_minValue)
+        return;
+    m_maxValue = maximum;
+    if (m_value > maximum)
+        setValue(maximum);
+    else
+        update();
+}
+
+/**
+ * The value; 87.5 by default. A change of less than 0.05 is ignored; any other is limited to the
+ * range and repaints. No signal: those are for touches.
+ */
+void MCircularDial::setValue(double value)
+{
+    if (isSameValue(value, m_value))
+        return;
+    m_value = std::clamp(value, m_minValue, m_maxValue);
+    update();
+}
+
+/** The text that follows the value at once; empty by default. Repaints. */
+void MCircularDial::setUnit(QString unit)
+{
+    m_unit = std::move(unit);
+    update();
+}
+
+/** The colour of the ticks, their labels and the value; white by default. Repaints. */
+void MCircularDial::setTextColor(QColor color)
+{
+    m_textColor = color;
+    update();
+}
+
+/** The colour of the ground; rgb(173, 173, 173) by default. Repaints. */
+void MCircularDial::setBgColor(QColor color)
+{
+    m_bgColor = color;
+    update();
+}
+
+/** The colour of the pointer and its hub; rgb(94, 94, 94) by default. Repaints. */
+void MCircularDial::setCenterColor(QColor color)
+{
+    m_centerColor = color;
+    update();
+}
+
+/**
+ * How far the whole dial is turned, 0 to 360 degrees; 90 by default. Other angles, and changes of
+ * less than a hundredth, are ignored. Repaints.
+ */
+void MCircularDial::setRotateAngle(double angle)
+{
+    if (!(angle >= 0 && angle <= kFullTurn) || isSameAngle(angle, m_rotateAngle))
+        return;
+    m_rotateAngle = angle;
+    update();
+}
+
+/** How much of the value there is from tick to tick; 0.1 by default. Scales of 0.01 and below are
+ * ignored. Repaints. */
+void MCircularDial::setScale(double scale)
+{
+    if (!(scale > kFinestScale))
+        return;
+    m_scale = scale;
+    update();
+}
+
+/** Every how many whole values a tick is long and labelled; 1 by default. Numbers below 1 are
+ * ignored. Repaints on a change. */
+void MCircularDial::setScaleLong(int wholes)
+{
+    if (wholes == m_scaleLong || wholes < 1)
+        return;
+    m_scaleLong = wholes;
+    update();
+}
+
+/**
+ * The angle left free at each end of the arc, in degrees: it spans 360 - 2 x startAngle. 120 by
+ * default, the angle at which touches agree with the picture. Changes of less than a hundredth are
+ * ignored; there is no other limit. Repaints.
+ */
+void MCircularDial::setStartAngle(double angle)
+{
+    if (isSameAngle(angle, m_startAngle))
+        return;
+    m_startAngle = angle;
+    update();
+}
+
+/** The ground and the ticks make up the face, which is kept while the pointer moves over it. */
+void MCircularDial::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter.translate(QPoint(width() / 2, height() / 2));
+    painter.rotate(qreal(m_rotateAngle));
+    drawFace(painter);
+    drawPointer(painter);
+    drawValue(painter);
+}
+
+/** QWidget goes first, which leaves the event to the parent, here and below. */
+void MCircularDial::mousePressEvent(QMouseEvent *e)
+{
+    if (!e)
+        return;
+    QWidget::mousePressEvent(e);
+    calcCurValue(e->pos(), false);
+}
+
+void MCircularDial::mouseMoveEvent(QMouseEvent *e)
+{
+    if (!e)
+        return;
+    QWidget::mouseMoveEvent(e);
+    calcCurValue(e->pos(), false);
+}
+
+void MCircularDial::mouseReleaseEvent(QMouseEvent *e)
+{
+    if (!e)
+        return;
+    QWidget::mouseReleaseEvent(e);
+    calcCurValue(e->pos(), true);
+}
+
+// A radius that is no number has nothing to draw; one beyond every widget fills it like the
+// largest.
+double MCircularDial::paintedRadius() const
+{
+    return std::isnan(m_radius) ? 0 : std::clamp(m_radius, -kLargestRadius, kLargestRadius);
+}
+
+int MCircularDial::tickCount() const
+{
+    return toInt((m_maxValue - m_minValue) / m_scale);
+}
+
+// Of degrees.
+double MCircularDial::span() const
+{
+    return kFullTurn - 2 * m_startAngle;
+}
+
+// From the first tick. It goes by the whole number of ticks, so that it stays with them where the
+// range is not a multiple of the scale. A value above the maximum, which a change too small to be
+// one leaves there, is shown at the full turn. With a single tick the pointer is at that one.
+double MCircularDial::pointerAngle() const
+{
+    if (m_value > m_maxValue)
+        return kFullTurn;
+    const int count = tickCount();
+    if (count == 0)
+        return 0;
+    return span() / count * ((m_value - m_minValue) / m_scale);
+}
+
+// Whether the ticks touch opaque pixels only. Where they do not, what is below the dial shines
+// through two layers, which kept pixels would round in another way.
+bool MCircularDial::canKeepFace() const
+{
+    return m_bgColor.alpha() == 255 && (1 - kTickEnd) * std::abs(paintedRadius()) >= kClearRim;
+}
+
+void MCircularDial::drawFace(QPainter &painter) const
+{
+    const double reach = std::abs(paintedRadius()) + kLabel.width();
+    const QRectF area(qreal(-reach), qreal(-reach), qreal(2 * reach), qreal(2 * reach));
+    const FaceInputs inputs{{m_radius, m_minValue, m_maxValue, m_scale, m_startAngle},
+                            m_scaleLong,
+                            m_bgColor.rgba(),
+                            Lettering(painter, m_textColor)};
+    const auto paint = [this, &painter](QPainter &p) {
+        p.save();
+        p.setFont(painter.font());
+        p.setLayoutDirection(painter.layoutDirection());
+        drawBg(p);
+        drawTicks(p);
+        p.restore();
+    };
+    if (canKeepFace())
+        m_kept->face.draw(painter, inputs, area, paint);
+    else
+        paint(painter);
+}
+
+void MCircularDial::drawBg(QPainter &painter) const
+{
+    const auto radius = qreal(paintedRadius());
+    QRadialGradient ground(QPointF(0, 0), radius, QPointF(0, 0));
+    ground.setColorAt(0, m_bgColor.lighter(100));
+    ground.setColorAt(1, m_bgColor);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ground);
+    painter.drawEllipse(QRectF(-radius, -radius, 2 * radius, 2 * radius));
+}
+
+// More ticks than can be told apart are thinned out by tens, which leaves those at round values, so
+// that a range of a billion costs no more than the ring of ticks that one sees.
+void MCircularDial::drawTicks(QPainter &painter) const
+{
+    const int count = tickCount();
+    qint64 stride = 1;
+    while (count / stride > kMostTicks)
+        stride *= 10;
+    const double step = ratio(span(), double(count)) * double(stride);
+    painter.save();
+    painter.setPen(m_textColor);
+    painter.rotate(qreal(m_startAngle));
+    for (qint64 i = 0; i <= count; i += stride) {
+        const double value = std::fma(double(i), m_scale, m_minValue);
+        if (value >= m_minValue && value <= m_maxValue)
+            drawTick(painter, value);
+        painter.rotate(qreal(step));
+    }
+    painter.restore();
+}
+
+// Only a value at or a trace above a whole number counts as one: one a trace below, which is cut to
+// the number before it, gets a short tick. The fused multiplication keeps tenths exact.
+void MCircularDial::drawTick(QPainter &painter, double value) const
+{
+    const int whole = toInt(value);
+    const bool isLong = std::abs(value - whole) <= kNearWhole && whole % m_scaleLong == 0;
+    const double radius = paintedRadius();
+    const double start = (kTickEnd - (isLong ? kLongTick : kShortTick)) * radius;
+    painter.drawLine(QLineF(0, qreal(start), 0, qreal(kTickEnd * radius)));
+    if (!isLong)
+        return;
+    painter.save();
+    painter.translate(0, qreal(kLabelAt * radius));
+    painter.rotate(180);
+    painter.drawText(kLabel, Qt::AlignCenter, QString::number(value, 'g', 6));
+    painter.restore();
+}
+
+void MCircularDial::drawPointer(QPainter &painter) const
+{
+    const std::array<QPointF, 3> triangle{QPointF(-kPointerHalfBase, 0),
+                                          QPointF(kPointerHalfBase, 0),
+                                          QPointF(0, qreal(toInt(-paintedRadius())))};
+    painter.save();
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(m_centerColor);
+    painter.rotate(qreal(m_startAngle - 180));
+    painter.rotate(qreal(pointerAngle()));
+    painter.drawConvexPolygon(triangle.data(), int(triangle.size()));
+    painter.restore();
+
+    painter.save();
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(m_centerColor);
+    painter.drawEllipse(kHub);
+    painter.restore();
+}
+
+void MCircularDial::drawValue(QPainter &painter) const
+{
+    const double radius = paintedRadius();
+    const QString text = QString::number(m_value, 'g', 6) + m_unit;
+    const QRectF area(QPointF(-kValueSize.width() / 2, qreal(kValueAt * radius)), kValueSize);
+    const ValueInputs inputs{radius, text, Lettering(painter, m_textColor)};
+    m_kept->value.draw(painter, inputs, area, [&](QPainter &p) {
+        p.save();
+        p.setFont(painter.font());
+        p.setLayoutDirection(painter.layoutDirection());
+        p.setPen(m_textColor);
+        p.drawText(area, Qt::AlignCenter, text);
+        p.restore();
+    });
+}
+
+// The value for a point, if it is near the rim. The angle is used as it is where the dial does not
+// reach: that is a value outside the range, which is ignored, as are points exactly above, below or
+// beside the centre. The report carries the value that was touched.
+void MCircularDial::calcCurValue(QPoint p, bool release)
+{
+    const QPoint centre(width() / 2, height() / 2);
+    const double x = double(p.x()) - centre.x();
+    const double y = double(p.y()) - centre.y();
+    const double off = std::sqrt(x * x + y * y) - m_radius;
+    if (!(off > -kReach && off < kReach))
+        return;
+    const std::optional<double> direction = directionOf(x, y);
+    if (!direction)
+        return;
+    double along = *direction - m_rotateAngle + 0.5 * m_startAngle;
+    if (along >= kFullTurn)
+        along = std::fmod(along, kFullTurn);
+    const double touched = m_minValue + ratio((m_maxValue - m_minValue) * along, span());
+    if (!(touched >= m_minValue && touched <= m_maxValue)
+        || std::abs(touched - m_value) <= kFinestValue)
+        return;
+    setValue(touched);
+    if (release)
+        emit valueChanged(touched);
+    else
+        emit currentValueChange(touched);
+}
