@@ -6,6 +6,7 @@
 #include <QFont>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QRadialGradient>
 
 #include <algorithm>
@@ -281,7 +282,7 @@ void MCircularDial::mousePressEvent(QMouseEvent *e)
     if (!e)
         return;
     QWidget::mousePressEvent(e);
-    calcCurValue(e->pos(), false);
+    takeTouch(e, false);
 }
 
 void MCircularDial::mouseMoveEvent(QMouseEvent *e)
@@ -289,7 +290,7 @@ void MCircularDial::mouseMoveEvent(QMouseEvent *e)
     if (!e)
         return;
     QWidget::mouseMoveEvent(e);
-    calcCurValue(e->pos(), false);
+    takeTouch(e, false);
 }
 
 void MCircularDial::mouseReleaseEvent(QMouseEvent *e)
@@ -297,7 +298,16 @@ void MCircularDial::mouseReleaseEvent(QMouseEvent *e)
     if (!e)
         return;
     QWidget::mouseReleaseEvent(e);
-    calcCurValue(e->pos(), true);
+    takeTouch(e, true);
+}
+
+// A dial that a slot has deleted ends the way of the event, which QWidget has left to the parent.
+void MCircularDial::takeTouch(QMouseEvent *e, bool release)
+{
+    const QPointer<MCircularDial> guard(this);
+    calcCurValue(e->pos(), release);
+    if (!guard)
+        e->accept();
 }
 
 // A radius that is no number has nothing to draw; one beyond every widget fills it like the

@@ -88,6 +88,7 @@ private:
     void drawTick(QPainter &painter, double value) const;
     void drawPointer(QPainter &painter) const;
     void drawValue(QPainter &painter) const;
+    void takeTouch(QMouseEvent *e, bool release);
     void calcCurValue(QPoint p, bool release);
 
     double m_radius = 250.0; // px
