@@ -540,6 +540,11 @@ private slots:
             d.setScaleLong(3);
             d.setValue(-3.25);
         });
+        // Ten tenths are a trace more than one: at zero stands what is left of it.
+        row("tenths around zero", [](auto &d) {
+            d.setMinValue(-1);
+            d.setMaxValue(1);
+        });
         row("a trace above whole numbers", [](auto &d) {
             d.setMaxValue(97.609);
             d.setMinValue(88.009);
@@ -591,6 +596,25 @@ private slots:
         const QImage expected = documentedOnGround(*dial);
         for (int i = 0; i < 3; ++i)
             QVERIFY(largestDifference(paintedOnGround(*dial), expected) <= 1);
+    }
+
+    // What shines through cannot be kept, and so is drawn anew each time.
+    void thousandsOfTicksAreDrawnOnce()
+    {
+        const auto dial = makeDial();
+        dial->setScale(0.02);
+        const auto cost = [&] {
+            painted(*dial);
+            painted(*dial);
+            return cpuTime([&] {
+                for (int i = 0; i < 20; ++i)
+                    painted(*dial);
+            });
+        };
+        const int kept = cost();
+        dial->setBgColor(QColor(20, 70, 110, 254));
+        const int anew = cost();
+        QVERIFY(anew > 4 * kept);
     }
 
     void everySetterShowsAtTheNextPaint()
@@ -741,6 +765,30 @@ private slots:
                 [&](double value) { seen += dial->value() - value; });
         touch(dial.get()).press(450, 251);
         QCOMPARE(seen, QVector<double>{0.0});
+    }
+
+    // Near 0.07 differences of 0.05 are exact.
+    void aTouchChangesTheValueByMoreThanAFiveHundredth()
+    {
+        const auto dial = makeDial();
+        dial->setMinValue(0);
+        dial->setMaxValue(1);
+        QPoint point(251, 10);
+        while (!(touchedValue(*dial, point) > 0.0625))
+            ++point.rx();
+        const double touched = touchedValue(*dial, point);
+        QVERIFY(touched < 0.1);
+        const auto reportsFrom = [&](double value) {
+            Reports reports(dial.get());
+            dial->setValue(1);
+            dial->setValue(value);
+            touch(dial.get()).press(point);
+            return reports.take().size();
+        };
+        QCOMPARE(reportsFrom(touched - 0.05), 0);
+        QVERIFY(dial->value() == touched - 0.05);
+        QCOMPARE(reportsFrom(touched - std::nextafter(0.05, 1.0)), 1);
+        QVERIFY(dial->value() == touched);
     }
 
     void aReleaseWhereTheFingerAlreadyWasReportsNothing()
@@ -905,13 +953,23 @@ private slots:
         QCOMPARE(log.take(), QStringList());
     }
 
-    void aDialMayBeDeletedByItsReport()
+    void aDialMayBeDeletedByEitherReport()
     {
-        auto *dial = makeDial().release();
-        const QPointer<MCircularDial> guard(dial);
-        connect(dial, &MCircularDial::currentValueChange, dial, [dial] { delete dial; });
-        touch(dial).tap(450, 240);
-        QVERIFY(!guard);
+        for (const auto report :
+             {&MCircularDial::currentValueChange, &MCircularDial::valueChanged}) {
+            QWidget parent;
+            auto *dial = new MCircularDial(&parent);
+            dial->resize(500, 500);
+            const QPointer<MCircularDial> guard(dial);
+            connect(dial, report, dial, [dial] { delete dial; });
+            Touch finger = touch(dial);
+            finger.press(450, 240);
+            if (guard) {
+                dial->setValue(108); // for the release to be a change
+                finger.release();
+            }
+            QVERIFY(!guard);
+        }
     }
 };
 
