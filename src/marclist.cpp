@@ -27,7 +27,6 @@ constexpr QRect kArcBox(-kLetterBox / 2, 0, kLetterBox, kLetterBox); // of a let
 constexpr double kColumnTop = 5.0; // px above the box of the first row
 constexpr double kReach = 100.0; // px inside and outside the arc; a touch from there on is none
 constexpr int kTapSlop = 99; // px; a release in a column up to this far from the press is a tap
-constexpr double kPi = 3.14159; // as coarse as this on purpose: touch angles are part of it
 constexpr double kPixelsPerDegree = 15.0; // finger travel that turns the arc
 constexpr double kArcStart = 15.0; // degrees, the farthest that the arc turns clockwise
 constexpr double kArcFling = 15.0; // degrees a tick
@@ -41,24 +40,6 @@ constexpr int kLongestFlick = 259; // ms
 double bounded(double low, double value, double high)
 {
     return std::max(std::min(high, value), low);
-}
-
-// The direction of a point from the centre in degrees clockwise from the right, -90 to 270; none on
-// the axes.
-std::optional<double> directionOf(double x, double y)
-{
-    const auto degrees = [](double opposite, double adjacent) {
-        return std::atan2(opposite, adjacent) * 180 / kPi;
-    };
-    if (x > 0 && y < 0)
-        return degrees(x, -y) - 90;
-    if (x > 0 && y > 0)
-        return degrees(y, x);
-    if (x < 0 && y > 0)
-        return degrees(-x, y) + 90;
-    if (x < 0 && y < 0)
-        return degrees(-y, -x) + 180;
-    return std::nullopt;
 }
 
 // The root of a sum of squares that is exact for every pair of ints.
@@ -434,7 +415,7 @@ void MArcList::touchArc(const QPoint &p, bool release)
     emit listMoveing(m_currentIndex);
     if (!guard)
         return;
-    const std::optional<double> direction = directionOf(p.x(), double(dy));
+    const std::optional<double> direction = touchDirection(p.x(), double(dy), -90);
     if (!direction)
         return;
     // Truncation toward zero makes the stretch just before the first character its own too.

@@ -27,29 +27,10 @@ constexpr double kPointerBase = 0.8; // of the radius
 constexpr qreal kPointerHalfBase = 2; // px
 constexpr double kReach = 200.0; // px inside and outside the arc; a touch from there on is none
 constexpr double kMargin = 50.0; // px above and below the ticks of the straight bar
-constexpr double kPi = 3.14159; // as coarse as this on purpose: touch angles are part of it
 constexpr double kFinestAngle = 0.01; // degrees; a smaller change of an angle is none
 constexpr double kFullTurn = 360.0; // degrees
 constexpr qint64 kMostTicks = 4000; // many more than there is room for
 constexpr double kRadian = 0.017453292519943295; // radians a degree
-
-// The direction of a point from the centre in degrees clockwise from the top, 0 to 360; none on the
-// axes.
-std::optional<double> directionOf(double x, double y)
-{
-    const auto degrees = [](double opposite, double adjacent) {
-        return std::atan2(opposite, adjacent) * 180 / kPi;
-    };
-    if (x > 0 && y < 0)
-        return degrees(x, -y);
-    if (x > 0 && y > 0)
-        return degrees(y, x) + 90;
-    if (x < 0 && y > 0)
-        return degrees(-x, y) + 180;
-    if (x < 0 && y < 0)
-        return degrees(-y, -x) + 270;
-    return std::nullopt;
-}
 
 bool differs(double a, double b)
 {
@@ -264,7 +245,7 @@ void MArcScrollBar::calcCurValue(QPoint p, bool release)
     const double off = std::sqrt(x * x + y * y) - m_radius;
     if (!(off > -kReach && off < kReach))
         return;
-    const std::optional<double> direction = directionOf(x, y);
+    const std::optional<double> direction = touchDirection(x, y, 0);
     if (!direction)
         return;
     double along = *direction + m_rotateAngle - m_startAngle;

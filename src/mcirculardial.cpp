@@ -1,6 +1,7 @@
 #include "mcirculardial.h"
 
 #include "detail/arithmetic.h"
+#include "detail/geometry.h"
 #include "detail/keptlayer.h"
 
 #include <QFont>
@@ -34,27 +35,9 @@ constexpr QRect kHub(-6, -6, 12, 12); // px
 constexpr double kValueAt = 0.6 * 0.5; // of the radius
 constexpr QSizeF kValueSize(60, 30); // px
 constexpr double kReach = 200.0; // px inside and outside the rim; a touch from there on is none
-constexpr double kPi = 3.14159; // as coarse as this on purpose: touch angles are part of it
 constexpr double kFullTurn = 360.0; // degrees
 constexpr int kMostTicks = 10000; // many more than there is room for
 constexpr double kLargestRadius = 1 << 24; // px, no widget is larger
-
-// The direction of a point from the centre in degrees clockwise from the top; none on the axes.
-std::optional<double> directionOf(double x, double y)
-{
-    const auto degrees = [](double opposite, double adjacent) {
-        return std::atan2(opposite, adjacent) * 180 / kPi;
-    };
-    if (x > 0 && y < 0)
-        return degrees(x, -y);
-    if (x > 0 && y > 0)
-        return degrees(y, x) + 90;
-    if (x < 0 && y > 0)
-        return degrees(-x, y) + 180;
-    if (x < 0 && y < 0)
-        return degrees(-y, -x) + 270;
-    return std::nullopt;
-}
 
 bool isSameAngle(double a, double b)
 {
@@ -467,7 +450,7 @@ void MCircularDial::calcCurValue(QPoint p, bool release)
     const double off = std::sqrt(x * x + y * y) - m_radius;
     if (!(off > -kReach && off < kReach))
         return;
-    const std::optional<double> direction = directionOf(x, y);
+    const std::optional<double> direction = touchDirection(x, y, 0);
     if (!direction)
         return;
     double along = *direction - m_rotateAngle + 0.5 * m_startAngle;

@@ -2,6 +2,8 @@
 
 #include <QtGlobal>
 
+#include <cmath>
+
 namespace panelkit
 {
 
@@ -48,6 +50,23 @@ QRect boundedOr(const QRect &rect, const QRect &fallback)
         return fallback;
     return {QPoint(boundedPixel(rect.left()), boundedPixel(rect.top())),
             QPoint(boundedPixel(rect.right()), boundedPixel(rect.bottom()))};
+}
+
+std::optional<double> touchDirection(double x, double y, double up)
+{
+    constexpr double pi = 3.14159;
+    const auto degrees = [](double opposite, double adjacent) {
+        return std::atan2(opposite, adjacent) * 180 / pi;
+    };
+    if (x > 0 && y < 0)
+        return degrees(x, -y) + up;
+    if (x > 0 && y > 0)
+        return degrees(y, x) + (up + 90);
+    if (x < 0 && y > 0)
+        return degrees(-x, y) + (up + 180);
+    if (x < 0 && y < 0)
+        return degrees(-y, -x) + (up + 270);
+    return std::nullopt;
 }
 
 } // namespace panelkit

@@ -4,6 +4,8 @@
 #include <QRect>
 #include <QSize>
 
+#include <optional>
+
 namespace panelkit
 {
 
@@ -27,6 +29,11 @@ QRect boundedRect(int left, int top, int width, int height);
 /// A rectangle that came from a caller, if it is valid, with each edge limited as a single pixel
 /// is, so that its width does not overflow an int; otherwise the one to fall back to.
 QRect boundedOr(const QRect &rect, const QRect &fallback);
+
+/// The direction of a touch from the centre (0, 0) in degrees clockwise, from `up` for straight up
+/// to a full turn more. A touch on either axis has none. Pi is taken as 3.14159, on purpose: which
+/// value a touch means depends on it.
+std::optional<double> touchDirection(double x, double y, double up);
 
 } // namespace panelkit
 

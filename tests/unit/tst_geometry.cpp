@@ -3,6 +3,7 @@
 #include <QtTest>
 
 #include <climits>
+#include <cmath>
 
 using namespace panelkit;
 
@@ -77,6 +78,25 @@ private slots:
             boundedOr(QRect(QPoint(INT_MIN, INT_MIN), QPoint(INT_MAX, INT_MAX)), {});
         QCOMPARE(large.topLeft(), QPoint(-kFarthest, -kFarthest));
         QCOMPARE(large.bottomRight(), QPoint(kFarthest, kFarthest));
+    }
+
+    void touchDirectionRunsClockwiseFromUp()
+    {
+        const auto degrees = [](double opposite, double adjacent) {
+            return std::atan2(opposite, adjacent) * 180 / 3.14159;
+        };
+        QVERIFY(touchDirection(3, -4, 0).value() == degrees(3, 4));
+        QVERIFY(touchDirection(4, 3, 0).value() == degrees(3, 4) + 90);
+        QVERIFY(touchDirection(-3, 4, 0).value() == degrees(3, 4) + 180);
+        QVERIFY(touchDirection(-4, -3, 0).value() == degrees(3, 4) + 270);
+        QVERIFY(touchDirection(3, -4, -90).value() == degrees(3, 4) - 90);
+        QVERIFY(touchDirection(-4, -3, -90).value() == degrees(3, 4) + 180);
+    }
+
+    void aTouchOnAnAxisHasNoDirection()
+    {
+        for (const QPoint &p : {QPoint(0, -5), QPoint(5, 0), QPoint(0, 5), QPoint(-5, 0), QPoint()})
+            QVERIFY(!touchDirection(p.x(), p.y(), 0));
     }
 };
 
