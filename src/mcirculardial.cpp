@@ -1,6 +1,7 @@
 #include "mcirculardial.h"
 
 #include "detail/arithmetic.h"
+#include "detail/deviceview.h"
 #include "detail/geometry.h"
 #include "detail/keptlayer.h"
 
@@ -13,7 +14,9 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstddef>
 #include <optional>
+#include <vector>
 
 using namespace panelkit;
 
@@ -37,6 +40,7 @@ constexpr QSizeF kValueSize(60, 30); // px
 constexpr double kReach = 200.0; // px inside and outside the rim; a touch from there on is none
 constexpr double kFullTurn = 360.0; // degrees
 constexpr int kMostTicks = 10000; // many more than there is room for
+constexpr int kMostLabels = 400; // likewise
 constexpr double kLargestRadius = 1 << 24; // px, no widget is larger
 
 bool isSameAngle(double a, double b)
@@ -365,7 +369,8 @@ void MCircularDial::drawBg(QPainter &painter) const
 }
 
 // More ticks than can be told apart are thinned out by tens, which leaves those at round values, so
-// that a range of a billion costs no more than the ring of ticks that one sees.
+// that a range of a billion costs no more than the ring of ticks that one sees. Labels cost most,
+// and fewer of them already lie on top of each other. The fused multiplication keeps tenths exact.
 void MCircularDial::drawTicks(QPainter &painter) const
 {
     const int count = tickCount();
@@ -373,33 +378,52 @@ void MCircularDial::drawTicks(QPainter &painter) const
     while (count / stride > kMostTicks)
         stride *= 10;
     const double step = ratio(span(), double(count)) * double(stride);
+    std::vector<double> values;
+    for (qint64 i = 0; i <= count; i += stride)
+        values.push_back(std::fma(double(i), m_scale, m_minValue));
+    const auto labels =
+        std::count_if(values.begin(), values.end(), [this](double value) { return isLong(value); });
+    const auto labelStride = labels / kMostLabels + 1;
+    std::ptrdiff_t labelIndex = 0;
+
     painter.save();
     painter.setPen(m_textColor);
     painter.rotate(qreal(m_startAngle));
-    for (qint64 i = 0; i <= count; i += stride) {
-        const double value = std::fma(double(i), m_scale, m_minValue);
-        if (value >= m_minValue && value <= m_maxValue)
-            drawTick(painter, value);
+    const DeviceView view(painter);
+    for (const double value : values) {
+        if (value >= m_minValue && value <= m_maxValue) {
+            const bool isLabelled = isLong(value);
+            drawTick(painter, isLabelled);
+            if (isLabelled && labelIndex++ % labelStride == 0)
+                drawLabel(painter, view, value);
+        }
         painter.rotate(qreal(step));
     }
     painter.restore();
 }
 
 // Only a value at or a trace above a whole number counts as one: one a trace below, which is cut to
-// the number before it, gets a short tick. The fused multiplication keeps tenths exact.
-void MCircularDial::drawTick(QPainter &painter, double value) const
+// the number before it, gets a short tick.
+bool MCircularDial::isLong(double value) const
 {
     const int whole = toInt(value);
-    const bool isLong = std::abs(value - whole) <= kNearWhole && whole % m_scaleLong == 0;
+    return std::abs(value - whole) <= kNearWhole && whole % m_scaleLong == 0;
+}
+
+void MCircularDial::drawTick(QPainter &painter, bool isLong) const
+{
     const double radius = paintedRadius();
     const double start = (kTickEnd - (isLong ? kLongTick : kShortTick)) * radius;
     painter.drawLine(QLineF(0, qreal(start), 0, qreal(kTickEnd * radius)));
-    if (!isLong)
-        return;
+}
+
+void MCircularDial::drawLabel(QPainter &painter, const DeviceView &view, double value) const
+{
     painter.save();
-    painter.translate(0, qreal(kLabelAt * radius));
+    painter.translate(0, qreal(kLabelAt * paintedRadius()));
     painter.rotate(180);
-    painter.drawText(kLabel, Qt::AlignCenter, QString::number(value, 'g', 6));
+    if (view.shows(painter.worldTransform(), QRectF(kLabel)))
+        painter.drawText(kLabel, Qt::AlignCenter, QString::number(value, 'g', 6));
     painter.restore();
 }
 

@@ -11,6 +11,11 @@
 
 class QPainter;
 
+namespace panelkit
+{
+class DeviceView;
+} // namespace panelkit
+
 /**
  * A round dial: ticks with numbers along an arc, a pointer at the value, and the value as text. The
  * user sets the value by touching or dragging near the rim.
@@ -85,7 +90,9 @@ private:
     void drawFace(QPainter &painter) const;
     void drawBg(QPainter &painter) const;
     void drawTicks(QPainter &painter) const;
-    void drawTick(QPainter &painter, double value) const;
+    bool isLong(double value) const;
+    void drawTick(QPainter &painter, bool isLong) const;
+    void drawLabel(QPainter &painter, const panelkit::DeviceView &view, double value) const;
     void drawPointer(QPainter &painter) const;
     void drawValue(QPainter &painter) const;
     void takeTouch(QMouseEvent *e, bool release);

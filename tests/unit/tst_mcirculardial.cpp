@@ -52,8 +52,9 @@ void paintBg(QPainter &p, const MCircularDial &dial)
     p.drawEllipse(QRectF(qreal(-r), qreal(-r), qreal(2 * r), qreal(2 * r)));
 }
 
-void paintTicks(QPainter &p, const MCircularDial &dial)
+void paintTicks(QPainter &p, const MCircularDial &dial, int labelStride)
 {
+    int labelIndex = 0;
     const double r = dial.radius();
     const int count = int((dial.maxValue() - dial.minValue()) / dial.scale());
     p.save();
@@ -66,7 +67,7 @@ void paintTicks(QPainter &p, const MCircularDial &dial)
             const bool isLong = std::abs(v - n) <= 0.01 && n % dial.scaleLong() == 0;
             const double factor = isLong ? 0.1 : 0.05;
             p.drawLine(QLineF(0, qreal((0.98 - factor) * r), 0, qreal(0.98 * r)));
-            if (isLong) {
+            if (isLong && labelIndex++ % labelStride == 0) {
                 p.save();
                 p.translate(0, qreal(0.82 * r));
                 p.rotate(180);
@@ -98,13 +99,13 @@ void paintPointer(QPainter &p, const MCircularDial &dial, double angle)
     p.restore();
 }
 
-void paintDial(QPainter &p, const MCircularDial &dial, double angle)
+void paintDial(QPainter &p, const MCircularDial &dial, double angle, int labelStride = 1)
 {
     p.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     p.translate(QPoint(dial.width() / 2, dial.height() / 2));
     p.rotate(qreal(dial.rotateAngle()));
     paintBg(p, dial);
-    paintTicks(p, dial);
+    paintTicks(p, dial, labelStride);
     paintPointer(p, dial, angle);
     p.setPen(dial.textColor());
     p.drawText(QRectF(-30, qreal(0.6 * dial.radius() * 0.5), 60, 30), Qt::AlignCenter,
@@ -930,6 +931,21 @@ private slots:
         sparse->setScale(10);
         sparse->setScaleLong(20000);
         COMPARE_PICTURES(painted(*dial), painted(*sparse));
+    }
+
+    void hundredsOfLabelsAreThinnedOut()
+    {
+        const auto dial = makeDial();
+        dial->setMinValue(0);
+        dial->setValue(0);
+        dial->setScale(1);
+        for (const auto &[maximum, labelStride] :
+             {std::pair(398, 1), std::pair(399, 2), std::pair(1000, 3)}) {
+            dial->setMaxValue(maximum);
+            const QImage expected = reference(
+                *dial, [&, stride = labelStride](QPainter &p) { paintDial(p, *dial, 0, stride); });
+            COMPARE_PICTURES(painted(*dial), expected);
+        }
     }
 
     void noSizeIsTooSmall()
