@@ -1,5 +1,6 @@
 #include "mfocusbutton.h"
 
+#include "detail/fonts.h"
 #include "detail/geometry.h"
 #include "detail/imagelook.h"
 #include "detail/kepttext.h"
@@ -104,9 +105,7 @@ void MFocusButton::setFontSize(int px)
 {
     if (px < 1)
         return;
-    QFont resized = font();
-    resized.setPixelSize(px);
-    setFont(resized);
+    setFont(resized(font(), px));
 }
 
 bool MFocusButton::hitButton(const QPoint &) const

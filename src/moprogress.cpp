@@ -1,5 +1,6 @@
 #include "moprogress.h"
 
+#include "detail/fonts.h"
 #include "detail/geometry.h"
 #include "detail/kepttext.h"
 
@@ -211,9 +212,7 @@ void MOProgress::drawTexts(QPainter &painter) const
     m_kept->percentage.draw(painter, QRectF(area.topLeft(), QSizeF(area.width(), split)),
                             Qt::AlignHCenter | Qt::AlignBottom,
                             QStringLiteral("%1%").arg(m_currentValue));
-    QFont font;
-    font.setPixelSize(m_fontSize);
-    painter.setFont(font);
+    painter.setFont(applicationFont(m_fontSize));
     m_kept->caption.draw(painter, area.adjusted(0, split, 0, 0), Qt::AlignHCenter | Qt::AlignTop,
                          m_dispalyText);
 }

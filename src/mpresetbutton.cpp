@@ -1,12 +1,12 @@
 #include "mpresetbutton.h"
 
 #include "detail/arithmetic.h"
+#include "detail/fonts.h"
 #include "detail/geometry.h"
 #include "detail/imagelook.h"
 #include "detail/kepttext.h"
 #include "detail/keyrequest.h"
 
-#include <QFont>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
@@ -269,17 +269,6 @@ const QColor &MPresetButton::shownTextColor(const TextColors &colors) const
     return isHighlighted() ? colors.press : colors.normal;
 }
 
-// A painter takes what a font does not state from the widget's font. This one states everything:
-// the second line looks alike in every key, whatever fonts their first lines have.
-QFont MPresetButton::secondFont() const
-{
-    QFont font;
-    if (m_fontSize2 > 0)
-        font.setPixelSize(m_fontSize2);
-    font.resolve(~0U);
-    return font;
-}
-
 void MPresetButton::drawPicture(QPainter &painter) const
 {
     const QPixmap &image = shownImage();
@@ -308,7 +297,7 @@ void MPresetButton::drawSecondLine(QPainter &painter) const
 {
     if (m_displayText2.isEmpty())
         return;
-    painter.setFont(secondFont());
+    painter.setFont(applicationFont(m_fontSize2));
     painter.setPen(shownTextColor(m_textColors2));
     m_secondLine->draw(painter, boundedOr(m_displayTextRect2, rect()), Qt::AlignCenter,
                        m_displayText2);

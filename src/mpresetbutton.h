@@ -114,7 +114,6 @@ private:
     bool isHighlighted() const;
     const QPixmap &shownImage() const;
     const QColor &shownTextColor(const TextColors &colors) const;
-    QFont secondFont() const;
     void drawPicture(QPainter &painter) const;
     void drawIcon(QPainter &painter) const;
     void drawFirstLine(QPainter &painter) const;

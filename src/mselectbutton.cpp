@@ -1,6 +1,7 @@
 #include "mselectbutton.h"
 
 #include "detail/arithmetic.h"
+#include "detail/fonts.h"
 #include "detail/geometry.h"
 #include "detail/imagelook.h"
 #include "detail/kepttext.h"
@@ -137,9 +138,7 @@ void MSelectButton::setFontSize(int px)
 {
     if (px < 1)
         return;
-    QFont resized = font();
-    resized.setPixelSize(px);
-    setFont(resized);
+    setFont(resized(font(), px));
 }
 
 void MSelectButton::paintEvent(QPaintEvent *)

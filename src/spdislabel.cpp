@@ -1,5 +1,6 @@
 #include "spdislabel.h"
 
+#include "detail/fonts.h"
 #include "detail/geometry.h"
 #include "detail/keptlayer.h"
 #include "detail/kepttext.h"
@@ -140,9 +141,7 @@ void SpDisLabel::setFontSize(int px)
     m_fontSize = px;
     if (px < 1)
         return;
-    QFont resized = font();
-    resized.setPixelSize(px);
-    setFont(resized);
+    setFont(resized(font(), px));
 }
 
 /** Sets the pressed look, without a signal; this is how a latched label is let go. Repaints. */

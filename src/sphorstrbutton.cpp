@@ -1,5 +1,6 @@
 #include "sphorstrbutton.h"
 
+#include "detail/fonts.h"
 #include "detail/geometry.h"
 #include "detail/imagefile.h"
 #include "detail/imagelook.h"
@@ -185,9 +186,7 @@ void SpHorStrButton::setFontSize(int px)
 {
     if (px < 1)
         return;
-    QFont resized = font();
-    resized.setPixelSize(px);
-    setFont(resized);
+    setFont(resized(font(), px));
 }
 
 void SpHorStrButton::paintEvent(QPaintEvent *)

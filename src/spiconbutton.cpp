@@ -1,6 +1,7 @@
 #include "spiconbutton.h"
 
 #include "detail/arithmetic.h"
+#include "detail/fonts.h"
 #include "detail/geometry.h"
 #include "detail/imagefile.h"
 #include "detail/imagelook.h"
@@ -319,9 +320,7 @@ void SpIconButton::setFontSize(int px)
 {
     if (px < 1)
         return;
-    QFont resized = font();
-    resized.setPixelSize(px);
-    setFont(resized);
+    setFont(resized(font(), px));
 }
 
 void SpIconButton::paintEvent(QPaintEvent *)

@@ -1,5 +1,6 @@
 #include "splockbutton.h"
 
+#include "detail/fonts.h"
 #include "detail/geometry.h"
 #include "detail/imagelook.h"
 #include "detail/kepttext.h"
@@ -151,9 +152,7 @@ void SpLockButton::setFontSize(int px)
 {
     if (px < 1)
         return;
-    QFont resized = font();
-    resized.setPixelSize(px);
-    setFont(resized);
+    setFont(resized(font(), px));
 }
 
 /**

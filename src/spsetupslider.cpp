@@ -1,6 +1,7 @@
 #include "spsetupslider.h"
 
 #include "detail/arithmetic.h"
+#include "detail/fonts.h"
 #include "detail/keyrequest.h"
 #include "spiconbutton.h"
 
@@ -223,9 +224,7 @@ void SpSetupSlider::setFontSize(int px)
 {
     if (px < 1)
         return;
-    QFont resized = m_valueLabel->font();
-    resized.setPixelSize(px);
-    setFont(resized);
+    setFont(resized(m_valueLabel->font(), px));
 }
 
 void SpSetupSlider::paintEvent(QPaintEvent *)

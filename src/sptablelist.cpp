@@ -1,6 +1,7 @@
 #include "sptablelist.h"
 
 #include "detail/arithmetic.h"
+#include "detail/fonts.h"
 #include "detail/keyrequest.h"
 #include "detail/minuteclock.h"
 #include "styledelegate.h"
@@ -137,11 +138,8 @@ int SpTableList::centerFontSize() const
 /** The size of the centre text in px; sizes below 1 are ignored. Stored only. */
 void SpTableList::setCenterFontSize(const int &px)
 {
-    if (!m_delegate || px < 1)
-        return;
-    QFont font = m_delegate->centerFont();
-    font.setPixelSize(px);
-    m_delegate->setCenterFont(font);
+    if (m_delegate && px >= 1)
+        m_delegate->setCenterFont(resized(m_delegate->centerFont(), px));
 }
 
 int SpTableList::tailFontSize() const
@@ -152,11 +150,8 @@ int SpTableList::tailFontSize() const
 /** The size in px of tail text and header number; sizes below 1 are ignored. Stored only. */
 void SpTableList::setTailFontSize(const int &px)
 {
-    if (!m_delegate || px < 1)
-        return;
-    QFont font = m_delegate->tailFont();
-    font.setPixelSize(px);
-    m_delegate->setTailFont(font);
+    if (m_delegate && px >= 1)
+        m_delegate->setTailFont(resized(m_delegate->tailFont(), px));
 }
 
 QColor SpTableList::hightColor() const

@@ -1,6 +1,7 @@
 #include "spverstrbutton.h"
 
 #include "detail/arithmetic.h"
+#include "detail/fonts.h"
 #include "detail/geometry.h"
 #include "detail/imagelook.h"
 #include "detail/kepttext.h"
@@ -221,17 +222,6 @@ QRect SpVerStrButton::captionRect() const
     return {0, top, width(), height() - top};
 }
 
-// The application's font in the size of its own. No attribute is left open, or the painter would
-// take it from the font of the widget.
-QFont SpVerStrButton::captionFont() const
-{
-    QFont font;
-    if (m_fontSize > 0)
-        font.setPixelSize(m_fontSize);
-    font.resolve(~0U);
-    return font;
-}
-
 // The disabled icon alone is not put into the icon rectangle, on purpose: it is a picture of the
 // whole button.
 void SpVerStrButton::drawIcon(QPainter &painter) const
@@ -247,7 +237,7 @@ void SpVerStrButton::drawIcon(QPainter &painter) const
 
 void SpVerStrButton::drawCaption(QPainter &painter) const
 {
-    painter.setFont(captionFont());
+    painter.setFont(applicationFont(m_fontSize));
     painter.setPen(look().caption);
     m_caption->draw(painter, captionRect(), Qt::AlignHCenter | Qt::AlignTop, m_displayString);
 }

@@ -100,7 +100,6 @@ private:
     Look look() const;
     QRect iconRect() const;
     QRect captionRect() const;
-    QFont captionFont() const;
     void drawIcon(QPainter &painter) const;
     void drawCaption(QPainter &painter) const;
 

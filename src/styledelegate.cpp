@@ -2,6 +2,7 @@
 
 #include "detail/arithmetic.h"
 #include "detail/deviceview.h"
+#include "detail/fonts.h"
 #include "detail/geometry.h"
 #include "detail/imagelook.h"
 #include "detail/kepttexts.h"
@@ -59,14 +60,6 @@ constexpr int kUpperAlign = Qt::AlignLeft | Qt::AlignTop;
 constexpr int kLowerAlign = Qt::AlignLeft | Qt::AlignBottom;
 
 const QColor kLineColor(100, 100, 100, 255);
-
-// The font in this pixel size; as it is for a size that no font can have.
-QFont resized(QFont font, int px)
-{
-    if (px > 0)
-        font.setPixelSize(px);
-    return font;
-}
 
 // A line has no soft edges.
 bool paintsWholePixels(const QPainter &painter)

@@ -175,6 +175,7 @@ private slots:
     {
         const auto ring = makeRing();
         ring->setDispalyText(QStringLiteral("Updating"));
+        painted(*ring);
         for (const Action &action :
              {Action([](auto &r) { r.setCurrentValue(70); }),
               Action([](auto &r) { r.setRadius(80); }),
@@ -188,6 +189,7 @@ private slots:
               Action([](auto &r) { r.setDisplayTextColor(Qt::cyan); }), Action([](auto &r) {
                   QFont font;
                   font.setPixelSize(33);
+                  font.setItalic(true); // not so the caption
                   r.setFont(font);
               }),
               Action([](auto &r) { r.resize(240, 300); })}) {

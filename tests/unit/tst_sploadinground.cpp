@@ -154,8 +154,8 @@ private slots:
         ring->setDrawStyle(Style(style));
         ring->setIndex(index);
         COMPARE_PICTURES(painted(*ring), documented(*ring, style, Qt::white));
-        ring->setPainterColor(QColor(200, 90, 30, 10));
-        for (const int radius : {40, 41, 44, 14, 1, 0}) {
+        ring->resize(321, 311);
+        for (const int radius : {40, 41, 44, 14, 1, 0, 149}) {
             ring->setRadius(radius);
             ring->setPainterColor(QColor(200, 90, 30, 10));
             COMPARE_PICTURES(painted(*ring), documented(*ring, style, QColor(200, 90, 30)));
