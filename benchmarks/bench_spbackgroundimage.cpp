@@ -33,9 +33,9 @@ QPixmap prepared(const QPixmap &picture, int angle)
     result.fill(Qt::transparent);
     QPainter painter(&result);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    painter.translate(kSize.width() / 2, kSize.height() / 2);
-    painter.rotate(angle);
-    painter.translate(-kSize.width() / 2, -kSize.height() / 2);
+    painter.translate(QPoint(kSize.width() / 2, kSize.height() / 2));
+    painter.rotate(qreal(angle));
+    painter.translate(-QPoint(kSize.width() / 2, kSize.height() / 2));
     painter.drawPixmap(QRect(QPoint(), kSize), picture);
     return result;
 }

@@ -100,9 +100,9 @@ QTransform SpBackgroundImage::turn() const
 {
     QTransform transform;
     if (m_rotateAngle != 0) {
-        const QPoint middle(width() / 2, height() / 2);
+        const QPointF middle(QPoint(width() / 2, height() / 2));
         transform.translate(middle.x(), middle.y());
-        transform.rotate(m_rotateAngle);
+        transform.rotate(qreal(m_rotateAngle));
         transform.translate(-middle.x(), -middle.y());
     }
     return transform;

@@ -41,7 +41,7 @@ void SpMaskBackground::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(m_painterColor);
-    painter.drawRoundedRect(QRectF(0, 0, width(), height()), m_roundX, m_roundY);
+    painter.drawRoundedRect(QRectF(rect()), qreal(m_roundX), qreal(m_roundY));
 }
 
 void SpMaskBackground::mousePressEvent(QMouseEvent *e)

@@ -55,9 +55,9 @@ QImage documented(const SpBackgroundImage &backdrop)
     return reference(backdrop, [&](QPainter &p) {
         p.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
         if (backdrop.rotateAngle() != 0) {
-            p.translate(backdrop.width() / 2, backdrop.height() / 2);
-            p.rotate(backdrop.rotateAngle());
-            p.translate(-(backdrop.width() / 2), -(backdrop.height() / 2));
+            p.translate(QPoint(backdrop.width() / 2, backdrop.height() / 2));
+            p.rotate(qreal(backdrop.rotateAngle()));
+            p.translate(-QPoint(backdrop.width() / 2, backdrop.height() / 2));
         }
         p.drawPixmap(backdrop.rect(), backdrop.pixmap());
     });

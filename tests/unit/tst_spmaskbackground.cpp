@@ -34,7 +34,7 @@ QImage documented(const SpMaskBackground &mask)
         p.setRenderHint(QPainter::Antialiasing);
         p.setPen(Qt::NoPen);
         p.setBrush(mask.painterColor());
-        p.drawRoundedRect(QRectF(0, 0, mask.width(), mask.height()), mask.roundX(), mask.roundY());
+        p.drawRoundedRect(QRectF(mask.rect()), qreal(mask.roundX()), qreal(mask.roundY()));
     });
 }
 
@@ -174,9 +174,9 @@ private slots:
     {
         Handlers mask;
         SignalLog log(&mask);
-        QMouseEvent press(QEvent::MouseButtonPress, QPointF(4.6, 5.4), Qt::LeftButton,
+        QMouseEvent press(QEvent::MouseButtonPress, QPointF(4.625, 5.375), Qt::LeftButton,
                           Qt::LeftButton, Qt::NoModifier);
-        QMouseEvent release(QEvent::MouseButtonRelease, QPointF(7.5, -2.2), Qt::LeftButton,
+        QMouseEvent release(QEvent::MouseButtonRelease, QPointF(7.5, -2.25), Qt::LeftButton,
                             Qt::NoButton, Qt::NoModifier);
         mask.mousePressEvent(&press);
         mask.mouseReleaseEvent(&release);
