@@ -230,6 +230,13 @@ void addStates(Rows &rows)
                 t.setMinimumSize(kTile);
             }),
             {stretched(artwork().large)});
+    addLook(rows, "scaled, pressed", tileOfPictures([](SpHomeIcon &t) {
+                t.setRunningImage(artwork().large);
+                t.setIsRunning(true);
+                t.setPressImage(artwork().large);
+                press(t);
+            }),
+            {artwork().normal, stretched(artwork().large), stretched(artwork().large)});
 }
 
 } // namespace

@@ -214,6 +214,26 @@ private slots:
         }
     }
 
+    void thePictureIsSmoothWhereAPixelIsNotOne()
+    {
+        const auto backdrop = makeBackdrop({60, 40});
+        const auto enlarged = [](const std::function<void(QPainter &)> &paint) {
+            QImage image(90, 60, QImage::Format_ARGB32_Premultiplied);
+            image.fill(Qt::transparent);
+            QPainter painter(&image);
+            painter.scale(1.5, 1.5);
+            paint(painter);
+            return image;
+        };
+        const QImage actual = enlarged(
+            [&](QPainter &p) { backdrop->render(&p, QPoint(), QRegion(), QWidget::DrawChildren); });
+        COMPARE_PICTURES(actual, enlarged([](QPainter &p) {
+                             p.setRenderHints(QPainter::Antialiasing
+                                              | QPainter::SmoothPixmapTransform);
+                             p.drawPixmap(QRect(0, 0, 60, 40), picture());
+                         }));
+    }
+
     void whatIsKeptFollowsEveryChange()
     {
         const auto backdrop = makeBackdrop();
