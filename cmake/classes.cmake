@@ -91,6 +91,23 @@ panelkit_class(SpLockButton
     SIZE 120 80
     INITIAL displayText=Lock "normalTextColor=#202020")
 
+panelkit_class(SpHomeIcon
+    FAMILY "Home screen and backdrops"
+    TOOLTIP "Launcher tile with a caption, pictures for its application's states, or an animation"
+    SIZE 122 164
+    INITIAL iconText=Home "fontColor=#202020")
+
+panelkit_class(SpMaskBackground
+    FAMILY "Home screen and backdrops"
+    TOOLTIP "Translucent mask to dim a page under a popup, which reports where it is touched"
+    SIZE 400 240
+    INITIAL "painterColor=#80000000")
+
+panelkit_class(SpBackgroundImage
+    FAMILY "Home screen and backdrops"
+    TOOLTIP "Picture stretched behind other widgets, turned by any angle"
+    SIZE 400 240)
+
 panelkit_class(SpTableList
     FAMILY "Scrolling lists"
     TOOLTIP "Kinetic list whose rows have icons, texts and seven styles, with clicks on rows and icons"

@@ -13,6 +13,8 @@ namespace panelkit
 constexpr QLatin1String kBeepRequest("beep", 4);
 /// Asks the widget itself to load the picture of its pressed look.
 constexpr QLatin1String kPressIconRequest("pressicon", 9);
+/// Asks the widget itself to load the picture for an application that is not ready.
+constexpr QLatin1String kGrayIconRequest("grayicon", 8);
 
 /// Posts a request to a widget: a press of the Meta key whose text names what is asked for. It
 /// arrives after the current event, where an event filter of the application can see it.

@@ -1,0 +1,65 @@
+#ifndef SPBACKGROUNDIMAGE_H
+#define SPBACKGROUNDIMAGE_H
+
+#include "panelkitglobal.h"
+
+#include <QPixmap>
+#include <QTransform>
+#include <QWidget>
+
+#include <memory>
+
+namespace panelkit
+{
+class KeptLayer;
+} // namespace panelkit
+
+/**
+ * A picture behind other widgets, stretched over the whole widget and turned by any angle about its
+ * middle. With holdMouseEvent it keeps touches away from its parent and reports their end with
+ * releaseSig.
+ */
+class PANELKIT_EXPORT SpBackgroundImage : public QWidget
+{
+    Q_OBJECT
+    Q_PROPERTY(QPixmap pixmap READ pixmap WRITE setPixmap)
+    Q_PROPERTY(bool holdMouseEvent READ holdMouseEvent WRITE setholdMouseEvent DESIGNABLE false)
+    Q_PROPERTY(bool fitPixmapSize READ fitPixmapSize WRITE setFitPixmapSize)
+
+public:
+    explicit SpBackgroundImage(QWidget *parent = nullptr);
+    ~SpBackgroundImage() override;
+
+    QPixmap pixmap() const { return m_pixmap; }
+    void setPixmap(const QPixmap &pixmap);
+    bool holdMouseEvent() const { return m_holdMouseEvent; }
+    void setholdMouseEvent(const bool &hold);
+    bool fitPixmapSize() const { return m_fitPixmapSize; }
+    void setFitPixmapSize(const bool &fit);
+
+    void setPaintInCenter(bool inCenter);
+    int rotateAngle() const { return m_rotateAngle; }
+    void setRotateAngle(const int &degrees);
+
+signals:
+    void releaseSig();
+
+protected:
+    void paintEvent(QPaintEvent *e) override;
+    void mousePressEvent(QMouseEvent *e) override;
+    void mouseMoveEvent(QMouseEvent *e) override;
+    void mouseReleaseEvent(QMouseEvent *e) override;
+
+private:
+    QTransform turn() const;
+
+    QPixmap m_pixmap;
+    bool m_holdMouseEvent = false;
+    bool m_fitPixmapSize = false;
+    bool m_paintInCenter = false;
+    int m_rotateAngle = 0; // degrees
+
+    std::unique_ptr<panelkit::KeptLayer> m_layer;
+};
+
+#endif // SPBACKGROUNDIMAGE_H

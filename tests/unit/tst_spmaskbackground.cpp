@@ -1,0 +1,257 @@
+#include <SpMaskBackground>
+
+#include "signallog.h"
+#include "touch.h"
+#include "widgettest.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <climits>
+#include <memory>
+#include <type_traits>
+
+// The accessors that are part of the interface exactly as they are written.
+template <typename T> using Setter = void (SpMaskBackground::*)(T);
+static_assert(std::is_same_v<decltype(&SpMaskBackground::setPainterColor), Setter<const QColor &>>);
+static_assert(std::is_same_v<decltype(&SpMaskBackground::setRoundX), Setter<const int &>>);
+static_assert(std::is_same_v<decltype(&SpMaskBackground::setRoundY), Setter<const int &>>);
+static_assert(std::is_same_v<decltype(&SpMaskBackground::setholdMouseEvent), Setter<const bool &>>);
+
+namespace
+{
+
+std::unique_ptr<SpMaskBackground> makeMask(QWidget *parent = nullptr)
+{
+    auto mask = std::make_unique<SpMaskBackground>(parent);
+    mask->resize(101, 61);
+    return mask;
+}
+
+QImage documented(const SpMaskBackground &mask)
+{
+    return reference(mask, [&](QPainter &p) {
+        p.setRenderHint(QPainter::Antialiasing);
+        p.setPen(Qt::NoPen);
+        p.setBrush(mask.painterColor());
+        p.drawRoundedRect(QRectF(mask.rect()), qreal(mask.roundX()), qreal(mask.roundY()));
+    });
+}
+
+QString at(const char *signal, int x, int y)
+{
+    return QStringLiteral("%1(QPoint(%2,%3))").arg(QLatin1String(signal)).arg(x).arg(y);
+}
+
+// Handlers are called with what a subclass may hand them.
+class Handlers : public SpMaskBackground
+{
+public:
+    using SpMaskBackground::mouseMoveEvent;
+    using SpMaskBackground::mousePressEvent;
+    using SpMaskBackground::mouseReleaseEvent;
+};
+
+using Action = std::function<void(SpMaskBackground &)>;
+
+} // namespace
+
+Q_DECLARE_METATYPE(Action)
+
+class tst_SpMaskBackground : public WidgetTest
+{
+    Q_OBJECT
+
+private slots:
+    void defaults()
+    {
+        SpMaskBackground mask;
+        QCOMPARE(mask.painterColor(), QColor(Qt::black));
+        QCOMPARE(mask.roundX(), 0);
+        QCOMPARE(mask.roundY(), 0);
+        QCOMPARE(mask.holdMouseEvent(), false);
+    }
+
+    void settersThatRepaintDoItOnceAndTheOtherDoesNot_data()
+    {
+        QTest::addColumn<Action>("action");
+        QTest::addColumn<int>("expected");
+        const auto row = [](const char *name, int expected, const Action &action) {
+            QTest::newRow(name) << action << expected;
+        };
+        row("painterColor", 1, [](auto &m) { m.setPainterColor(Qt::black); });
+        row("roundX", 1, [](auto &m) { m.setRoundX(0); });
+        row("roundY", 1, [](auto &m) { m.setRoundY(0); });
+        row("holdMouseEvent", 0, [](auto &m) { m.setholdMouseEvent(true); });
+    }
+
+    void settersThatRepaintDoItOnceAndTheOtherDoesNot()
+    {
+        QFETCH(Action, action);
+        const auto mask = makeMask();
+        show(*mask);
+        QTEST(paints(*mask, [&] { action(*mask); }), "expected");
+    }
+
+    void propertiesKeepAnyValue()
+    {
+        SpMaskBackground mask;
+        for (const int radius : {INT_MIN, -1, 7, INT_MAX}) {
+            QVERIFY(mask.setProperty("roundX", radius));
+            QCOMPARE(mask.roundX(), radius);
+            QVERIFY(mask.setProperty("roundY", radius / 2));
+            QCOMPARE(mask.roundY(), radius / 2);
+        }
+        QVERIFY(mask.setProperty("painterColor", QColor(1, 2, 3, 4)));
+        QCOMPARE(mask.painterColor(), QColor(1, 2, 3, 4));
+        QVERIFY(mask.setProperty("holdMouseEvent", true));
+        QCOMPARE(mask.holdMouseEvent(), true);
+    }
+
+    // --- Looks ----------------------------------------------------------------------------------
+
+    void aHalfTransparentMaskCoversItsWholeArea()
+    {
+        const auto mask = makeMask();
+        mask->setPainterColor(QColor(0, 0, 0, 128));
+        const QImage image = painted(*mask);
+        QImage expected(mask->size(), QImage::Format_ARGB32_Premultiplied);
+        expected.fill(QColor(0, 0, 0, 128));
+        COMPARE_PICTURES(image, expected);
+    }
+
+    void cornersHaveTheirRadii_data()
+    {
+        QTest::addColumn<int>("roundX");
+        QTest::addColumn<int>("roundY");
+        for (const int x : {INT_MIN, -3, 0, 1, 8, 50, 51, 400, INT_MAX}) {
+            for (const int y : {INT_MIN, -3, 0, 1, 20, 30, 31, 400, INT_MAX})
+                QTest::addRow("%d, %d", x, y) << x << y;
+        }
+    }
+
+    void cornersHaveTheirRadii()
+    {
+        QFETCH(int, roundX);
+        QFETCH(int, roundY);
+        const auto mask = makeMask();
+        mask->setRoundX(roundX);
+        mask->setRoundY(roundY);
+        for (const QColor &color : {QColor(0, 0, 0, 128), QColor(200, 90, 30), QColor()}) {
+            mask->setPainterColor(color);
+            COMPARE_PICTURES(painted(*mask), documented(*mask));
+        }
+    }
+
+    void aTinyMaskHasTinyCorners()
+    {
+        const auto mask = makeMask();
+        mask->setRoundX(5);
+        mask->setRoundY(5);
+        for (const QSize &size : {QSize(1, 1), QSize(2, 1), QSize(1, 9), QSize(7, 3)}) {
+            mask->resize(size);
+            COMPARE_PICTURES(painted(*mask), documented(*mask));
+        }
+    }
+
+    // --- Touches --------------------------------------------------------------------------------
+
+    void eachTouchIsReportedWhereverItEnds()
+    {
+        const auto mask = makeMask();
+        for (const bool isHeld : {false, true}) {
+            mask->setholdMouseEvent(isHeld);
+            SignalLog log(mask.get());
+            touch(mask.get()).press(5, 6).moveTo(200, 6).moveTo(305, 6).release();
+            QCoreApplication::processEvents();
+            QCOMPARE(log.take(),
+                     (QStringList{at("pressMask", 5, 6), at("releaseMask", 305, 6),
+                                  QStringLiteral("clicked()")}));
+        }
+    }
+
+    void positionsAreRoundedToWholePixels()
+    {
+        Handlers mask;
+        SignalLog log(&mask);
+        QMouseEvent press(QEvent::MouseButtonPress, QPointF(4.625, 5.375), Qt::LeftButton,
+                          Qt::LeftButton, Qt::NoModifier);
+        QMouseEvent release(QEvent::MouseButtonRelease, QPointF(7.5, -2.25), Qt::LeftButton,
+                            Qt::NoButton, Qt::NoModifier);
+        mask.mousePressEvent(&press);
+        mask.mouseReleaseEvent(&release);
+        QCOMPARE(log.take().mid(0, 2),
+                 (QStringList{at("pressMask", 5, 5), at("releaseMask", 8, -2)}));
+    }
+
+    void touchesGoOnUnlessTheyAreHeld()
+    {
+        const auto mask = makeMask();
+        for (const bool isHeld : {false, true}) {
+            mask->setholdMouseEvent(isHeld);
+            Touch finger = touch(mask.get());
+            QCOMPARE(finger.press(5, 5).wasAccepted(), isHeld);
+            QCOMPARE(finger.moveTo(6, 5).wasAccepted(), isHeld);
+            QCOMPARE(finger.release().wasAccepted(), isHeld);
+        }
+    }
+
+    void theBaseHandlerComesBeforeTheSignals()
+    {
+        Handlers mask;
+        QMouseEvent press(QEvent::MouseButtonPress, QPointF(5, 5), Qt::LeftButton, Qt::LeftButton,
+                          Qt::NoModifier);
+        QMouseEvent release(QEvent::MouseButtonRelease, QPointF(5, 5), Qt::LeftButton, Qt::NoButton,
+                            Qt::NoModifier);
+        QVector<bool> accepted;
+        connect(&mask, &SpMaskBackground::pressMask, &mask,
+                [&] { accepted += press.isAccepted(); });
+        connect(&mask, &SpMaskBackground::releaseMask, &mask,
+                [&] { accepted += release.isAccepted(); });
+        mask.mousePressEvent(&press);
+        mask.mouseReleaseEvent(&release);
+        QCOMPARE(accepted, (QVector<bool>{false, false})); // QWidget has left them to the parent
+    }
+
+    void aTouchNeverRepaints()
+    {
+        const auto mask = makeMask();
+        show(*mask);
+        QCOMPARE(paints(*mask, [&] { touch(mask.get()).press(5, 5).moveTo(9, 9).release(); }), 0);
+    }
+
+    // --- Robustness -----------------------------------------------------------------------------
+
+    void noEventIsNoHarm()
+    {
+        Handlers mask;
+        SignalLog log(&mask);
+        mask.mousePressEvent(nullptr);
+        mask.mouseMoveEvent(nullptr);
+        mask.mouseReleaseEvent(nullptr);
+        QCOMPARE(log.take(), QStringList());
+    }
+
+    void aMaskMayBeDeletedByAnyReport()
+    {
+        for (int number = 0; number < 3; ++number) {
+            QWidget parent;
+            auto *mask = makeMask(&parent).release();
+            const QPointer<SpMaskBackground> guard(mask);
+            int count = 0;
+            SignalLog log(mask);
+            log.onLine([&](const QString &) {
+                if (count++ == number)
+                    delete mask;
+            });
+            Touch finger = touch(mask);
+            finger.tap(5, 5);
+            QVERIFY(!guard);
+            QVERIFY(finger.wasAccepted()); // Qt is not to look for the parent of what is gone
+            QCOMPARE(count, number + 1);
+        }
+    }
+};
+
+WIDGET_TEST_MAIN(tst_SpMaskBackground)
+#include "tst_spmaskbackground.moc"
