@@ -1,5 +1,6 @@
 #include "detail/imagefile.h"
 
+#include "files.h"
 #include "widgettest.h"
 
 #include <QBuffer>
@@ -16,11 +17,7 @@ class tst_ImageFile : public WidgetTest
 
     QString write(const QString &name, const QByteArray &bytes) const
     {
-        const QString path = m_dir.filePath(name);
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-            qFatal("cannot write %s", qPrintable(path));
-        return path;
+        return writtenFile(m_dir.filePath(name), bytes);
     }
 
     static QImage picture()
