@@ -91,6 +91,16 @@ panelkit_class(SpLockButton
     SIZE 120 80
     INITIAL displayText=Lock "normalTextColor=#202020")
 
+panelkit_class(MGifPlay
+    FAMILY "Backdrops and animation"
+    TOOLTIP "Animated image file, stretched over the widget, that can be tapped"
+    SIZE 120 120)
+
+panelkit_class(SpLabel
+    FAMILY "Backdrops and animation"
+    TOOLTIP "Picture stretched over the widget under a black veil"
+    SIZE 160 120)
+
 panelkit_class(SpTableList
     FAMILY "Scrolling lists"
     TOOLTIP "Kinetic list whose rows have icons, texts and seven styles, with clicks on rows and icons"

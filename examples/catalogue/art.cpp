@@ -53,6 +53,11 @@ QString file(const QString &name)
     return kDirectory + name + QStringLiteral(".svg");
 }
 
+QString animation(const QString &name)
+{
+    return kDirectory + name + QStringLiteral(".gif");
+}
+
 QPixmap pixmap(const QString &name, const QSize &size)
 {
     for (const Rendering &kept : qAsConst(renderings())) {

@@ -19,6 +19,9 @@ QPixmap pixmap(const QString &name, const QSize &size = QSize());
 /// The file of a drawing, for widgets that take their pictures from files.
 QString file(const QString &name);
 
+/// The file of an animation.
+QString animation(const QString &name);
+
 /// The name of a drawing that pixmap() has rendered; empty for any other picture.
 QString nameOf(const QPixmap &pixmap);
 
