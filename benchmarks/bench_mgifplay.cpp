@@ -1,4 +1,6 @@
 #include "canvas.h"
+#include "files.h"
+#include "gifs.h"
 #include "rows.h"
 
 #include <mgifplay.h>
@@ -16,45 +18,14 @@ constexpr QSize kSize(200, 160);
 constexpr double kFloorLimit = 1.15;
 constexpr double kPlayingLimit = 1.05;
 
-// A GIF without end, of two frames that look alike: whoever is a frame behind paints the same. The
-// pixels are a checked pattern of four colours.
-QByteArray animation()
-{
-    constexpr int kWidth = 96; // px
-    constexpr int kHeight = 80;
-    const auto number = [](int value) {
-        return QByteArray(1, char(value)) + '\0';
-    };
-    // Codes of one byte each, as long as the table of the decoder is emptied early enough.
-    QByteArray codes;
-    for (int i = 0; i < kWidth * kHeight; ++i) {
-        if (i % 100 == 0)
-            codes += char(0x80);
-        codes += char(i % kWidth / 8 + i / kWidth / 8 & 3);
-    }
-    codes += char(0x81);
-    QByteArray frame = QByteArray("\x21\xf9\x04\x04\x0a\0\0\0", 8) + ',' + number(0) + number(0)
-        + number(kWidth) + number(kHeight) + '\0' + '\x07';
-    for (int i = 0; i < codes.size(); i += 255) {
-        const QByteArray block = codes.mid(i, 255);
-        frame += char(block.size()) + block;
-    }
-    frame += '\0';
-    const QByteArray colors =
-        QByteArray("\x20\x50\x80\x30\x70\xb0\xe0\x80\x20\xf0\xf0\xf0", 12).leftJustified(384, '\0');
-    return "GIF89a" + number(kWidth) + number(kHeight) + QByteArray("\xe6\0\0", 3) + colors
-        + QByteArray("\x21\xff\x0bNETSCAPE2.0\x03\x01\0\0\0", 19) + frame + frame + ';';
-}
-
+// A GIF without end, of two frames that look alike: whoever is a frame behind paints the same.
 // Animations come from files.
 const QString &animationFile()
 {
     static const QTemporaryDir folder;
     static const QString path = [] {
-        QFile file(folder.filePath(QStringLiteral("checks.gif")));
-        file.open(QIODevice::WriteOnly);
-        file.write(animation());
-        return file.fileName();
+        const QImage frame = gifFrames(1, QSize(96, 80)).constFirst();
+        return writtenFile(folder.filePath(QStringLiteral("two.gif")), gifOf({frame, frame}));
     }();
     return path;
 }
@@ -68,9 +39,7 @@ QPixmap firstFrame()
 template <class Widget> class WithMovie : public Widget
 {
 public:
-    WithMovie() : movie(animationFile()) { movie.start(); }
-
-    QMovie movie;
+    QMovie movie{animationFile()};
 };
 
 // The least that playing takes: the movie, and each of its frames stretched once.
@@ -84,46 +53,50 @@ protected:
     }
 };
 
-// Shows the frame at which a movie stands, or, at a speed without any delay, one frame a step.
-PaintingMaker stepped(const PaintingMaker &make, bool isPlaying)
+// A widget whose movie stands at its first frame, or plays without any delay. What it wants to have
+// repainted does not matter: each step of a measurement is one paint.
+template <class Widget, class Prepare> PaintingMaker withSpeed(int speed, Prepare prepare)
 {
-    if (!isPlaying)
-        return make;
-    return [make]() -> Painting {
+    return widgetOf<Widget>(kSize, [speed, prepare](Widget &widget) {
+        widget.setUpdatesEnabled(false);
+        prepare(widget, speed);
+    });
+}
+
+template <class Widget, class Prepare> PaintingMaker standing(Prepare prepare)
+{
+    return withSpeed<Widget>(0, prepare);
+}
+
+template <class Widget, class Prepare> PaintingMaker playing(Prepare prepare)
+{
+    return [make = withSpeed<Widget>(INT_MAX, prepare)]() -> Painting {
         const Painting painting = make();
         return {painting.canvas, [step = painting.step] {
-                    QCoreApplication::processEvents();
+                    QCoreApplication::processEvents(); // the next frame
                     step();
                 }};
     };
 }
 
-PaintingMaker player(bool isPlaying)
+void preparePlayer(MGifPlay &player, int speed)
 {
-    return stepped(widgetOf<MGifPlay>(kSize,
-                                      [isPlaying](MGifPlay &player) {
-                                          player.setGifSpeed(isPlaying ? INT_MAX : 0);
-                                          player.setGifImage(animationFile());
-                                      }),
-                   isPlaying);
+    player.setGifSpeed(speed);
+    player.setGifImage(animationFile());
 }
 
-PaintingMaker barePlayer()
+void prepareBare(BarePlayer &player, int speed)
 {
-    return stepped(
-        widgetOf<BarePlayer>(kSize, [](BarePlayer &player) { player.movie.setSpeed(INT_MAX); }),
-        true);
+    player.movie.setSpeed(speed);
+    player.movie.start();
 }
 
-PaintingMaker label(bool isPlaying)
+void prepareLabel(WithMovie<QLabel> &label, int speed)
 {
-    return stepped(widgetOf<WithMovie<QLabel>>(kSize,
-                                               [isPlaying](WithMovie<QLabel> &label) {
-                                                   label.movie.setSpeed(isPlaying ? INT_MAX : 0);
-                                                   label.setMovie(&label.movie);
-                                                   label.setScaledContents(true);
-                                               }),
-                   isPlaying);
+    label.movie.setSpeed(speed);
+    label.setMovie(&label.movie);
+    label.setScaledContents(true);
+    label.movie.start();
 }
 
 } // namespace
@@ -132,9 +105,10 @@ void defineRows(Rows &rows, Tag<MGifPlay>)
 {
     const QPixmap frame = firstFrame();
     rows.paint(
-        "MGifPlay", "standing", player(false),
+        "MGifPlay", "standing", standing<MGifPlay>(preparePlayer),
         {bareWidget(kSize, [frame](QPainter &p) { p.drawPixmap(0, 0, frame); }), kFloorLimit},
-        {{"QLabel movie", label(false), 0.5}});
-    rows.paint("MGifPlay", "playing", player(true), {barePlayer(), kPlayingLimit},
-               {{"QLabel movie", label(true), 0.9}});
+        {{"QLabel movie", standing<WithMovie<QLabel>>(prepareLabel), 0.5}});
+    rows.paint("MGifPlay", "playing", playing<MGifPlay>(preparePlayer),
+               {playing<BarePlayer>(prepareBare), kPlayingLimit},
+               {{"QLabel movie", playing<WithMovie<QLabel>>(prepareLabel), 0.9}});
 }

@@ -31,7 +31,7 @@ void addLook(Rows &rows, const char *state, const QPixmap &image)
         veiled(image.scaled(kSize, Qt::IgnoreAspectRatio, Qt::FastTransformation));
     // A stretched label keeps no copy of a picture that is smaller than it: the peer is given what
     // ours has to make.
-    const PaintingMaker label = widgetOf<QLabel>(kSize, [shown](QLabel &label) {
+    const PaintingMaker peer = widgetOf<QLabel>(kSize, [shown](QLabel &label) {
         label.setPixmap(shown);
         label.setScaledContents(true);
     });
@@ -39,7 +39,7 @@ void addLook(Rows &rows, const char *state, const QPixmap &image)
         "SpLabel", state,
         widgetOf<SpLabel>(kSize, [image](SpLabel &label) { label.setImage(image); }),
         {bareWidget(kSize, [shown](QPainter &p) { p.drawPixmap(0, 0, shown); }), kFloorLimit},
-        {{"QLabel pixmap", label, 0.9}});
+        {{"QLabel pixmap", peer, 0.9}});
 }
 
 } // namespace
