@@ -9,6 +9,14 @@
 
 using namespace panelkit;
 
+namespace
+{
+
+// A scaled copy is worth its memory up to this many pixels (32 MiB), which is the largest screen.
+constexpr qint64 kLargestCopy = qint64(4096) * 2048;
+
+} // namespace
+
 /** A label without a picture: it paints nothing. */
 SpLabel::SpLabel(QWidget *parent) : QWidget(parent), m_look(std::make_unique<ImageLook>()) { }
 
@@ -39,11 +47,14 @@ void SpLabel::setImageAlpha(const int &alpha)
 
 void SpLabel::paintEvent(QPaintEvent *)
 {
-    fitImage();
+    const bool fits = fitImage();
     if (m_image.isNull())
         return;
     QPainter painter(this);
-    m_look->drawVeiled(painter, rect(), m_image, m_imageAlpha);
+    if (fits)
+        m_look->drawVeiled(painter, rect(), m_image, m_imageAlpha);
+    else
+        painter.drawImage(rect(), veiledImage(m_image, m_image.size(), m_imageAlpha));
 }
 
 // Touches are left to the parent.
@@ -67,12 +78,16 @@ void SpLabel::mouseReleaseEvent(QMouseEvent *e)
 
 // The scaled copy takes the place of the picture, on purpose: only one of them is in memory, and
 // image() tells what is shown. The price is that a picture does not get its details back when a
-// label that was small becomes large again.
-void SpLabel::fitImage()
+// label that was small becomes large again. In a label larger than any screen, of which only a part
+// can be seen, the picture stays as it is and is stretched in painting.
+bool SpLabel::fitImage()
 {
     if (m_cachedSize == size())
-        return;
+        return true;
+    if (qint64(width()) * height() > kLargestCopy)
+        return false;
     m_cachedSize = size();
     if (!m_image.isNull())
         m_image = m_image.scaled(m_cachedSize, Qt::IgnoreAspectRatio, Qt::FastTransformation);
+    return true;
 }

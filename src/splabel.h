@@ -40,7 +40,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *e) override;
 
 private:
-    void fitImage();
+    bool fitImage();
 
     QPixmap m_image;
     QSize m_cachedSize{32, 32}; // px, what the picture was last scaled to

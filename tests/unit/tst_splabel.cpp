@@ -329,6 +329,31 @@ private slots:
         }
     }
 
+    void upToTheLargestScreenTheCopyIsKept()
+    {
+        const auto label = makeLabel();
+        label->resize(4096, 2048);
+        painted(*label);
+        QCOMPARE(label->image().size(), QSize(4096, 2048));
+    }
+
+    // A label of 400 million pixels would take gigabytes.
+    void beyondEveryScreenThePictureStaysAsItIs()
+    {
+        QWidget window;
+        window.resize(60, 50);
+        const auto label = makeLabel(&window);
+        for (const QSize &size : {QSize(4096, 2049), QSize(20000, 20000)}) {
+            label->resize(size);
+            QVERIFY(cpuTime([&] { painted(window); }) < 1000);
+            QCOMPARE(label->image().size(), QSize(40, 30));
+            const QImage veiled = documented(*makeLabel(), picture());
+            COMPARE_PICTURES(painted(window), reference(window, [&](QPainter &p) {
+                                 p.drawImage(QRect(QPoint(), size), veiled);
+                             }));
+        }
+    }
+
     void aBitmapIsNoHarm()
     {
         QBitmap bitmap(16, 16);
