@@ -320,6 +320,24 @@ private slots:
         QCOMPARE(paints(*player, [] { virtualtime::advance(5000); }), 0); // the first is over
     }
 
+    // Outside of an event loop nothing is deleted that waits for it.
+    void whatHasBeenReplacedStandsStillEvenBeforeItIsDeleted()
+    {
+        MGifPlay player;
+        player.resize(kSize);
+        show(player);
+        player.setGifSpeed(INT_MAX); // a frame each time that events are processed
+        player.setGifImage(animation());
+        player.setGifImage(file(QStringLiteral("one.gif"), gifOf(gifFrames(1), {100, 1})));
+        QCoreApplication::processEvents();
+        QCOMPARE(paints(player,
+                        [] {
+                            for (int i = 0; i < 10; ++i)
+                                QCoreApplication::processEvents();
+                        }),
+                 0);
+    }
+
     void manyFilesInARowLeaveOneOpen()
     {
         const int before = openFiles();
@@ -527,6 +545,18 @@ private slots:
         virtualtime::advance(1000);
         QCOMPARE(player->getGifState(), kStopped);
         QCOMPARE(frameOf(*player), 0);
+    }
+
+    void onceShownAgainItIsPlayedAsBefore()
+    {
+        const auto player = makePlayer();
+        show(*player);
+        player->hide();
+        show(*player);
+        player->setGifState(kStopped);
+        player->setGifState(kPlaying);
+        virtualtime::advance(100);
+        QCOMPARE(frameOf(*player), 1);
     }
 
     void showingAndHidingWithoutAFileIsNoHarm()

@@ -11,7 +11,7 @@ RINGS = 2
 REACH = 54.0  # px, where a ring has faded away
 FINE = 3  # samples a pixel on each axis
 BITS = 5  # of a colour's number
-GROUND = (18, 24, 34)
+GROUND = (15, 18, 23)
 LIGHT = (124, 196, 255)
 
 

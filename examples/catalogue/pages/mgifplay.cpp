@@ -9,7 +9,7 @@ namespace
 MGifPlay *buildPlayer(Scene &scene)
 {
     auto *player = new MGifPlay(&scene);
-    player->resize(160, 160);
+    player->resize(120, 120);
     player->setGifImage(Art::animation(QStringLiteral("pulse")));
     return player;
 }
@@ -19,7 +19,7 @@ MGifPlay *buildPlayer(Scene &scene)
 void definePages(PagesOf<MGifPlay> &pages)
 {
     auto page = pages.add(buildPlayer);
-    page.state("as large as its frames", [](MGifPlay &p) { p.resize(120, 120); })
+    page.state("twice as large", [](MGifPlay &p) { p.resize(240, 240); })
         .state("stretched", [](MGifPlay &p) { p.resize(320, 100); })
         .state("stopped", [](MGifPlay &p) { p.setGifState(1); })
         .emptyState("no such file",
