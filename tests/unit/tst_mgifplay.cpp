@@ -45,7 +45,7 @@ QImage shown(const MGifPlay &player, const QImage &frame)
 {
     return reference(player, [&](QPainter &p) {
         const QPixmap pixmap = QPixmap::fromImage(frame);
-        p.drawPixmap(QRectF(0, 0, player.width(), player.height()), pixmap, QRectF(pixmap.rect()));
+        p.drawPixmap(QRectF(QPointF(), QSizeF(player.size())), pixmap, QRectF(pixmap.rect()));
     });
 }
 
