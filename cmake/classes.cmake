@@ -108,6 +108,16 @@ panelkit_class(SpBackgroundImage
     TOOLTIP "Picture stretched behind other widgets, turned by any angle"
     SIZE 400 240)
 
+panelkit_class(MGifPlay
+    FAMILY "Home screen and backdrops"
+    TOOLTIP "Animated image file, stretched over the widget, that can be tapped"
+    SIZE 120 120)
+
+panelkit_class(SpLabel
+    FAMILY "Home screen and backdrops"
+    TOOLTIP "Picture stretched over the widget under a black veil"
+    SIZE 160 120)
+
 panelkit_class(SpTableList
     FAMILY "Scrolling lists"
     TOOLTIP "Kinetic list whose rows have icons, texts and seven styles, with clicks on rows and icons"

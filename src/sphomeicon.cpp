@@ -1,13 +1,12 @@
 #include "sphomeicon.h"
 
+#include "detail/fonts.h"
 #include "detail/geometry.h"
 #include "detail/imagefile.h"
 #include "detail/imagelook.h"
 #include "detail/kepttext.h"
 #include "detail/keyrequest.h"
 
-#include <QBuffer>
-#include <QFile>
 #include <QFont>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -28,28 +27,11 @@ constexpr int kNormalSpeed = 100; // percent
 constexpr int kCaptionRise = 15; // px, of the caption's top beside its size and margin
 constexpr int kCaptionRoom = 10; // px, in height beside its size and margin
 
-constexpr qint64 kLargestKeptFile = 16 << 20; // bytes, more than any animation of an icon
-
 enum LayerNumber { FrameLayer, BaseLayer, StateLayer, PressLayer, LayerCount };
 
 int widgetLength(qint64 px)
 {
     return int(qBound<qint64>(0, px, QWIDGETSIZE_MAX));
-}
-
-// QMovie looks for a file anew for each round, and complains on the log if it has vanished. So an
-// animation plays from memory, and goes on whatever becomes of its file.
-std::unique_ptr<QMovie> movieFromFile(const QString &path)
-{
-    QFile file(path);
-    const qint64 size = file.open(QIODevice::ReadOnly) ? file.size() : 0;
-    if (size < 1 || size > kLargestKeptFile)
-        return std::make_unique<QMovie>(path);
-    auto buffer = std::make_unique<QBuffer>();
-    buffer->setData(file.read(size));
-    auto movie = std::make_unique<QMovie>(buffer.get());
-    buffer.release()->setParent(movie.get());
-    return movie;
 }
 
 } // namespace
@@ -67,25 +49,22 @@ struct SpHomeIcon::Layers {
 struct SpHomeIcon::Kept {
     std::array<ImageLook, LayerCount> looks;
     KeptText caption;
-    QFont applicationFont;
+    QFont currentFont; // of the application, when captionFont was made
     int fontSize = 0; // px, of captionFont
     QFont captionFont;
 
     const QFont &fontOfSize(int px);
 };
 
-// The application's font, and in no part the widget's, in the size of the caption.
+// The application's font in the size of the caption.
 const QFont &SpHomeIcon::Kept::fontOfSize(int px)
 {
     const QFont current;
-    if (fontSize == px && applicationFont.isCopyOf(current))
-        return captionFont;
-    applicationFont = current;
-    fontSize = px;
-    captionFont = current;
-    if (px > 0)
-        captionFont.setPixelSize(px);
-    captionFont.resolve(~0U);
+    if (fontSize != px || !currentFont.isCopyOf(current)) {
+        currentFont = current;
+        fontSize = px;
+        captionFont = applicationFont(px);
+    }
     return captionFont;
 }
 

@@ -1,10 +1,16 @@
 #include "detail/imagefile.h"
 
+#include "files.h"
+#include "gifs.h"
+#include "virtualtime.h"
 #include "widgettest.h"
 
 #include <QBuffer>
 #include <QImage>
+#include <QMovie>
 #include <QTemporaryDir>
+
+#include <memory>
 
 using namespace panelkit;
 
@@ -16,11 +22,7 @@ class tst_ImageFile : public WidgetTest
 
     QString write(const QString &name, const QByteArray &bytes) const
     {
-        const QString path = m_dir.filePath(name);
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-            qFatal("cannot write %s", qPrintable(path));
-        return path;
+        return writtenFile(m_dir.filePath(name), bytes);
     }
 
     static QImage picture()
@@ -94,6 +96,91 @@ private slots:
         QVERIFY(pixmapFromFile(m_dir.filePath(QStringLiteral("absent.png"))).isNull());
         QVERIFY(pixmapFromFile(write(QStringLiteral("text.png"), "not a picture")).isNull());
         QVERIFY(pixmapFromFile(write(QStringLiteral("empty.png"), "")).isNull());
+        QVERIFY(pixmapFromFile(QString(3, QChar(0))).isNull());
+        QCOMPARE(takeMessages(), QStringList());
+    }
+
+    // --- Movies ---------------------------------------------------------------------------------
+
+    void aMoviePlaysItsFileRoundAfterRound()
+    {
+        const QVector<QImage> frames = gifFrames(3);
+        const auto movie = movieFromFile(write(QStringLiteral("three.gif"), gifOf(frames)));
+        QCOMPARE(movie->state(), QMovie::NotRunning);
+        QVERIFY(!movie->parent());
+        movie->start();
+        for (int i = 0; i < 9; ++i) {
+            COMPARE_PICTURES(movie->currentImage().convertToFormat(frames[0].format()),
+                             frames[i % 3]);
+            virtualtime::advance(100);
+        }
+    }
+
+    void aMovieKeepsOneFrameInMemory()
+    {
+        const auto movie = movieFromFile(write(QStringLiteral("three.gif"), gifOf(gifFrames(3))));
+        QCOMPARE(movie->cacheMode(), QMovie::CacheNone);
+    }
+
+    void anEndingMayBeLeftToTheMovie()
+    {
+        write(QStringLiteral("named.gif"), gifOf(gifFrames(2)));
+        const auto movie = movieFromFile(m_dir.filePath(QStringLiteral("named")));
+        QVERIFY(movie->isValid());
+    }
+
+    void aMovieOutlivesThePathOfItsFile()
+    {
+        const QString path = write(QStringLiteral("gone.gif"), gifOf(gifFrames(3)));
+        const auto movie = movieFromFile(path);
+        QVERIFY(QFile::remove(path));
+        movie->start();
+        virtualtime::advance(1000);
+        QCOMPARE(movie->state(), QMovie::Running);
+        QCOMPARE(movie->currentFrameNumber(), 1);
+        QCOMPARE(takeMessages(), QStringList());
+    }
+
+    void aStillImageIsAMovieOfOneFrame()
+    {
+        for (const char *format : {"png", "jpg", "bmp"}) {
+            const auto movie =
+                movieFromFile(write(QStringLiteral("still.") + format, encoded(format)));
+            movie->start();
+            QCOMPARE(movie->currentImage().size(), QSize(40, 30));
+            virtualtime::advance(1000);
+            QCOMPARE(movie->state(), QMovie::NotRunning);
+        }
+    }
+
+    void whatCannotBeReadIsAMovieWithoutFrames_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::newRow("no path") << QString();
+        QTest::newRow("zeros") << QString(3, QChar(0));
+        QTest::newRow("a path with a zero")
+            << m_dir.filePath(QStringLiteral("three.gif")) + QChar(0);
+        QTest::newRow("directory") << m_dir.path();
+        QTest::newRow("absent") << m_dir.filePath(QStringLiteral("absent.gif"));
+        QTest::newRow("text") << write(QStringLiteral("text.gif"), "not a movie");
+        for (const char *format : {"png", "jpg"}) {
+            const QByteArray whole = encoded(format);
+            QTest::newRow(format) << write(QStringLiteral("half.") + format,
+                                           whole.left(whole.size() / 2));
+        }
+    }
+
+    void whatCannotBeReadIsAMovieWithoutFrames()
+    {
+        QFETCH(QString, path);
+        const auto movie = movieFromFile(path);
+        for (int i = 0; i < 2; ++i) {
+            movie->setSpeed(50 * i);
+            movie->start();
+            QCOMPARE(movie->state(), QMovie::NotRunning);
+            QVERIFY(movie->currentPixmap().isNull());
+            movie->stop();
+        }
         QCOMPARE(takeMessages(), QStringList());
     }
 };

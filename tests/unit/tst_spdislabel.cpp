@@ -1,5 +1,6 @@
 #include <SpDisLabel>
 
+#include "parent.h"
 #include "signallog.h"
 #include "touch.h"
 #include "virtualtime.h"
@@ -7,7 +8,6 @@
 
 #include <QBitmap>
 #include <QFontMetrics>
-#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
@@ -101,35 +101,6 @@ QString shortened(const QString &text, const QFontMetrics &metrics, int width)
         shown = text.left(k) + QStringLiteral("...");
     return shown;
 }
-
-// A parent that writes down the mouse and key events which come up to it.
-class Parent : public QWidget
-{
-public:
-    QStringList events;
-
-protected:
-    bool event(QEvent *e) override
-    {
-        switch (e->type()) {
-        case QEvent::MouseButtonPress:
-            events += QStringLiteral("press");
-            break;
-        case QEvent::MouseMove:
-            events += QStringLiteral("move");
-            break;
-        case QEvent::MouseButtonRelease:
-            events += QStringLiteral("release");
-            break;
-        case QEvent::KeyPress:
-            events += static_cast<QKeyEvent *>(e)->text();
-            break;
-        default:
-            break;
-        }
-        return QWidget::event(e);
-    }
-};
 
 // Handlers are called with what a subclass may hand them.
 class Handlers : public SpDisLabel

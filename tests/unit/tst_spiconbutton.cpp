@@ -1,6 +1,7 @@
 #include <SpIconButton>
 
 #include "detail/imagelook.h"
+#include "parent.h"
 #include "signallog.h"
 #include "touch.h"
 #include "virtualtime.h"
@@ -99,35 +100,6 @@ Paint nothing()
     return [](QPainter &) {
     };
 }
-
-// A parent that writes down the mouse and key events which come up to it.
-class Parent : public QWidget
-{
-public:
-    QStringList events;
-
-protected:
-    bool event(QEvent *e) override
-    {
-        switch (e->type()) {
-        case QEvent::MouseButtonPress:
-            events += QStringLiteral("press");
-            break;
-        case QEvent::MouseMove:
-            events += QStringLiteral("move");
-            break;
-        case QEvent::MouseButtonRelease:
-            events += QStringLiteral("release");
-            break;
-        case QEvent::KeyPress:
-            events += static_cast<QKeyEvent *>(e)->text();
-            break;
-        default:
-            break;
-        }
-        return QWidget::event(e);
-    }
-};
 
 // Handlers are called with what a subclass may hand them.
 class Handlers : public SpIconButton

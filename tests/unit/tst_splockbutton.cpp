@@ -1,11 +1,11 @@
 #include <SpLockButton>
 
+#include "parent.h"
 #include "signallog.h"
 #include "touch.h"
 #include "widgettest.h"
 
 #include <QBitmap>
-#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -90,27 +90,6 @@ public:
     using SpLockButton::mouseMoveEvent;
     using SpLockButton::mousePressEvent;
     using SpLockButton::mouseReleaseEvent;
-};
-
-// A parent that writes down what comes up to it.
-class Parent : public QWidget
-{
-public:
-    QStringList events;
-
-protected:
-    bool event(QEvent *e) override
-    {
-        if (e->type() == QEvent::MouseButtonPress)
-            events += QStringLiteral("press");
-        else if (e->type() == QEvent::MouseMove)
-            events += QStringLiteral("move");
-        else if (e->type() == QEvent::MouseButtonRelease)
-            events += QStringLiteral("release");
-        else if (e->type() == QEvent::KeyPress)
-            events += static_cast<QKeyEvent *>(e)->text();
-        return QWidget::event(e);
-    }
 };
 
 } // namespace

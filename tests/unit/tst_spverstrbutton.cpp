@@ -1,12 +1,12 @@
 #include <SpVerStrButton>
 
+#include "parent.h"
 #include "signallog.h"
 #include "touch.h"
 #include "virtualtime.h"
 #include "widgettest.h"
 
 #include <QBitmap>
-#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
@@ -89,35 +89,6 @@ void drawText(QPainter &p, const QColor &color, const QRect &rect, const QString
     p.setPen(color);
     p.drawText(rect, kTextFlags, text);
 }
-
-// A parent that writes down the mouse and key events which come up to it.
-class Parent : public QWidget
-{
-public:
-    QStringList events;
-
-protected:
-    bool event(QEvent *e) override
-    {
-        switch (e->type()) {
-        case QEvent::MouseButtonPress:
-            events += QStringLiteral("press");
-            break;
-        case QEvent::MouseMove:
-            events += QStringLiteral("move");
-            break;
-        case QEvent::MouseButtonRelease:
-            events += QStringLiteral("release");
-            break;
-        case QEvent::KeyPress:
-            events += static_cast<QKeyEvent *>(e)->text();
-            break;
-        default:
-            break;
-        }
-        return QWidget::event(e);
-    }
-};
 
 // Handlers are called with what a subclass may hand them.
 class Handlers : public SpVerStrButton

@@ -1,13 +1,16 @@
 // The support of the tests is itself tested: a log that misses a line, a comparison that always
 // agrees or a clock that stands still would turn every other test into decoration.
 
+#include "gifs.h"
 #include "signallog.h"
 #include "touch.h"
 #include "virtualtime.h"
 #include "widgettest.h"
 
+#include <QBuffer>
 #include <QDateTime>
 #include <QElapsedTimer>
+#include <QImageReader>
 #include <QMouseEvent>
 #include <QTimer>
 #include <QWidget>
@@ -161,6 +164,39 @@ private slots:
         QCOMPARE(unexpectedMessages(),
                  (QStringList{"warning: nobody expects this", "critical: nor this"}));
         QCOMPARE(unexpectedMessages(), QStringList());
+    }
+
+    void aGifIsReadBackAsItWasWritten_data()
+    {
+        QTest::addColumn<int>("count");
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<int>("delay");
+        QTest::addColumn<int>("rounds");
+        QTest::addColumn<int>("loopCount"); // the further rounds; -1: without end
+        QTest::newRow("still") << 1 << QSize(12, 8) << 100 << 1 << 0;
+        QTest::newRow("twice") << 2 << QSize(1, 1) << 20 << 2 << 1;
+        QTest::newRow("without end") << 3 << QSize(301, 40) << 250 << 0 << -1;
+        QTest::newRow("long") << 1000 << QSize(9, 6) << 50 << 0 << -1;
+    }
+
+    void aGifIsReadBackAsItWasWritten()
+    {
+        QFETCH(int, count);
+        QFETCH(QSize, size);
+        QFETCH(int, delay);
+        QFETCH(int, rounds);
+        const QVector<QImage> frames = gifFrames(count, size);
+        QByteArray bytes = gifOf(frames, {delay, rounds});
+        QBuffer file(&bytes);
+        QImageReader reader(&file);
+        QCOMPARE(reader.format(), QByteArray("gif"));
+        for (int i = 0; i < count; ++i) {
+            COMPARE_PICTURES(reader.read().convertToFormat(frames[i].format()), frames[i]);
+            QCOMPARE(reader.nextImageDelay(), delay);
+            QVERIFY(i == 0 || frames[i] != frames[i - 1]);
+        }
+        QVERIFY(!reader.canRead());
+        QTEST(reader.loopCount(), "loopCount");
     }
 };
 

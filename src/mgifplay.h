@@ -1,0 +1,65 @@
+#ifndef MGIFPLAY_H
+#define MGIFPLAY_H
+
+#include "panelkitglobal.h"
+
+#include <QString>
+#include <QWidget>
+
+#include <memory>
+
+class QMovie;
+
+namespace panelkit
+{
+class ImageLook;
+} // namespace panelkit
+
+/**
+ * Plays an animated image file, stretched over the widget, from the moment when it is given one;
+ * setGifState stops it and starts it again. It is a simple button too: a release, wherever it is,
+ * reports btnClicked, and each press asks the application for a click sound.
+ */
+class PANELKIT_EXPORT MGifPlay : public QWidget
+{
+    Q_OBJECT
+    Q_PROPERTY(QString gifImage READ gifImage WRITE setGifImage)
+    Q_PROPERTY(int gifSpeed READ gifSpeed WRITE setGifSpeed)
+
+public:
+    explicit MGifPlay(QWidget *parent = nullptr);
+    ~MGifPlay() override;
+
+    QString gifImage() const { return m_gifImage; }
+    void setGifImage(QString path);
+    int gifSpeed() const { return m_gifSpeed; }
+    void setGifSpeed(int percent);
+
+    int getGifState() const;
+    void setGifState(int state);
+
+signals:
+    void btnClicked();
+
+protected:
+    void paintEvent(QPaintEvent *e) override;
+    void mousePressEvent(QMouseEvent *e) override;
+    void mouseMoveEvent(QMouseEvent *e) override;
+    void mouseReleaseEvent(QMouseEvent *e) override;
+    void showEvent(QShowEvent *e) override;
+    void hideEvent(QHideEvent *e) override;
+
+private:
+    void start();
+    void discardMovie();
+
+    QString m_gifImage;
+    QMovie *m_movie = nullptr; // has no parent
+    int m_gifSpeed = 100; // percent
+    bool m_isResting = false; // while hidden
+
+    std::unique_ptr<panelkit::ImageLook> m_look;
+    qint64 m_paintedFrame = 0; // QPixmap::cacheKey()
+};
+
+#endif // MGIFPLAY_H
