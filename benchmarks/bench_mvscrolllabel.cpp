@@ -1,0 +1,3 @@
+#include "rows.h"
+#include <mvscrolllabel.h>
+void defineRows(Rows &, Tag<MVScrollLabel>) { }

@@ -1,0 +1,3 @@
+#include "rows.h"
+#include <sprollingtext.h>
+void defineRows(Rows &, Tag<SpRollingText>) { }
