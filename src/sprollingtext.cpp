@@ -39,9 +39,8 @@ const QLatin1String kEllipsis("...");
 // An effect works on a picture that has room for the shadow, wherever it falls.
 qreal nearby(qreal distance)
 {
-    return qreal(std::isnan(distance)
-                     ? 0
-                     : std::clamp(double(distance), -kFarthestShadow, kFarthestShadow));
+    return qreal(
+        std::isnan(distance) ? 0 : std::clamp(double(distance), -kFarthestShadow, kFarthestShadow));
 }
 
 } // namespace
@@ -257,9 +256,9 @@ QString SpRollingText::shortened() const
 {
     const QFontMetrics metrics(font());
     const int room = width() - 1 - metrics.horizontalAdvance(kEllipsis);
-    const int count =
-        firstThat(m_rollSource.size() - 1, kPrefixesTried,
-                  [&](int n) { return metrics.horizontalAdvance(m_rollSource.left(n + 1)) > room; });
+    const int count = firstThat(m_rollSource.size() - 1, kPrefixesTried, [&](int n) {
+        return metrics.horizontalAdvance(m_rollSource.left(n + 1)) > room;
+    });
     return m_rollSource.left(count) + kEllipsis;
 }
 

@@ -152,9 +152,8 @@ private slots:
     {
         KeptLines lines;
         const QString text = QStringLiteral("MMM\n").repeated(5) + QStringLiteral("MMM");
-        const QImage drawn = onCanvas([&](QPainter &p) {
-            lines.draw(p, kRect, Qt::AlignTop, text, QRect(0, 60, 180, 1));
-        });
+        const QImage drawn = onCanvas(
+            [&](QPainter &p) { lines.draw(p, kRect, Qt::AlignTop, text, QRect(0, 60, 180, 1)); });
         const QImage blank = onCanvas([](QPainter &) {});
         QVERIFY(drawn.copy(0, 55, 180, 15) != blank.copy(0, 55, 180, 15));
         QCOMPARE(drawn.copy(0, 0, 180, 20), blank.copy(0, 0, 180, 20));

@@ -8,14 +8,14 @@ namespace
 constexpr int kStartDelay = 2000; // ms, what the label waits
 constexpr int kFast = 10; // ms for each pixel
 
-const QString kLicence =
-    QStringLiteral("PLAIN TALK LICENCE\n\n"
-                   "Take this program along wherever you drive. Pass it on to friends, look under "
-                   "its bonnet and change what you find there.\n\n"
-                   "If you hand on a changed one, say so on the box, and leave this note inside so "
-                   "that the next driver knows the road.\n\n"
-                   "It comes without any promise. Should it lead you up a mountain when you "
-                   "wanted the sea, enjoy the view: those who wrote it will not come to fetch you.");
+const QString kLicence = QStringLiteral(
+    "PLAIN TALK LICENCE\n\n"
+    "Take this program along wherever you drive. Pass it on to friends, look under "
+    "its bonnet and change what you find there.\n\n"
+    "If you hand on a changed one, say so on the box, and leave this note inside so "
+    "that the next driver knows the road.\n\n"
+    "It comes without any promise. Should it lead you up a mountain when you "
+    "wanted the sea, enjoy the view: those who wrote it will not come to fetch you.");
 
 void dress(MVScrollLabel &label)
 {
@@ -43,7 +43,8 @@ MVScrollLabel *buildLabel(Scene &scene)
 void definePages(PagesOf<MVScrollLabel> &pages)
 {
     auto page = pages.add(buildLabel);
-    page.state("fits", [](MVScrollLabel &l) { l.setText(QStringLiteral("All of it\nis in sight.")); })
+    page.state("fits",
+               [](MVScrollLabel &l) { l.setText(QStringLiteral("All of it\nis in sight.")); })
         .state("in the middle",
                [](MVScrollLabel &l) {
                    l.setAlignment(Qt::AlignCenter);
