@@ -74,8 +74,8 @@ Frame frameOf(const QRect &rect, const QString &text)
     frame.layout.prepare(QTransform(), textFont());
     const QPointF topLeft =
         QFontMetricsF(textFont()).boundingRect(QRectF(rect), Qt::AlignCenter, text).topLeft();
-    const qreal spare = rect.width() - QFontMetricsF(textFont()).horizontalAdvance(text);
-    frame.at = {cut(rect.x() + spare / 2), cut(topLeft.y())};
+    const qreal spare = qreal(rect.width()) - QFontMetricsF(textFont()).horizontalAdvance(text);
+    frame.at = {cut(qreal(rect.x()) + spare / 2), cut(topLeft.y())};
     return frame;
 }
 

@@ -297,9 +297,9 @@ void SpRollingText::drawRolling(QPainter &painter)
     fade.setColorAt(kFadeIn, m_textColor);
     fade.setColorAt(kFadeOut, m_textColor);
     fade.setColorAt(1, Qt::transparent);
-    painter.setPen(QPen(fade, width(), Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
-    m_line->draw(painter, QRectF(-m_pixelOffset, 0, displayWidth(), height()), int(m_textAlignment),
-                 m_displayText);
+    painter.setPen(QPen(fade, qreal(width()), Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+    const QRect place(-m_pixelOffset, 0, displayWidth(), height());
+    m_line->draw(painter, QRectF(place), int(m_textAlignment), m_displayText);
 }
 
 // The width of the text displayed, which stays the same for many a step.

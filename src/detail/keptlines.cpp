@@ -105,14 +105,14 @@ void KeptLines::layOut(QPainter &painter)
 // Ink may stand out of its line, but not by more than the height of one.
 void KeptLines::drawLines(QPainter &painter, const QRect &rect, const QRect &inSight)
 {
-    const QPointF topLeft(qreal(rect.x()), rect.y() + m_bounds.top());
+    const QPointF topLeft = rect.topLeft() + QPointF(0, m_bounds.top());
     const int count = m_layout.lineCount();
     for (int i = 0; i < count; ++i) {
         const QTextLine line = m_layout.lineAt(i);
         const qreal top = topLeft.y() + line.y();
-        if (top - line.height() > inSight.bottom())
+        if (top - line.height() > qreal(inSight.bottom()))
             return;
-        if (top + 2 * line.height() > inSight.top())
+        if (top + 2 * line.height() > qreal(inSight.top()))
             line.draw(&painter, topLeft + QPointF(leftOf(line), 0));
     }
 }
@@ -122,7 +122,7 @@ qreal KeptLines::leftOf(const QTextLine &line) const
 {
     const Qt::Alignment alignment =
         QStyle::visualAlignment(m_setting.direction, Qt::Alignment(QFlag(m_setting.flags)));
-    const qreal spare = m_setting.size.width() - line.horizontalAdvance();
+    const qreal spare = qreal(m_setting.size.width()) - line.horizontalAdvance();
     if (alignment & Qt::AlignRight)
         return spare;
     return alignment & Qt::AlignHCenter ? spare / 2 : 0;

@@ -167,7 +167,7 @@ private slots:
         const auto turned = [&](const std::function<void(QPainter &)> &paint) {
             return onCanvas([&](QPainter &p) {
                 p.rotate(11);
-                p.scale(1.3, 0.9);
+                p.scale(qreal(1.3), qreal(0.9));
                 paint(p);
             });
         };
