@@ -26,7 +26,7 @@ constexpr int kSpareCharacters = 3; // beyond those that can be seen
 constexpr qreal kFadeIn = qreal(0.08); // of the diagonal
 constexpr qreal kFadeOut = qreal(0.92);
 constexpr qreal kShadowBlur = qreal(0.5); // px
-constexpr double kFarthestShadow = 2048; // px; one that is farther away is beside any panel
+constexpr double kFarthestShadow = 256; // px; farther away it belongs to nothing
 
 // No panel shows so many characters. The first ones of a longer text tell that it is too wide.
 constexpr int kMostInSight = 4096;
