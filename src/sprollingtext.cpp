@@ -1,6 +1,7 @@
 #include "sprollingtext.h"
 
 #include "detail/arithmetic.h"
+#include "detail/keptlines.h"
 #include "detail/kepttext.h"
 #include "detail/search.h"
 
@@ -47,7 +48,8 @@ qreal nearby(qreal distance)
 
 /** An empty line. */
 SpRollingText::SpRollingText(QWidget *parent)
-    : QWidget(parent), m_rollTimer(new QTimer(this)), m_line(std::make_unique<KeptText>())
+    : QWidget(parent), m_rollTimer(new QTimer(this)), m_resting(std::make_unique<KeptText>()),
+      m_rolling(std::make_unique<KeptLines>())
 {
     m_rollTimer->setInterval(kRollInterval);
     connect(m_rollTimer, SIGNAL(timeout()), this, SLOT(updateIndex()));
@@ -286,10 +288,10 @@ void SpRollingText::resumeRolling()
 void SpRollingText::drawResting(QPainter &painter)
 {
     painter.setPen(m_textColor);
-    m_line->draw(painter, QRectF(rect()), int(m_textAlignment), m_displayText);
+    m_resting->draw(painter, QRectF(rect()), int(m_textAlignment), m_displayText);
 }
 
-// Both ends fade along the diagonal of the widget.
+// Both ends fade along the diagonal of the widget. A KeptText would place such a pen by the window.
 void SpRollingText::drawRolling(QPainter &painter)
 {
     QLinearGradient fade(rect().topLeft(), rect().bottomRight());
@@ -299,7 +301,7 @@ void SpRollingText::drawRolling(QPainter &painter)
     fade.setColorAt(1, Qt::transparent);
     painter.setPen(QPen(fade, qreal(width()), Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
     const QRect place(-m_pixelOffset, 0, displayWidth(), height());
-    m_line->draw(painter, QRectF(place), int(m_textAlignment), m_displayText);
+    m_rolling->draw(painter, place, int(m_textAlignment), m_displayText, rect());
 }
 
 // The width of the text displayed, which stays the same for many a step.

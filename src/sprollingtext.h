@@ -15,6 +15,7 @@ class QTimer;
 
 namespace panelkit
 {
+class KeptLines;
 class KeptText;
 }
 
@@ -106,7 +107,8 @@ private:
     QString m_measuredText; // what the kept width belongs to
     QFont m_measuredFont;
     int m_displayWidth = 0; // px
-    std::unique_ptr<panelkit::KeptText> m_line;
+    std::unique_ptr<panelkit::KeptText> m_resting;
+    std::unique_ptr<panelkit::KeptLines> m_rolling;
 };
 
 #endif // SPROLLINGTEXT_H

@@ -443,6 +443,21 @@ private slots:
         }
     }
 
+    void theEndsFadeWhereTheWidgetIs()
+    {
+        QWidget window;
+        window.resize(300, 100);
+        SpRollingText text(&window);
+        text.setGeometry(70, 30, 160, 30);
+        text.setText(kLong);
+        Marquee marquee(text, kLong);
+        for (int i = 0; i < 12; ++i) {
+            COMPARE_PICTURES(painted(window).copy(text.geometry()), rolling(text, marquee));
+            QCoreApplication::processEvents();
+            marquee.step();
+        }
+    }
+
     void everyPaintIsAStep()
     {
         const auto text = makeText();
