@@ -17,7 +17,7 @@ namespace panelkit
 {
 class KeptLines;
 class KeptText;
-}
+} // namespace panelkit
 
 /**
  * One line of text. A text that is too wide for the widget rolls from right to left, endlessly and

@@ -207,7 +207,7 @@ private:
         if (m_object) {
             for (const auto &timer :
                  QAbstractEventDispatcher::instance()->registeredTimers(m_object))
-                interval = qMin(interval, timer.interval);
+                interval = qBound(0, timer.interval, interval);
         }
         return kTicks * interval;
     }
