@@ -220,7 +220,11 @@ private:
             return;
         const QMetaProperty property =
             type->property(first + m_values.below(type->propertyCount() - first));
-        property.write(m_object, m_values.valueFor(property));
+        QVariant value = m_values.valueFor(property);
+        // The virtual clock stands still while a timer without interval runs.
+        if (qstrcmp(property.name(), "scrollSpeed") == 0 && value.toInt() >= 0)
+            value = qMax(50, value.toInt());
+        property.write(m_object, value);
         if (m_object)
             property.read(m_object);
     }
