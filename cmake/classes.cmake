@@ -141,6 +141,18 @@ panelkit_class(MListView
     SIZE 160 320
     CREATE "new MListView(parent, QRect(0, 0, 160, 320))")
 
+panelkit_class(SpRollingText
+    FAMILY "Scrolling text"
+    TOOLTIP "Line of text that rolls, or is shortened, where it is too wide"
+    SIZE 200 40
+    INITIAL "text=Rolling text" "textColor=#202020")
+
+panelkit_class(MVScrollLabel
+    FAMILY "Scrolling text"
+    TOOLTIP "Label that scrolls its text upward where it is too high"
+    SIZE 200 120
+    INITIAL "text=Scrolling label")
+
 panelkit_class(SpSetupSlider
     FAMILY "Sliders"
     TOOLTIP "Vertical slider for a setting, with its value above and buttons for single steps"

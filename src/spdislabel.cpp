@@ -5,6 +5,7 @@
 #include "detail/keptlayer.h"
 #include "detail/kepttext.h"
 #include "detail/keyrequest.h"
+#include "detail/search.h"
 
 #include <QFontMetrics>
 #include <QMouseEvent>
@@ -18,30 +19,9 @@ namespace
 
 const QLatin1String kEllipsis("...");
 
-// How many lengths of a text are tried one after the other; what is left is halved. Widths do not
-// quite grow with every character, so that the first length that fits is found only one by one. No
-// label shows more characters than that, but a text may have any number that take no room.
+// How many lengths of a text are tried one after the other. No label shows more characters.
 constexpr int kPrefixesTried = 512;
 constexpr int kRemovalsTried = 64; // of what makes room for three dots
-
-// The first of so many numbers, from 0, that holds; their count, if none does.
-template <typename Predicate> int firstThat(int count, int triedSingly, Predicate holds)
-{
-    int first = 0;
-    for (; first < qMin(count, triedSingly); ++first) {
-        if (holds(first))
-            return first;
-    }
-    int last = count;
-    while (first < last) {
-        const int middle = first + (last - first) / 2;
-        if (holds(middle))
-            last = middle;
-        else
-            first = middle + 1;
-    }
-    return first;
-}
 
 // Qt looks for the parent of a widget that has left an event to it, and does not expect that the
 // widget is gone.

@@ -16,7 +16,8 @@ namespace panelkit
 /// One caption whose layout is kept until its text, alignment, font, direction or the size of its
 /// rectangle changes; where the rectangle stands does not matter, to a whole pixel. It draws the
 /// very pixels of QPainter::drawText(rect, flags, text) for about a third of the cost. Whatever is
-/// more than one plain line goes to drawText as it is.
+/// more than one plain line goes to drawText as it is. The pen has to be of one colour: QStaticText
+/// places a gradient by the origin of the device.
 class KeptText
 {
 public:

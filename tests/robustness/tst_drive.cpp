@@ -8,6 +8,7 @@
 #include "virtualtime.h"
 #include "widgettest.h"
 
+#include <QAbstractEventDispatcher>
 #include <QBitmap>
 #include <QKeyEvent>
 #include <QMetaProperty>
@@ -89,6 +90,8 @@ public:
             return picture();
         case QMetaType::QPoint:
             return QPoint(number(), number());
+        case QMetaType::QPointF:
+            return QPointF(qreal(real()), qreal(real()));
         case QMetaType::QSize:
             return QSize(number(), number());
         case QMetaType::QRect:
@@ -115,10 +118,20 @@ public:
     {
         const QMetaObject *type = victim->metaObject();
         for (int i = QObject::staticMetaObject.methodCount(); i < type->methodCount(); ++i) {
-            if (type->method(i).methodType() == QMetaMethod::Signal
-                && isSurvivedByQt(type->method(i)))
-                QMetaObject::connect(victim, i, this, QObject::staticMetaObject.methodCount());
+            const QMetaMethod method = type->method(i);
+            if (method.methodType() == QMetaMethod::Signal && isSurvivedByQt(method))
+                QMetaObject::connect(victim, i, this, QObject::staticMetaObject.methodCount(),
+                                     isInsideQt(method) ? Qt::QueuedConnection
+                                                        : Qt::DirectConnection);
         }
+    }
+
+    // These are emitted while Qt paints or shows the widget, and goes on with it. Their deletion
+    // comes from the event loop.
+    static bool isInsideQt(const QMetaMethod &signal)
+    {
+        static const QByteArrayList inside{"paintFinish", "scrollStateChanged"};
+        return inside.contains(signal.name());
     }
 
     // After these QAbstractSlider, QAbstractButton and QCheckBox go on to their members, in any
@@ -182,7 +195,21 @@ private:
         if (auto *widget = qobject_cast<QWidget *>(m_object))
             disturb(*widget);
         if (m_values.below(4) == 0)
-            virtualtime::advance(m_values.oneOf({0, 1, 99, 1000, 61000}));
+            virtualtime::advance(qMin(m_values.oneOf({0, 1, 99, 1000, 61000}), longestWait()));
+    }
+
+    // A hundred ticks of the fastest timer are enough of it; one without an interval has the clock
+    // stand still.
+    int longestWait() const
+    {
+        constexpr int kTicks = 100;
+        int interval = INT_MAX / kTicks;
+        if (m_object) {
+            for (const auto &timer :
+                 QAbstractEventDispatcher::instance()->registeredTimers(m_object))
+                interval = qBound(0, timer.interval, interval);
+        }
+        return kTicks * interval;
     }
 
     void writeProperty()
@@ -193,7 +220,11 @@ private:
             return;
         const QMetaProperty property =
             type->property(first + m_values.below(type->propertyCount() - first));
-        property.write(m_object, m_values.valueFor(property));
+        QVariant value = m_values.valueFor(property);
+        // The virtual clock stands still while a timer without interval runs.
+        if (qstrcmp(property.name(), "scrollSpeed") == 0 && value.toInt() >= 0)
+            value = qMax(50, value.toInt());
+        property.write(m_object, value);
         if (m_object)
             property.read(m_object);
     }

@@ -145,6 +145,8 @@ QImage painted(QWidget &widget)
 {
     QImage image(widget.size(), QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
+    if (image.isNull())
+        return image;
     widget.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
     return image;
 }
@@ -158,7 +160,6 @@ QImage reference(const QWidget &widget, const std::function<void(QPainter &)> &p
     QPainter painter(&image);
     painter.setFont(widget.font());
     painter.setPen(QPen(widget.palette().color(widget.foregroundRole()), 1));
-    painter.setLayoutDirection(widget.layoutDirection());
     paint(painter);
     return image;
 }
