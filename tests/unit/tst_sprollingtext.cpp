@@ -70,14 +70,15 @@ struct Marquee {
 QImage rolling(const SpRollingText &widget, const QString &shown, int offset)
 {
     return reference(widget, [&](QPainter &p) {
-        QLinearGradient fade(0, 0, widget.width() - 1, widget.height() - 1);
+        QLinearGradient fade(widget.rect().topLeft(), widget.rect().bottomRight());
         fade.setColorAt(0, Qt::transparent);
         fade.setColorAt(qreal(0.08), widget.textColor());
         fade.setColorAt(qreal(0.92), widget.textColor());
         fade.setColorAt(1, Qt::transparent);
         if (widget.isVisible()) // a painter on a widget that is only rendered has no direction
             p.setLayoutDirection(QGuiApplication::layoutDirection());
-        p.setPen(QPen(QBrush(fade), widget.width(), Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+        p.setPen(
+            QPen(QBrush(fade), qreal(widget.width()), Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
         p.drawText(QRect(-offset, 0, widthOf(widget.font(), shown), widget.height()),
                    int(widget.textAlignment()), shown);
     });
