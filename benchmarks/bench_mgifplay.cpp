@@ -110,5 +110,5 @@ void defineRows(Rows &rows, Tag<MGifPlay>)
         {{"QLabel movie", standing<WithMovie<QLabel>>(prepareLabel), 0.5}});
     rows.paint("MGifPlay", "playing", playing<MGifPlay>(preparePlayer),
                {playing<BarePlayer>(prepareBare), kPlayingLimit},
-               {{"QLabel movie", playing<WithMovie<QLabel>>(prepareLabel), 0.9}});
+               {{"QLabel movie", playing<WithMovie<QLabel>>(prepareLabel), 1.0}});
 }

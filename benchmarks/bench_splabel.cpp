@@ -39,7 +39,7 @@ void addLook(Rows &rows, const char *state, const QPixmap &image)
         "SpLabel", state,
         widgetOf<SpLabel>(kSize, [image](SpLabel &label) { label.setImage(image); }),
         {bareWidget(kSize, [shown](QPainter &p) { p.drawPixmap(0, 0, shown); }), kFloorLimit},
-        {{"QLabel pixmap", peer, 0.9}});
+        {{"QLabel pixmap", peer, 1.0}});
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QFile>
+#include <QFileInfo>
 #include <QImage>
 #include <QImageReader>
 #include <QMovie>
@@ -32,10 +33,14 @@ bool endsEarly(const QString &path)
     return false;
 }
 
-// A zero character ends a path for the system, and Qt warns about it.
+// A zero character ends a path for the system, and Qt warns about it. A device is not read: it may
+// have no end. A path that names nothing may still be completed by a suffix.
 bool isWorthReading(const QString &path)
 {
-    return !path.isEmpty() && !path.contains(QChar(0)) && !endsEarly(path);
+    if (path.isEmpty() || path.contains(QChar(0)))
+        return false;
+    const QFileInfo file(path);
+    return (file.isFile() || !file.exists()) && !endsEarly(path);
 }
 
 // A file by itself, without its name. Of a QFile, QMovie takes no more than the name, which it

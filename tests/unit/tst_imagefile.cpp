@@ -97,6 +97,8 @@ private slots:
         QVERIFY(pixmapFromFile(write(QStringLiteral("text.png"), "not a picture")).isNull());
         QVERIFY(pixmapFromFile(write(QStringLiteral("empty.png"), "")).isNull());
         QVERIFY(pixmapFromFile(QString(3, QChar(0))).isNull());
+        QVERIFY(pixmapFromFile(QStringLiteral("/dev/null")).isNull());
+        QVERIFY(pixmapFromFile(QStringLiteral("/dev/zero")).isNull());
         QCOMPARE(takeMessages(), QStringList());
     }
 
@@ -161,6 +163,8 @@ private slots:
         QTest::newRow("a path with a zero")
             << m_dir.filePath(QStringLiteral("three.gif")) + QChar(0);
         QTest::newRow("directory") << m_dir.path();
+        QTest::newRow("empty device") << QStringLiteral("/dev/null");
+        QTest::newRow("endless device") << QStringLiteral("/dev/zero");
         QTest::newRow("absent") << m_dir.filePath(QStringLiteral("absent.gif"));
         QTest::newRow("text") << write(QStringLiteral("text.gif"), "not a movie");
         for (const char *format : {"png", "jpg"}) {
