@@ -1,5 +1,6 @@
 #include <MFocusButton>
 
+#include "pictures.h"
 #include "signallog.h"
 #include "touch.h"
 #include "virtualtime.h"
@@ -37,17 +38,6 @@ using Paint = std::function<void(QPainter &)>;
 const QString kClicked = QStringLiteral("btnClicked(\"MFocusButton_ID\")");
 const QString kLongClicked = QStringLiteral("btnLongClicked(\"MFocusButton_ID\")");
 const QString kBeep = QStringLiteral("beep");
-
-QPixmap picture(const QColor &color, const QSize &size = QSize(40, 30))
-{
-    QPixmap pixmap(size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(color);
-    painter.drawEllipse(pixmap.rect().adjusted(2, 2, -2, -2));
-    return pixmap;
-}
 
 const QColor kNormal = Qt::green;
 const QColor kPress = Qt::yellow;

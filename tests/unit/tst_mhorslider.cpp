@@ -1,5 +1,6 @@
 #include <MHorSlider>
 
+#include "pictures.h"
 #include "signallog.h"
 #include "touch.h"
 #include "widgettest.h"
@@ -13,15 +14,6 @@
 
 namespace
 {
-
-QPixmap filled(const QColor &color, const QSize &size)
-{
-    QPixmap pixmap(size);
-    pixmap.fill(color);
-    QPainter painter(&pixmap);
-    painter.fillRect(pixmap.rect(), QBrush(Qt::black, Qt::DiagCrossPattern));
-    return pixmap;
-}
 
 struct Pictures {
     QPixmap groove = filled(Qt::gray, {200, 20});

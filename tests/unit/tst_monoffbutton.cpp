@@ -1,5 +1,6 @@
 #include <MOnOffButton>
 
+#include "parent.h"
 #include "signallog.h"
 #include "touch.h"
 #include "virtualtime.h"
@@ -284,32 +285,6 @@ QImage onGround(const QWidget &widget, const Paint &paint)
     paint(painter);
     return image;
 }
-
-// A parent that writes down the mouse events which come up to it.
-class Parent : public QWidget
-{
-public:
-    QStringList events;
-
-protected:
-    bool event(QEvent *e) override
-    {
-        switch (e->type()) {
-        case QEvent::MouseButtonPress:
-            events += QStringLiteral("press");
-            break;
-        case QEvent::MouseMove:
-            events += QStringLiteral("move");
-            break;
-        case QEvent::MouseButtonRelease:
-            events += QStringLiteral("release");
-            break;
-        default:
-            break;
-        }
-        return QWidget::event(e);
-    }
-};
 
 // The application says that a list is scrolling while this exists.
 struct ListMoving {

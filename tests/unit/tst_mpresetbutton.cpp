@@ -1,5 +1,7 @@
 #include <MPresetButton>
 
+#include "parent.h"
+#include "pictures.h"
 #include "signallog.h"
 #include "touch.h"
 #include "virtualtime.h"
@@ -35,17 +37,6 @@ using Paint = std::function<void(QPainter &)>;
 const QString kClicked = QStringLiteral("btnClicked(\"MPresetButton_ID\")");
 const QString kLongClicked = QStringLiteral("btnLongClicked(\"MPresetButton_ID\")");
 const QString kBeep = QStringLiteral("beep");
-
-QPixmap picture(const QColor &color, const QSize &size = QSize(40, 30))
-{
-    QPixmap pixmap(size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(color);
-    painter.drawEllipse(pixmap.rect().adjusted(2, 2, -2, -2));
-    return pixmap;
-}
 
 const QColor kNormal = Qt::green;
 const QColor kPress = Qt::yellow;
@@ -131,32 +122,6 @@ Paint look(const QColor &image, const Colors &colors, bool hasIcon = true)
         p.drawText(kTextRect2, Qt::AlignCenter, kText2);
     };
 }
-
-// A parent that writes down the mouse events which come up to it.
-class Parent : public QWidget
-{
-public:
-    QStringList events;
-
-protected:
-    bool event(QEvent *e) override
-    {
-        switch (e->type()) {
-        case QEvent::MouseButtonPress:
-            events += QStringLiteral("press");
-            break;
-        case QEvent::MouseMove:
-            events += QStringLiteral("move");
-            break;
-        case QEvent::MouseButtonRelease:
-            events += QStringLiteral("release");
-            break;
-        default:
-            break;
-        }
-        return QWidget::event(e);
-    }
-};
 
 } // namespace
 

@@ -1,5 +1,6 @@
 #include <MProgressBar>
 
+#include "pictures.h"
 #include "signallog.h"
 #include "touch.h"
 #include "widgettest.h"
@@ -12,15 +13,6 @@
 
 namespace
 {
-
-QPixmap filled(const QColor &color, const QSize &size)
-{
-    QPixmap pixmap(size);
-    pixmap.fill(color);
-    QPainter painter(&pixmap);
-    painter.fillRect(pixmap.rect(), QBrush(Qt::black, Qt::DiagCrossPattern));
-    return pixmap;
-}
 
 struct Pictures {
     QPixmap played = filled(Qt::blue, {200, 20});

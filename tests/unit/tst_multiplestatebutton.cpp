@@ -1,5 +1,6 @@
 #include <MultipleStateButton>
 
+#include "pictures.h"
 #include "signallog.h"
 #include "touch.h"
 #include "virtualtime.h"
@@ -15,16 +16,6 @@
 
 namespace
 {
-
-QPixmap picture(const QColor &color, const QSize &size)
-{
-    QPixmap pixmap(size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setBrush(color);
-    painter.drawEllipse(pixmap.rect().adjusted(1, 1, -2, -2));
-    return pixmap;
-}
 
 const QVector<QColor> kNormal{Qt::green, Qt::cyan, Qt::yellow};
 const QVector<QColor> kPress{Qt::red, Qt::magenta, Qt::white};

@@ -1,5 +1,6 @@
 #include <PlayButton>
 
+#include "pictures.h"
 #include "signallog.h"
 #include "touch.h"
 #include "virtualtime.h"
@@ -15,16 +16,6 @@
 
 namespace
 {
-
-QPixmap picture(const QColor &color, const QSize &size)
-{
-    QPixmap pixmap(size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setBrush(color);
-    painter.drawRoundedRect(pixmap.rect().adjusted(1, 1, -2, -2), 5, 5);
-    return pixmap;
-}
 
 const QPixmap &normal()
 {

@@ -1,6 +1,7 @@
 #include <SpDisLabel>
 
 #include "parent.h"
+#include "pictures.h"
 #include "signallog.h"
 #include "touch.h"
 #include "virtualtime.h"
@@ -37,17 +38,6 @@ const QColor kPressGround(200, 110, 20, 130);
 
 const QString kText = QStringLiteral("Radio");
 const QString kLongText = QStringLiteral("A station with a very, very long name");
-
-QPixmap picture(const QColor &color, const QSize &size = QSize(40, 30))
-{
-    QPixmap pixmap(size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(color);
-    painter.drawEllipse(pixmap.rect().adjusted(2, 2, -2, -2));
-    return pixmap;
-}
 
 // A label of 121 x 40 with a text and colours for both looks.
 std::unique_ptr<SpDisLabel> makeLabel(QWidget *parent = nullptr)

@@ -1,5 +1,6 @@
 #include <SpHomeIcon>
 
+#include "parent.h"
 #include "signallog.h"
 #include "touch.h"
 #include "virtualtime.h"
@@ -212,27 +213,6 @@ public:
     using SpHomeIcon::mousePressEvent;
     using SpHomeIcon::mouseReleaseEvent;
     using SpHomeIcon::showEvent;
-};
-
-// A parent that writes down what comes up to it.
-class Parent : public QWidget
-{
-public:
-    QStringList events;
-
-protected:
-    bool event(QEvent *e) override
-    {
-        if (e->type() == QEvent::MouseButtonPress)
-            events += QStringLiteral("press");
-        else if (e->type() == QEvent::MouseMove)
-            events += QStringLiteral("move");
-        else if (e->type() == QEvent::MouseButtonRelease)
-            events += QStringLiteral("release");
-        else if (e->type() == QEvent::KeyPress)
-            events += static_cast<QKeyEvent *>(e)->text();
-        return QWidget::event(e);
-    }
 };
 
 // --- The table of looks -------------------------------------------------------------------------

@@ -1,6 +1,8 @@
 #include <SpHorStrButton>
 
 #include "logrecord.h"
+#include "parent.h"
+#include "pictures.h"
 #include "signallog.h"
 #include "touch.h"
 #include "virtualtime.h"
@@ -37,17 +39,6 @@ const QColor kDisable = Qt::magenta;
 const QColor kDisabledText(150, 150, 150, 150);
 
 const QString kText = QStringLiteral("Radio");
-
-QPixmap picture(const QColor &color, const QSize &size = QSize(40, 30))
-{
-    QPixmap pixmap(size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(color);
-    painter.drawEllipse(pixmap.rect().adjusted(2, 2, -2, -2));
-    return pixmap;
-}
 
 // A button of 160 x 81 with a picture for each look.
 std::unique_ptr<SpHorStrButton> makeButton(QWidget *parent = nullptr)
@@ -102,35 +93,6 @@ Paint nothing()
     return [](QPainter &) {
     };
 }
-
-// A parent that writes down the mouse and key events which come up to it.
-class Parent : public QWidget
-{
-public:
-    QStringList events;
-
-protected:
-    bool event(QEvent *e) override
-    {
-        switch (e->type()) {
-        case QEvent::MouseButtonPress:
-            events += QStringLiteral("press");
-            break;
-        case QEvent::MouseMove:
-            events += QStringLiteral("move");
-            break;
-        case QEvent::MouseButtonRelease:
-            events += QStringLiteral("release");
-            break;
-        case QEvent::KeyPress:
-            events += static_cast<QKeyEvent *>(e)->text();
-            break;
-        default:
-            break;
-        }
-        return QWidget::event(e);
-    }
-};
 
 // Handlers are called with what a subclass may hand them.
 class Handlers : public SpHorStrButton

@@ -2,6 +2,7 @@
 
 #include "detail/imagelook.h"
 #include "parent.h"
+#include "pictures.h"
 #include "signallog.h"
 #include "touch.h"
 #include "virtualtime.h"
@@ -35,17 +36,6 @@ namespace
 {
 
 const QString kId = QStringLiteral("SpIconButton_ID");
-
-QPixmap picture(const QColor &color, const QSize &size = QSize(40, 30))
-{
-    QPixmap pixmap(size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(color);
-    painter.drawEllipse(pixmap.rect().adjusted(2, 2, -2, -2));
-    return pixmap;
-}
 
 const QColor kNormal = Qt::green;
 const QColor kPress = Qt::yellow;

@@ -1,6 +1,7 @@
 #include <SpLockButton>
 
 #include "parent.h"
+#include "pictures.h"
 #include "signallog.h"
 #include "touch.h"
 #include "widgettest.h"
@@ -29,17 +30,6 @@ namespace
 {
 
 const QString kId = QStringLiteral("SpLockButton_ID");
-
-QPixmap picture(const QColor &color, const QSize &size = QSize(40, 30))
-{
-    QPixmap pixmap(size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(color);
-    painter.drawEllipse(pixmap.rect().adjusted(2, 2, -2, -2));
-    return pixmap;
-}
 
 const QColor kNormal = Qt::green;
 const QColor kPress = Qt::yellow;

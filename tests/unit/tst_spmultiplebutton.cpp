@@ -1,6 +1,7 @@
 #include <SpMultipleButton>
 
 #include "parent.h"
+#include "pictures.h"
 #include "signallog.h"
 #include "touch.h"
 #include "virtualtime.h"
@@ -31,17 +32,6 @@ namespace
 
 using Pictures = QList<QPixmap>;
 using Paths = QList<QString>;
-
-QPixmap picture(const QColor &color, const QSize &size = QSize(40, 30))
-{
-    QPixmap pixmap(size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(color);
-    painter.drawEllipse(pixmap.rect().adjusted(2, 2, -2, -2));
-    return pixmap;
-}
 
 // The picture of each state, told apart by its colour.
 QPixmap normal(int state)

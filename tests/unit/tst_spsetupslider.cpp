@@ -1,5 +1,7 @@
 #include <SpSetupSlider>
 
+#include "parent.h"
+#include "pictures.h"
 #include "signallog.h"
 #include "touch.h"
 #include "virtualtime.h"
@@ -15,15 +17,6 @@
 
 namespace
 {
-
-QPixmap filled(const QColor &color, const QSize &size)
-{
-    QPixmap pixmap(size);
-    pixmap.fill(color);
-    QPainter painter(&pixmap);
-    painter.fillRect(pixmap.rect(), QBrush(Qt::black, Qt::DiagCrossPattern));
-    return pixmap;
-}
 
 struct Pictures {
     QPixmap track = filled(Qt::gray, {20, 200});
@@ -131,25 +124,6 @@ public:
     using SpSetupSlider::mouseMoveEvent;
     using SpSetupSlider::mousePressEvent;
     using SpSetupSlider::mouseReleaseEvent;
-};
-
-// A parent that writes down the mouse events which come up to it.
-class Parent : public QWidget
-{
-public:
-    QStringList events;
-
-protected:
-    bool event(QEvent *e) override
-    {
-        if (e->type() == QEvent::MouseButtonPress)
-            events += QStringLiteral("press");
-        else if (e->type() == QEvent::MouseMove)
-            events += QStringLiteral("move");
-        else if (e->type() == QEvent::MouseButtonRelease)
-            events += QStringLiteral("release");
-        return QWidget::event(e);
-    }
 };
 
 using Action = std::function<void(SpSetupSlider &)>;

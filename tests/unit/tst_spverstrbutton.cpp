@@ -1,6 +1,7 @@
 #include <SpVerStrButton>
 
 #include "parent.h"
+#include "pictures.h"
 #include "signallog.h"
 #include "touch.h"
 #include "virtualtime.h"
@@ -34,17 +35,6 @@ const QColor kDisable = Qt::magenta;
 
 const QString kText = QStringLiteral("Radio");
 constexpr int kTextFlags = 0x24;
-
-QPixmap picture(const QColor &color, const QSize &size = QSize(40, 30))
-{
-    QPixmap pixmap(size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(color);
-    painter.drawEllipse(pixmap.rect().adjusted(2, 2, -2, -2));
-    return pixmap;
-}
 
 // A button of 101 x 100 with a picture for each look.
 std::unique_ptr<SpVerStrButton> makeButton(QWidget *parent = nullptr)
