@@ -116,10 +116,25 @@ QStringList lines(std::initializer_list<const char *> texts)
 // What stands on the screen, with pixels that were moved without a paint.
 QImage onScreen(const QWidget &window)
 {
-    return window.screen()
-        ->grabWindow(0, window.x(), window.y(), window.width(), window.height())
-        .toImage();
+    const QImage shown = window.screen()->grabWindow(window.winId()).toImage();
+    return shown.size() == window.size() ? shown : QImage();
 }
+
+// How much of it each paint has to paint.
+class PaintedRects : public MVScrollLabel
+{
+public:
+    using MVScrollLabel::MVScrollLabel;
+
+    QVector<QRect> rects;
+
+protected:
+    void paintEvent(QPaintEvent *e) override
+    {
+        rects += e->rect();
+        MVScrollLabel::paintEvent(e);
+    }
+};
 
 } // namespace
 
@@ -590,10 +605,35 @@ private slots:
         for (int i = 0; i < 40; ++i) {
             virtualtime::advance(kSpeed);
             const QImage shown = onScreen(window);
+            QVERIFY(!shown.isNull());
             label->update();
             virtualtime::advance(0);
             COMPARE_PICTURES(shown, onScreen(window));
         }
+    }
+
+    void aStepOfAnOpaqueLabelPaintsOneLineOfPixels()
+    {
+        PaintedRects label(nullptr, {});
+        label.resize(160, 60);
+        label.setText(tall());
+        show(label);
+        label.startScroll();
+        label.rects.clear();
+        virtualtime::advance(3 * kSpeed);
+        QCOMPARE(label.rects, QVector<QRect>(3, QRect(0, 59, 160, 1)));
+    }
+
+    void afterACycleTheTextCanBePushedOffItsTopAgain()
+    {
+        const auto label = makeLabel(160, 40);
+        label->setAlignment(Qt::AlignTop);
+        label->setText(kSentence);
+        const int cycle = cycleOf(*label);
+        virtualtime::advance(kDelay + cycle * kSpeed);
+        label->stopScroll();
+        touch(label.get()).press(20, 10).moveTo(20, 80).release();
+        COMPARE_PICTURES(painted(*label), documented(*label, -70));
     }
 
     void ticksOfOthersGoOn()
@@ -760,6 +800,8 @@ private slots:
         COMPARE_PICTURES(painted(*label), documented(*label, cycle - 1));
         touch(label.get()).press(20, 1).moveTo(20, 0).release();
         COMPARE_PICTURES(painted(*label), documented(*label, 0));
+        touch(label.get()).press(20, 0).moveTo(20, 90).release();
+        COMPARE_PICTURES(painted(*label), documented(*label, -90));
     }
 
     void thePixelsOfAnOpaqueLabelMoveTheOtherWay()
@@ -773,6 +815,7 @@ private slots:
         label->setText(tall());
         show(window);
         const QImage before = onScreen(window);
+        QVERIFY(!before.isNull());
         touch(label).press(20, 30).moveTo(20, 35).release();
         virtualtime::advance(0);
         QCOMPARE(onScreen(window).copy(10, 10, 160, 55), before.copy(10, 15, 160, 55));
