@@ -793,6 +793,16 @@ private slots:
         QVERIFY(dial->value() == touched);
     }
 
+    void aTouchAFullTurnOnIsAtTheMinimum()
+    {
+        const auto dial = makeDial();
+        dial->setStartAngle(720);
+        dial->setRotateAngle(std::atan2(200, 100) * 180 / 3.14159);
+        dial->setValue(100);
+        touch(dial.get()).press(250 + 200, 250 - 100);
+        QCOMPARE(dial->value(), 87.5);
+    }
+
     void aReleaseWhereTheFingerAlreadyWasReportsNothing()
     {
         const auto dial = makeDial();
