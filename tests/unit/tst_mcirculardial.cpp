@@ -688,6 +688,8 @@ private slots:
             QTest::newRow(name("top")) << size << 250.0 << 87.5 << 108.0 << 0.0 << 120.0;
             QTest::newRow(name("volume")) << size << 120.0 << 0.0 << 40.0 << 270.0 << 45.0;
             QTest::newRow(name("negative")) << size << 300.0 << -50.0 << 50.0 << 60.0 << 0.0;
+            QTest::newRow(name("0 to 1")) << size << 250.0 << 0.0 << 1.0 << 90.0 << 120.0;
+            QTest::newRow(name("-5 to 5")) << size << 250.0 << -5.0 << 5.0 << 90.0 << 120.0;
             QTest::newRow(name("backwards")) << size << 200.0 << 16.0 << 28.0 << 360.0 << 250.0;
             QTest::newRow(name("more than a turn")) << size << 200.0 << 0.0 << 1e6 << 0.0 << -90.0;
         }
