@@ -43,11 +43,8 @@ void SpBackgroundImage::setFitPixmapSize(const bool &fit)
     update();
 }
 
-/** Stored only, and without a part in the picture, on purpose: it fills the widget either way. */
-void SpBackgroundImage::setPaintInCenter(bool inCenter)
-{
-    m_paintInCenter = inCenter;
-}
+/** Has no part in the picture, on purpose: it fills the widget either way. */
+void SpBackgroundImage::setPaintInCenter(bool) { }
 
 /** The angle in degrees, clockwise, by which the picture is turned; 0 by default. Repaints. */
 void SpBackgroundImage::setRotateAngle(const int &degrees)

@@ -56,7 +56,6 @@ private:
     QPixmap m_pixmap;
     bool m_holdMouseEvent = false;
     bool m_fitPixmapSize = false;
-    bool m_paintInCenter = false;
     int m_rotateAngle = 0; // degrees
 
     std::unique_ptr<panelkit::KeptLayer> m_layer;
