@@ -1,6 +1,5 @@
 #include "imagefile.h"
 
-#include <QByteArray>
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
@@ -16,31 +15,14 @@ namespace panelkit
 namespace
 {
 
-// Both formats say how they begin and how they end; a little rubbish after the end does no harm.
-bool endsEarly(const QString &path)
-{
-    constexpr qint64 kTail = 1024; // bytes
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return false; // what cannot be opened is left to QImage, which is silent about it
-    const QByteArray head = file.read(8);
-    file.seek(qMax<qint64>(0, file.size() - kTail));
-    const QByteArray tail = file.read(kTail);
-    if (head.startsWith("\x89PNG"))
-        return !tail.contains("IEND\xAE\x42\x60\x82"); // the last chunk and its checksum
-    if (head.startsWith("\xFF\xD8\xFF"))
-        return !tail.contains("\xFF\xD9");
-    return false;
-}
-
-// A zero character ends a path for the system, and Qt warns about it. A device is not read: it may
-// have no end. A path that names nothing may still be completed by a suffix.
+// A zero character ends a path for the system, and Qt warns about it. A device or a pipe is not
+// read: it may have no end. A path that names nothing may still be completed by a suffix.
 bool isWorthReading(const QString &path)
 {
     if (path.isEmpty() || path.contains(QChar(0)))
         return false;
     const QFileInfo file(path);
-    return (file.isFile() || !file.exists()) && !endsEarly(path);
+    return file.isFile() || !file.exists();
 }
 
 // A file by itself, without its name. Of a QFile, QMovie takes no more than the name, which it
