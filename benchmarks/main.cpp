@@ -9,9 +9,13 @@
 #include <QString>
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdio>
 #include <cstdlib>
+#include <iostream>
 #include <optional>
+#include <sstream>
+#include <utility>
 #include <vector>
 
 #define PANELKIT_DECLARE_ROWS(Class, ...) void defineRows(Rows &rows, Tag<Class>);
@@ -63,14 +67,12 @@ void measure(const std::string &name, const StepMaker &make)
     });
 }
 
-void registerAll(const std::vector<Row> &rows)
+void registerAll(const Row &row)
 {
-    for (const Row &row : rows) {
-        measure(row.nameOf("ours"), row.ours);
-        measure(row.nameOf(row.floor.name), row.floor.make);
-        for (const Against<StepMaker> &peer : row.peers)
-            measure(row.nameOf(peer.name), peer.make);
-    }
+    measure(row.nameOf("ours"), row.ours);
+    measure(row.nameOf(row.floor.name), row.floor.make);
+    for (const Against<StepMaker> &peer : row.peers)
+        measure(row.nameOf(peer.name), peer.make);
 }
 
 // Takes the argument that starts like this out of the arguments; the rest of it, if there is one.
@@ -86,9 +88,7 @@ std::optional<QString> take(std::vector<char *> &arguments, const QString &start
     return std::nullopt;
 }
 
-// Runs what the arguments ask for. Repetitions of all benchmarks are mixed, so that a slow moment
-// of the machine meets all of them alike; the arguments may say otherwise.
-Costs measuredCosts(const std::vector<Row> &rows, std::vector<char *> arguments)
+void initialize(std::vector<char *> arguments)
 {
     static char interleaving[] = "--benchmark_enable_random_interleaving=true";
     static char repetitions[] = "--benchmark_repetitions=21";
@@ -98,9 +98,31 @@ Costs measuredCosts(const std::vector<Row> &rows, std::vector<char *> arguments)
     benchmark::Initialize(&count, arguments.data());
     if (benchmark::ReportUnrecognizedArguments(count, arguments.data()))
         std::exit(2);
-    registerAll(rows);
+}
+
+// Runs what the arguments ask for and prints each row once it is measured. Repetitions of what
+// stands in one row are mixed, so that a slow moment of the machine meets all of them alike; the
+// arguments may say otherwise.
+Costs measuredCosts(const std::vector<Row> &rows)
+{
     FastestReporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
+    std::ostringstream complaints; // that a filter matches nothing of a row, or nothing at all
+    reporter.SetErrorStream(&complaints);
+    std::size_t matching = 0;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        complaints.str({});
+        benchmark::ClearRegisteredBenchmarks();
+        registerAll(rows[i]);
+        const bool isFirst = reporter.costs().empty();
+        matching += benchmark::RunSpecifiedBenchmarks(&reporter);
+        if (isFirst && !reporter.costs().empty())
+            printHeader();
+        printRow(rows[i], reporter.costs(), i + 1, rows.size());
+    }
+    if (matching == 0) {
+        std::cerr << complaints.str();
+        std::exit(2);
+    }
     return reporter.costs();
 }
 
@@ -123,8 +145,8 @@ int main(int argc, char **argv)
     if (isCounting)
         return countInstructions(rows.all()) && !rows.hasRefused() ? 0 : 1;
 
-    const Costs costs = measuredCosts(rows.all(), arguments);
-    printTable(rows.all(), costs);
+    initialize(std::move(arguments));
+    const Costs costs = measuredCosts(rows.all());
     if (jsonPath && !writeJson(*jsonPath, rows.all(), costs)) {
         std::fprintf(stderr, "cannot write %s\n", qPrintable(*jsonPath));
         return 1;

@@ -32,23 +32,21 @@ struct Line {
     double peerCost = kNotMeasured; // ns
 };
 
-std::vector<Line> linesOf(const std::vector<Row> &rows, const Costs &costs)
+std::vector<Line> linesOf(const Row &row, const Costs &costs)
 {
     std::vector<Line> lines;
-    for (const Row &row : rows) {
-        Line line;
-        line.row = &row;
-        line.ours = costOf(costs, row.nameOf("ours"));
-        line.floor = costOf(costs, row.nameOf("floor"));
-        if (std::isnan(line.ours))
-            continue;
-        if (row.peers.empty())
-            lines.push_back(line);
-        for (const Against<StepMaker> &peer : row.peers) {
-            line.peer = peer.name;
-            line.peerCost = costOf(costs, row.nameOf(peer.name));
-            lines.push_back(line);
-        }
+    Line line;
+    line.row = &row;
+    line.ours = costOf(costs, row.nameOf("ours"));
+    line.floor = costOf(costs, row.nameOf("floor"));
+    if (std::isnan(line.ours))
+        return lines;
+    if (row.peers.empty())
+        lines.push_back(line);
+    for (const Against<StepMaker> &peer : row.peers) {
+        line.peer = peer.name;
+        line.peerCost = costOf(costs, row.nameOf(peer.name));
+        lines.push_back(line);
     }
     return lines;
 }
@@ -72,38 +70,46 @@ QJsonValue json(const std::string &string)
 
 } // namespace
 
-void printTable(const std::vector<Row> &rows, const Costs &costs)
+void printHeader()
 {
-    std::printf("| %-14s | %-30s | %8s | %8s | %7s | %-24s | %8s | %6s |\n", "class", "state",
-                "ours ns", "floor ns", "/ floor", "peer", "peer ns", "/ peer");
-    std::printf("|%s|%s|%s:|%s:|%s:|%s|%s:|%s:|\n", std::string(16, '-').c_str(),
-                std::string(32, '-').c_str(), std::string(9, '-').c_str(),
-                std::string(9, '-').c_str(), std::string(8, '-').c_str(),
-                std::string(26, '-').c_str(), std::string(9, '-').c_str(),
-                std::string(7, '-').c_str());
-    for (const Line &line : linesOf(rows, costs)) {
-        std::printf("| %-14s | %-30s | %8s | %8s | %7s | %-24s | %8s | %6s |\n",
-                    line.row->className.c_str(), line.row->state.c_str(),
+    std::printf("| %-9s | %-14s | %-30s | %8s | %8s | %7s | %-24s | %8s | %6s |\n", "row", "class",
+                "state", "ours ns", "floor ns", "/ floor", "peer", "peer ns", "/ peer");
+    std::printf("|%s|%s|%s|%s:|%s:|%s:|%s|%s:|%s:|\n", std::string(11, '-').c_str(),
+                std::string(16, '-').c_str(), std::string(32, '-').c_str(),
+                std::string(9, '-').c_str(), std::string(9, '-').c_str(),
+                std::string(8, '-').c_str(), std::string(26, '-').c_str(),
+                std::string(9, '-').c_str(), std::string(7, '-').c_str());
+}
+
+void printRow(const Row &row, const Costs &costs, std::size_t number, std::size_t count)
+{
+    const std::string progress = '[' + std::to_string(number) + '/' + std::to_string(count) + ']';
+    for (const Line &line : linesOf(row, costs)) {
+        std::printf("| %-9s | %-14s | %-30s | %8s | %8s | %7s | %-24s | %8s | %6s |\n",
+                    progress.c_str(), row.className.c_str(), row.state.c_str(),
                     text(line.ours, 0).c_str(), text(line.floor, 0).c_str(),
                     text(line.ours / line.floor, 2).c_str(), line.peer.c_str(),
                     text(line.peerCost, 0).c_str(), text(line.ours / line.peerCost, 2).c_str());
     }
+    std::fflush(stdout);
 }
 
 bool writeJson(const QString &path, const std::vector<Row> &rows, const Costs &costs)
 {
     QJsonArray records;
-    for (const Line &line : linesOf(rows, costs)) {
-        records.append(QJsonObject{
-            {QStringLiteral("class"), json(line.row->className)},
-            {QStringLiteral("state"), json(line.row->state)},
-            {QStringLiteral("ns"), json(line.ours)},
-            {QStringLiteral("floor_ns"), json(line.floor)},
-            {QStringLiteral("ratio_floor"), json(line.ours / line.floor)},
-            {QStringLiteral("peer"), json(line.peer)},
-            {QStringLiteral("peer_ns"), json(line.peerCost)},
-            {QStringLiteral("ratio_peer"), json(line.ours / line.peerCost)},
-        });
+    for (const Row &row : rows) {
+        for (const Line &line : linesOf(row, costs)) {
+            records.append(QJsonObject{
+                {QStringLiteral("class"), json(line.row->className)},
+                {QStringLiteral("state"), json(line.row->state)},
+                {QStringLiteral("ns"), json(line.ours)},
+                {QStringLiteral("floor_ns"), json(line.floor)},
+                {QStringLiteral("ratio_floor"), json(line.ours / line.floor)},
+                {QStringLiteral("peer"), json(line.peer)},
+                {QStringLiteral("peer_ns"), json(line.peerCost)},
+                {QStringLiteral("ratio_peer"), json(line.ours / line.peerCost)},
+            });
+        }
     }
     QFile file(path);
     const QByteArray contents = QJsonDocument(records).toJson();

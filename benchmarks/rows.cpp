@@ -7,10 +7,13 @@
 namespace
 {
 
+// Whoever paints may only point into the canvas: it stays as long as the step.
 StepMaker stepOf(const PaintingMaker &make)
 {
-    return [make] {
-        return make().step;
+    return [make]() -> Step {
+        return [painting = make()] {
+            painting.step();
+        };
     };
 }
 

@@ -1,5 +1,5 @@
 # How this project compiles: the warnings of its targets, and the second compilation of every source
-# with the single-precision coordinates of the device.
+# with the single-precision coordinates of the device; and what its tests run under.
 
 add_library(panelkit_warnings INTERFACE)
 target_compile_options(panelkit_warnings INTERFACE
@@ -49,3 +49,8 @@ function(panelkit_check_single_precision target)
     add_dependencies(${target}_single_precision ${target}) # what moc makes comes first
     add_dependencies(single_precision ${target}_single_precision)
 endfunction()
+
+set(PANELKIT_TEST_ENVIRONMENT
+    "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0"
+    "UBSAN_OPTIONS=print_stacktrace=1"
+    "ASAN_OPTIONS=detect_stack_use_after_return=1:allocator_may_return_null=1")
