@@ -1,4 +1,4 @@
-# How this project compiles: the warnings of its targets, and the second compilation of every source
+# How this project compiles: the warnings of its targets, and the second compilation of the library
 # with the single-precision coordinates of the device; and what its tests run under.
 
 add_library(panelkit_warnings INTERFACE)
@@ -11,9 +11,10 @@ target_compile_definitions(panelkit_warnings INTERFACE
 if(POLICY CMP0116)
     cmake_policy(SET CMP0116 NEW)
 endif()
-add_custom_target(single_precision ALL)
+add_custom_target(single_precision)
 
-# Compiles the sources of a target once more, syntax only and warnings as errors, with qreal a float.
+# Compiles the sources of a target once more, syntax only and warnings as errors, with qreal a float;
+# when the target single_precision is built.
 function(panelkit_check_single_precision target)
     get_target_property(sources ${target} SOURCES)
     get_target_property(binary_dir ${target} BINARY_DIR)
