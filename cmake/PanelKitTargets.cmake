@@ -4,7 +4,7 @@
 add_library(panelkit_warnings INTERFACE)
 target_compile_options(panelkit_warnings INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Wcast-align
-    -Werror)
+    $<$<BOOL:${PANELKIT_WERROR}>:-Werror>)
 target_compile_definitions(panelkit_warnings INTERFACE
     QT_DEPRECATED_WARNINGS QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING)
 

@@ -8,6 +8,9 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QFile>
+#include <QMutex>
+#include <QMutexLocker>
 
 #include <algorithm>
 #include <cstdio>
@@ -25,6 +28,32 @@ void preferNoScreen(int argc, char *argv[])
     });
     if (isWithoutWindow && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+// What the log is written to instead of the console, up to the very end of the program.
+QFile &logFile()
+{
+    static auto *const file = new QFile;
+    return *file;
+}
+
+void writeToLogFile(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    static QMutex mutex; // sound and pictures are decoded in threads of their own
+    const QMutexLocker locker(&mutex);
+    logFile().write(qFormatLogMessage(type, context, message).toLocal8Bit() + '\n');
+    logFile().flush();
+}
+
+bool redirectLog(const QString &path)
+{
+    logFile().setFileName(path);
+    if (!logFile().open(QIODevice::WriteOnly | QIODevice::Truncate)) {
+        std::fprintf(stderr, "The log cannot be written to %s.\n", qUtf8Printable(path));
+        return false;
+    }
+    qInstallMessageHandler(writeToLogFile);
+    return true;
 }
 
 int listPages(const Catalogue &catalogue)
@@ -74,9 +103,15 @@ int main(int argc, char *argv[])
         QStringLiteral("playlist"),
         QStringLiteral("Shows this CSV (title,artist,album,seconds) or M3U file in the lists."),
         QStringLiteral("file"));
-    parser.addOptions({pageOption, tourOption, listOption, playlistOption});
+    const QCommandLineOption logOption(
+        QStringLiteral("log"),
+        QStringLiteral("Writes what Qt and the widgets log to this file, not to the console."),
+        QStringLiteral("file"));
+    parser.addOptions({pageOption, tourOption, listOption, playlistOption, logOption});
     parser.addHelpOption();
     parser.process(app);
+    if (parser.isSet(logOption) && !redirectLog(parser.value(logOption)))
+        return 1;
 
     const Catalogue catalogue;
     if (parser.isSet(listOption))
