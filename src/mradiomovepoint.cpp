@@ -20,7 +20,10 @@ namespace
 
 constexpr int kTop = 10; // px, where the scale stands in its owner
 constexpr int kLabelReach = 40; // px from the middle of a label to its left side
-constexpr qint64 kMostPiled = 2048; // labels or ticks kept of those that stand at one place
+// Without pixels per unit all labels or ticks stand at one place: so many of them are all drawn,
+// and of more these last ones.
+constexpr qint64 kMostPiled = 100000;
+constexpr qint64 kLastPiled = 2048;
 
 // Scale counts first, first + stride, ... below end. A stride that leads nowhere has only its
 // first.
@@ -46,7 +49,7 @@ void forEachNear(const Counts &counts, int start, int pix, int left, int right, 
     qint64 from = 0;
     qint64 to = counts.size();
     if (pix == 0) {
-        from = std::max<qint64>(0, to - kMostPiled);
+        from = to > kMostPiled ? to - kLastPiled : 0;
     } else if (counts.stride > 0) {
         const auto [lowest, highest] =
             std::minmax({(qint64(left) - start) / pix, (qint64(right) - start) / pix});
@@ -163,25 +166,25 @@ void ScaleBkg::init()
  * A frequency rounded toward zero to a multiple of the step. isStart makes no difference: both ends
  * of a band are rounded down alike, on purpose.
  */
-int ScaleBkg::getValidStartFreq(int freq, int step, bool) const
+int ScaleBkg::getValidStartFreq(int freq, int step, bool)
 {
     return (Whole(freq) / step * step).value();
 }
 
 /** The x of a scale count, in px. */
-int ScaleBkg::getPosByCount(int count) const
+int ScaleBkg::getPosByCount(int count)
 {
     return (m_lineStart + count * Whole(m_map.pix)).value();
 }
 
 /** The frequency at x when ten units stand on each pixel, whatever the scale's geometry is. */
-int ScaleBkg::getValueByPos(int pos) const
+int ScaleBkg::getValueByPos(int pos)
 {
     return (m_firstTick + (pos - Whole(m_lineStart)) * m_posFactor).value();
 }
 
 /** How many tick units high the tick at a frequency is: 3 for long, 2 for middle, 1 for short. */
-int ScaleBkg::getBeishu(int freq) const
+int ScaleBkg::getBeishu(int freq)
 {
     const Whole tick = freq / (m_map.hz * Whole(m_pixCountMeta));
     if (tick.isMultipleOf(Whole(m_bMid) * m_bLarge))
@@ -190,7 +193,7 @@ int ScaleBkg::getBeishu(int freq) const
 }
 
 /** The height of the tick at a scale count, in px. */
-int ScaleBkg::getHeightByCount(int count) const
+int ScaleBkg::getHeightByCount(int count)
 {
     return m_tickUnitHeight * getBeishu((m_firstTick + count * Whole(m_map.hz)).value());
 }
@@ -199,7 +202,7 @@ int ScaleBkg::getHeightByCount(int count) const
  * The box of a label around x: 80 px wide, from the owner's txtYpos down to twice that and 19 px,
  * so that a label further down also has a higher box.
  */
-QRect ScaleBkg::getRectBYCertalXpos(int x) const
+QRect ScaleBkg::getRectBYCertalXpos(int x)
 {
     const Whole top = m_owner ? m_owner->getTxtYpos() : 0;
     return {QPoint((x - Whole(kLabelReach)).value(), top.value()),
@@ -207,7 +210,7 @@ QRect ScaleBkg::getRectBYCertalXpos(int x) const
 }
 
 /** Where the band starts in the parent, in px when ten units stand on each pixel, in tens. */
-int ScaleBkg::getPointStart() const
+int ScaleBkg::getPointStart()
 {
     const Whole factor = m_posFactor;
     return (x() + Whole(m_lineStart) + (Whole(m_validStart) - m_firstTick) / factor * factor)
@@ -215,7 +218,7 @@ int ScaleBkg::getPointStart() const
 }
 
 /** Where the band ends in the parent, in the manner of getPointStart(). */
-int ScaleBkg::getPointEnd() const
+int ScaleBkg::getPointEnd()
 {
     const Whole factor = m_posFactor;
     return (x() + Whole(m_lineStart) + (Whole(m_validEnd) - m_firstTick) / factor * factor).value();
@@ -277,20 +280,21 @@ void ScaleBkg::layOutLabels(const Look &look)
     const auto top = qreal(look.txtYpos);
     const qreal height = qreal((2 * Whole(look.txtYpos) + 20).value()) - top;
     const Counts counts{firstCount.value(), m_bMid, m_unitCount};
-    forEachNear(counts, m_lineStart, m_map.pix, -kLabelReach, look.size.width() + kLabelReach,
-                [&](int count) {
-                    const int value = (first + count * Whole(m_map.hz)).value();
-                    const QRectF box(qreal(getPosByCount(count)) - kLabelReach, top,
-                                     2 * kLabelReach, height);
-                    m_picture->addLabel(box, m_isFM ? float(value) / 100.0F : double(value),
-                                        written);
-                });
+    constexpr int kReach = kLabelReach + ScalePicture::kOverhang;
+    forEachNear(
+        counts, m_lineStart, m_map.pix, -kReach, look.size.width() + kReach, [&](int count) {
+            const int value = (first + count * Whole(m_map.hz)).value();
+            const QRectF box(qreal(getPosByCount(count)) - kLabelReach, top, 2 * kLabelReach,
+                             height);
+            m_picture->addLabel(box, m_isFM ? float(value) / 100.0F : double(value), written);
+        });
 }
 
 void ScaleBkg::layOutTicks(const Look &look)
 {
-    forEachNear({0, m_pixCountMeta, m_unitCount}, m_lineStart, m_map.pix, 0, look.size.width(),
-                [&](int count) {
+    constexpr int kReach = ScalePicture::kOverhang;
+    forEachNear({0, m_pixCountMeta, m_unitCount}, m_lineStart, m_map.pix, -kReach,
+                look.size.width() + kReach, [&](int count) {
                     const Whole foot = look.lineYpos;
                     m_picture->addLine(ScalePicture::Solid, getPosByCount(count),
                                        (foot - getHeightByCount(count)).value(), foot.value());
