@@ -952,13 +952,14 @@ private slots:
         }
     }
 
-    // 0 to so many, with a tick for each; the labelled ones at the left edge show.
+    // 0 to so many, with a tick for each; those at the right show.
     void everyTickAndLabelIsDrawn_data()
     {
         QTest::addColumn<int>("maximum");
         QTest::addColumn<int>("scaleLong");
         QTest::addColumn<QSize>("size");
         QTest::addColumn<double>("radius");
+        QTest::newRow("across the edges") << 4000 << 40 << QSize(482, 16) << 300.0;
         QTest::newRow("400 labels") << 399 << 1 << QSize(220, 220) << 105.0;
         QTest::newRow("401 labels") << 400 << 1 << QSize(220, 220) << 105.0;
         QTest::newRow("1,000 labels") << 999 << 1 << QSize(220, 220) << 112.0;
