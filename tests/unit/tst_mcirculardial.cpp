@@ -58,7 +58,7 @@ void paintBg(QPainter &p, const MCircularDial &dial)
 bool isNear(const QPainter &p, const QRect &label)
 {
     const QRectF reach = p.deviceTransform().mapRect(QRectF(label.adjusted(-40, -40, 40, 40)));
-    return reach.intersects(QRectF(0, 0, p.device()->width(), p.device()->height()));
+    return reach.intersects(QRectF(QRect(0, 0, p.device()->width(), p.device()->height())));
 }
 
 // Every how many ticks, and of these every how many labels, are drawn.
@@ -907,7 +907,7 @@ private slots:
         connect(&dial, &MCircularDial::currentValueChange, this, look);
         connect(&dial, &MCircularDial::valueChanged, this, look);
         const auto event = [&current](QEvent::Type type, int y) {
-            auto e = std::make_unique<QMouseEvent>(type, QPointF(450, y), Qt::LeftButton,
+            auto e = std::make_unique<QMouseEvent>(type, QPoint(450, y), Qt::LeftButton,
                                                    Qt::LeftButton, Qt::NoModifier);
             current = e.get();
             return e;
