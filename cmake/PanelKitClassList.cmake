@@ -8,7 +8,7 @@ define_property(GLOBAL PROPERTY PANELKIT_HEADERS BRIEF_DOCS "Header names withou
     FULL_DOCS "Header names without their ending")
 
 function(panelkit_class class)
-    cmake_parse_arguments(arg "NOT_A_WIDGET" "FAMILY;TOOLTIP;HEADER;CREATE;PART_OF;SOURCE" "SIZE;INITIAL" ${ARGN})
+    cmake_parse_arguments(arg "NOT_A_WIDGET" "FAMILY;TOOLTIP;HEADER;CREATE;PART_OF" "SIZE;INITIAL" ${ARGN})
     if(arg_UNPARSED_ARGUMENTS)
         message(FATAL_ERROR "${class}: not understood: ${arg_UNPARSED_ARGUMENTS}")
     endif()
@@ -32,7 +32,6 @@ function(panelkit_class class)
     endif()
 
     set_property(GLOBAL PROPERTY PANELKIT_HEADER_OF_${class} ${arg_HEADER})
-    set_property(GLOBAL APPEND PROPERTY PANELKIT_FURTHER_SOURCES ${arg_SOURCE})
     if(arg_PART_OF)
         set_property(GLOBAL APPEND_STRING PROPERTY PANELKIT_PART_ROWS " \\\n    ROW(${class})")
         return()

@@ -13,11 +13,11 @@
 #       [CREATE <expression>]           how to make one under `parent`, if not new Class(parent)
 #       [NOT_A_WIDGET])                 a class that Designer and the catalogue cannot show
 #
-#   panelkit_class(<Class> PART_OF <Class above> [SOURCE <name>])
+#   panelkit_class(<Class> PART_OF <Class above>)
 #
-# is a class that only works inside the other one: it lives in its header, and in its source unless it
-# has one of its own, and is driven, shown, measured and documented with it. What it has for itself is
-# its unit test and its written interface.
+# is a class that only works inside the other one: it lives in its header and source, and is driven,
+# shown, measured and documented with it. What it has for itself is its unit test and its written
+# interface.
 #
 # CONTRIBUTING.md lists the files that belong to a class.
 
@@ -196,8 +196,8 @@ panelkit_class(MRadioMovePoint
     TOOLTIP "AM/FM tuner: a scale with a needle to be dragged over it"
     SIZE 831 120
     INITIAL bandType=FM freqStart=8750 lineStart=20 lineEnd=800 pixCountMeta=1 totalCountMeta=100 txtYpos=8 lineYpos=70 "lineColor=#202020" initByCustomeValue=true)
-panelkit_class(ScaleBkg PART_OF MRadioMovePoint SOURCE scalebkg)
-panelkit_class(MovePoint PART_OF MRadioMovePoint SOURCE movepoint)
+panelkit_class(ScaleBkg PART_OF MRadioMovePoint)
+panelkit_class(MovePoint PART_OF MRadioMovePoint)
 panelkit_class(FmMovePoint PART_OF MRadioMovePoint)
 
 panelkit_class(MRadioSlider

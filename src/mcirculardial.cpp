@@ -14,9 +14,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstddef>
 #include <optional>
-#include <vector>
 
 using namespace panelkit;
 
@@ -39,9 +37,19 @@ constexpr double kValueAt = 0.6 * 0.5; // of the radius
 constexpr QSizeF kValueSize(60, 30); // px
 constexpr double kReach = 200.0; // px inside and outside the rim; a touch from there on is none
 constexpr double kFullTurn = 360.0; // degrees
-constexpr int kMostTicks = 10000; // many more than there is room for
-constexpr int kMostLabels = 400; // likewise
+constexpr int kMostTicks = 100000; // up to so many, all ticks and labels are drawn; of more:
+constexpr int kFewerTicks = 10000; // many more than there is room for
+constexpr int kFewerLabels = 400; // likewise
 constexpr double kLargestRadius = 1 << 24; // px, no widget is larger
+
+// Thinning out by tens leaves the ticks at round values.
+qint64 tickStride(int count)
+{
+    qint64 stride = 1;
+    while (count > kMostTicks && count / stride > kFewerTicks)
+        stride *= 10;
+    return stride;
+}
 
 bool isSameAngle(double a, double b)
 {
@@ -368,38 +376,48 @@ void MCircularDial::drawBg(QPainter &painter) const
     painter.drawEllipse(QRectF(-radius, -radius, 2 * radius, 2 * radius));
 }
 
-// More ticks than can be told apart are thinned out by tens, which leaves those at round values, so
-// that a range of a billion costs no more than the ring of ticks that one sees. Labels cost most,
-// and fewer of them already lie on top of each other. The fused multiplication keeps tenths exact.
+// A range of more ticks than anyone can tell apart is thinned out, so that one of a billion costs
+// no more than the ring of ticks that one sees.
 void MCircularDial::drawTicks(QPainter &painter) const
 {
     const int count = tickCount();
-    qint64 stride = 1;
-    while (count / stride > kMostTicks)
-        stride *= 10;
+    const qint64 stride = tickStride(count);
+    const qint64 everyLabel = labelStride(stride);
     const double step = ratio(span(), double(count)) * double(stride);
-    std::vector<double> values;
-    for (qint64 i = 0; i <= count; i += stride)
-        values.push_back(std::fma(double(i), m_scale, m_minValue));
-    const auto labels =
-        std::count_if(values.begin(), values.end(), [this](double value) { return isLong(value); });
-    const auto labelStride = labels / kMostLabels + 1;
-    std::ptrdiff_t labelIndex = 0;
+    qint64 labelIndex = 0;
 
     painter.save();
     painter.setPen(m_textColor);
     painter.rotate(qreal(m_startAngle));
     const DeviceView view(painter);
-    for (const double value : values) {
+    for (qint64 i = 0; i <= count; i += stride) {
+        const double value = valueAt(i);
         if (value >= m_minValue && value <= m_maxValue) {
             const bool isLabelled = isLong(value);
             drawTick(painter, isLabelled);
-            if (isLabelled && labelIndex++ % labelStride == 0)
+            if (isLabelled && labelIndex++ % everyLabel == 0)
                 drawLabel(painter, view, value);
         }
         painter.rotate(qreal(step));
     }
     painter.restore();
+}
+
+// The fused multiplication keeps tenths exact.
+double MCircularDial::valueAt(qint64 tick) const
+{
+    return std::fma(double(tick), m_scale, m_minValue);
+}
+
+// Labels cost most, and where ticks are thinned out even fewer of them lie on top of each other.
+qint64 MCircularDial::labelStride(qint64 tickStride) const
+{
+    if (tickStride == 1)
+        return 1;
+    qint64 labels = 0;
+    for (qint64 i = 0; i <= tickCount(); i += tickStride)
+        labels += isLong(valueAt(i)) ? 1 : 0;
+    return labels / kFewerLabels + 1;
 }
 
 // Only a value at or a trace above a whole number counts as one: one a trace below, which is cut to
@@ -422,7 +440,9 @@ void MCircularDial::drawLabel(QPainter &painter, const DeviceView &view, double 
     painter.save();
     painter.translate(0, qreal(kLabelAt * paintedRadius()));
     painter.rotate(180);
-    if (view.shows(painter.worldTransform(), QRectF(kLabel)))
+    constexpr int kOverhang = 8; // px that a letter may lean out of its box
+    const QRect reach = kLabel.adjusted(-kOverhang, -kOverhang, kOverhang, kOverhang);
+    if (view.shows(painter.worldTransform(), QRectF(reach)))
         painter.drawText(kLabel, Qt::AlignCenter, QString::number(value, 'g', 6));
     painter.restore();
 }

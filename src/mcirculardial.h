@@ -23,6 +23,9 @@ class DeviceView;
  * While the finger is down the dial reports currentValueChange, on the release valueChanged;
  * neither comes where the value is already what was touched. It starts out as an FM tuner, 87.5 to
  * 108.
+ *
+ * Up to 100,000 ticks are all drawn, with their labels. Of more, 10,000 at round values
+ * are at most, with at most 400 labels.
  */
 class PANELKIT_EXPORT MCircularDial : public QWidget
 {
@@ -90,6 +93,8 @@ private:
     void drawFace(QPainter &painter) const;
     void drawBg(QPainter &painter) const;
     void drawTicks(QPainter &painter) const;
+    double valueAt(qint64 tick) const;
+    qint64 labelStride(qint64 tickStride) const;
     bool isLong(double value) const;
     void drawTick(QPainter &painter, bool isLong) const;
     void drawLabel(QPainter &painter, const panelkit::DeviceView &view, double value) const;

@@ -12,11 +12,8 @@
 #include <QPointer>
 #include <QResizeEvent>
 
-#include <algorithm>
 #include <cmath>
-#include <cstddef>
 #include <tuple>
-#include <vector>
 
 using namespace panelkit;
 
@@ -27,11 +24,11 @@ constexpr float kLabelWidth = 60.0F; // px
 constexpr int kLabelHeight = 25; // px
 constexpr int kFaintAlpha = 70;
 constexpr double kSame = 5e-5; // display units; frequencies nearer to each other are the same
-constexpr int kMostSteps = 1 << 18; // of a scale that are looked at one by one
-// Of the ticks in one column of pixels: how many lines and how many labels can be told apart.
-// Labels are as wide as dozens of columns, so that far fewer of them make a blot.
-constexpr std::size_t kMostPiled = 64;
-constexpr std::ptrdiff_t kMostPiledLabels = 16;
+// A scale that has no more ticks in no more steps is drawn whole. Of one that has, fewer steps are
+// looked at.
+constexpr int kMostTicks = 100000;
+constexpr int kMostSteps = 1000000;
+constexpr int kFewerSteps = 65536;
 
 enum TickKind { Minor, Middle, Major };
 
@@ -79,13 +76,18 @@ int pointColumn(float x)
     return toInt(std::floor(double(x) + 0.5));
 }
 
-// How many steps to go at once. A scale with more steps than can be looked at is seen to be full of
-// ticks of every kind: any step that meets all last two digits in turn shows that.
-int strideOf(int stepCount)
+// How many steps to go at once. A scale with more steps than anyone can tell apart is seen to be
+// full of ticks of every kind: any stride that meets all last two digits in turn shows that.
+template <typename KindAt> int strideOf(int stepCount, KindAt kindAt)
 {
-    if (stepCount <= kMostSteps)
+    if (stepCount <= kMostTicks)
         return 1;
-    const int stride = (stepCount / kMostSteps + 1) | 1;
+    int ticks = 0;
+    for (int i = 0; i <= stepCount && i <= kMostSteps && ticks <= kMostTicks; ++i)
+        ticks += kindAt(i) == Minor ? 0 : 1;
+    if (stepCount <= kMostSteps && ticks <= kMostTicks)
+        return 1;
+    const int stride = (stepCount / kFewerSteps + 1) | 1;
     return stride % 5 == 0 ? stride + 2 : stride;
 }
 
@@ -290,7 +292,7 @@ void MKARVOSlider::initSliderRange()
  * A frequency snapped to the real band: its ends, or the nearest multiple of its step, counted in
  * hundredths; the middle between two goes up. What f has below a hundredth stays.
  */
-float MKARVOSlider::calFreqRule(float freq) const
+float MKARVOSlider::calFreqRule(float freq)
 {
     if (double(freq) < double(m_realMinFreq) - kSame)
         return m_realMinFreq;
@@ -306,7 +308,7 @@ float MKARVOSlider::calFreqRule(float freq) const
 }
 
 /** Whether the drawn scale reaches this frequency, in display units. */
-bool MKARVOSlider::isValidFreq(float freq) const
+bool MKARVOSlider::isValidFreq(float freq)
 {
     return m_freqStart <= freq && freq <= m_freqEnd;
 }
@@ -420,7 +422,7 @@ void MKARVOSlider::setWholeCurFreq(int freq)
     setCurFreq(float(freq));
 }
 
-float MKARVOSlider::freqAt(int x) const
+float MKARVOSlider::freqAt(int x)
 {
     const float steps = ratio(float(x) - m_leftX, m_lineGap);
     return calFreqRule(std::fma(m_freqStep, steps, m_freqStart));
@@ -443,40 +445,27 @@ MKARVOSlider::Look MKARVOSlider::look() const
 }
 
 // x is summed up tick by tick, as the ticks have always stood, and not multiplied, which would
-// round otherwise. Of the ticks that share a column of pixels only the last ones can be seen.
+// round otherwise.
 void MKARVOSlider::layOut(const Look &look)
 {
     m_look = std::make_unique<Look>(look);
     m_picture->clear(size());
-    std::vector<Tick> pile;
-    const auto isMajor = [](const Tick &tick) {
-        return tick.kind == Major;
+    const auto freqAt = [this](int step) {
+        return std::fma(float(step), m_freqStep, m_freqStart);
     };
-    const auto addPile = [&] {
-        auto first = pile.end() - std::ptrdiff_t(std::min(pile.size(), kMostPiled));
-        auto labels = std::count_if(first, pile.end(), isMajor);
-        for (; first != pile.end(); ++first) {
-            addLines(*first);
-            if (isMajor(*first) && labels-- <= kMostPiledLabels)
-                addLabel(*first);
-        }
-        pile.clear();
-    };
-    const int stride = strideOf(m_stepCount);
+    const int stride =
+        strideOf(m_stepCount, [&](int step) { return kindOf(freqAt(step), m_isFM); });
     const float gap = m_lineGap * float(stride);
     float x = m_leftX;
     for (qint64 i = 0; i <= m_stepCount; i += stride, x += gap) {
-        const float freq = std::fma(float(i), m_freqStep, m_freqStart);
-        const TickKind kind = kindOf(freq, m_isFM);
-        if (kind == Minor)
+        const float freq = freqAt(int(i));
+        const Tick tick{x, freq, kindOf(freq, m_isFM)};
+        if (tick.kind == Minor)
             continue;
-        if (!pile.empty() && lineColumn(pile.back().x) != lineColumn(x))
-            addPile();
-        pile.push_back({x, freq, kind});
-        if (pile.size() == 2 * kMostPiled)
-            pile.erase(pile.begin(), pile.begin() + kMostPiled);
+        addLines(tick);
+        if (tick.kind == Major)
+            addLabel(tick);
     }
-    addPile();
 }
 
 void MKARVOSlider::addLines(const Tick &tick)

@@ -23,6 +23,9 @@ class ScalePicture;
  *
  * The scale itself is in display units, MHz for FM; the signal and the slot for the tuned frequency
  * are in hundredths of that for FM (8750 is 87.5 MHz) and unscaled for AM.
+ *
+ * All ticks and labels are drawn, up to 100,000 ticks in 1,000,000 steps. Of more, those of about
+ * 65,000 steps are.
  */
 class PANELKIT_EXPORT MKARVOSlider : public QWidget
 {
@@ -106,8 +109,8 @@ public:
     void setRealFreqStep(float step);
 
     void initSliderRange();
-    float calFreqRule(float freq) const;
-    bool isValidFreq(float freq) const;
+    float calFreqRule(float freq);
+    bool isValidFreq(float freq);
 
 signals:
     void freqChangedSgl(float freq);
@@ -138,7 +141,7 @@ private:
 
     struct Tick;
 
-    float freqAt(int x) const;
+    float freqAt(int x);
     void tune(float freq);
     Look look() const;
     void layOut(const Look &look);

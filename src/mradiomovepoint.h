@@ -29,6 +29,9 @@ struct MapPixAndHz {
  * The scale of an MRadioMovePoint: tick lines of three heights and numbers above them. It works out
  * how many pixels and how many frequency units one scale unit takes, from which the needle finds
  * its way. Frequencies are whole numbers; an FM scale shows them divided by 100.
+ *
+ * All ticks and labels are drawn. Only where a unit takes no pixels, so that all stand at one
+ * place, and there are more than 100,000 of them, the last 2,048 are.
  */
 class PANELKIT_EXPORT ScaleBkg : public QLabel
 {
@@ -43,18 +46,18 @@ public:
                     int totalCountMeta);
     void init();
 
-    int getValidStartFreq(int freq, int step, bool isStart) const;
-    int getPosByCount(int count) const;
-    int getValueByPos(int pos) const;
-    int getBeishu(int freq) const;
-    int getHeightByCount(int count) const;
-    QRect getRectBYCertalXpos(int x) const;
-    int getPointStart() const;
-    int getPointEnd() const;
+    int getValidStartFreq(int freq, int step, bool isStart);
+    int getPosByCount(int count);
+    int getValueByPos(int pos);
+    int getBeishu(int freq);
+    int getHeightByCount(int count);
+    QRect getRectBYCertalXpos(int x);
+    int getPointStart();
+    int getPointEnd();
     virtual int getEnd();
-    int getLine_start() const { return m_lineStart; }
+    int getLine_start() { return m_lineStart; }
     void setLine_start(int start);
-    int getLine_end() const { return m_lineEnd; }
+    int getLine_end() { return m_lineEnd; }
     void setLine_end(int end);
 
 protected:

@@ -20,7 +20,10 @@ namespace
 
 constexpr int kLabelWidth = 60; // px
 constexpr int kLabelHeight = 25; // px
-constexpr qint64 kMostPiled = 1024; // ticks kept of those that a gap of 0 puts at one place
+// Steps of a scale whose ticks a gap of 0 puts at one place: up to so many, all ticks are drawn,
+// and of more these last ones.
+constexpr int kMostPiled = 100000;
+constexpr int kLastPiled = 1024;
 
 enum TickKind { Minor, Middle, Major };
 
@@ -48,7 +51,7 @@ struct Counts {
 Counts visibleCounts(int stepCount, int scrollX, int gap, int width)
 {
     if (gap == 0)
-        return {std::max<qint64>(0, stepCount - kMostPiled + 1), stepCount};
+        return {stepCount > kMostPiled ? stepCount - kLastPiled + 1 : 0, stepCount};
     const auto [first, last] = std::minmax(
         {(qint64(-kLabelWidth) - scrollX) / gap, (qint64(width) + kLabelWidth - scrollX) / gap});
     return {std::max<qint64>(0, first), std::min<qint64>(stepCount, last)};
@@ -203,7 +206,7 @@ void MRadioSlider::initSliderRange()
 }
 
 /** Whether the scale reaches this frequency, in display units. */
-bool MRadioSlider::isValidFreq(float freq) const
+bool MRadioSlider::isValidFreq(float freq)
 {
     return m_freqStart <= freq && freq <= m_freqEnd;
 }
@@ -228,7 +231,8 @@ void MRadioSlider::mousePressEvent(QMouseEvent *e)
 
 /**
  * The scale follows the finger pixel by pixel up to its ends; the tuned frequency goes in whole
- * steps. Nothing is reported before the release.
+ * steps. Nothing is reported before the release. The debug log gets two lines: where the finger was
+ * and where it is.
  */
 void MRadioSlider::mouseMoveEvent(QMouseEvent *e)
 {

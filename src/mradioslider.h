@@ -22,6 +22,9 @@ class ScalePicture;
  *
  * The scale itself is in display units, MHz for FM; the signal and the slot for the tuned frequency
  * are in hundredths of that for FM (8750 is 87.5 MHz) and unscaled for AM.
+ *
+ * All ticks and labels are drawn. Only where lineGap is 0, so that all stand at one place, and the
+ * scale has more than 100,000 steps, the last 1,024 are.
  */
 class PANELKIT_EXPORT MRadioSlider : public QWidget
 {
@@ -97,7 +100,7 @@ public:
     void setPointMarginY(int margin);
 
     void initSliderRange();
-    bool isValidFreq(float freq) const;
+    bool isValidFreq(float freq);
 
 signals:
     void freqChangedSgl(float freq);

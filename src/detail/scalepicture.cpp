@@ -14,8 +14,6 @@ namespace panelkit
 namespace
 {
 
-constexpr std::size_t kMostKnown = 1024; // labels; several bands' worth
-
 // Rectangles without a pen are filled twenty times faster than lines are drawn. One unit has to be
 // one pixel of the device for both to be the same pixels.
 void drawLines(QPainter &painter, const QColor &color, const QRect *lines, int count)
@@ -36,7 +34,7 @@ void drawLines(QPainter &painter, const QColor &color, const QRect *lines, int c
 
 void ScalePicture::clear(const QSize &area)
 {
-    m_area = area;
+    m_area = QRect(QPoint(), area).adjusted(-kOverhang, -kOverhang, kOverhang, kOverhang);
     for (QVector<QRect> &lines : m_lines)
         lines.clear();
     m_labels.clear();
@@ -45,15 +43,15 @@ void ScalePicture::clear(const QSize &area)
     m_labelRows = {};
     m_lastSolid = -1;
     m_isToneMixed = false;
-    if (m_written.size() > kMostKnown)
+    if (m_written.size() >= kMostKnown)
         m_written.clear();
 }
 
 void ScalePicture::addLine(Tone tone, int x, int y1, int y2)
 {
-    const int top = std::max(std::min(y1, y2), 0);
-    const int bottom = std::min(std::max(y1, y2), m_area.height() - 1);
-    if (x < 0 || x >= m_area.width() || top > bottom)
+    const int top = std::max(std::min(y1, y2), m_area.top());
+    const int bottom = std::min(std::max(y1, y2), m_area.bottom());
+    if (x < m_area.left() || x > m_area.right() || top > bottom)
         return;
     const QRect line(QPoint(x, top), QPoint(x, bottom));
     m_lines[tone].append(line);
@@ -67,19 +65,27 @@ void ScalePicture::addLine(Tone tone, int x, int y1, int y2)
 
 void ScalePicture::addLabel(const QRectF &box, double value, Write write)
 {
-    if (!box.isValid() || !box.intersects(QRectF(QPointF(), m_area)))
+    if (!box.isValid() || !box.intersects(QRectF(m_area)))
         return;
-    // Nothing equals a value that is no number: it is known by one that no scale shows.
-    constexpr double kNoNumber = -1e300;
-    auto known = m_written.find(std::isnan(value) ? kNoNumber : value);
-    if (known == m_written.end()) {
-        known = m_written.emplace(std::isnan(value) ? kNoNumber : value, Written()).first;
-        known->second.text = write(value);
-        ++m_writings;
-    }
-    m_labels.push_back({box, &known->second});
+    m_labels.push_back({box, value, write, known(value, write)});
     m_labelRows |= box;
     extend(Labels, int(m_labels.size()));
+}
+
+ScalePicture::Written *ScalePicture::known(double value, Write write)
+{
+    // Nothing equals a value that is no number: it is known by one that no scale shows.
+    constexpr double kNoNumber = -1e300;
+    const double key = std::isnan(value) ? kNoNumber : value;
+    const auto found = m_written.find(key);
+    if (found != m_written.end())
+        return &found->second;
+    if (m_written.size() >= kMostKnown)
+        return nullptr;
+    Written &written = m_written[key];
+    written.text = write(value);
+    ++m_writings;
+    return &written;
 }
 
 void ScalePicture::draw(QPainter &painter, const QRect &part, const QColor &solid,
@@ -136,10 +142,16 @@ bool ScalePicture::isOrderFree(const QPainter &painter) const
 
 void ScalePicture::drawLabels(QPainter &painter, const QRect &part, const Run &run)
 {
-    const QRectF needed(part);
+    const QRectF needed(part.adjusted(-kOverhang, -kOverhang, kOverhang, kOverhang));
     for (auto label = m_labels.begin() + run.begin; label != m_labels.begin() + run.end; ++label) {
-        if (label->box.intersects(needed))
-            label->written->layout.draw(painter, label->box, Qt::AlignCenter, label->written->text);
+        if (!label->box.intersects(needed))
+            continue;
+        if (Written *known = label->known) {
+            known->layout.draw(painter, label->box, Qt::AlignCenter, known->text);
+        } else {
+            painter.drawText(label->box, Qt::AlignCenter, label->write(label->value));
+            ++m_writings;
+        }
     }
 }
 

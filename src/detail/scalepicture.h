@@ -28,14 +28,21 @@ public:
     enum Tone { Solid, Faint };
     using Write = QString (*)(double value);
 
-    /// Starts a new picture of this size. Labels once written stay known, so that a value that
-    /// comes again is neither written nor laid out again.
+    /// Starts a new picture of this size, outside of which nothing can be shown. Labels once
+    /// written stay known, so that a value that comes again is neither written nor laid out again;
+    /// where a picture has thousands of them, the last ones are written anew in each drawing.
     void clear(const QSize &area);
-    /// A line between two rows, both included, in either order. What is outside is left out.
+    /// A line between two rows, both included, in either order. What is well outside is left out.
     void addLine(Tone tone, int x, int y1, int y2);
-    /// The text for a value. A label outside, or in a box without extent, is left out and not even
-    /// written.
+    /// The text for a value. A label well outside, or in a box without extent, is left out and not
+    /// even written.
     void addLabel(const QRectF &box, double value, Write write);
+
+    /// How far beyond its place an item may show: px that a line is thick where the painter scales,
+    /// or that a letter leans out of the box.
+    static constexpr int kOverhang = 16;
+    /// How many labels stay known.
+    static constexpr int kMostKnown = 2048; // several bands' worth
 
     /// Draws what is needed for a part of the picture, with the painter's font; labels have the
     /// solid colour. An invalid colour draws in black, as with any pen.
@@ -60,14 +67,17 @@ private:
     };
     struct Label {
         QRectF box;
-        Written *written;
+        double value;
+        Write write;
+        Written *known; // or none, beyond the most that stay known
     };
 
     void extend(Kind kind, int end);
+    Written *known(double value, Write write);
     bool isOrderFree(const QPainter &painter) const;
     void drawLabels(QPainter &painter, const QRect &part, const Run &run);
 
-    QSize m_area;
+    QRect m_area; // with the overhang
     QVector<QRect> m_lines[2]; // by tone
     std::vector<Label> m_labels;
     std::vector<Run> m_runs; // in the order of adding

@@ -9,6 +9,17 @@
 #include "widgettest.h"
 
 #include <climits>
+#include <cstdlib>
+#include <type_traits>
+
+// None of its functions is const.
+static_assert(std::is_same_v<decltype(&MovePoint::cacPosMapFreq), int (MovePoint::*)(int pos)>);
+static_assert(std::is_same_v<decltype(&MovePoint::cacFreqMapPos), int (MovePoint::*)(int freq)>);
+static_assert(std::is_same_v<decltype(&MovePoint::getPosValid), int (MovePoint::*)(int pos)>);
+static_assert(std::is_same_v<decltype(&MovePoint::isAm), bool (MovePoint::*)()>);
+static_assert(std::is_same_v<decltype(&MovePoint::moveByPos), void (MovePoint::*)(int pos)>);
+static_assert(std::is_same_v<decltype(&MovePoint::moveByFreq), void (MovePoint::*)(int freq)>);
+static_assert(std::is_same_v<decltype(&MovePoint::emitFreq), void (MovePoint::*)()>);
 
 namespace
 {
@@ -33,6 +44,23 @@ int freqAt(const Numbers &n, int pos)
 {
     const int freq =
         over(over((pos - n.lineStart) * n.map.hz, n.map.pix) + n.firstTick, n.step) * n.step;
+    if (freq < n.minFreq)
+        return n.minFreq;
+    return freq >= n.maxFreq ? n.maxFreq : freq;
+}
+
+// The same for numbers that leave 32 bits, where each operation wraps around.
+int wrappedFreqAt(const Numbers &n, int pos)
+{
+    const auto wrapped = [](qint64 value) {
+        return int(quint32(quint64(value)));
+    };
+    const auto quotient = [&](int a, int b) {
+        return b == 0 ? 0 : wrapped(qint64(a) / b);
+    };
+    const int units = wrapped(qint64(wrapped(qint64(pos) - n.lineStart)) * n.map.hz);
+    const int atPos = wrapped(qint64(quotient(units, n.map.pix)) + n.firstTick);
+    const int freq = wrapped(qint64(quotient(atPos, n.step)) * n.step);
     if (freq < n.minFreq)
         return n.minFreq;
     return freq >= n.maxFreq ? n.maxFreq : freq;
@@ -270,10 +298,13 @@ private slots:
         for (const int a : hostile) {
             for (const int b : hostile) {
                 for (const int c : hostile) {
-                    reset(*f.needle, {a, b, c, b, a, {c, a}});
+                    const Numbers n{a, b, c, b, a, {c, a}};
+                    reset(*f.needle, n);
+                    for (const int pos : {INT_MIN, -7, 0, 500, INT_MAX})
+                        QCOMPARE(f.needle->cacPosMapFreq(pos), wrappedFreqAt(n, pos));
                     f.needle->moveByPos(b);
                     f.needle->moveByFreq(c);
-                    f.needle->emitFreq();
+                    QVERIFY(std::abs(f.needle->x()) <= 16777215);
                 }
             }
         }

@@ -160,14 +160,43 @@ private slots:
     {
         ScalePicture picture;
         picture.clear(kArea);
-        picture.addLabel(QRectF(-60, 5, 60, 25), 1, written);
-        picture.addLabel(QRectF(300, 5, 60, 25), 2, written);
-        picture.addLabel(QRectF(50, -25, 60, 25), 3, written);
-        picture.addLabel(QRectF(50, 80, 60, 25), 4, written);
+        constexpr int kFar = ScalePicture::kOverhang;
+        picture.addLabel(QRectF(-60 - kFar, 5, 60, 25), 1, written);
+        picture.addLabel(QRectF(300 + kFar, 5, 60, 25), 2, written);
+        picture.addLabel(QRectF(50, -25 - kFar, 60, 25), 3, written);
+        picture.addLabel(QRectF(50, 80 + kFar, 60, 25), 4, written);
         picture.addLabel(QRectF(50, 30, 60, -25), 5, written);
         QCOMPARE(picture.writings(), 0);
-        picture.addLabel(QRectF(-59, 5, 60, 25), 6, written);
+        picture.addLabel(QRectF(-59 - kFar, 5, 60, 25), 6, written);
         QCOMPARE(picture.writings(), 1);
+    }
+
+    // The tail of a j, to the left, out of a box that the text just fits in.
+    void lettersMayLeanOutOfTheirBoxes()
+    {
+        QFont font(QStringLiteral("DejaVu Sans"));
+        font.setPixelSize(20);
+        font.setItalic(true);
+        const QString text = QStringLiteral("jjj");
+        const int width = QFontMetrics(font).horizontalAdvance(text);
+        const auto write = [](double) {
+            return QStringLiteral("jjj");
+        };
+        ScalePicture picture;
+        picture.clear(kArea);
+        const QRect box(kArea.width(), 5, width, 25);
+        picture.addLabel(box, 0, write);
+        const auto leaning = [&](QPainter &p) {
+            p.setFont(font);
+            p.setPen(Qt::white);
+            p.drawText(box, Qt::AlignCenter, text);
+        };
+        QVERIFY(onCanvas(leaning) != onCanvas([](QPainter &) {}));
+        COMPARE_PICTURES(onCanvas([&](QPainter &p) {
+                             p.setFont(font);
+                             picture.draw(p, {QPoint(), kArea}, Qt::white);
+                         }),
+                         onCanvas(leaning));
     }
 
     void onlyThePartThatIsNeededIsLaidOut()
@@ -176,7 +205,7 @@ private slots:
         picture.clear(kArea);
         for (int i = 0; i < 5; ++i)
             picture.addLabel(QRect(i * 60, 5, 60, 25), i, written);
-        onCanvas([&](QPainter &p) { picture.draw(p, QRect(60, 0, 60, 80), Qt::white); });
+        onCanvas([&](QPainter &p) { picture.draw(p, QRect(150, 0, 10, 80), Qt::white); });
         QCOMPARE(picture.layouts(), 1);
     }
 
@@ -203,13 +232,44 @@ private slots:
 
     void whatIsKnownIsBounded()
     {
+        constexpr int kKnown = ScalePicture::kMostKnown;
         ScalePicture picture;
-        for (int round = 0; round < 3; ++round) {
+        const auto fill = [&](int labels) {
             picture.clear(kArea);
-            for (int i = 0; i < 1100; ++i)
+            for (int i = 0; i < labels; ++i)
                 picture.addLabel(QRectF(5, 5, 60, 25), i, written);
+        };
+        fill(kKnown - 1);
+        fill(kKnown); // all but one are known
+        QCOMPARE(picture.writings(), kKnown);
+        fill(kKnown + 20); // all are forgotten, and the last 20 not even known
+        QCOMPARE(picture.writings(), 2 * kKnown);
+        for (int i = 1; i <= 2; ++i) {
+            onCanvas([&](QPainter &p) { picture.draw(p, {QPoint(), kArea}, Qt::white); });
+            QCOMPARE(picture.writings(), 2 * kKnown + i * 20);
         }
-        QCOMPARE(picture.writings(), 3300); // forgotten, each time
+        QCOMPARE(picture.layouts(), kKnown);
+    }
+
+    void labelsThatAreNotKnownAreDrawnLikeTheOthers()
+    {
+        const QColor color(200, 30, 60, 9);
+        ScalePicture picture;
+        picture.clear(kArea);
+        const auto boxOf = [](int i) {
+            return QRect(i / 10, i % 50, 60, 25);
+        };
+        constexpr int kLabels = ScalePicture::kMostKnown + 30;
+        for (int i = 0; i < kLabels; ++i)
+            picture.addLabel(boxOf(i), i, written);
+        COMPARE_PICTURES(onCanvas([&](QPainter &p) {
+                             picture.draw(p, {QPoint(), kArea}, color);
+                         }),
+                         onCanvas([&](QPainter &p) {
+                             p.setPen(color);
+                             for (int i = 0; i < kLabels; ++i)
+                                 p.drawText(boxOf(i), Qt::AlignCenter, QString::number(i));
+                         }));
     }
 
     void linesEndAtTheArea()
