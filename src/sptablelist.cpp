@@ -428,7 +428,7 @@ void SpTableList::mousePressEvent(QMouseEvent *e)
     if (!guard)
         return;
     m_pressPos = e->pos();
-    m_pressIndex = plainIndexAt(m_pressPos);
+    m_pressIndex.set(indexAt(m_pressPos));
     if (m_isBeep && m_pressIndex.index.isValid())
         postKeyRequest(this, kBeepRequest);
     viewport()->update();
@@ -554,17 +554,17 @@ void SpTableList::speedTimerSlot()
         restartRollingLater();
 }
 
+void SpTableList::PlainIndex::set(const QModelIndex &newIndex)
+{
+    index = newIndex;
+    model = newIndex.model();
+}
+
 // The model is asked, never the index: after a change its internal pointer may point nowhere.
 bool SpTableList::isThere(const PlainIndex &plain) const
 {
     return plain.model && plain.model == model()
         && plain.model->hasIndex(plain.index.row(), plain.index.column(), rootIndex());
-}
-
-SpTableList::PlainIndex SpTableList::plainIndexAt(const QPoint &pos) const
-{
-    const QModelIndex index = indexAt(pos);
-    return {index, index.model()};
 }
 
 bool SpTableList::rollsTexts() const
@@ -655,12 +655,12 @@ bool SpTableList::startFling(const QPoint &pos)
 // or on the tail of any.
 void SpTableList::highlight(const QPoint &pos)
 {
-    const PlainIndex touched = plainIndexAt(pos);
-    const bool isSelected = isThere(m_selectedIndex) && m_selectedIndex.index == touched.index;
-    const bool isNew = touched.index.isValid() && !isSelected;
+    const QModelIndex index = indexAt(pos);
+    const bool isSelected = isThere(m_selectedIndex) && m_selectedIndex.index == index;
+    const bool isNew = index.isValid() && !isSelected;
     if (!isNew)
         showRowPressed(false, pos);
-    m_selectedIndex = isNew && isLeftOfTail() ? touched : PlainIndex();
+    m_selectedIndex.set(isNew && isLeftOfTail() ? index : QModelIndex());
 }
 
 /**

@@ -132,12 +132,13 @@ private slots:
 private:
     // An index as it was: unlike a persistent one it stays at its row when the rows move.
     struct PlainIndex {
+        void set(const QModelIndex &newIndex);
+
         QModelIndex index;
         QPointer<const QAbstractItemModel> model; // of the index, which cannot tell that it is gone
     };
 
     bool isThere(const PlainIndex &plain) const;
-    PlainIndex plainIndexAt(const QPoint &pos) const;
     bool rollsTexts() const;
     bool showsRowPressed() const;
     void showRowPressed(bool pressed, const QPoint &pos);
