@@ -308,7 +308,7 @@ void MArcList::drawPointer1(QPainter *painter)
  * The time within the minute in ms. It begins anew with each minute, on purpose: a flick across
  * that moment has a negative duration and simply does not fling.
  */
-int MArcList::getCurrentTime() const
+int MArcList::getCurrentTime()
 {
     return minuteClock();
 }

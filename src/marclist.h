@@ -82,7 +82,7 @@ public:
     void drawPointer(QPainter *painter);
     void drawTicks1(QPainter *painter);
     void drawPointer1(QPainter *painter);
-    int getCurrentTime() const;
+    int getCurrentTime();
 
 signals:
     void itemClicked(QChar c);

@@ -29,7 +29,7 @@ constexpr double kReach = 200.0; // px inside and outside the arc; a touch from 
 constexpr double kMargin = 50.0; // px above and below the ticks of the straight bar
 constexpr double kFinestAngle = 0.01; // degrees; a smaller change of an angle is none
 constexpr double kFullTurn = 360.0; // degrees
-constexpr qint64 kMostTicks = 4000; // many more than there is room for
+constexpr qint64 kMostTicks = 100000; // a range of more values has no tick for each
 constexpr double kRadian = 0.017453292519943295; // radians a degree
 
 bool differs(double a, double b)
@@ -43,6 +43,13 @@ bool drawsRows(const QPainter &painter)
     const QPen &pen = painter.pen();
     return pen.style() == Qt::SolidLine && pen.widthF() <= 1
         && !painter.testRenderHint(QPainter::Antialiasing) && isOnPixels(painter);
+}
+
+// Whether drawing the same rows again changes nothing.
+bool coversRows(const QPainter &painter)
+{
+    return drawsRows(painter) && painter.pen().brush().isOpaque() && painter.opacity() >= 1
+        && painter.compositionMode() == QPainter::CompositionMode_SourceOver;
 }
 
 } // namespace
@@ -131,7 +138,11 @@ void MArcScrollBar::setCenterPoint(const QPointF &center)
     update();
 }
 
-/** Draws a tick for each value of the range around the origin, in the pen of the painter. */
+/**
+ * Draws a tick for each value of the range around the origin, in the pen of the painter. A range of
+ * more than 100,000 has evenly spaced ones, 50,000 or more, for each second value, each third and
+ * so on: where they lie so close nobody can tell, and a range of a billion takes no longer.
+ */
 void MArcScrollBar::drawTicks(QPainter *painter)
 {
     if (!painter)
@@ -192,7 +203,7 @@ void MArcScrollBar::drawPointer(QPainter *painter)
 /**
  * Draws the ticks of the straight bar. Their distance is a whole number of px, so that in a range
  * that does not divide the height they end short of the bottom, and the pointer drifts off them.
- * That is meant: ticks stay evenly spaced and sharp.
+ * That is meant: ticks stay evenly spaced and sharp. Of more than 100,000 the others are left out.
  */
 void MArcScrollBar::drawTicksVert(QPainter *painter)
 {
@@ -201,8 +212,8 @@ void MArcScrollBar::drawTicksVert(QPainter *painter)
     const qint64 height100 = toInt(height() - 2 * kMargin);
     const qint64 pitch = range() == 0 ? 0 : height100 / range();
     // Without distance all ticks are one line over and over.
-    const bool isOpaque = painter->pen().color().alpha() == 255;
-    const qint64 last = pitch != 0 ? range() : isOpaque ? 0 : std::min(range(), kMostTicks);
+    const bool isOneLine = pitch == 0 && coversRows(*painter);
+    const qint64 last = isOneLine ? 0 : std::min(range(), kMostTicks);
     QVector<QRect> rows;
     rows.reserve(int(last) + 1);
     for (qint64 i = 0; i <= last; ++i)
@@ -210,7 +221,7 @@ void MArcScrollBar::drawTicksVert(QPainter *painter)
     if (drawsRows(*painter)) {
         const QPen pen = painter->pen();
         painter->setPen(Qt::NoPen);
-        painter->setBrush(pen.color());
+        painter->setBrush(pen.brush());
         painter->drawRects(rows);
         painter->setPen(pen);
     } else {
@@ -348,16 +359,14 @@ bool MArcScrollBar::ticksStandApart(const QPainter &painter) const
     return distance >= thickness && std::abs(span()) + step <= kFullTurn;
 }
 
-// More ticks than can be told apart are thinned out, so that a range of a billion costs no more
-// than the ring of ticks that one sees.
 void MArcScrollBar::drawTicksOneByOne(QPainter &painter) const
 {
-    const qint64 stride = (range() + kMostTicks - 1) / kMostTicks;
+    const qint64 stride = std::max<qint64>((range() + kMostTicks - 1) / kMostTicks, 1);
     const double step = range() == 0 ? 0 : span() / double(range()) * double(stride);
     const QLineF tick(0, qreal(kTickStart * m_radius), 0, qreal(kTickEnd * m_radius));
     painter.save();
     painter.setBrush(m_lineColor);
-    for (qint64 i = 0; i <= range(); i += std::max<qint64>(stride, 1)) {
+    for (qint64 i = 0; i <= range(); i += stride) {
         painter.drawLine(tick);
         painter.rotate(qreal(step));
     }

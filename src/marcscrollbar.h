@@ -23,6 +23,8 @@ class KeptLayer;
  *
  * Value, range and signals are those of any QScrollBar. The finger does not drag a handle: the
  * value follows the direction, or in the straight bar the height, of every point that is touched.
+ *
+ * Every value up to a range of 100,000 has its tick; a larger one has no more of them than that.
  */
 class PANELKIT_EXPORT MArcScrollBar : public QScrollBar
 {

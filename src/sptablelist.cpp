@@ -4,7 +4,6 @@
 #include "detail/fonts.h"
 #include "detail/keyrequest.h"
 #include "detail/minuteclock.h"
-#include "styledelegate.h"
 
 #include <QFile>
 #include <QFontMetrics>
@@ -53,8 +52,9 @@ bool isWithin(qint64 value, qint64 first, qint64 last)
     return first <= value && value <= last;
 }
 
-// While it lives, a view does not scroll by itself to the row that becomes the current one: rows
-// would slip away from under the finger.
+// While it lives, a view does not scroll by itself to the row that becomes the current one. The
+// view's own handlers would do that on a press and on moves, and rows would slip away from under
+// the finger; a list scrolls by drag and fling alone.
 class ScrollingPause
 {
 public:
@@ -93,8 +93,9 @@ void roll(StringRollingData &record, const QFontMetrics &metrics)
 } // namespace
 
 /**
- * A list without a model. Only the vertical scroll bar shows, in the style sheet that the
- * application has under ":/qss/scrollbar.qss"; without that resource it looks as any other.
+ * A list without a model. Of the scroll bars only the vertical one shows, and only when it is
+ * needed: the policy stays that of any view. It has the style sheet that the application has under
+ * ":/qss/scrollbar.qss"; without that resource it looks as any other.
  */
 SpTableList::SpTableList(QWidget *parent) : QTableView(parent), m_delegate(new styleDelegate(this))
 {
@@ -356,7 +357,7 @@ void SpTableList::deleteSelectionModel()
  * The time within the current minute, 0..59999 ms. Touches are timed with it as it is: one that
  * spans a full minute has a negative duration, and is neither a click nor a fling.
  */
-unsigned int SpTableList::getCurrentTime() const
+unsigned int SpTableList::getCurrentTime()
 {
     return unsigned(minuteClock());
 }
@@ -409,7 +410,7 @@ void SpTableList::mousePressEvent(QMouseEvent *e)
     // painted as they will start to roll. The number may soon be that of another timer.
     if (rollsTexts()) {
         m_delegate->clearRollData();
-        stopRolling();
+        stop(m_rollTimer);
     }
     m_pressTime = getCurrentTime();
     m_speedTimer.stop();
@@ -427,8 +428,8 @@ void SpTableList::mousePressEvent(QMouseEvent *e)
     if (!guard)
         return;
     m_pressPos = e->pos();
-    m_pressIndex = indexAt(m_pressPos);
-    if (m_isBeep && m_pressIndex.isValid())
+    m_pressIndex.set(indexAt(m_pressPos));
+    if (m_isBeep && m_pressIndex.index.isValid())
         postKeyRequest(this, kBeepRequest);
     viewport()->update();
     start(m_pressTimer, kPressDelay);
@@ -513,17 +514,14 @@ void SpTableList::mouseReleaseEvent(QMouseEvent *e)
 void SpTableList::showEvent(QShowEvent *e)
 {
     QWidget::showEvent(e);
-    m_isHidden = false;
-    if (m_rollsOnceShown)
-        startRolling();
     restartRollingLater();
 }
 
+/** Texts stop rolling. A wait for the restart goes on, and what it starts rolls out of sight. */
 void SpTableList::hideEvent(QHideEvent *e)
 {
-    m_isHidden = true;
     if (rollsTexts()) {
-        stopRolling();
+        stop(m_rollTimer);
         m_delegate->setRollTimerId(0);
     }
     QWidget::hideEvent(e);
@@ -554,6 +552,19 @@ void SpTableList::speedTimerSlot()
     emit currentShowIndex(currentIndex().row());
     if (guard)
         restartRollingLater();
+}
+
+void SpTableList::PlainIndex::set(const QModelIndex &newIndex)
+{
+    index = newIndex;
+    model = newIndex.model();
+}
+
+// The model is asked, never the index: after a change its internal pointer may point nowhere.
+bool SpTableList::isThere(const PlainIndex &plain) const
+{
+    return plain.model && plain.model == model()
+        && plain.model->hasIndex(plain.index.row(), plain.index.column(), rootIndex());
 }
 
 bool SpTableList::rollsTexts() const
@@ -606,11 +617,13 @@ void SpTableList::dragTo(qint64 value)
 
 /**
  * Whether a release starts a click: on the pressed row, without a drag, slow enough, and not the
- * touch that stopped a fling. A row that is gone meanwhile cannot be clicked.
+ * touch that stopped a fling. A model that is reset or gets rows under the finger swallows no tap:
+ * it goes to whatever stands in the row by then. A row that is gone meanwhile cannot be clicked.
  */
 bool SpTableList::startClick(const QPoint &pos)
 {
-    if (m_isDragging || m_wasFlinging || !m_pressIndex.isValid() || m_pressIndex != indexAt(pos))
+    if (m_isDragging || m_wasFlinging || !isThere(m_pressIndex)
+        || m_pressIndex.index != indexAt(pos))
         return false;
     const int duration = int(m_releaseTime) - int(m_pressTime);
     if (duration <= kShortestTap
@@ -643,26 +656,27 @@ bool SpTableList::startFling(const QPoint &pos)
 void SpTableList::highlight(const QPoint &pos)
 {
     const QModelIndex index = indexAt(pos);
-    const bool isNew = index.isValid() && m_selectedIndex != index;
+    const bool isSelected = isThere(m_selectedIndex) && m_selectedIndex.index == index;
+    const bool isNew = index.isValid() && !isSelected;
     if (!isNew)
         showRowPressed(false, pos);
-    m_selectedIndex = isNew && isLeftOfTail() ? index : QModelIndex();
+    m_selectedIndex.set(isNew && isLeftOfTail() ? index : QModelIndex());
 }
 
 /**
  * The click that a release has started: itemClicked with the index, with the row, and in two styles
- * with the row and the part of it. A row that went away in between is not reported.
+ * with the row and the part of it. The index is that of the row as it is now, whatever has become
+ * of the model; a row that went away in between is not reported.
  */
 void SpTableList::reportClick()
 {
     const QPointer<SpTableList> guard(this);
     if (!m_highlightFlag)
         showRowPressed(false, m_lastPos);
-    const QModelIndex index = m_pressIndex;
-    const int row = index.row();
+    const int row = m_pressIndex.index.row();
     const int x = m_pressPos.x();
-    if (index.isValid()) {
-        emit itemClicked(index);
+    if (isThere(m_pressIndex)) {
+        emit itemClicked(model()->index(row, m_pressIndex.index.column(), rootIndex()));
         if (guard)
             emit itemClicked(row);
         if (guard)
@@ -694,22 +708,11 @@ void SpTableList::reportClickPosition(int row, int x)
     }
 }
 
-// A list that is out of sight has nothing to roll: it starts as soon as it is shown again.
 void SpTableList::startRolling()
 {
-    stopRolling();
-    m_rollsOnceShown = m_isHidden;
-    if (m_isHidden || !m_delegate)
-        return;
     start(m_rollTimer, kRollInterval);
-    m_delegate->setRollTimerId(m_rollTimer);
-    m_isRollingEverywhere = false;
-}
-
-void SpTableList::stopRolling()
-{
-    stop(m_rollTimer);
-    m_rollsOnceShown = false;
+    if (m_delegate)
+        m_delegate->setRollTimerId(m_rollTimer);
 }
 
 void SpTableList::restartRollingLater()
@@ -719,26 +722,15 @@ void SpTableList::restartRollingLater()
 }
 
 /**
- * One step of the rolling texts. The first repaint of all gives every long text in sight a record;
- * from then on only the rows that roll are repainted.
+ * One step of the rolling texts. All rows are repainted with them: pictures of other rows may reach
+ * into those that roll, and what the application has set meanwhile shows in all of them at once.
  */
 void SpTableList::rollTexts()
 {
     if (!m_delegate || !m_delegate->rollData())
         return;
     const QFontMetrics metrics(m_delegate->centerFont());
-    for (StringRollingData *record = m_delegate->rollData(); record; record = record->next) {
+    for (StringRollingData *record = m_delegate->rollData(); record; record = record->next)
         roll(*record, metrics);
-        if (m_isRollingEverywhere)
-            repaintRow(record->row);
-    }
-    if (!m_isRollingEverywhere)
-        viewport()->update();
-    m_isRollingEverywhere = true;
-}
-
-void SpTableList::repaintRow(int row)
-{
-    if (row >= 0 && row < verticalHeader()->count())
-        viewport()->update(0, rowViewportPosition(row), viewport()->width(), rowHeight(row));
+    viewport()->update();
 }

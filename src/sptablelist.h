@@ -2,9 +2,11 @@
 #define SPTABLELIST_H
 
 #include "panelkitglobal.h"
+#include "styledelegate.h"
 
+#include <QAbstractItemModel>
 #include <QColor>
-#include <QPersistentModelIndex>
+#include <QModelIndex>
 #include <QPixmap>
 #include <QPoint>
 #include <QPointer>
@@ -12,8 +14,6 @@
 #include <QTimer>
 
 #include <optional>
-
-class styleDelegate;
 
 /**
  * A list for fingers: it is dragged and flung, shows the touched row pressed, and reports clicks on
@@ -105,7 +105,7 @@ public:
 
     void setModel(QAbstractItemModel *model) override;
     void deleteSelectionModel();
-    unsigned int getCurrentTime() const;
+    unsigned int getCurrentTime();
 
 public slots:
     void listModelReset();
@@ -130,6 +130,15 @@ private slots:
     void speedTimerSlot();
 
 private:
+    // An index as it was: unlike a persistent one it stays at its row when the rows move.
+    struct PlainIndex {
+        void set(const QModelIndex &newIndex);
+
+        QModelIndex index;
+        QPointer<const QAbstractItemModel> model; // of the index, which cannot tell that it is gone
+    };
+
+    bool isThere(const PlainIndex &plain) const;
     bool rollsTexts() const;
     bool showsRowPressed() const;
     void showRowPressed(bool pressed, const QPoint &pos);
@@ -144,18 +153,16 @@ private:
     void reportClick();
     void reportClickPosition(int row, int x);
     void startRolling();
-    void stopRolling();
     void restartRollingLater();
     void rollTexts();
-    void repaintRow(int row);
 
     QPointer<styleDelegate> m_delegate;
     int m_itemHeight = 10; // px
     int m_itemWidth = 10; // px
     QPoint m_pressPos;
     QPoint m_lastPos;
-    QPersistentModelIndex m_pressIndex;
-    QPersistentModelIndex m_selectedIndex;
+    PlainIndex m_pressIndex;
+    PlainIndex m_selectedIndex;
     unsigned int m_pressTime = 0; // ms within the minute
     unsigned int m_releaseTime = 0; // ms within the minute
     QTimer m_speedTimer;
@@ -174,9 +181,6 @@ private:
     std::optional<int> m_scrollValue; // px, none before the first drag
 
     int m_rollTimer = 0; // 0 as soon as it is killed; the delegate may still hold its id then
-    bool m_isHidden = false; // it was shown and is not now
-    bool m_rollsOnceShown = false;
-    bool m_isRollingEverywhere = false; // every long text in sight has its record
 };
 
 #endif // SPTABLELIST_H

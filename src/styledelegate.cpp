@@ -292,7 +292,7 @@ int styleDelegate::rollDataCount() const
     return m_records->count();
 }
 
-StringRollingData *styleDelegate::getRollData(int row) const
+StringRollingData *styleDelegate::getRollData(int row)
 {
     return m_records->of(row, true);
 }

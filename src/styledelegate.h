@@ -86,7 +86,7 @@ public:
 
     StringRollingData *rollData() const; ///< The first record, or null.
     int rollDataCount() const; ///< Of all the records ever added.
-    StringRollingData *getRollData(int row) const; ///< The first record of this row, or null.
+    StringRollingData *getRollData(int row); ///< The first record of this row, or null.
     void addRollData(StringRollingData *record);
     StringRollingData *getAddRollData(StringRollingData *record);
     void clearRollData();

@@ -27,6 +27,7 @@ static_assert(std::is_same_v<decltype(&MArcList::setTextXOffset), void (MArcList
 static_assert(std::is_same_v<decltype(&MArcList::addAlpha), void (MArcList::*)(QChar)>);
 static_assert(std::is_same_v<decltype(&MArcList::setCurrentIndex), void (MArcList::*)(QChar)>);
 static_assert(std::is_same_v<decltype(&MArcList::moveList), void (MArcList::*)(QPoint)>);
+static_assert(std::is_same_v<decltype(&MArcList::getCurrentTime), int (MArcList::*)()>);
 static_assert(std::is_same_v<decltype(&MArcList::calcCurValue), void (MArcList::*)(QPoint, bool)>);
 static_assert(std::is_same_v<decltype(&MArcList::drawTicks), void (MArcList::*)(QPainter *)>);
 
@@ -449,6 +450,35 @@ private slots:
             list->setStartAngle(angle);
             COMPARE_PICTURES(painted(*list), reference(*list, [&](QPainter &p) {
                                  paintArc(p, *list, alphabet(), -1);
+                             }));
+        }
+    }
+
+    // What is kept of the last paint does not outlive what it depends on.
+    void everySettingOfTheArcShowsAtTheNextPaint()
+    {
+        const auto list = makeList(kArc, 20);
+        QString letters = alphabet(20);
+        const Action changes[] = {[](MArcList &l) { l.setRadius(300); },
+                                  [](MArcList &l) { l.setStartAngle(-30.5); },
+                                  [](MArcList &l) { l.setItemHight(11); },
+                                  [](MArcList &l) { l.setShowItem(2); },
+                                  [&](MArcList &l) {
+                                      l.addAlpha('x');
+                                      letters += 'x';
+                                      l.setShowItem(100);
+                                  },
+                                  [](MArcList &l) { l.resize(500, 300); },
+                                  [](MArcList &l) {
+                                      QFont font = l.font();
+                                      font.setPixelSize(30);
+                                      l.setFont(font);
+                                  }};
+        painted(*list);
+        for (const Action &change : changes) {
+            change(*list);
+            COMPARE_PICTURES(painted(*list), reference(*list, [&](QPainter &p) {
+                                 paintArc(p, *list, letters, -1);
                              }));
         }
     }
@@ -1022,6 +1052,35 @@ private slots:
         QCOMPARE(list->startAngle(), -98.0);
     }
 
+    // The list goes the last way first: what the finger hits is what lies there then.
+    void theReleaseHitsWhatLiesThereAfterItHasScrolled_data()
+    {
+        QTest::addColumn<MArcList::ARCLIST_STYLE>("style");
+        QTest::addColumn<QPoint>("press");
+        QTest::addColumn<QPoint>("release");
+        QTest::addColumn<QString>("clicked");
+        // 45 px turn the arc by 3 degrees; 40 px move the column by two rows.
+        QTest::newRow("arc") << kArc << onArc(10) - QPoint(0, 45) << onArc(10)
+                             << QStringLiteral("itemClicked('A')");
+        QTest::newRow("column") << kColumn << QPoint(280, 100) << QPoint(280, 60)
+                                << QStringLiteral("itemClicked('D')");
+    }
+
+    void theReleaseHitsWhatLiesThereAfterItHasScrolled()
+    {
+        QFETCH(MArcList::ARCLIST_STYLE, style);
+        QFETCH(QPoint, press);
+        QFETCH(QPoint, release);
+        QFETCH(QString, clicked);
+        const auto list = makeList(style);
+        touch(list.get()).press(press);
+        SignalLog log(list.get());
+        QMouseEvent event(QEvent::MouseButtonRelease, QPointF(release), Qt::LeftButton,
+                          Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(list.get(), &event);
+        QCOMPARE(log.take().last(), clicked);
+    }
+
     void aTapBringsTheListWithinItsBounds()
     {
         for (double start : {100.0, kInfinity, kNan}) {
@@ -1129,7 +1188,7 @@ private slots:
 
     void theClockIsThatOfTheMinute()
     {
-        const MArcList list;
+        MArcList list;
         QCOMPARE(list.getCurrentTime(), 0);
         virtualtime::advance(1234);
         QCOMPARE(list.getCurrentTime(), 1234);
@@ -1154,6 +1213,20 @@ private slots:
         }
         QCOMPARE(angles, (QVector<double>{15, 30, 45, 60, 60, 60}));
         QVERIFY(!isFlinging(*list));
+    }
+
+    void theTickAfterTheLastStepOfAFlingRepaintsNothing()
+    {
+        for (const auto style : {kArc, kColumn}) {
+            const auto list = makeList(style);
+            list->setStartAngle(style == kArc ? -100 : 10);
+            show(*list);
+            flick(*list, 50, 100); // one step
+            QCOMPARE(paints(*list, [] { virtualtime::advance(20); }), 1);
+            QVERIFY(isFlinging(*list));
+            QCOMPARE(paints(*list, [] { virtualtime::advance(20); }), 0);
+            QVERIFY(!isFlinging(*list));
+        }
     }
 
     void theTicksOfAFling_data()
@@ -1377,18 +1450,26 @@ private slots:
                 });
                 const QPoint p = style == kArc ? onArc(4) : QPoint(280, 20);
                 touch(list.get()).tap(p.x(), p.y());
-                painted(*list);
+                QCOMPARE(list->startAngle(), 0.0);
+                COMPARE_PICTURES(painted(*list), reference(*list, [](QPainter &) {}));
+                fill(*list);
+                COMPARE_PICTURES(painted(*list), reference(*list, [&](QPainter &painter) {
+                                     if (style == kArc)
+                                         paintArc(painter, *list, alphabet(), -1);
+                                     else
+                                         paintColumn(painter, *list, alphabet(), -1);
+                                 }));
             }
         }
     }
 
-    void hostileNumbersAreNoHarm()
+    // Whatever was set, painted and touched: afterwards the list is as any other.
+    void hostileNumbersLeaveNoTrace()
     {
         for (const auto style : {kArc, kColumn}) {
             for (double number : {kNan, kInfinity, -kInfinity, 1e300, -1e300, 1e9, -1e9, 0.0}) {
                 const auto list = makeList(style);
                 list->setPointPixmap(marker());
-                list->setCurrentIndex('C');
                 const Action setters[] = {[=](MArcList &l) { l.setRadius(number); },
                                           [=](MArcList &l) { l.setStartAngle(number); },
                                           [=](MArcList &l) { l.setItemHight(number); },
@@ -1400,25 +1481,62 @@ private slots:
                     for (int count : {INT_MIN, -1, 0, INT_MAX}) {
                         list->setShowItem(count);
                         list->setTextXOffset(count);
-                        QCOMPARE(painted(*list).size(), QSize(560, 400));
+                        painted(*list);
                         touch(list.get()).tap(470, 210).press(kFar, -kFar).moveTo(3, kFar);
                     }
                 }
+                list->setRadius(470);
+                list->setItemHight(style == kArc ? 8 : 40);
+                list->setPixXOffset(style == kArc ? 2.5 : 5);
+                list->setShowItem(style == kArc ? 15 : 10);
+                list->setTextXOffset(0);
+                list->setStartAngle(0);
+                compareTapped(*list);
             }
         }
     }
 
-    void aLongListIsNoHarm()
+    void aLongListIsTheDocumentedOne()
     {
         MArcList list;
         list.resize(560, 400);
-        for (int c = 0x4e00; c < 0x5e00; ++c)
+        QString letters;
+        for (int c = 0x4e00; c < 0x5e00; ++c) {
             list.addAlpha(QChar(c));
-        for (const auto style : {kArc, kColumn}) {
-            list.setAcrListStyle(style);
-            list.setShowItem(INT_MAX);
-            QCOMPARE(painted(list).size(), QSize(560, 400));
+            letters += QChar(c);
         }
+        QCOMPARE(letters.size(), 4096);
+        list.setStartAngle(-3000);
+        list.setShowItem(1000000);
+        COMPARE_PICTURES(painted(list),
+                         reference(list, [&](QPainter &p) { paintArc(p, list, letters, -1); }));
+        list.setAcrListStyle(kColumn);
+        list.setStartAngle(3000);
+        const QImage column = painted(list);
+        COMPARE_PICTURES(column,
+                         reference(list, [&](QPainter &p) { paintColumn(p, list, letters, -1); }));
+        list.setShowItem(INT_MAX);
+        COMPARE_PICTURES(painted(list), column);
+    }
+
+private:
+    // A tap of the second character shows in the whole picture.
+    static void compareTapped(MArcList &list)
+    {
+        const bool isArc = list.acrListStyle() == kArc;
+        const QPoint p = isArc ? onArc(12) : QPoint(280, 60);
+        SignalLog log(&list);
+        touch(&list).tap(p.x(), p.y());
+        QCOMPARE(log.take().last(), QStringLiteral("itemClicked('B')"));
+        COMPARE_PICTURES(painted(list), reference(list, [&](QPainter &painter) {
+                             if (isArc) {
+                                 paintArc(painter, list, alphabet(), -1);
+                                 paintArcMarker(painter, list, 1);
+                             } else {
+                                 paintColumn(painter, list, alphabet(), -1);
+                                 painter.drawPixmap(5, 40, marker());
+                             }
+                         }));
     }
 };
 

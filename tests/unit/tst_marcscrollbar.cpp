@@ -5,6 +5,8 @@
 #include "widgettest.h"
 
 #include <QMouseEvent>
+#include <QPaintDevice>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QScreen>
 
@@ -113,6 +115,56 @@ void paintBar(QPainter &p, const MArcScrollBar &bar)
                  (360 - 2 * bar.startAngle()) / (bar.maximum() - bar.minimum())
                      * (bar.value() - bar.minimum()));
 }
+
+// What the documented straight bar looks like.
+void paintStraightBar(QPainter &p, const MArcScrollBar &bar)
+{
+    const int range = bar.maximum() - bar.minimum();
+    const int pitch = range == 0 ? 0 : int(bar.height() - 100.0) / range;
+    for (int i = 0; bar.showTicks() && i <= range; ++i)
+        p.drawLine(QPointF(0, qreal(i * pitch + 50.0)),
+                   QPointF(qreal(bar.width()), qreal(i * pitch + 50.0)));
+    const double along = (bar.height() - 100.0) * (bar.value() - bar.minimum()) / range;
+    p.drawPixmap(0, int(along - bar.pointPixmap().height() / 2 + 50.0), bar.pointPixmap());
+}
+
+// Counts the lines that are drawn on it. It holds no pixels, so that nothing is left out as unseen.
+class LineCounter : public QPaintDevice
+{
+public:
+    int lines() const { return m_engine.lines; }
+    QPaintEngine *paintEngine() const override { return &m_engine; }
+
+protected:
+    int metric(PaintDeviceMetric metric) const override
+    {
+        switch (metric) {
+        case PdmDevicePixelRatio:
+            return 1;
+        case PdmDevicePixelRatioScaled:
+            return int(devicePixelRatioFScale());
+        default:
+            return 400; // px, mm, dots an inch or colours: nobody asks for more
+        }
+    }
+
+private:
+    class Engine : public QPaintEngine
+    {
+    public:
+        int lines = 0;
+
+        Engine() : QPaintEngine(AllFeatures) { }
+        bool begin(QPaintDevice *) override { return true; }
+        bool end() override { return true; }
+        void updateState(const QPaintEngineState &) override { }
+        void drawLines(const QLineF *, int count) override { lines += count; }
+        void drawPixmap(const QRectF &, const QPixmap &, const QRectF &) override { }
+        Type type() const override { return User; }
+    };
+
+    mutable Engine m_engine;
+};
 
 // Every signal of the slider in order.
 class Log
@@ -489,7 +541,85 @@ private slots:
                          }));
     }
 
-    void aHugeRangeIsARingThatTakesNoTime()
+    // The turns from tick to tick add up, rounding included, and ticks that lie on each other do so
+    // in their order.
+    void everyTickOfAWideRangeIsDrawn_data()
+    {
+        QTest::addColumn<int>("range");
+        QTest::addColumn<Action>("action");
+        const Action ring = [](auto &b) {
+            b.resize(60, 60);
+            b.setStartAngle(0);
+            b.setRadius(28);
+            b.setCenterPoint({30, 30});
+        };
+        const Action half = [](auto &b) {
+            b.resize(60, 60);
+            b.setStartAngle(-17.3);
+            b.setRadius(41.3);
+            b.setCenterPoint({qreal(-0.25), qreal(30.5)});
+        };
+        QTest::newRow("4,001 on a wide arc") << 4001 << Action([](auto &b) {
+            b.setRadius(2000);
+            b.setCenterPoint({-1890, 200});
+        });
+        QTest::newRow("20,000 in a ring") << 20000 << ring;
+        QTest::newRow("20,000, not all of them in sight") << 20000 << half;
+        QTest::newRow("20,000, few of them in sight") << 20000 << Action([](auto &b) {
+            b.setStartAngle(100);
+            b.setRadius(3000);
+            b.setCenterPoint({-2890, 200});
+        });
+        QTest::newRow("100,000 in a ring") << 100000 << ring;
+        QTest::newRow("100,000, not all of them in sight") << 100000 << half;
+    }
+
+    void everyTickOfAWideRangeIsDrawn()
+    {
+        QFETCH(int, range);
+        QFETCH(Action, action);
+        const auto bar = makeBar();
+        action(*bar);
+        bar->setMaximum(range);
+        COMPARE_PICTURES(painted(*bar), reference(*bar, [&](QPainter &p) { paintBar(p, *bar); }));
+    }
+
+    void thereAreAsManyTicksAsValuesUpTo100000_data()
+    {
+        QTest::addColumn<int>("minimum");
+        QTest::addColumn<int>("maximum");
+        QTest::addColumn<int>("fewest");
+        QTest::addColumn<int>("most");
+        QTest::newRow("one value") << 5 << 5 << 1 << 1;
+        QTest::newRow("4,001") << -1 << 4000 << 4002 << 4002;
+        QTest::newRow("100,000") << 0 << 100000 << 100001 << 100001;
+        QTest::newRow("100,001") << 0 << 100001 << 50000 << 100001;
+        QTest::newRow("all ints") << INT_MIN << INT_MAX << 50000 << 100001;
+    }
+
+    void thereAreAsManyTicksAsValuesUpTo100000()
+    {
+        QFETCH(int, minimum);
+        QFETCH(int, maximum);
+        QFETCH(int, fewest);
+        QFETCH(int, most);
+        const auto bar = makeBar();
+        bar->setRange(minimum, maximum);
+        for (const bool isStraight : {false, true}) {
+            LineCounter counter;
+            QPainter painter(&counter);
+            painter.setRenderHint(QPainter::Antialiasing);
+            if (isStraight)
+                bar->drawTicksVert(&painter);
+            else
+                bar->drawTicks(&painter);
+            painter.end();
+            QVERIFY2(counter.lines() >= fewest, qPrintable(QString::number(counter.lines())));
+            QVERIFY2(counter.lines() <= most, qPrintable(QString::number(counter.lines())));
+        }
+    }
+
+    void aHugeRangeIsAClosedRing()
     {
         const auto bar = makeBar();
         bar->setRange(INT_MIN, INT_MAX);
@@ -534,6 +664,12 @@ private slots:
             b.setPalette(palette);
             b.setRange(0, 301);
         });
+        row("translucent foreground of many ticks", [](auto &b) {
+            QPalette palette = b.palette();
+            palette.setColor(b.foregroundRole(), QColor(200, 0, 0, 1));
+            b.setPalette(palette);
+            b.setRange(0, 4300);
+        });
     }
 
     void theStraightBarIsTheDocumentedOne()
@@ -542,17 +678,8 @@ private slots:
         const auto bar = makeStraightBar();
         bar->setValue(33);
         action(*bar);
-        const int range = bar->maximum() - bar->minimum();
-        COMPARE_PICTURES(painted(*bar), reference(*bar, [&](QPainter &p) {
-                             const int pitch = int(bar->height() - 100.0) / range;
-                             for (int i = 0; bar->showTicks() && i <= range; ++i)
-                                 p.drawLine(QPointF(0, qreal(i * pitch + 50.0)),
-                                            QPointF(qreal(bar->width()), qreal(i * pitch + 50.0)));
-                             const double y =
-                                 (bar->height() - 100.0) * (bar->value() - bar->minimum()) / range
-                                 - bar->pointPixmap().height() / 2 + 50.0;
-                             p.drawPixmap(0, int(y), bar->pointPixmap());
-                         }));
+        COMPARE_PICTURES(painted(*bar),
+                         reference(*bar, [&](QPainter &p) { paintStraightBar(p, *bar); }));
     }
 
     void theStraightTicksKeepToThePainterOfTheCaller()
@@ -577,6 +704,54 @@ private slots:
                                      p.drawLine(QPointF(0, qreal(i * 15 + 50)),
                                                 QPointF(160, qreal(i * 15 + 50)));
                              }));
+        }
+    }
+
+    // Ticks without distance lie on each other and add up where one of them does not cover.
+    void straightTicksOnOneLineAreDrawnOneByOne()
+    {
+        const auto bar = makeStraightBar();
+        bar->setRange(0, 301);
+        for (int kind = 0; kind < 4; ++kind) {
+            const auto prepare = [kind](QPainter &p) {
+                p.setPen(Qt::red);
+                if (kind == 1)
+                    p.setOpacity(qreal(0.01));
+                if (kind == 2)
+                    p.setCompositionMode(QPainter::CompositionMode_Xor);
+                if (kind == 3)
+                    p.setPen(QPen(QBrush(Qt::red, Qt::DiagCrossPattern), 1));
+            };
+            COMPARE_PICTURES(reference(*bar,
+                                       [&](QPainter &p) {
+                                           prepare(p);
+                                           bar->drawTicksVert(&p);
+                                       }),
+                             reference(*bar, [&](QPainter &p) {
+                                 prepare(p);
+                                 for (int i = 0; i <= 301; ++i)
+                                     p.drawLine(QPointF(0, 50), QPointF(160, 50));
+                             }));
+        }
+    }
+
+    // Screens that draw on after it fill with the line colour; only the arc's ticks take it back.
+    void theStraightTicksLeaveTheirBrush()
+    {
+        const auto bar = makeStraightBar();
+        bar->setLineColor(QColor(1, 200, 3));
+        for (const bool isSmooth : {false, true}) {
+            QImage image(bar->size(), QImage::Format_ARGB32_Premultiplied);
+            QPainter painter(&image);
+            painter.setPen(Qt::red);
+            painter.setBrush(Qt::yellow);
+            painter.setRenderHint(QPainter::Antialiasing, isSmooth);
+            for (int paint = 0; paint < 3; ++paint)
+                bar->drawTicks(&painter);
+            QCOMPARE(painter.brush(), QBrush(Qt::yellow));
+            bar->drawTicksVert(&painter);
+            QCOMPARE(painter.brush(), QBrush(QColor(1, 200, 3)));
+            QCOMPARE(painter.pen(), QPen(Qt::red));
         }
     }
 
@@ -738,6 +913,36 @@ private slots:
         QCOMPARE(log.take(), QStringList{"released"});
     }
 
+    void aTouchBeyondTheEndReportsTheEnd()
+    {
+        for (const bool isStraight : {false, true}) {
+            const auto bar = isStraight ? makeStraightBar() : makeBar();
+            bar->setValue(60);
+            const QPoint beyond = isStraight ? QPoint(5, 390) : at(120);
+            const QPoint before = isStraight ? QPoint(5, 10) : at(60);
+            Log log(bar.get());
+            touch(bar.get()).press(beyond);
+            QCOMPARE(log.take(), (QStringList{"pressed", kAction, "changed(100)", "moved(100)"}));
+            QMouseEvent release(QEvent::MouseButtonRelease, QPointF(before), Qt::LeftButton,
+                                Qt::NoButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(bar.get(), &release);
+            QCOMPARE(log.take(), (QStringList{"changed(0)", "changed(0)", "released"}));
+        }
+    }
+
+    void aTouchThatMeansNoNumberIsIgnored()
+    {
+        const auto bar = makeBar();
+        bar->setValue(7);
+        bar->setStartAngle(std::numeric_limits<double>::infinity());
+        touch(bar.get()).tap(110, 201);
+        QCOMPARE(bar->value(), 7);
+        bar->setRadius(0);
+        bar->resize(20, 100);
+        touch(bar.get()).tap(5, 50);
+        QCOMPARE(bar->value(), 7);
+    }
+
     void aReleaseElsewhereReportsTheValueTwice()
     {
         const auto bar = makeBar();
@@ -884,7 +1089,8 @@ private slots:
         }
     }
 
-    void hostileNumbersAreNoHarm()
+    // Whatever was set, painted and touched: afterwards the bar is as any other.
+    void hostileNumbersLeaveNoTrace()
     {
         using Double = std::numeric_limits<double>;
         for (double number : {Double::quiet_NaN(), Double::infinity(), -Double::infinity(), 1e300,
@@ -903,21 +1109,34 @@ private slots:
                     for (int maximum : {0, 7, INT_MAX}) {
                         bar->setRange(maximum == INT_MAX ? INT_MIN : 0, maximum);
                         touch(bar.get()).tap(110, 201).tap(2000000000, -2000000000);
-                        QCOMPARE(painted(*bar).size(), QSize(160, 400));
+                        QVERIFY(bar->value() >= bar->minimum() && bar->value() <= maximum);
+                        painted(*bar);
                     }
                 }
             }
+            bar->setStartAngle(150); // an angle that is near infinity would be no change
+            bar->setStartAngle(162);
+            bar->setRotateAngle(90);
+            bar->setRadius(570);
+            bar->setCenterPoint({-460, 200});
+            bar->setRange(0, 100);
+            touch(bar.get()).tap(110, 201);
+            QCOMPARE(bar->value(), 50);
+            COMPARE_PICTURES(painted(*bar),
+                             reference(*bar, [&](QPainter &p) { paintBar(p, *bar); }));
         }
     }
 
-    void aStraightBarWithoutHeightIsNoHarm()
+    void aStraightBarWithoutHeightHasItsTicksAtTheTop()
     {
         const auto bar = makeStraightBar();
         bar->setPointPixmap(marker());
         for (int height : {1, 99, 100, 101}) {
             bar->resize(20, height);
             touch(bar.get()).tap(5, 50).tap(5, 70);
-            painted(*bar);
+            QCOMPARE(bar->value(), height < 100 ? 0 : 100);
+            COMPARE_PICTURES(painted(*bar),
+                             reference(*bar, [&](QPainter &p) { paintStraightBar(p, *bar); }));
         }
     }
 };

@@ -21,6 +21,8 @@ static_assert(std::is_same_v<decltype(&styleDelegate::setTailStrWidth),
                              void (styleDelegate::*)(const int &)>);
 static_assert(std::is_same_v<decltype(&styleDelegate::setItemPressed),
                              void (styleDelegate::*)(bool, QPoint)>);
+static_assert(std::is_same_v<decltype(&styleDelegate::getRollData),
+                             StringRollingData *(styleDelegate::*)(int)>);
 static_assert(std::is_same_v<decltype(&styleDelegate::getAddRollData),
                              StringRollingData *(styleDelegate::*)(StringRollingData *)>);
 
@@ -864,6 +866,25 @@ private slots:
         COMPARE_PICTURES(s.painted(), expected);
     }
 
+    // Whatever the model says of it and wherever the row is pressed.
+    void theSplitRowHasNoPressedHeaderIcon()
+    {
+        for (const bool hasTail : {false, true}) {
+            Subject s(allRoles(kHeaderIcon | (hasTail ? kTailIcon : 0)), SpTableList::LIST_STYLE_2);
+            s.giveBackgrounds();
+            s.delegate.setHeaderIconWidth(50);
+            s.set(HeaderPressed, true);
+            s.press(kRow.left() + 20 + 10);
+            COMPARE_PICTURES(s.painted(), onCanvas([&](QPainter &p) {
+                                 if (hasTail)
+                                     drawSplit(p, pictures().press, pictures().tail);
+                                 else
+                                     p.drawPixmap(kRow.topLeft(), pictures().press);
+                                 drawHeaderIcon(p, pictures().header);
+                             }));
+        }
+    }
+
     void theSplitRowWithoutNormalPictureHasNoTailIcon()
     {
         Subject s(allRoles(kTailIcon | kCentre), SpTableList::LIST_STYLE_2);
@@ -1045,7 +1066,79 @@ private slots:
                          }));
     }
 
+    // Neither mark nor press colours a text of this style: the pen is what stands before, and white
+    // behind the gray tail.
+    void twoLinesHaveColoursOfTheirOwn_data() { rowStates(); }
+
+    void twoLinesHaveColoursOfTheirOwn()
+    {
+        QFETCH(bool, marked);
+        QFETCH(bool, pressed);
+        QFETCH(bool, background);
+        QFETCH(bool, tail);
+        for (const bool hasSlash : {true, false}) {
+            const QString text = hasSlash ? QStringLiteral("Upper/Lower") : QStringLiteral("Upper");
+            Subject s(allRoles(kCentre | (tail ? kTailText : 0)), SpTableList::LIST_STYLE_5);
+            prepare(s, marked, pressed, background);
+            s.set(Centre, text);
+            COMPARE_PICTURES(
+                s.painted(), onCanvas([&](QPainter &p) {
+                    drawRowGround(p, background, pressed);
+                    if (tail) {
+                        p.setPen(Qt::darkGray);
+                        p.setFont(sized(20));
+                        p.drawText(QRect(kNoTail - 100, kRow.top(), 100, kRow.height()), kLine,
+                                   QStringLiteral("3:45"));
+                        p.setPen(Qt::white);
+                    }
+                    const QRect rect = centreRect(kNoHeader, tail ? kNoTail - 100 : kNoTail);
+                    p.setFont(sized(22));
+                    p.drawText(hasSlash ? lines(rect) : rect,
+                               hasSlash ? int(Qt::AlignLeft | Qt::AlignTop) : kLine,
+                               QStringLiteral("Upper"));
+                    if (!hasSlash)
+                        return;
+                    p.setPen(Qt::darkGray);
+                    p.setFont(sized(26));
+                    p.drawText(lines(rect), Qt::AlignLeft | Qt::AlignBottom,
+                               QStringLiteral("Lower"));
+                }));
+        }
+    }
+
     // --- LIST_STYLE_6 ---------------------------------------------------------------------------
+
+    // Only the tail is coloured, and with it what follows in its pen: the small part.
+    void threePartsHaveColoursOfTheirOwn_data() { rowStates(); }
+
+    void threePartsHaveColoursOfTheirOwn()
+    {
+        QFETCH(bool, marked);
+        QFETCH(bool, pressed);
+        QFETCH(bool, background);
+        QFETCH(bool, tail);
+        Subject s(allRoles(kCentre | (tail ? kTailText : 0)), SpTableList::LIST_STYLE_6);
+        prepare(s, marked, pressed, background);
+        s.set(Centre, QStringLiteral("small/gray/white"));
+        COMPARE_PICTURES(
+            s.painted(), onCanvas([&](QPainter &p) {
+                drawRowGround(p, background, pressed);
+                if (tail) {
+                    if (marked)
+                        p.setPen(QColor(250, 240, 10));
+                    else if (pressed)
+                        p.setPen(QColor(10, 240, 250));
+                    drawTailText(p);
+                }
+                const QRect rect = lines(centreRect(kNoHeader, tail ? kNoTail - 100 : kNoTail));
+                p.setFont(sized(22));
+                p.drawText(rect, Qt::AlignLeft | Qt::AlignTop, QStringLiteral("small"));
+                p.setPen(Qt::darkGray);
+                p.drawText(rect, Qt::AlignLeft | Qt::AlignBottom, QStringLiteral("gray"));
+                p.setPen(Qt::white);
+                p.drawText(rect, Qt::AlignLeft | Qt::AlignBottom, QStringLiteral("white"));
+            }));
+    }
 
     void threeParts_data()
     {
@@ -1100,27 +1193,6 @@ private slots:
             s.set(Centre, text);
             COMPARE_PICTURES(s.painted(), onCanvas(drawSeparator));
         }
-    }
-
-    void theColourOfTheTailStaysForTheSmallPart()
-    {
-        Subject s(allRoles(kCentre | kTailText), SpTableList::LIST_STYLE_6);
-        s.giveBackgrounds();
-        s.set(Centre, QStringLiteral("small/gray/white"));
-        s.set(Marked, true);
-        COMPARE_PICTURES(
-            s.painted(), onCanvas([](QPainter &p) {
-                p.drawPixmap(kRow.topLeft(), pictures().normal);
-                p.setPen(QColor(250, 240, 10));
-                drawTailText(p);
-                const QRect rect = lines(centreRect(kNoHeader, kNoTail - 100));
-                p.setFont(sized(22));
-                p.drawText(rect, Qt::AlignLeft | Qt::AlignTop, QStringLiteral("small"));
-                p.setPen(Qt::darkGray);
-                p.drawText(rect, Qt::AlignLeft | Qt::AlignBottom, QStringLiteral("gray"));
-                p.setPen(Qt::white);
-                p.drawText(rect, Qt::AlignLeft | Qt::AlignBottom, QStringLiteral("white"));
-            }));
     }
 
     // --- LIST_STYLE_3 ---------------------------------------------------------------------------
@@ -1186,19 +1258,25 @@ private slots:
     void theRollingTextIsShiftedAndNotClipped_data()
     {
         QTest::addColumn<bool>("marked");
+        QTest::addColumn<bool>("pressed");
         QTest::addColumn<int>("offset");
-        QTest::newRow("at its start") << false << 0;
-        QTest::newRow("shifted") << false << 9;
-        QTest::newRow("shifted and marked") << true << 30;
+        QTest::newRow("at its start") << false << false << 0;
+        QTest::newRow("shifted") << false << false << 9;
+        QTest::newRow("shifted and marked") << true << false << 30;
+        QTest::newRow("shifted and pressed") << false << true << 30;
+        QTest::newRow("shifted, marked and pressed") << true << true << 30;
     }
 
     void theRollingTextIsShiftedAndNotClipped()
     {
         QFETCH(bool, marked);
+        QFETCH(bool, pressed);
         QFETCH(int, offset);
         const std::unique_ptr<Subject> s(makeRolling());
         s->set(Content, kCentre | kTailIcon | kHeaderIcon);
         s->set(Marked, marked);
+        if (pressed)
+            s->press(200);
         auto *data = record(0, QStringLiteral("unused"));
         data->visibleText = QStringLiteral("rolling");
         data->offset = offset;
@@ -1215,6 +1293,8 @@ private slots:
                                  drawTailIcon(p, pictures().tail);
                                  if (marked)
                                      p.setPen(QColor(250, 240, 10));
+                                 else if (pressed)
+                                     p.setPen(QColor(10, 240, 250));
                                  p.setFont(sized(22));
                                  p.drawText(QRect(centre.left() - offset, kRow.top(),
                                                   metrics.horizontalAdvance(visible),
@@ -1239,15 +1319,16 @@ private slots:
         QCOMPARE(s->delegate.rollDataCount(), 2);
     }
 
-    void hostileRecordsAreNoHarm()
+    void aRecordShiftedOutOfSightShowsNothing()
     {
         const std::unique_ptr<Subject> s(makeRolling());
-        for (int offset : {INT_MIN, INT_MAX, -5}) {
+        for (int offset : {INT_MIN, -100000, 100000, INT_MAX}) {
             auto *data = record(0, QString());
+            data->visibleText = QStringLiteral("rolling");
             data->offset = offset;
             s->delegate.addRollData(data);
             s->delegate.addRollData(record(1));
-            s->painted();
+            COMPARE_PICTURES(s->painted(), onCanvas(drawSeparator));
             s->delegate.clearRollData();
         }
     }
@@ -1406,69 +1487,100 @@ private slots:
         QTest::newRow("number as text") << QVariant(QStringLiteral("-99999999999999999999"));
     }
 
+    // An answer of the wrong type is what a variant makes of it, which mostly is nothing.
     void hostileModels()
     {
         QFETCH(QVariant, value);
+        Roles converted;
+        for (int role : {HeaderIcon, PressedHeaderIcon, TailIcon, PressedTailIcon})
+            converted[role] = value.value<QPixmap>();
+        for (int role : {Number, Centre, Tail})
+            converted[role] = value.toString();
+        for (int role : {Marked, HeaderPressed, TailPressed})
+            converted[role] = value.toBool();
         for (int style = -1; style <= 7; ++style) {
-            for (bool hasFlags : {true, false}) {
+            for (const QVariant &content : {QVariant(0x0F1F1F), QVariant(0xF0F0F0), value}) {
                 HostileModel model;
                 model.answer = [&](int role) {
-                    return hasFlags && role == Content ? QVariant(0x0F1F1F) : value;
+                    return role == Content ? content : value;
                 };
+                converted[Content] = content.toInt();
+                Subject tame(converted, style);
                 Subject s({}, style);
-                s.delegate.setRollTimerId(1);
-                s.giveBackgrounds();
-                s.press(100);
-                for (int i = 0; i < 3; ++i)
-                    onCanvas([&](QPainter &p) { s.delegate.paint(&p, s.option, model.index(0)); });
+                for (Subject *subject : {&tame, &s}) {
+                    subject->delegate.setRollTimerId(1);
+                    subject->giveBackgrounds();
+                    subject->press(100);
+                }
+                for (int i = 0; i < 3; ++i) {
+                    COMPARE_PICTURES(onCanvas([&](QPainter &p) {
+                                         s.delegate.paint(&p, s.option, model.index(0));
+                                     }),
+                                     tame.painted());
+                }
             }
         }
     }
 
-    void hostileNumbersAreNoHarm()
+    // A number without bounds puts things where no row has ever been, as a large one does.
+    void hostileNumbersPutThingsOutOfSight()
     {
         for (int style = 0; style <= 6; ++style) {
-            for (int number : {INT_MIN, INT_MIN + 1, -1, 0, 1, INT_MAX - 1, INT_MAX}) {
-                Subject s(allRoles(-1), style);
-                s.set(Centre, QStringLiteral("one/two/three"));
-                s.delegate.setHeaderIconGain(number);
-                s.delegate.setHeaderIconWidth(number);
-                s.delegate.setCenterStrGain(number);
-                s.delegate.setTailIconGain(number);
-                s.delegate.setTailIconWidth(number);
-                s.delegate.setPixmapGain(number);
-                s.delegate.setTailStrWidth(number);
-                s.delegate.setRollTimerId(number);
-                s.press(number);
-                s.painted();
-                s.set(Content, kNumber | kCentre | kTailText);
-                s.giveBackgrounds();
-                s.painted();
+            for (const auto &[number, large] : {std::pair(INT_MIN, -100000),
+                                                {INT_MIN + 1, -100000},
+                                                {INT_MAX - 1, 100000},
+                                                {INT_MAX, 100000}}) {
+                Subject hostile(allRoles(-1), style);
+                setNumbers(hostile, number);
+                Subject far(allRoles(-1), style);
+                setNumbers(far, large);
+                COMPARE_PICTURES(hostile.painted(), far.painted());
+                for (Subject *s : {&hostile, &far}) {
+                    s->set(Content, kNumber | kCentre | kTailText);
+                    s->giveBackgrounds();
+                }
+                COMPARE_PICTURES(hostile.painted(), far.painted());
             }
         }
     }
 
-    void hostileRectanglesAreNoHarm_data()
+    void hostileRectanglesShowTheirBackgroundAndLeaveThePainter_data()
     {
         QTest::addColumn<QRect>("rect");
-        QTest::newRow("none") << QRect();
-        QTest::newRow("inverted") << QRect(QPoint(50, 50), QPoint(-50, -50));
-        QTest::newRow("everything") << QRect(QPoint(INT_MIN, INT_MIN), QPoint(INT_MAX, INT_MAX));
-        QTest::newRow("at the end") << QRect(QPoint(INT_MAX, INT_MAX), QPoint(INT_MAX, INT_MAX));
-        QTest::newRow("one pixel") << QRect(3, 3, 1, 1);
-        QTest::newRow("low") << QRect(3, 3, 300, 5);
+        QTest::addColumn<bool>("isInSight");
+        const QPoint start(INT_MIN, INT_MIN);
+        const QPoint end(INT_MAX, INT_MAX);
+        QTest::newRow("none") << QRect() << true;
+        QTest::newRow("inverted") << QRect(QPoint(50, 50), QPoint(-50, -50)) << true;
+        QTest::newRow("everything") << QRect(start, end) << false;
+        QTest::newRow("at the end") << QRect(end, end) << false;
+        QTest::newRow("one pixel") << QRect(3, 3, 1, 1) << true;
+        QTest::newRow("low") << QRect(3, 3, 300, 5) << true;
     }
 
-    void hostileRectanglesAreNoHarm()
+    void hostileRectanglesShowTheirBackgroundAndLeaveThePainter()
     {
         QFETCH(QRect, rect);
+        QFETCH(bool, isInSight);
         for (int style = 0; style <= 6; ++style) {
             Subject s(allRoles(-1), style);
             s.set(Centre, QStringLiteral("one/two/three"));
             s.giveBackgrounds();
             s.option.rect = rect;
             s.press(10);
-            s.painted();
+            onCanvas([&](QPainter &p) {
+                const QFont font = p.font();
+                s.paint(p);
+                QCOMPARE(p.pen(), QPen(kViewPen));
+                QCOMPARE(p.font(), font);
+                QVERIFY(p.transform().isIdentity());
+            });
+            s.set(Content, 0);
+            s.delegate.setItemPressed(false, QPoint());
+            COMPARE_PICTURES(s.painted(), onCanvas([&](QPainter &p) {
+                                 if (isInSight)
+                                     p.drawPixmap(rect.topLeft(), pictures().normal);
+                             }));
         }
     }
 
@@ -1484,6 +1596,54 @@ private slots:
         COMPARE_PICTURES(
             onCanvas([&](QPainter &p) { s.delegate.paint(&p, s.option, QModelIndex()); }),
             onCanvas(drawSeparator));
+    }
+
+private:
+    static void rowStates()
+    {
+        QTest::addColumn<bool>("marked");
+        QTest::addColumn<bool>("pressed");
+        QTest::addColumn<bool>("background");
+        QTest::addColumn<bool>("tail");
+        for (int bits = 0; bits < 16; ++bits) {
+            const auto has = [bits](int bit) {
+                return (bits >> bit & 1) != 0;
+            };
+            QTest::addRow("marked %d, pressed %d, background %d, tail %d", has(0), has(1), has(2),
+                          has(3))
+                << has(0) << has(1) << has(2) << has(3);
+        }
+    }
+
+    static void prepare(Subject &s, bool marked, bool pressed, bool background)
+    {
+        s.set(Marked, marked);
+        if (pressed)
+            s.press(200);
+        if (background)
+            s.giveBackgrounds();
+    }
+
+    static void drawRowGround(QPainter &p, bool background, bool pressed)
+    {
+        if (background)
+            p.drawPixmap(kRow.topLeft(), pressed ? pictures().press : pictures().normal);
+        else
+            drawSeparator(p);
+    }
+
+    static void setNumbers(Subject &s, int number)
+    {
+        s.set(Centre, QStringLiteral("one/two/three"));
+        s.delegate.setHeaderIconGain(number);
+        s.delegate.setHeaderIconWidth(number);
+        s.delegate.setCenterStrGain(number);
+        s.delegate.setTailIconGain(number);
+        s.delegate.setTailIconWidth(number);
+        s.delegate.setPixmapGain(number);
+        s.delegate.setTailStrWidth(number);
+        s.delegate.setRollTimerId(number);
+        s.press(number);
     }
 };
 
