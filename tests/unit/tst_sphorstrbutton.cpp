@@ -1026,28 +1026,43 @@ private slots:
     }
 
     // Numbers count as far as a widget can reach.
-    void hostileNumbersLookLikeTheFarthestPixel()
+    void hostileNumbersPutIconAndStringOutOfSight_data()
+    {
+        QTest::addColumn<int>("position");
+        QTest::addColumn<int>("number");
+        for (int position : {INT_MIN, 0, 1, 2, INT_MAX}) {
+            for (int number : {INT_MIN, -1, 0, 1, INT_MAX})
+                QTest::addRow("position %d, %d", position, number) << position << number;
+        }
+    }
+
+    void hostileNumbersPutIconAndStringOutOfSight()
     {
         constexpr int kFarthest = QWIDGETSIZE_MAX;
-        const auto bounded = [kFarthest](int number) {
-            return qBound(-kFarthest, number, kFarthest);
-        };
-        for (int position : {INT_MIN, 0, 1, 2, INT_MAX}) {
-            for (int extreme : {INT_MIN, -1, 0, 1, INT_MAX}) {
-                const auto lookOf = [&](int margin, int width, int height) {
-                    const auto button = makeButton();
-                    button->setStringPosition(SpHorStrButton::StrPosition(position));
-                    button->setTextLeftMargin(margin);
-                    button->setTextTopMargin(margin);
-                    button->setTextWidth(width);
-                    button->setTextHeight(height);
-                    return painted(*button);
-                };
-                const int width = extreme == INT_MIN ? INT_MAX : -extreme;
-                COMPARE_PICTURES(lookOf(extreme, width, extreme),
-                                 lookOf(bounded(extreme), bounded(width), bounded(extreme)));
-            }
-        }
+        QFETCH(int, position);
+        QFETCH(int, number);
+        const int width = number == INT_MIN ? INT_MAX : -number;
+        const auto button = makeButton();
+        button->setStringPosition(SpHorStrButton::StrPosition(position));
+        button->setTextLeftMargin(number);
+        button->setTextTopMargin(number);
+        button->setTextWidth(width);
+        button->setTextHeight(number);
+
+        const int left = width > 0 ? qMax(number, -kFarthest) : 0;
+        const int top = number > 0 ? qMin(number, kFarthest) : 0;
+        const bool isLeft = position == SpHorStrButton::StrLeft;
+        const bool isRight = position == SpHorStrButton::StrRight;
+        const bool isCentre = position == SpHorStrButton::StrCenter;
+        const QRect text(isRight || isCentre ? left : 50 + left, isLeft ? 0 : top,
+                         width > 0 ? qMin(width, kFarthest) : (isCentre ? 40 : 110),
+                         top > 0 ? top : (isCentre ? 30 : 81));
+        COMPARE_PICTURES(painted(*button), reference(*button, [&](QPainter &p) {
+                             p.drawPixmap(isRight ? 120 : 0, isCentre ? 0 : 25 + (isLeft ? top : 0),
+                                          picture(kNormal));
+                             p.setPen(Qt::white);
+                             p.drawText(text, isCentre ? 0x84 : isRight ? 0x82 : 0x81, kText);
+                         }));
     }
 
     void aButtonThatWasEmptyIsWholeAgain()
