@@ -827,6 +827,11 @@ private slots:
                              drawDimmed(p, QRect(35, 12, 20, 20), bitmap);
                              drawDimmed(p, QRect(35, 14, 16, 16), bitmap);
                          }));
+        button->setOnoffStatus(true);
+        COMPARE_PICTURES(painted(*button), reference(*button, [&](QPainter &p) {
+                             drawDimmed(p, QRect(35, 12, 20, 20), opaque);
+                             drawDimmed(p, QRect(38, 14, 16, 16), bitmap);
+                         }));
     }
 
     // --- Glide ----------------------------------------------------------------------------------

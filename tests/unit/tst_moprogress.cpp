@@ -284,7 +284,7 @@ private slots:
 
     void hostileNumbers()
     {
-        const int numbers[] = {INT_MIN, -100000, -1, 0, 1, 40000, INT_MAX};
+        const int numbers[] = {INT_MIN, -100000, -1, 0, 1, 120, 40000, INT_MAX};
         const auto ring = makeRing();
         for (const int radius : numbers) {
             for (const int height : numbers) {

@@ -332,9 +332,14 @@ private slots:
         button.setNormalImage(opaque);
         button.setIsDown(true);
         button.resize(101, 81);
-        COMPARE_PICTURES(painted(button), reference(button, [](QPainter &p) {
-                             p.fillRect(kImageRect, QColor(250, 100, 50, 154));
-                         }));
+        QImage shown(button.size(), QImage::Format_RGB32); // a ground that shines through
+        shown.fill(Qt::cyan);
+        QImage expected = shown;
+        button.render(&shown, QPoint(), QRegion(), QWidget::DrawChildren);
+        QImage half(40, 30, QImage::Format_ARGB32_Premultiplied);
+        half.fill(QColor(250, 100, 50, 154));
+        QPainter(&expected).drawImage(kImageRect.topLeft(), half);
+        COMPARE_PICTURES(shown, expected);
     }
 
     // --- Looks ----------------------------------------------------------------------------------
