@@ -39,7 +39,10 @@ void MHorSlider::setFont(const QFont &font)
     m_valueLabel->setFont(m_font);
 }
 
-/** The width in px for the value to the right of the groove; 0 by default. Stored only. */
+/**
+ * The width in px for the value to the right of the groove; 0 by default. A negative one takes that
+ * much off the groove's right end and leaves no room for the value. Stored only.
+ */
 void MHorSlider::setTextWidth(int width)
 {
     m_textWidth = width;
@@ -144,13 +147,13 @@ void MHorSlider::initWidget()
     if (m_sliderNormalImage.isNull() || m_pointNormalImage.isNull())
         return;
     const QSize groove = m_sliderNormalImage.size();
-    const int textWidth = std::max(0, boundedPixel(m_textWidth));
+    const int textWidth = boundedPixel(m_textWidth);
     const int height = std::max({groove.height(), m_pointNormalImage.height(), kLeastHeight});
     m_fillSource = QRect(0, 0, 0, groove.height());
-    setFixedSize(std::min(groove.width() + textWidth, QWIDGETSIZE_MAX), height);
+    setFixedSize(qBound(0, groove.width() + textWidth, QWIDGETSIZE_MAX), height);
     m_grooveRect = QRect(QPoint(0, height / 2 - groove.height() / 2), groove);
     m_fillTarget = m_grooveRect;
-    layOutLabels(QRect(groove.width() - 1, 0, textWidth, height));
+    layOutLabels(QRect(groove.width() - 1, 0, std::max(0, textWidth), height));
     setTouchPos(m_currentValue);
 }
 
@@ -188,7 +191,7 @@ void MHorSlider::setIsShowValue(bool isShown)
 }
 
 /** The middle of the knob, in the widget. */
-QPoint MHorSlider::getTouchPos() const
+QPoint MHorSlider::getTouchPos()
 {
     return m_knob->pos() + QPoint(m_pointNormalImage.width() / 2, m_pointNormalImage.height() / 2);
 }
@@ -205,6 +208,7 @@ void MHorSlider::paintEvent(QPaintEvent *)
     const QPixmap &fill = isDisabled ? m_sliderPressDisableImage : m_sliderPressImage;
     QPainter painter(this);
     painter.drawPixmap(m_grooveRect, isDisabled ? m_sliderNormalDisableImage : m_sliderNormalImage);
+    // To drawPixmap an empty part means the rest of the picture; here it means nothing.
     if (!fill.isNull() && !m_fillTarget.isEmpty())
         painter.drawPixmap(m_fillTarget, fill, m_fillSource);
 }

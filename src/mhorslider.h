@@ -79,7 +79,7 @@ public:
     void setTouchPos(int value);
     void setTouchPos(QPoint pos);
     void setIsShowValue(bool isShown);
-    QPoint getTouchPos() const;
+    QPoint getTouchPos();
     void emitValueChangedSgl();
 
 signals:

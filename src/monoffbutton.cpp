@@ -289,7 +289,7 @@ void MOnOffButton::timerEvent(QTimerEvent *e)
         endGlide();
 }
 
-void MOnOffButton::createRectPath(QPainterPath &path, QRectF rect, int radius) const
+void MOnOffButton::createRectPath(QPainterPath &path, QRectF rect, int radius)
 {
     const QPointF across(qreal(radius), 0);
     const QPointF down(0, qreal(radius));
@@ -304,7 +304,7 @@ void MOnOffButton::createRectPath(QPainterPath &path, QRectF rect, int radius) c
     path.quadTo(rect.topRight(), rect.topRight() - across);
 }
 
-void MOnOffButton::drawDisableImage(QRect target, QPixmap pixmap, QPainter &painter) const
+void MOnOffButton::drawDisableImage(QRect target, QPixmap pixmap, QPainter &painter)
 {
     Dimmed &dimmed = target == bkgRect() ? *m_dimmedBkg : *m_dimmedChunk;
     const QImage &image = dimmed.of(pixmap, target);
@@ -366,7 +366,7 @@ QRect MOnOffButton::restingChunkRect() const
     return chunk;
 }
 
-void MOnOffButton::drawPictures(QPainter &painter) const
+void MOnOffButton::drawPictures(QPainter &painter)
 {
     const QPixmap &bkg = m_onoffStatus ? m_normalBkgPix : m_pressBkgPix;
     if (m_btnDisable) {
@@ -402,7 +402,7 @@ void MOnOffButton::drawMovingChunk(QPainter &painter) const
     painter.drawPixmap(m_knobPos - chunk.width() / 2, chunk.top(), m_pressChunkPix);
 }
 
-void MOnOffButton::drawStyle0(QPainter &painter) const
+void MOnOffButton::drawStyle0(QPainter &painter)
 {
     const auto dark = [](const QColor &color) {
         return fraction(color, 2, 3);
@@ -426,8 +426,7 @@ void MOnOffButton::drawStyle0(QPainter &painter) const
 }
 
 // The part of the track from one column of pixels to another, both included.
-void MOnOffButton::drawSlimTrack(QPainter &painter, int left, int right,
-                                 const Surface &surface) const
+void MOnOffButton::drawSlimTrack(QPainter &painter, int left, int right, const Surface &surface)
 {
     const int sixth = height() / 6;
     QPainterPath path;
@@ -446,7 +445,7 @@ void MOnOffButton::drawRoundKnob(QPainter &painter, int left, const QColor &pen,
     painter.drawEllipse(left, 0, height(), height());
 }
 
-void MOnOffButton::drawStyle1(QPainter &painter) const
+void MOnOffButton::drawStyle1(QPainter &painter)
 {
     const QColor color = statusColor();
     Surface outer{color, fraction(color, 1, 1)};
@@ -479,7 +478,7 @@ int MOnOffButton::flatKnobLeft() const
     return toInt(third + ratio(double(gone), double(width() - height())) * width() / 2);
 }
 
-void MOnOffButton::drawPlate(QPainter &painter, const QRect &rect, const Surface &surface) const
+void MOnOffButton::drawPlate(QPainter &painter, const QRect &rect, const Surface &surface)
 {
     QPainterPath path;
     createRectPath(path, QRectF(rect), rect.height() / 2);

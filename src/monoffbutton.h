@@ -88,9 +88,9 @@ protected:
     void timerEvent(QTimerEvent *e) override;
 
     /// Adds a rectangle whose corners are rounded by quadratic curves.
-    void createRectPath(QPainterPath &path, QRectF rect, int radius) const;
+    void createRectPath(QPainterPath &path, QRectF rect, int radius);
     /// Draws a dimmed copy of the pixmap into the target.
-    void drawDisableImage(QRect target, QPixmap pixmap, QPainter &painter) const;
+    void drawDisableImage(QRect target, QPixmap pixmap, QPainter &painter);
 
 private:
     struct Dimmed;
@@ -106,15 +106,15 @@ private:
     bool hasPictures() const;
     QRect bkgRect() const;
     QRect restingChunkRect() const;
-    void drawPictures(QPainter &painter) const;
+    void drawPictures(QPainter &painter);
     void drawSplitBkg(QPainter &painter) const;
     void drawMovingChunk(QPainter &painter) const;
-    void drawStyle0(QPainter &painter) const;
-    void drawSlimTrack(QPainter &painter, int left, int right, const Surface &surface) const;
+    void drawStyle0(QPainter &painter);
+    void drawSlimTrack(QPainter &painter, int left, int right, const Surface &surface);
     void drawRoundKnob(QPainter &painter, int left, const QColor &pen, const QColor &brush) const;
-    void drawStyle1(QPainter &painter) const;
+    void drawStyle1(QPainter &painter);
     int flatKnobLeft() const;
-    void drawPlate(QPainter &painter, const QRect &rect, const Surface &surface) const;
+    void drawPlate(QPainter &painter, const QRect &rect, const Surface &surface);
 
     QColor m_onColor{255, 145, 20, 255};
     QColor m_offColor{155, 155, 155, 255};

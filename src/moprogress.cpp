@@ -101,12 +101,13 @@ void MOProgress::setInsideColor(QColor color)
     change(m_insideColor, color);
 }
 
-/** The size of the caption in px, 25 by default; sizes below 1 are ignored. Repaints on a change.
+/**
+ * The size of the caption in px, 25 by default. Below 1 the caption has the size of the
+ * application's font. Repaints on a change.
  */
 void MOProgress::setFontSize(int px)
 {
-    if (px >= 1)
-        change(m_fontSize, px);
+    change(m_fontSize, px);
 }
 
 /** The caption below the percentage, which has the widget's own font. Repaints. */
@@ -172,7 +173,7 @@ void MOProgress::layOut()
     const auto thickness = qreal(boundedPixel(m_arcHeight));
     QPainterPath inside;
     inside.addEllipse(square().adjusted(thickness, thickness, -thickness, -thickness));
-    QPainterPath disc;
+    QPainterPath disc; // a circle alone, without a line to it from the middle
     disc.arcMoveTo(square(), 0);
     disc.arcTo(square(), 0, 360);
     const int sweep = m_currentValue * 360 / -100; // whole degrees, clockwise

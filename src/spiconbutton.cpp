@@ -308,7 +308,7 @@ void SpIconButton::setStartTimer(bool start)
 }
 
 /** The opacity 0..1 that a veil of this alpha (0..255) leaves; 1 for an alpha out of range. */
-float SpIconButton::getAlphaOpacity(int alpha) const
+float SpIconButton::getAlphaOpacity(int alpha)
 {
     if (alpha < 0 || alpha > 255)
         return 1.0F;

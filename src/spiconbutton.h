@@ -141,7 +141,7 @@ public:
     bool isLock() const { return m_isLock; }
     void setIsLock(bool lock);
     void setStartTimer(bool start);
-    float getAlphaOpacity(int alpha) const;
+    float getAlphaOpacity(int alpha);
     void setFontSize(int px);
 
 signals:

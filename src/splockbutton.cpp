@@ -157,7 +157,8 @@ void SpLockButton::setFontSize(int px)
 
 /**
  * Makes `target` a copy of `source` whose alpha is multiplied by alpha / 255, within an area of the
- * size of the image rectangle, into which the source is scaled. A null source makes a null target.
+ * size of the image rectangle, into which the source is scaled. An opaque source fades as any other
+ * does. A null source makes a null target.
  */
 void SpLockButton::setPressImageAlpha(int alpha, const QPixmap &source, QPixmap &target)
 {

@@ -18,9 +18,9 @@ namespace
 constexpr int kMostStates = 20;
 constexpr qreal kDimmed = qreal(0.5); // opacity of a disabled button
 
-// An opacity effect composes all of its widget, on the screen or not. What is larger than several
-// screens (64 MiB) is shown as it is instead: a picture of a wrong size must not take the memory of
-// the whole device.
+// An opacity effect composes all of its widget, on the screen or not. What is far larger than any
+// picture (1 GiB) is shown as it is instead: a wrong size must not take the memory of the whole
+// device.
 class Dimming : public QGraphicsOpacityEffect
 {
 public:
@@ -29,9 +29,9 @@ public:
 protected:
     void draw(QPainter *painter) override
     {
-        constexpr qreal kLargest = qreal(4096) * qreal(4096); // px
+        constexpr double kLargest = 16384.0 * 16384.0; // px
         const QSizeF size = sourceBoundingRect().size();
-        if (size.width() * size.height() > kLargest)
+        if (double(size.width()) * double(size.height()) > kLargest)
             drawSource(painter);
         else
             QGraphicsOpacityEffect::draw(painter);

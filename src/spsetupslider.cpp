@@ -208,7 +208,7 @@ void SpSetupSlider::setTouchPos(QPoint pos)
 }
 
 /** The middle of the knob, in the widget. */
-QPoint SpSetupSlider::getTouchPos() const
+QPoint SpSetupSlider::getTouchPos()
 {
     return m_knob->pos() + QPoint(m_pointNormalImage.width() / 2, m_pointNormalImage.height() / 2);
 }
@@ -341,6 +341,7 @@ void SpSetupSlider::layOutLabels()
     m_valueLabel->setText(QString::number(m_currentValue));
 }
 
+// A child of a widget that is shown already stays hidden until it is shown itself.
 SpIconButton *SpSetupSlider::makeButton(const QPixmap &normal, const QPixmap &press,
                                         const QString &id, int y)
 {
@@ -378,6 +379,7 @@ void SpSetupSlider::drawTrack(QPainter &painter) const
 
 void SpSetupSlider::drawFill(QPainter &painter) const
 {
+    // To drawPixmap an empty part means the rest of the picture; here it means nothing.
     if (!m_sliderPressImage.isNull() && !m_fillTarget.isEmpty())
         painter.drawPixmap(m_fillTarget, m_sliderPressImage, m_fillSource);
 }

@@ -79,7 +79,7 @@ public:
     void initWidget();
     void setTouchPos(int value);
     void setTouchPos(QPoint pos);
-    QPoint getTouchPos() const;
+    QPoint getTouchPos();
     void emitValueChangedSgl();
     void setFontSize(int px);
 

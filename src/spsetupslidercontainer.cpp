@@ -8,7 +8,7 @@ namespace
 {
 
 constexpr int kSwipe = 120; // px; a release farther to a side than this changes the page
-constexpr int kMostSliders = 10000; // more than any page holds
+constexpr int kMostSliders = 1000000; // more than any page holds
 
 } // namespace
 
@@ -20,7 +20,7 @@ SpSetupSliderContainer::SpSetupSliderContainer(QWidget *parent) : QWidget(parent
 
 /**
  * How many sliders there are; 2 by default. If there are more or fewer points than that, both lists
- * start anew with zeros. Numbers above 10,000 are ignored; below 0 both lists are empty.
+ * start anew with zeros. Numbers above 1,000,000 are ignored; below 0 both lists are empty.
  */
 void SpSetupSliderContainer::setTotalNumber(int number)
 {

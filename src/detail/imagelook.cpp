@@ -14,7 +14,8 @@ namespace
 // A scaled copy is worth its memory up to this many pixels (16 MiB), several times a car's screen.
 constexpr qint64 kLargestScaledCopy = qint64(4096) * 1024;
 
-// The nearest-neighbour scaling of drawPixmap, done once: the same pixels, ready to be copied.
+// The nearest-neighbour scaling of drawPixmap, done once: the same pixels, ready to be copied. They
+// are the same in this composition mode alone, for which Qt has scaling of its own.
 QImage scaledImage(const QPixmap &pixmap, const QSize &area)
 {
     QImage image(area, QImage::Format_ARGB32_Premultiplied);
@@ -22,7 +23,6 @@ QImage scaledImage(const QPixmap &pixmap, const QSize &area)
         return image;
     image.fill(Qt::transparent);
     QPainter painter(&image);
-    painter.setCompositionMode(QPainter::CompositionMode_Source);
     painter.drawPixmap(QRect(QPoint(), area), pixmap);
     return image;
 }
@@ -78,10 +78,11 @@ template <typename Compose> const QImage &ImageLook::kept(const Key &key, Compos
     return m_image;
 }
 
+// A bitmap has the colour of the painter's pen and is not kept.
 void ImageLook::drawScaled(QPainter &painter, const QRect &target, const QPixmap &pixmap)
 {
     const QSize area = target.size();
-    const bool isWorthKeeping = area != pixmap.size() && !area.isEmpty()
+    const bool isWorthKeeping = area != pixmap.size() && !area.isEmpty() && !pixmap.isQBitmap()
         && qint64(area.width()) * area.height() <= kLargestScaledCopy && isOnPixels(painter);
     if (!isWorthKeeping) {
         painter.drawPixmap(target, pixmap);

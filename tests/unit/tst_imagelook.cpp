@@ -4,6 +4,7 @@
 
 #include <QBitmap>
 #include <QPainter>
+#include <QRandomGenerator>
 
 using namespace panelkit;
 
@@ -30,6 +31,17 @@ QImage canvas()
     QImage image(120, 100, QImage::Format_ARGB32_Premultiplied);
     image.fill(QColor(10, 60, 90));
     return image;
+}
+
+// Every pixel has a colour and an alpha of its own, so that none can be taken for its neighbour.
+QPixmap noise(const QSize &size, QRandomGenerator &random)
+{
+    QImage image(size, QImage::Format_ARGB32);
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x)
+            image.setPixel(x, y, random.generate());
+    }
+    return QPixmap::fromImage(image.convertToFormat(QImage::Format_ARGB32_Premultiplied));
 }
 
 using Paint = std::function<void(QPainter &)>;
@@ -185,6 +197,48 @@ private slots:
         };
         const QImage kept = clipped([&](QPainter &p) { look.drawScaled(p, target, picture); });
         COMPARE_PICTURES(kept, clipped([&](QPainter &p) { p.drawPixmap(target, picture); }));
+    }
+
+    void scaledLooksOfAnySizeAndPlaceHaveThePixelsOfDrawPixmap()
+    {
+        QRandomGenerator random(4711);
+        for (int i = 0; i < 300; ++i) {
+            const QPixmap picture = noise({random.bounded(1, 90), random.bounded(1, 90)}, random);
+            const QSize size(random.bounded(1, i % 10 == 0 ? 16384 : 300), random.bounded(1, 250));
+            const QRect target(QPoint(random.bounded(120) - random.bounded(size.width()),
+                                      random.bounded(100) - random.bounded(size.height())),
+                               size);
+            ImageLook look;
+            COMPARE_PICTURES(onCanvas([&](QPainter &p) { look.drawScaled(p, target, picture); }),
+                             onCanvas([&](QPainter &p) { p.drawPixmap(target, picture); }));
+        }
+    }
+
+    void theLargestCopyAndWhatIsTooLargeForOneLookAlike()
+    {
+        QRandomGenerator random(7);
+        const QPixmap picture = noise({300, 200}, random);
+        for (const QRect &target : {QRect(-900, -700, 2048, 2048), QRect(-900, -700, 2048, 2049)}) {
+            ImageLook look;
+            COMPARE_PICTURES(onCanvas([&](QPainter &p) { look.drawScaled(p, target, picture); }),
+                             onCanvas([&](QPainter &p) { p.drawPixmap(target, picture); }));
+            QCOMPARE(look.computations(), target.height() == 2048 ? 1 : 0);
+        }
+    }
+
+    void aScaledBitmapHasTheColourOfThePen()
+    {
+        QBitmap bitmap(16, 16);
+        bitmap.fill(Qt::color1);
+        const QRect target(5, 6, 41, 33);
+        ImageLook look;
+        for (const QColor &color : {QColor(Qt::red), QColor(Qt::yellow)}) {
+            COMPARE_PICTURES(onCanvas([&](QPainter &p) {
+                                 p.setPen(color);
+                                 look.drawScaled(p, target, bitmap);
+                             }),
+                             onCanvas([&](QPainter &p) { p.fillRect(target, color); }));
+        }
     }
 
     void aScaledLookIsScaledOnce()

@@ -6,6 +6,7 @@
 #include "virtualtime.h"
 #include "widgettest.h"
 
+#include <QButtonGroup>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
@@ -346,17 +347,37 @@ private slots:
                          }));
     }
 
-    void hostileCaptionRectanglesAreSurvived()
+    // A rectangle counts as far as a widget can reach; one that is not valid is the whole widget.
+    void hostileCaptionRectangles_data()
     {
+        constexpr int kFarthest = QWIDGETSIZE_MAX;
+        QTest::addColumn<QRect>("rect");
+        QTest::addColumn<QRect>("expected");
+        QTest::newRow("everywhere")
+            << QRect(QPoint(INT_MIN, INT_MIN), QPoint(INT_MAX, INT_MAX))
+            << QRect(QPoint(-kFarthest, -kFarthest), QPoint(kFarthest, kFarthest));
+        QTest::newRow("far right") << QRect(QPoint(0, 0), QPoint(INT_MAX, 79))
+                                   << QRect(QPoint(0, 0), QPoint(kFarthest, 79));
+        QTest::newRow("beyond everything")
+            << QRect(QPoint(INT_MAX, INT_MAX), QPoint(INT_MAX, INT_MAX))
+            << QRect(QPoint(kFarthest, kFarthest), QPoint(kFarthest, kFarthest));
+        QTest::newRow("inside out")
+            << QRect(QPoint(INT_MAX, INT_MAX), QPoint(INT_MIN, INT_MIN)) << QRect(0, 0, 100, 80);
+    }
+
+    void hostileCaptionRectangles()
+    {
+        QFETCH(QRect, rect);
+        QFETCH(QRect, expected);
         const auto button = makeButton();
         button->setDisplayText(kText);
-        for (const QRect &rect : {QRect(QPoint(INT_MIN, INT_MIN), QPoint(INT_MAX, INT_MAX)),
-                                  QRect(QPoint(INT_MAX, INT_MAX), QPoint(INT_MAX, INT_MAX)),
-                                  QRect(QPoint(INT_MAX, INT_MAX), QPoint(INT_MIN, INT_MIN))}) {
-            button->setdisplayTextRect(rect);
-            painted(*button);
-            QVERIFY(button->displayTextRect() == rect);
-        }
+        button->setdisplayTextRect(rect);
+        QVERIFY(button->displayTextRect() == rect);
+        COMPARE_PICTURES(painted(*button), reference(*button, [&](QPainter &p) {
+                             p.drawPixmap(kImageRect, picture(kNormal));
+                             p.setPen(kNormalText);
+                             p.drawText(expected, Qt::AlignCenter, kText);
+                         }));
     }
 
     void theCaptionFollowsTheFont()
@@ -442,6 +463,32 @@ private slots:
                          }));
         first->setParent(nullptr);
         second->setParent(nullptr);
+    }
+
+    void buttonsOfOneGroupExcludeEachOtherAcrossParents()
+    {
+        QWidget left;
+        QWidget right;
+        const auto first = makeButton(&left);
+        const auto second = makeButton(&right);
+        const auto third = makeButton(&right); // in no group
+        QButtonGroup group;
+        group.addButton(first.get());
+        group.addButton(second.get());
+        touch(first.get()).tap(10, 10);
+        QVERIFY(first->isChecked());
+        touch(second.get()).tap(10, 10);
+        QVERIFY(!first->isChecked());
+        QVERIFY(second->isChecked());
+        QCOMPARE(group.checkedButton(), second.get());
+        COMPARE_PICTURES(painted(*first), reference(*first, [](QPainter &p) {
+                             p.drawPixmap(kImageRect, picture(kNormal));
+                         }));
+        touch(third.get()).tap(10, 10);
+        QVERIFY(second->isChecked());
+        QVERIFY(third->isChecked());
+        for (const auto *button : {&first, &second, &third})
+            (*button)->setParent(nullptr);
     }
 
     void theWholeWidgetTakesTouches()

@@ -1,5 +1,6 @@
 #include <MHorSlider>
 
+#include "baseorder.h"
 #include "pictures.h"
 #include "signallog.h"
 #include "touch.h"
@@ -11,6 +12,12 @@
 
 #include <climits>
 #include <memory>
+#include <type_traits>
+
+// The accessors that are part of the interface exactly as they are written.
+static_assert(std::is_same_v<decltype(&MHorSlider::getTouchPos), QPoint (MHorSlider::*)()>);
+static_assert(std::is_same_v<decltype(&MHorSlider::setAlignment),
+                             void (MHorSlider::*)(const Qt::Alignment &)>);
 
 namespace
 {
@@ -69,6 +76,8 @@ QImage paintedItself(MHorSlider &slider)
 {
     QImage image(slider.size(), QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
+    if (image.isNull())
+        return image;
     slider.render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
     return image;
 }
@@ -219,6 +228,54 @@ private slots:
             QCOMPARE(valueOf(slider)->palette().brush(group, QPalette::Light),
                      QBrush(QColor(255, 255, 255, 0), Qt::SolidPattern));
         QCOMPARE(knobPicture(slider), pictures().knob.toImage());
+    }
+
+    void aNegativeTextWidthTakesItsWidthOffTheGroove_data()
+    {
+        QTest::addColumn<int>("textWidth");
+        QTest::addColumn<int>("width");
+        QTest::newRow("by one") << -1 << 199;
+        QTest::newRow("a part") << -60 << 140;
+        QTest::newRow("all but one") << -199 << 1;
+        QTest::newRow("all") << -200 << 0;
+        QTest::newRow("more than there is") << -201 << 0;
+        QTest::newRow("smallest") << INT_MIN << 0;
+    }
+
+    void aNegativeTextWidthTakesItsWidthOffTheGroove()
+    {
+        QFETCH(int, textWidth);
+        QFETCH(int, width);
+        MHorSlider slider;
+        slider.setTextWidth(textWidth);
+        givePictures(slider);
+        QCOMPARE(slider.getTextWidth(), textWidth);
+        QCOMPARE(slider.minimumSize(), QSize(width, 40));
+        QCOMPARE(slider.maximumSize(), QSize(width, 40));
+        QCOMPARE(valueOf(slider)->geometry(), QRect(199, 0, 0, 40));
+        QCOMPARE(knobOf(slider)->x(), 85); // as in the whole groove
+        COMPARE_PICTURES(paintedItself(slider),
+                         shown(slider, 0, 99, pictures().groove, pictures().fill));
+    }
+
+    void aFontIsAppliedAtOnceAndTheRestOfTheTextWithTheNextLayout()
+    {
+        const auto slider = makeSlider();
+        QFont font;
+        font.setPixelSize(27);
+        slider->setFont(font);
+        QCOMPARE(valueOf(*slider)->font().pixelSize(), 27);
+        slider->setTextWidth(90);
+        slider->setAlignment(Qt::AlignRight | Qt::AlignTop);
+        slider->setCurrentValue(2); // lays nothing out
+        QCOMPARE(slider->size(), QSize(260, 40));
+        QCOMPARE(valueOf(*slider)->geometry(), QRect(199, 0, 60, 40));
+        QCOMPARE(valueOf(*slider)->alignment(), Qt::Alignment());
+        slider->initWidget();
+        QCOMPARE(slider->size(), QSize(290, 40));
+        QCOMPARE(valueOf(*slider)->geometry(), QRect(199, 0, 90, 40));
+        QCOMPARE(valueOf(*slider)->alignment(), Qt::AlignRight | Qt::AlignTop);
+        QCOMPARE(valueOf(*slider)->font().pixelSize(), 27);
     }
 
     // --- Setters --------------------------------------------------------------------------------
@@ -542,6 +599,15 @@ private slots:
         QVERIFY(!finger.release().wasAccepted());
     }
 
+    void theBaseHandlerComesAfterTheSignals()
+    {
+        const auto slider = makeSlider();
+        BaseOrder order(slider.get());
+        touch(slider.get()).press(5, 20).moveTo(250, 20).release();
+        QCOMPARE(order.before, (QStringList{"valueChangeSig", "valueChangeSig", "saveDataSig"}));
+        QCOMPARE(order.after, QStringList());
+    }
+
     // --- Enabling -------------------------------------------------------------------------------
 
     void aDisabledSliderHasItsOwnLook()
@@ -572,6 +638,27 @@ private slots:
                          shown(*slider, 0, 99, pictures().groove, pictures().fill));
     }
 
+    // Qt itself keeps touches from a disabled widget; a handler that is called all the same works.
+    void theHandlersOfADisabledSliderSetTheValueAndAskForASound()
+    {
+        Handlers slider;
+        givePictures(slider);
+        slider.setPointDisableImage(pictures().knobDisabled);
+        slider.setEnabled(false);
+        SignalLog log(&slider);
+        QMouseEvent press(QEvent::MouseButtonPress, QPointF(5, 5), Qt::LeftButton, Qt::LeftButton,
+                          Qt::NoModifier);
+        slider.mousePressEvent(&press);
+        QCOMPARE(slider.currentValue(), -5);
+        QCOMPARE(knobPicture(slider), pictures().knobPressed.toImage());
+        QMouseEvent release(QEvent::MouseButtonRelease, QPointF(5, 5), Qt::LeftButton, Qt::NoButton,
+                            Qt::NoModifier);
+        slider.mouseReleaseEvent(&release);
+        QCOMPARE(knobPicture(slider), pictures().knob.toImage());
+        QCoreApplication::processEvents();
+        QCOMPARE(log.take(), (QStringList{changed(0, -5), saved(0, -5), QStringLiteral("beep")}));
+    }
+
     // --- Robustness -----------------------------------------------------------------------------
 
     void hostileNumbers()
@@ -585,7 +672,8 @@ private slots:
                 for (const int width : {minimum, maximum}) {
                     slider.setTextWidth(width);
                     givePictures(slider);
-                    QVERIFY(slider.width() >= 200);
+                    QCOMPARE(slider.width(),
+                             int(qBound(qint64(0), qint64(200) + width, qint64(QWIDGETSIZE_MAX))));
                     for (const int value : numbers) {
                         slider.setCurrentValue(value);
                         slider.setTouchPos(value);
@@ -603,7 +691,7 @@ private slots:
         SignalLog log(&slider);
         touch(&slider).press(5, 5).moveTo(5, -1).release();
         QCOMPARE(log.take(), (QStringList{changed(0, -5), saved(0, -5)}));
-        painted(slider);
+        COMPARE_PICTURES(paintedItself(slider), reference(slider, [](QPainter &) {}));
     }
 
     void noEventIsNoHarm()

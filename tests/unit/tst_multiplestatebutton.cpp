@@ -250,6 +250,16 @@ private slots:
         QCOMPARE(allPaints(*button, [&] { finger.release(); }), 1);
     }
 
+    void aReleaseWithoutAPressStepsOnToo()
+    {
+        const auto button = makeButton();
+        settle(*button);
+        SignalLog log(button.get());
+        QCOMPARE(allPaints(*button, [&] { touch(button.get()).release(); }), 1);
+        QCOMPARE(log.take(), clicked(17, 1));
+        COMPARE_PICTURES(composed(*button), shown(*button, kNormal[1]));
+    }
+
     void aReleaseAnywhereStepsOn()
     {
         const auto button = makeButton();

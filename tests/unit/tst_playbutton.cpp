@@ -150,6 +150,16 @@ private slots:
         QCOMPARE(log.take(), m_report + m_report); // and no request for a sound
     }
 
+    void aReleaseWithoutAPressIsReportedToo()
+    {
+        const auto button = makeButton();
+        settle(*button);
+        SignalLog log(button.get());
+        QCOMPARE(allPaints(*button, [&] { touch(button.get()).release(); }), 1);
+        QCOMPARE(log.take(), m_report);
+        COMPARE_PICTURES(composed(*button), shown(*button, normal()));
+    }
+
     void aTouchPaintsOnceForThePressAndOnceForTheRelease()
     {
         const auto button = makeButton();

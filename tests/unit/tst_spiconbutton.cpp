@@ -1,5 +1,6 @@
 #include <SpIconButton>
 
+#include "baseorder.h"
 #include "detail/imagelook.h"
 #include "parent.h"
 #include "pictures.h"
@@ -31,6 +32,8 @@ static_assert(
 static_assert(
     std::is_same_v<decltype(&SpIconButton::setPressImgPath), void (SpIconButton::*)(QString)>);
 static_assert(std::is_same_v<decltype(&SpIconButton::isBeep), bool (SpIconButton::*)()>);
+static_assert(
+    std::is_same_v<decltype(&SpIconButton::getAlphaOpacity), float (SpIconButton::*)(int)>);
 
 namespace
 {
@@ -67,11 +70,10 @@ Paint plain(const QColor &color)
 }
 
 // The documented composition of a veiled picture, step by step.
-Paint veiled(const QColor &color, int alpha)
+Paint veiled(const QPixmap &pixmap, const QRect &rect, int alpha)
 {
     return [=](QPainter &p) {
-        const QPixmap pixmap = picture(color);
-        const QRect veilRect(QPoint(0, 0), kImageRect.size());
+        const QRect veilRect(QPoint(0, 0), rect.size());
         QImage image = pixmap.toImage();
         QPainter inner(&image);
         inner.setCompositionMode(QPainter::CompositionMode_Source);
@@ -81,8 +83,13 @@ Paint veiled(const QColor &color, int alpha)
         inner.setCompositionMode(QPainter::CompositionMode_SourceAtop);
         inner.fillRect(veilRect, QColor(0, 0, 0, alpha));
         inner.end();
-        p.drawImage(kImageRect, image);
+        p.drawImage(rect, image);
     };
+}
+
+Paint veiled(const QColor &color, int alpha)
+{
+    return veiled(picture(color), kImageRect, alpha);
 }
 
 Paint nothing()
@@ -857,16 +864,16 @@ private slots:
         button->setParent(nullptr);
     }
 
-    void theParentHearsOfATouchAfterTheSignals()
+    void theBaseHandlerComesAfterTheSignals()
     {
-        Parent parent;
-        const auto button = makeButton(&parent);
-        SignalLog log(button.get());
-        QVector<int> heardByParent;
-        log.onLine([&](const QString &) { heardByParent += int(parent.events.size()); });
-        touch(button.get()).tap(10, 10);
-        QCOMPARE(heardByParent, (QVector<int>{0, 1, 1}));
-        button->setParent(nullptr);
+        const auto button = makeButton();
+        button->setSupportLongPress(true);
+        BaseOrder order(button.get());
+        touch(button.get()).tap(10, 10).press(10, 10).hold(1000).release();
+        QCOMPARE(order.before,
+                 (QStringList{"btnPressed", "btnClicked", "btnReleased", "btnPressed",
+                              "btnLongRelease", "btnReleased"}));
+        QCOMPARE(order.after, QStringList());
     }
 
     // --- Software disable -----------------------------------------------------------------------
@@ -1255,7 +1262,7 @@ private slots:
             delete parent;
     }
 
-    void hostilePicturesAreNoHarm_data()
+    void hostilePicturesAreShown_data()
     {
         QTest::addColumn<QPixmap>("image");
         QBitmap bitmap(16, 16);
@@ -1267,17 +1274,21 @@ private slots:
         QTest::newRow("20,000 high") << picture(kNormal, {4, 20000});
         QTest::newRow("one pixel") << picture(kNormal, {1, 1});
         QTest::newRow("bitmap") << QPixmap(bitmap);
-        QTest::newRow("opaque") << QPixmap::fromImage(QImage(30, 30, QImage::Format_RGB32));
+        QPixmap opaque(30, 30);
+        opaque.fill(Qt::red);
+        QTest::newRow("opaque") << opaque;
         QTest::newRow("high resolution") << dense;
     }
 
-    void hostilePicturesAreNoHarm()
+    void hostilePicturesAreShown()
     {
         QFETCH(QPixmap, image);
+        const QRect rect(QPoint((50 - image.width()) / 2, (50 - image.height()) / 2), image.size());
+        const QPixmap focus = picture(kFocus);
         SpIconButton button;
         button.setNormalImage(image);
         button.setPressImage(image);
-        button.setFocusPixmap(picture(kFocus));
+        button.setFocusPixmap(focus);
         button.setDisableImage(image);
         button.setMinimumSize(0, 0);
         button.resize(50, 50);
@@ -1289,52 +1300,88 @@ private slots:
                     button.setIsDown(bits & 1);
                     button.setFocus(bits & 2);
                     button.setDisableState(bits & 4);
-                    QCOMPARE(painted(button).size(), QSize(50, 50));
+                    const bool isVeiled =
+                        button.disableState() ? disable == 2 : mode == 0 && (bits & 3) != 0;
+                    const bool isFocusShown = mode == 1 && bits == 2;
+                    COMPARE_PICTURES(painted(button), reference(button, [&](QPainter &p) {
+                                         if (isVeiled)
+                                             veiled(image, rect, 154)(p);
+                                         else
+                                             p.drawPixmap(rect, isFocusShown ? focus : image);
+                                     }));
                 }
             }
         }
     }
 
-    void hostileCaptionsAreNoHarm()
+    // Numbers count as far as a widget can reach.
+    void hostileCaptionsAreShown_data()
     {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("long") << QString(100000, QLatin1Char('W'));
+        QTest::newRow("many lines") << QString(1000, QLatin1Char('\n'));
+        QTest::newRow("half a character") << QString(QChar(0xD800));
+        QTest::newRow("zero character") << QString(QChar(0));
+        QTest::newRow("controls") << QStringLiteral("\u202e\u2066\u200d");
+    }
+
+    void hostileCaptionsAreShown()
+    {
+        constexpr int kFarthest = QWIDGETSIZE_MAX;
+        QFETCH(QString, text);
         SpIconButton button;
         button.resize(50, 50);
-        for (const QString &text :
-             {QString(100000, QLatin1Char('W')), QString(1000, QLatin1Char('\n')),
-              QString(QChar(0xD800)), QString(QChar(0)), QStringLiteral("\u202e\u2066\u200d")}) {
-            button.setDisplayText(text);
-            for (int extreme : {INT_MIN, -1, 0, 1, INT_MAX}) {
-                button.setTextLeftMargin(extreme);
-                button.setTextTopMargin(extreme);
-                button.setTextWidth(extreme == INT_MIN ? INT_MAX : -extreme);
-                button.setTextHeight(extreme);
-                button.setTextAlign(Qt::Alignment(QFlag(extreme)));
-                QCOMPARE(painted(button).size(), QSize(50, 50));
-            }
+        button.setDisplayText(text);
+        for (int extreme : {INT_MIN, -1, 0, 1, INT_MAX}) {
+            const int width = extreme == INT_MIN ? INT_MAX : -extreme;
+            button.setTextLeftMargin(extreme);
+            button.setTextTopMargin(extreme);
+            button.setTextWidth(width);
+            button.setTextHeight(extreme);
+            button.setTextAlign(Qt::Alignment(QFlag(extreme)));
+            const auto bounded = [kFarthest](int number) {
+                return qBound(-kFarthest, number, kFarthest);
+            };
+            const QRect rect(width > 0 ? bounded(extreme) : 0, extreme > 0 ? bounded(extreme) : 0,
+                             width > 0 ? bounded(width) : 50, extreme > 0 ? bounded(extreme) : 50);
+            COMPARE_PICTURES(painted(button), reference(button, [&](QPainter &p) {
+                                 p.setPen(Qt::white);
+                                 p.drawText(rect, extreme, text);
+                             }));
         }
     }
 
-    void hugeFontsAreNoHarm()
+    void fontsOfAnySizeAreShown()
     {
         SpIconButton button;
         button.resize(50, 50);
         button.setDisplayText(QStringLiteral("W"));
         for (int px : {1, 1000, 100000, INT_MAX}) {
             button.setFontSize(px);
-            QCOMPARE(painted(button).size(), QSize(50, 50));
+            QCOMPARE(button.font().pixelSize(), px);
+            COMPARE_PICTURES(painted(button), reference(button, [&](QPainter &p) {
+                                 p.setPen(Qt::white);
+                                 p.drawText(button.rect(), Qt::AlignCenter, QStringLiteral("W"));
+                             }));
         }
     }
 
-    void anEmptyButtonIsNoHarm()
+    void aButtonThatWasEmptyIsWholeAgain()
     {
         const auto button = makeButton();
         button->setDisplayText(QStringLiteral("Radio"));
         button->setMinimumSize(0, 0);
-        for (const QSize &size : {QSize(0, 0), QSize(0, 50), QSize(1, 1)}) {
+        for (const QSize &size : {QSize(0, 0), QSize(0, 50), QSize(50, 0)}) {
             button->resize(size);
             show(*button);
-            button->repaint();
-            QCOMPARE(button->size(), size);
+            QCOMPARE(paints(*button, [&] { button->repaint(); }), 0);
+            button->resize(100, 80);
+            COMPARE_PICTURES(painted(*button), reference(*button, [&](QPainter &p) {
+                                 plain(kNormal)(p);
+                                 p.setPen(Qt::white);
+                                 p.drawText(button->rect(), Qt::AlignCenter,
+                                            QStringLiteral("Radio"));
+                             }));
         }
     }
 };

@@ -225,6 +225,25 @@ private slots:
         COMPARE_PICTURES(painted(*button), shown(*button, faded(picture(kNormal), 60, {40, 30})));
     }
 
+    void aNullNormalImageInAlphaModeLeavesThePressedOneUntilItIsMadeAnew()
+    {
+        SpLockButton button;
+        button.setNormalImage(picture(kNormal));
+        button.resize(101, 81);
+        button.setIsDown(true);
+        show(button);
+        const QPixmap made = faded(picture(kNormal), 154, {40, 30});
+        QCOMPARE(paints(button, [&] { button.setNormalImage(QPixmap()); }), 0);
+        QVERIFY(button.normalImage().isNull());
+        QCOMPARE(button.pressImage().toImage(), made.toImage());
+        COMPARE_PICTURES(painted(button), shown(button, made));
+        button.setImageAlpha(60);
+        QVERIFY(button.pressImage().isNull());
+        COMPARE_PICTURES(painted(button), reference(button, [](QPainter &) {}));
+        button.setIsDown(false);
+        COMPARE_PICTURES(painted(button), reference(button, [](QPainter &) {}));
+    }
+
     void eachFadeHasItsOwnAlpha()
     {
         SpLockButton button;
@@ -289,11 +308,38 @@ private slots:
         target = picture(kPress);
         button->setPressImageAlpha(90, target, target); // source and target may be one
         COMPARE_PICTURES(target.toImage(), faded(picture(kPress), 90, {40, 30}).toImage());
+    }
+
+    void anAlphaOutOfRangeLeavesNothing()
+    {
+        const auto button = makeButton();
         QBitmap bitmap(16, 16);
         bitmap.fill(Qt::color1);
-        for (int alpha : {INT_MIN, -1, 256, INT_MAX})
+        QImage nothing(16, 16, QImage::Format_ARGB32_Premultiplied);
+        nothing.fill(Qt::transparent);
+        for (int alpha : {INT_MIN, -1, 256, INT_MAX}) {
+            QPixmap target;
             button->setPressImageAlpha(alpha, bitmap, target);
-        QCOMPARE(target.size(), QSize(16, 16));
+            COMPARE_PICTURES(target.toImage(), nothing);
+        }
+    }
+
+    void anOpaquePictureFadesToo()
+    {
+        SpLockButton button;
+        QPixmap opaque(40, 30);
+        opaque.fill(QColor(250, 100, 50));
+        button.setNormalImage(opaque);
+        button.setIsDown(true);
+        button.resize(101, 81);
+        QImage shown(button.size(), QImage::Format_RGB32); // a ground that shines through
+        shown.fill(Qt::cyan);
+        QImage expected = shown;
+        button.render(&shown, QPoint(), QRegion(), QWidget::DrawChildren);
+        QImage half(40, 30, QImage::Format_ARGB32_Premultiplied);
+        half.fill(QColor(250, 100, 50, 154));
+        QPainter(&expected).drawImage(kImageRect.topLeft(), half);
+        COMPARE_PICTURES(shown, expected);
     }
 
     // --- Looks ----------------------------------------------------------------------------------

@@ -13,6 +13,7 @@
 #include <QPainter>
 #include <QPaintEvent>
 #include <QPointer>
+#include <QScreen>
 #include <QTemporaryDir>
 
 #include <climits>
@@ -1035,7 +1036,7 @@ private slots:
         COMPARE_PICTURES(settled(*button), reference(*button, only(normal(0))));
     }
 
-    void hostilePicturesAreNoHarm_data()
+    void hostilePicturesAreShown_data()
     {
         QTest::addColumn<QPixmap>("image");
         QBitmap bitmap(16, 16);
@@ -1047,23 +1048,34 @@ private slots:
         QTest::newRow("20,000 high") << picture(Qt::red, {4, 20000});
         QTest::newRow("one pixel") << picture(Qt::red, {1, 1});
         QTest::newRow("bitmap") << QPixmap(bitmap);
-        QTest::newRow("opaque") << QPixmap::fromImage(QImage(30, 30, QImage::Format_RGB32));
+        QPixmap opaque(30, 30);
+        opaque.fill(Qt::red);
+        QTest::newRow("opaque") << opaque;
         QTest::newRow("high resolution") << dense;
     }
 
-    void hostilePicturesAreNoHarm()
+    void hostilePicturesAreShown()
     {
         QFETCH(QPixmap, image);
+        const auto half = [](int spare) {
+            return (spare - (spare < 0 ? 1 : 0)) / 2;
+        };
         SpMultipleButton button;
-        button.setPixmapList({image, image}, {image, image});
-        button.setBackgroundImage(image);
+        button.setPixmapList({image, image}, {picture(Qt::blue), image});
+        button.setBackgroundImage(picture(Qt::yellow, {50, 50}));
         button.setMinimumSize(0, 0);
         button.resize(50, 50);
-        for (bool disabled : {false, true}) {
-            button.setDisableState(disabled);
-            touch(&button).press(10, 10);
-            QCOMPARE(settled(button).size(), QSize(50, 50));
-        }
+        const Paint expected = [&](QPainter &p) {
+            p.drawPixmap(0, 0, picture(Qt::yellow, {50, 50}));
+            p.setPen(button.palette().color(button.foregroundRole()));
+            p.drawPixmap(half(50 - image.width()), half(50 - image.height()), image);
+        };
+        COMPARE_PICTURES(settled(button), faded(button, 1, expected));
+        touch(&button).tap(10, 10).press(10, 10);
+        COMPARE_PICTURES(settled(button), faded(button, 1, expected));
+        button.setDisableState(true);
+        settled(button);
+        COMPARE_PICTURES(settled(button), faded(button, qreal(0.5), expected));
     }
 
     // What is composed for an effect is painted as a whole, all else only where it is seen.
@@ -1071,8 +1083,8 @@ private slots:
     {
         QTest::addColumn<QSize>("size");
         QTest::addColumn<QSize>("expected");
-        QTest::newRow("as large as may be") << QSize(16384, 1024) << QSize(16384, 1024);
-        QTest::newRow("larger") << QSize(16384, 1025) << QSize(50, 40);
+        QTest::newRow("larger than any screen") << QSize(4100, 4100) << QSize(4100, 4100);
+        QTest::newRow("larger than may be") << QSize(16384, 16385) << QSize(50, 40);
         QTest::newRow("huge") << QSize(60000, 60000) << QSize(50, 40);
     }
 
@@ -1091,15 +1103,50 @@ private slots:
         button.setParent(nullptr);
     }
 
-    void anEmptyButtonIsNoHarm()
+    void aLargeButtonIsDimmedAndAHugeOneIsNot_data()
     {
-        const auto button = makeButton();
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<qreal>("opacity");
+        QTest::newRow("larger than any screen") << QSize(4100, 4100) << qreal(0.5);
+        QTest::newRow("larger than may be") << QSize(16384, 16385) << qreal(1);
+        QTest::newRow("huge") << QSize(60000, 60000) << qreal(1);
+    }
+
+    void aLargeButtonIsDimmedAndAHugeOneIsNot()
+    {
+        QFETCH(QSize, size);
+        QFETCH(qreal, opacity);
+        const QPoint middle(size.width() / 2, size.height() / 2);
+        QWidget stage;
+        stage.resize(50, 40);
+        const auto button = makeButton(&stage);
         button->setDisableState(true);
-        for (const QSize &size : {QSize(0, 0), QSize(0, 50), QSize(1, 1)}) {
+        button->setGeometry(QRect(QPoint(25, 20) - middle, size)); // its middle is seen
+        show(stage);
+        virtualtime::advance(100);
+        QCOMPARE(opacityOf(*button), qreal(0.5));
+        QImage expected(stage.size(), QImage::Format_RGB32);
+        expected.fill(stage.palette().color(QPalette::Window));
+        QPainter painter(&expected);
+        painter.setOpacity(opacity);
+        painter.drawPixmap(5, 5, normal(0));
+        painter.end();
+        const QImage shown = stage.screen()->grabWindow(stage.winId()).toImage();
+        COMPARE_PICTURES(shown.convertToFormat(QImage::Format_RGB32), expected);
+        button->setParent(nullptr);
+    }
+
+    void aButtonThatWasEmptyIsWholeAgain()
+    {
+        for (const QSize &size : {QSize(0, 0), QSize(0, 50), QSize(50, 0)}) {
+            const auto button = makeButton();
+            button->setDisableState(true);
             button->resize(size);
             show(*button);
-            button->repaint();
-            QCOMPARE(button->size(), size);
+            QCOMPARE(paints(*button, [&] { button->repaint(); }), 0);
+            button->resize(101, 80);
+            settled(*button);
+            COMPARE_PICTURES(settled(*button), faded(*button, qreal(0.5), only(normal(0))));
         }
     }
 };

@@ -1,5 +1,6 @@
 #include <SpSetupSlider>
 
+#include "baseorder.h"
 #include "parent.h"
 #include "pictures.h"
 #include "signallog.h"
@@ -14,6 +15,12 @@
 
 #include <climits>
 #include <memory>
+#include <type_traits>
+
+// The accessors that are part of the interface exactly as they are written.
+static_assert(std::is_same_v<decltype(&SpSetupSlider::getTouchPos), QPoint (SpSetupSlider::*)()>);
+static_assert(
+    std::is_same_v<decltype(&SpSetupSlider::setHasAddDecBtn), void (SpSetupSlider::*)(int)>);
 
 namespace
 {
@@ -280,6 +287,20 @@ private slots:
                          }));
     }
 
+    void buttonsOfASliderThatIsOnTheScreenAreSeenAtOnce()
+    {
+        QWidget page;
+        SpSetupSlider slider(&page);
+        show(page);
+        slider.setHasAddDecBtn(1);
+        givePictures(slider);
+        slider.setAddBtnNormalImage(pictures().add);
+        slider.setDecBtnNormalImage(pictures().dec);
+        slider.setDecBtnPressImage(pictures().decPressed);
+        QVERIFY(buttonOf(slider, QStringLiteral("Add"))->isVisible());
+        QVERIFY(buttonOf(slider, QStringLiteral("Dec"))->isVisible());
+    }
+
     void aNewLayoutLeavesTheOldButtons()
     {
         const auto slider = makeSliderWithButtons();
@@ -404,6 +425,19 @@ private slots:
         slider->initWidget();
         QCOMPARE(topOf(*slider)->geometry(), QRect(0, 7, 50, 30));
         QCOMPARE(valueOf(*slider)->geometry(), QRect(0, 0, 50, 30));
+    }
+
+    void theFontIsAPropertyOfItsOwn()
+    {
+        const auto slider = makeSlider();
+        QFont font;
+        font.setPixelSize(17);
+        font.setBold(true);
+        QVERIFY(slider->setProperty("font", font));
+        QCOMPARE(slider->getFont(), font);
+        QCOMPARE(slider->property("font").value<QFont>(), font);
+        QCOMPARE(valueOf(*slider)->font().pixelSize(), 17);
+        QCOMPARE(static_cast<QWidget &>(*slider).font(), QWidget().font());
     }
 
     void theFontIsThatOfTheValue()
@@ -678,6 +712,16 @@ private slots:
                               QStringLiteral("release")}));
     }
 
+    void theBaseHandlerComesAfterTheSignals()
+    {
+        const auto slider = makeSlider();
+        BaseOrder order(slider.get());
+        touch(slider.get()).press(25, 31).moveTo(25, 229).release();
+        QCOMPARE(order.before,
+                 (QStringList{"valueChangeSig", "valueChangeSig", "saveDataSig", "sliderRelease"}));
+        QCOMPARE(order.after, QStringList());
+    }
+
     // --- Buttons --------------------------------------------------------------------------------
 
     // The touch of a button goes on to the slider, so that it ends like one of its own.
@@ -810,7 +854,7 @@ private slots:
             (QStringList{QStringLiteral("saveDataSig()"), QStringLiteral("sliderRelease(0, 0)")}));
         slider.setCurrentValue(3);
         QCOMPARE(slider.currentValue(), 3);
-        painted(slider);
+        COMPARE_PICTURES(paintedItself(slider), reference(slider, [](QPainter &) {}));
     }
 
     void noEventIsNoHarm()

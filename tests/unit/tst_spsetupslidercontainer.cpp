@@ -1,5 +1,6 @@
 #include <SpSetupSliderContainer>
 
+#include "baseorder.h"
 #include "signallog.h"
 #include "touch.h"
 #include "widgettest.h"
@@ -71,12 +72,15 @@ private slots:
     void numbersThatNoPageHas()
     {
         SpSetupSliderContainer page;
-        for (const int number : {INT_MAX, 10001}) {
+        for (const int number : {INT_MAX, 1000001}) {
             page.setTotalNumber(number);
             QCOMPARE(page.totalNumber(), 2);
+            QCOMPARE(page.getPointList().size(), 2);
         }
-        page.setTotalNumber(10000);
-        QCOMPARE(page.getPointList().size(), 10000);
+        page.setTotalNumber(1000000);
+        QCOMPARE(page.totalNumber(), 1000000);
+        QCOMPARE(page.getPointList().size(), 1000000);
+        QCOMPARE(page.getValueList().size(), 1000000);
         page.setTotalNumber(INT_MIN);
         QCOMPARE(page.totalNumber(), INT_MIN);
         QVERIFY(page.getValueList().isEmpty());
@@ -148,6 +152,16 @@ private slots:
         Touch finger = touch(&page);
         QVERIFY(!finger.press(5, 5).wasAccepted());
         QVERIFY(!finger.release().wasAccepted());
+    }
+
+    void theBaseHandlerComesAfterTheSignal()
+    {
+        SpSetupSliderContainer page;
+        BaseOrder order(&page);
+        touch(&page).press(300, 5).moveTo(5, 5).release();
+        touch(&page).press(5, 5).moveTo(300, 5).release();
+        QCOMPARE(order.before, (QStringList{"pageChanged", "pageChanged"}));
+        QCOMPARE(order.after, QStringList());
     }
 
     void noEventIsNoHarm()

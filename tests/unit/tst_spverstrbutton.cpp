@@ -752,7 +752,7 @@ private slots:
         delete parentGuard;
     }
 
-    void hostilePicturesAreNoHarm_data()
+    void hostilePicturesAreShown_data()
     {
         QTest::addColumn<QPixmap>("image");
         QBitmap bitmap(16, 16);
@@ -764,45 +764,87 @@ private slots:
         QTest::newRow("20,000 high") << picture(kNormal, {4, 20000});
         QTest::newRow("one pixel") << picture(kNormal, {1, 1});
         QTest::newRow("bitmap") << QPixmap(bitmap);
-        QTest::newRow("opaque") << QPixmap::fromImage(QImage(30, 30, QImage::Format_RGB32));
+        QPixmap opaque(30, 30);
+        opaque.fill(Qt::red);
+        QTest::newRow("opaque") << opaque;
         QTest::newRow("high resolution") << dense;
     }
 
-    void hostilePicturesAreNoHarm()
+    void hostilePicturesAreShown()
     {
         QFETCH(QPixmap, image);
+        const auto half = [](int spare) {
+            return (spare - (spare < 0 ? 1 : 0)) / 2;
+        };
+        const int x = half(50 - image.width());
+        const QPixmap focus = picture(kFocus);
         SpVerStrButton button;
+        button.setDisplayString({});
         button.setNormalPixmap(image);
         button.setPressPixmap(image);
-        button.setFocusPixmap(picture(kFocus));
+        button.setFocusPixmap(focus);
         button.setDisablePixmap(image);
         button.setMinimumSize(0, 0);
         button.resize(50, 50);
         for (int gap : {5, -5}) {
             button.setWidgetGain(gap);
+            const QRect rect(
+                QPoint(x, half(50 - image.height() - (gap >= 0 ? gap + button.stringHeight() : 0))),
+                image.size());
             for (int bits = 0; bits < 8; ++bits) {
                 button.setIsDown(bits & 1);
                 button.setFocus(bits & 2);
                 button.setDisable(bits & 4);
-                QCOMPARE(painted(button).size(), QSize(50, 50));
+                COMPARE_PICTURES(painted(button), reference(button, [&](QPainter &p) {
+                                     if (button.disable())
+                                         p.drawPixmap(x, 0, image);
+                                     else
+                                         p.drawPixmap(rect, bits == 2 ? focus : image);
+                                 }));
             }
         }
     }
 
-    void hostileNumbersAndStringsAreNoHarm()
+    void hostileStringsAreShown_data()
     {
-        SpVerStrButton button;
-        button.resize(50, 50);
-        for (const QString &text :
-             {QString(100000, QLatin1Char('W')), QString(1000, QLatin1Char('\n')),
-              QString(QChar(0xD800)), QString(QChar(0)), QString()}) {
-            button.setDisplayString(text);
-            for (int gap : {INT_MIN, -1, 0, 1, INT_MAX}) {
-                for (int height : {INT_MIN, -1, 0, 1, INT_MAX}) {
-                    button.setWidgetGain(gap);
-                    button.setStringHeight(height);
-                    QCOMPARE(painted(button).size(), QSize(50, 50));
-                }
+        QTest::addColumn<QString>("text");
+        QTest::newRow("long") << QString(100000, QLatin1Char('W'));
+        QTest::newRow("many lines") << QString(1000, QLatin1Char('\n'));
+        QTest::newRow("half a character") << QString(QChar(0xD800));
+        QTest::newRow("zero character") << QString(QChar(0));
+    }
+
+    void hostileStringsAreShown()
+    {
+        QFETCH(QString, text);
+        const auto button = makeButton();
+        button->setDisplayString(text);
+        COMPARE_PICTURES(painted(*button), reference(*button, [&](QPainter &p) {
+                             plain(kNormal)(p);
+                             drawText(p, Qt::black, kTextRect, text);
+                         }));
+    }
+
+    // Places count as far as a widget can reach.
+    void hostileNumbersPutIconAndStringOutOfSight()
+    {
+        constexpr int kFarthest = QWIDGETSIZE_MAX;
+        const auto bounded = [](qint64 number) {
+            return int(qBound(qint64(-kFarthest), number, qint64(kFarthest)));
+        };
+        for (int gap : {INT_MIN, -1, 0, 1, INT_MAX}) {
+            for (int height : {INT_MIN, -1, 0, 1, INT_MAX}) {
+                const auto button = makeButton();
+                button->setWidgetGain(gap);
+                button->setStringHeight(height);
+                const int block = gap < 0 ? 30 : bounded(qint64(30) + gap + height);
+                const int iconTop = (100 - block - (block > 100 ? 1 : 0)) / 2;
+                const int top = bounded((gap < 0 ? 0 : iconTop) + qint64(30) + gap);
+                const QRect text(0, top, 101, gap < 0 ? bounded(height) : 100 - top);
+                COMPARE_PICTURES(painted(*button), reference(*button, [&](QPainter &p) {
+                                     p.drawPixmap(30, iconTop, picture(kNormal));
+                                     drawText(p, Qt::black, text);
+                                 }));
             }
         }
     }
@@ -819,25 +861,31 @@ private slots:
                          }));
     }
 
-    void hugeFontsAreNoHarm()
+    void fontsOfAnySizeAreShown()
     {
-        SpVerStrButton button;
-        button.resize(50, 50);
-        for (int px : {1, 1000, 100000, INT_MAX}) {
-            button.setFontSize(px);
-            QCOMPARE(painted(button).size(), QSize(50, 50));
+        const auto button = makeButton();
+        for (int px : {1, 60, 1000, 100000, INT_MAX}) {
+            button->setFontSize(px);
+            COMPARE_PICTURES(painted(*button), reference(*button, [&](QPainter &p) {
+                                 plain(kNormal)(p);
+                                 drawText(p, Qt::black, kTextRect, kText, px);
+                             }));
         }
     }
 
-    void anEmptyButtonIsNoHarm()
+    void aButtonThatWasEmptyIsWholeAgain()
     {
         const auto button = makeButton();
         button->setMinimumSize(0, 0);
-        for (const QSize &size : {QSize(0, 0), QSize(0, 50), QSize(1, 1)}) {
+        for (const QSize &size : {QSize(0, 0), QSize(0, 50), QSize(50, 0)}) {
             button->resize(size);
             show(*button);
-            button->repaint();
-            QCOMPARE(button->size(), size);
+            QCOMPARE(paints(*button, [&] { button->repaint(); }), 0);
+            button->resize(101, 100);
+            COMPARE_PICTURES(painted(*button), reference(*button, [](QPainter &p) {
+                                 plain(kNormal)(p);
+                                 drawText(p, Qt::black, kTextRect);
+                             }));
         }
     }
 };
