@@ -1,5 +1,6 @@
 #include "detail/keptletters.h"
 
+#include "randomtexts.h"
 #include "widgettest.h"
 
 #include <QPainter>
@@ -85,6 +86,44 @@ private slots:
                 onCanvas(33, fontOf(20),
                          [&](QPainter &p) { p.drawText(kBox, kFlags, QString(QChar(code))); }));
         }
+    }
+
+    void randomLettersHaveThePixelsOfDrawText_data()
+    {
+        QTest::addColumn<int>("seed");
+        for (int seed = 1; seed <= 4; ++seed)
+            QTest::addRow("%d", seed) << seed;
+    }
+
+    // Any characters, and those of texts that are hard to lay out.
+    void randomLettersHaveThePixelsOfDrawText()
+    {
+        QFETCH(int, seed);
+        RandomTexts random{quint32(seed)};
+        KeptLetters letters;
+        for (int paint = 0; paint < 60; ++paint) {
+            RandomText t = random.next(8);
+            t.flags = Qt::AlignHCenter | (t.flags & ~Qt::AlignHorizontal_Mask);
+            const double angle = random.between(0, 3) ? random.between(0, 3600) / 10.0 : 0;
+            const QString all = t.text + QChar(random.between(0, 0xffff))
+                + QChar(random.between(0, 0x7ff)) + QStringLiteral("A(");
+            for (const QChar letter : all) {
+                t.text = letter;
+                const auto drawn = [&](const std::function<void(QPainter &)> &draws) {
+                    return onCanvas(angle, t.font, [&](QPainter &p) {
+                        t.prepare(p);
+                        draws(p);
+                    });
+                };
+                const QImage expected = settled(
+                    [&] { return drawn([&](QPainter &p) { p.drawText(kBox, t.flags, t.text); }); });
+                const QImage actual =
+                    drawn([&](QPainter &p) { draw(letters, p, kBox, t.flags, letter); });
+                QVERIFY2(isSamePicture(actual, expected, __FILE__, __LINE__),
+                         qPrintable(t.inWords()));
+            }
+        }
+        takeMessages(); // Qt misses tables for some scripts in some fonts, and says so
     }
 
     void boxesMayLieAnywhere()
