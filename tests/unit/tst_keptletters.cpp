@@ -171,6 +171,23 @@ private slots:
         check(underlined, QRect(-20, 0, 41, 44), Qt::AlignHCenter | Qt::AlignBottom);
         QCOMPARE(letters.layouts(), 5);
     }
+
+    void anotherDirectionTurnsABracketRound()
+    {
+        KeptLetters letters;
+        for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft, Qt::LeftToRight}) {
+            const auto directed = [&](const std::function<void(QPainter &)> &paint) {
+                return onCanvas(7, fontOf(20), [&](QPainter &p) {
+                    p.setLayoutDirection(direction);
+                    paint(p);
+                });
+            };
+            COMPARE_PICTURES(
+                directed([&](QPainter &p) { draw(letters, p, kBox, kFlags, QChar('(')); }),
+                directed([&](QPainter &p) { p.drawText(kBox, kFlags, QStringLiteral("(")); }));
+        }
+        QCOMPARE(letters.layouts(), 3);
+    }
 };
 
 WIDGET_TEST_MAIN(tst_KeptLetters)

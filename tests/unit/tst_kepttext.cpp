@@ -132,9 +132,9 @@ private slots:
         KeptText kept;
         for (int i = 0; i < 700; ++i) {
             const RandomText t = random.next(i % 2 ? 3 : 8);
-            const QRectF rect(qreal(random.between(-80, 80)) / 4,
-                              qreal(random.between(-80, 80)) / 4, random.between(0, 200),
-                              random.between(0, 60));
+            const QRectF rect(
+                QPointF(qreal(random.between(-80, 80)) / 4, qreal(random.between(-80, 80)) / 4),
+                QSize(random.between(0, 200), random.between(0, 60)));
             const QPointF offset(qreal(random.between(-9, 9)) / 4,
                                  qreal(random.between(-9, 9)) / 4);
             const auto drawn = [&](const std::function<void(QPainter &)> &paint) {

@@ -71,12 +71,13 @@ private slots:
         QFETCH(int, seed);
         RandomTexts random{quint32(seed)};
         KeptTexts texts;
-        QStringList known;
-        for (int i = 0; i < 900; ++i) {
-            RandomText t = random.next(5);
-            if (known.size() < 300)
-                known += t.text;
-            t.text = known[random.between(0, known.size() - 1)];
+        QVector<RandomText> known;
+        for (int i = 0; i < 200; ++i)
+            known += random.next(5);
+        for (int i = 0; i < 1500; ++i) {
+            RandomText t = known[random.between(0, known.size() - 1)];
+            t.direction = random.next(1).direction;
+            t.font = random.between(0, 1) ? t.font : known.first().font;
             const QRect rect(kRect.topLeft(), QSize(120 + random.between(0, 1), 30));
             const auto drawn = [&](const std::function<void(QPainter &)> &paint) {
                 return onCanvas([&](QPainter &p) {
