@@ -45,7 +45,7 @@ void MGifPlay::setGifImage(QString path)
     m_movie = movieFromFile(m_gifImage).release();
     if (m_gifSpeed != 100)
         m_movie->setSpeed(m_gifSpeed);
-    start();
+    m_movie->start();
     update();
     connect(m_movie, SIGNAL(frameChanged(int)), this, SLOT(update()));
 }
@@ -62,12 +62,12 @@ void MGifPlay::setGifSpeed(int percent)
 }
 
 /**
- * 0 while the animation plays, and without a file; 1 when it has been stopped, has come to its end
- * or cannot be read. An animation that rests because nobody can see it is playing.
+ * 0 while the animation plays, be it in sight or not, and without a file; 1 when it has been
+ * stopped, has come to its end or cannot be read.
  */
-int MGifPlay::getGifState() const
+int MGifPlay::getGifState()
 {
-    return m_movie && m_movie->state() == QMovie::NotRunning ? kStopped : kPlaying;
+    return m_movie && m_movie->state() != QMovie::Running ? kStopped : kPlaying;
 }
 
 /** 0 plays the animation, from its first frame if it was stopped; anything else stops it, and the
@@ -77,7 +77,7 @@ void MGifPlay::setGifState(int state)
     if (!m_movie)
         return;
     if (state == kPlaying)
-        start();
+        m_movie->start();
     else
         m_movie->stop();
 }
@@ -122,32 +122,6 @@ void MGifPlay::mouseReleaseEvent(QMouseEvent *e)
     emit btnClicked();
     if (!guard && e)
         e->accept(); // there is no way to the parent any more
-}
-
-/** An animation that rested goes on with the frame after the one at which it was hidden. */
-void MGifPlay::showEvent(QShowEvent *e)
-{
-    m_isResting = false;
-    if (m_movie && m_movie->state() == QMovie::Paused)
-        m_movie->setPaused(false);
-    QWidget::showEvent(e);
-}
-
-/** What nobody can see is not decoded. */
-void MGifPlay::hideEvent(QHideEvent *e)
-{
-    m_isResting = true;
-    if (m_movie)
-        m_movie->setPaused(true);
-    QWidget::hideEvent(e);
-}
-
-// A movie is paused when it would play but the widget is hidden, and never else.
-void MGifPlay::start()
-{
-    m_movie->start();
-    if (m_isResting)
-        m_movie->setPaused(true);
 }
 
 // One animation at a time: another one that went on unseen would cost as much as the one on the

@@ -35,7 +35,7 @@ public:
     int gifSpeed() const { return m_gifSpeed; }
     void setGifSpeed(int percent);
 
-    int getGifState() const;
+    int getGifState();
     void setGifState(int state);
 
 signals:
@@ -46,17 +46,13 @@ protected:
     void mousePressEvent(QMouseEvent *e) override;
     void mouseMoveEvent(QMouseEvent *e) override;
     void mouseReleaseEvent(QMouseEvent *e) override;
-    void showEvent(QShowEvent *e) override;
-    void hideEvent(QHideEvent *e) override;
 
 private:
-    void start();
     void discardMovie();
 
     QString m_gifImage;
     QMovie *m_movie = nullptr; // has no parent
     int m_gifSpeed = 100; // percent
-    bool m_isResting = false; // while hidden
 
     std::unique_ptr<panelkit::ImageLook> m_look;
     qint64 m_paintedFrame = 0; // QPixmap::cacheKey()

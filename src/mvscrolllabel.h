@@ -38,7 +38,7 @@ public:
     int scrollSpeed() const { return m_scrollSpeed; }
     void setScrollSpeed(const int &ms);
 
-    bool isScroll() const { return m_isScrolling; }
+    bool isScroll() { return m_isScrolling; }
     int getHeight();
 
 public slots:

@@ -12,8 +12,8 @@ using namespace panelkit;
 namespace
 {
 
-// A scaled copy is worth its memory up to this many pixels (32 MiB), which is the largest screen.
-constexpr qint64 kLargestCopy = qint64(4096) * 2048;
+// A label of more pixels than this is not given a scaled copy, which would take gigabytes.
+constexpr qint64 kLargestCopy = qint64(16384) * 16384;
 
 } // namespace
 
@@ -78,8 +78,8 @@ void SpLabel::mouseReleaseEvent(QMouseEvent *e)
 
 // The scaled copy takes the place of the picture, on purpose: only one of them is in memory, and
 // image() tells what is shown. The price is that a picture does not get its details back when a
-// label that was small becomes large again. In a label larger than any screen, of which only a part
-// can be seen, the picture stays as it is and is stretched in painting.
+// label that was small becomes large again. In a label that is too large for a copy the picture
+// stays as it is and is stretched in painting.
 bool SpLabel::fitImage()
 {
     if (m_cachedSize == size())

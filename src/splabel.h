@@ -30,7 +30,7 @@ public:
     QPixmap image() const { return m_image; }
     void setImage(const QPixmap &image);
 
-    int imageAlpha() const { return m_imageAlpha; }
+    int imageAlpha() { return m_imageAlpha; }
     void setImageAlpha(const int &alpha);
 
 protected:

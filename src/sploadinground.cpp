@@ -21,7 +21,6 @@ constexpr int kStep = 30; // degrees
 constexpr int kLeastAlpha = 120;
 constexpr int kRoundness = 25; // percent
 constexpr double kCircle = 6.28; // the circumference for a radius of 1
-constexpr int kStopped = -1;
 
 } // namespace
 
@@ -63,21 +62,21 @@ void SpLoadingRound::setDrawStyle(SpLoadingRound::DrawStyle style)
 
 /**
  * Turns the ring by a step every so many ms, on one of Qt's coarse timers, and forgets any interval
- * before. While the ring is hidden it rests, and goes on when it is shown again. A negative
- * interval stops it.
+ * before. It turns whether it is shown or not. A negative interval stops it.
  */
 void SpLoadingRound::setTimer(int ms)
 {
     stopTimer();
-    m_interval = std::max(ms, kStopped);
-    run();
+    if (ms >= 0)
+        m_timerId = startTimer(ms);
 }
 
 /** Stops turning; the ring stays at its step. */
 void SpLoadingRound::stopTimer()
 {
-    m_interval = kStopped;
-    run();
+    if (m_timerId != 0)
+        killTimer(m_timerId);
+    m_timerId = 0;
 }
 
 void SpLoadingRound::paintEvent(QPaintEvent *)
@@ -137,32 +136,6 @@ void SpLoadingRound::mouseReleaseEvent(QMouseEvent *e)
         emit clicked();
     if (!guard)
         e->accept();
-}
-
-void SpLoadingRound::showEvent(QShowEvent *e)
-{
-    m_isPaused = false;
-    run();
-    QWidget::showEvent(e);
-}
-
-void SpLoadingRound::hideEvent(QHideEvent *e)
-{
-    m_isPaused = true;
-    run();
-    QWidget::hideEvent(e);
-}
-
-// Has the timer running exactly when there is an interval and somebody could see a step.
-void SpLoadingRound::run()
-{
-    const bool isWanted = m_interval != kStopped && !m_isPaused;
-    if (m_timerId != 0 && !isWanted) {
-        killTimer(m_timerId);
-        m_timerId = 0;
-    } else if (m_timerId == 0 && isWanted) {
-        m_timerId = startTimer(m_interval);
-    }
 }
 
 // In GrayStyle the colour itself becomes that of the spoke, so that painterColor reads (231, 231,

@@ -54,11 +54,8 @@ protected:
     void mousePressEvent(QMouseEvent *e) override;
     void mouseMoveEvent(QMouseEvent *e) override;
     void mouseReleaseEvent(QMouseEvent *e) override;
-    void showEvent(QShowEvent *e) override;
-    void hideEvent(QHideEvent *e) override;
 
 private:
-    void run();
     void drawSpoke(QPainter &painter, int number);
 
     DrawStyle m_drawStyle = EllipseStyle;
@@ -68,8 +65,6 @@ private:
     bool m_holdMouseEvent = false;
     bool m_moved = false; // since the press
     int m_timerId = 0; // 0: stopped
-    int m_interval = -1; // ms; -1: stopped
-    bool m_isPaused = false; // while hidden
 };
 
 #endif // SPLOADINGROUND_H

@@ -28,7 +28,7 @@ constexpr int kSpareCharacters = 3; // beyond those that can be seen
 constexpr qreal kFadeIn = qreal(0.08); // of the diagonal
 constexpr qreal kFadeOut = qreal(0.92);
 constexpr qreal kShadowBlur = qreal(0.5); // px
-constexpr double kFarthestShadow = 256; // px; farther away it belongs to nothing
+constexpr qreal kFarthestShadow = 16384; // px, either way
 
 // No panel shows so many characters. The first ones of a longer text tell that it is too wide.
 constexpr int kMostInSight = 4096;
@@ -38,11 +38,10 @@ constexpr int kPrefixesTried = 512;
 
 const QLatin1String kEllipsis("...");
 
-// An effect works on a picture that has room for the shadow, wherever it falls.
-qreal nearby(qreal distance)
+// An effect works on a picture that reaches from the text to its shadow. There is none without end.
+bool isInReach(const QPointF &offset)
 {
-    return qreal(
-        std::isnan(distance) ? 0 : std::clamp(double(distance), -kFarthestShadow, kFarthestShadow));
+    return std::abs(offset.x()) <= kFarthestShadow && std::abs(offset.y()) <= kFarthestShadow;
 }
 
 } // namespace
@@ -155,19 +154,20 @@ void SpRollingText::setWaitRoll(int ms)
 {
     m_waitTicks = ms > 0 ? ms / kRollInterval : 0;
     m_waitCounter = 0;
-    resumeRolling();
 }
 
 /**
  * Lays the shadow under the text, as a graphics effect in the place of any other, if it is on.
  * Repaints. An effect that is there stays when the shadow is switched off; this is meant:
- * setGraphicsEffect(nullptr) removes it.
+ * setGraphicsEffect(nullptr) removes it. A shadow that falls out of reach is not seen: its effect
+ * is there, but it is not enabled.
  */
 void SpRollingText::effectDropShadow()
 {
     if (m_dropShadow) {
         auto *shadow = new QGraphicsDropShadowEffect(this);
-        shadow->setOffset(nearby(m_shadowOffset.x()), nearby(m_shadowOffset.y()));
+        shadow->setOffset(m_shadowOffset);
+        shadow->setEnabled(isInReach(m_shadowOffset));
         shadow->setColor(m_shadowColor);
         shadow->setBlurRadius(kShadowBlur);
         setGraphicsEffect(shadow);
@@ -193,29 +193,13 @@ void SpRollingText::mouseReleaseEvent(QMouseEvent *e)
         QWidget::mouseReleaseEvent(e);
 }
 
-void SpRollingText::showEvent(QShowEvent *e)
-{
-    QWidget::showEvent(e);
-    resumeRolling();
-}
-
-/** A hidden text does not move, so that its timer rests, unless it has a wait to count down. */
-void SpRollingText::hideEvent(QHideEvent *e)
-{
-    QWidget::hideEvent(e);
-    if (!isWaiting())
-        m_rollTimer->stop();
-}
-
 /** A tick counts down the wait; after that it repaints, and the paint moves the text. */
 void SpRollingText::updateIndex()
 {
     if (isWaiting())
         ++m_waitCounter;
-    else if (isVisible())
-        update();
     else
-        m_rollTimer->stop();
+        update();
 }
 
 /**
@@ -263,24 +247,17 @@ QString SpRollingText::shortened() const
 }
 
 // The text displayed is a few characters longer than what is seen of it, so that its end shows no
-// hole while it moves.
+// hole while it moves. The dot counts as a text, with the space that the font puts after letters.
 void SpRollingText::startRolling()
 {
     const QFontMetrics metrics(font());
-    const int dots = quotient(width(), metrics.horizontalAdvance(QLatin1Char('.')));
+    const int dots = quotient(width(), metrics.horizontalAdvance(QStringLiteral(".")));
     const int count = std::max(0, dots) + kSpareCharacters; // a font may space letters backwards
     m_displayText = m_rollSource.left(count);
     m_nextIndex = count;
     m_firstWidth = metrics.horizontalAdvance(m_displayText.at(0));
     m_isRolling = true;
     m_rollTimer->start();
-}
-
-// The timer of a hidden text may have come to rest.
-void SpRollingText::resumeRolling()
-{
-    if (m_isRolling && !m_rollTimer->isActive())
-        m_rollTimer->start();
 }
 
 void SpRollingText::drawResting(QPainter &painter)

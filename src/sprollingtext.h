@@ -70,8 +70,6 @@ signals:
 protected:
     void paintEvent(QPaintEvent *e) override;
     void mouseReleaseEvent(QMouseEvent *e) override;
-    void showEvent(QShowEvent *e) override;
-    void hideEvent(QHideEvent *e) override;
 
 private slots:
     void updateIndex();
@@ -82,7 +80,6 @@ private:
     bool isTooWide(const QString &text) const;
     QString shortened() const;
     void startRolling();
-    void resumeRolling();
     void drawResting(QPainter &painter);
     void drawRolling(QPainter &painter);
     int displayWidth();

@@ -7,6 +7,7 @@
 #include <QRect>
 #include <QString>
 #include <QTextLayout>
+#include <QTextOption>
 
 namespace panelkit
 {
@@ -41,12 +42,14 @@ QPointF cutToTextGrid(const QPointF &point)
 
 bool KeptLetters::Setting::operator==(const Setting &other) const
 {
-    return box == other.box && flags == other.flags && dpi == other.dpi && font == other.font;
+    return box == other.box && flags == other.flags && dpi == other.dpi
+        && direction == other.direction && font == other.font;
 }
 
 void KeptLetters::set(const QPainter &painter, const QSize &box, int flags)
 {
-    const Setting setting{painter.font(), painter.device()->logicalDpiY(), box, flags};
+    const Setting setting{painter.font(), painter.device()->logicalDpiY(),
+                          painter.layoutDirection(), box, flags};
     if (setting == m_setting)
         return;
     m_setting = setting;
@@ -80,7 +83,10 @@ KeptLetters::Letter KeptLetters::laidOut(QPainter &painter, QChar letter) const
     if (!standsAlone(letter) || isDecorated(m_setting.font) || !box.contains(bounds))
         return {};
 
+    QTextOption option;
+    option.setTextDirection(m_setting.direction); // a bracket is turned round from right to left
     QTextLayout layout(letter, m_setting.font, painter.device());
+    layout.setTextOption(option);
     layout.beginLayout();
     QTextLine line = layout.createLine();
     line.setLineWidth(kEndless);

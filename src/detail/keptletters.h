@@ -15,8 +15,8 @@ namespace panelkit
 
 /// Single characters that are laid out once and then drawn under any transform: the very pixels of
 /// QPainter::drawText(box, flags, letter) for about a sixth of the cost. All letters of a paint
-/// share one font, one size of box and one alignment, which has to include Qt::AlignHCenter; when
-/// one of these changes, the layouts start anew.
+/// share one font, one direction, one size of box and one alignment, which has to include
+/// Qt::AlignHCenter; when one of these changes, the layouts start anew.
 class KeptLetters
 {
 public:
@@ -40,6 +40,7 @@ private:
     struct Setting {
         QFont font;
         int dpi = 0;
+        Qt::LayoutDirection direction = Qt::LeftToRight;
         QSize box; // px
         int flags = 0;
 

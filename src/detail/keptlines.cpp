@@ -33,6 +33,29 @@ bool isPlain(QChar c)
     return c.category() != QChar::Other_Control && c.category() != QChar::Separator_Paragraph;
 }
 
+// Becomes a part of what stands before it, be it a space.
+bool joinsSpaces(QChar c)
+{
+    return c.isMark() || c.isSurrogate() || c.category() == QChar::Other_Format;
+}
+
+// Whether a line other than the last ends in a space and more. From right to left such a line
+// stands aside by the width of all of that but its first character, which no layout tells.
+bool endsInSpaces(const QString &text)
+{
+    bool hasSpace = false;
+    int length = 0; // of what the line ends in so far
+    for (const QChar c : text) {
+        if (c == QChar::LineSeparator && hasSpace && length > 1)
+            return true;
+        const bool isSpace = c.isSpace() && c != QChar::LineSeparator;
+        const bool goesOn = isSpace || joinsSpaces(c);
+        hasSpace = goesOn && (hasSpace || isSpace);
+        length = goesOn ? length + 1 : 0;
+    }
+    return false;
+}
+
 // A line under, through or over the text is placed anew by every drawing function.
 bool isDecorated(const QFont &font)
 {
@@ -59,7 +82,7 @@ void KeptLines::draw(QPainter &painter, const QRect &rect, int flags, const QStr
         painter.drawText(rect, flags, text);
     } else if (m_isClipped) {
         painter.save();
-        painter.setClipRect(rect, Qt::IntersectClip);
+        painter.setClipRect(QRectF(rect), Qt::IntersectClip);
         drawLines(painter, rect, inSight);
         painter.restore();
     } else {
@@ -79,7 +102,7 @@ void KeptLines::layOut(QPainter &painter)
     m_isClipped = !rect.contains(m_bounds);
     m_isPlain = !text.isEmpty() && (m_setting.flags & ~kPlainFlags) == 0
         && std::all_of(text.begin(), text.end(), isPlain) && !isDecorated(m_setting.font)
-        && m_bounds.height() < rect.height();
+        && m_bounds.height() < rect.height() && !(mayHang() && endsInSpaces(text));
     m_layout.clearLayout();
     if (!m_isPlain)
         return;
@@ -117,15 +140,26 @@ void KeptLines::drawLines(QPainter &painter, const QRect &rect, const QRect &inS
     }
 }
 
+// On which side lines stand.
+Qt::Alignment KeptLines::alignment() const
+{
+    return QStyle::visualAlignment(m_setting.direction, Qt::Alignment(QFlag(m_setting.flags)));
+}
+
+// Whether the spaces at the end of a line may move it.
+bool KeptLines::mayHang() const
+{
+    return m_setting.direction != Qt::LeftToRight && (alignment() & Qt::AlignRight);
+}
+
 // Which share of the spare width goes to the left of a line.
 qreal KeptLines::leftOf(const QTextLine &line) const
 {
-    const Qt::Alignment alignment =
-        QStyle::visualAlignment(m_setting.direction, Qt::Alignment(QFlag(m_setting.flags)));
     const qreal spare = qreal(m_setting.size.width()) - line.horizontalAdvance();
-    if (alignment & Qt::AlignRight)
+    const Qt::Alignment sides = alignment();
+    if (sides & Qt::AlignRight)
         return spare;
-    return alignment & Qt::AlignHCenter ? spare / 2 : 0;
+    return sides & Qt::AlignHCenter ? spare / 2 : 0;
 }
 
 } // namespace panelkit

@@ -41,6 +41,8 @@ private:
 
     void layOut(QPainter &painter);
     void drawLines(QPainter &painter, const QRect &rect, const QRect &inSight);
+    Qt::Alignment alignment() const;
+    bool mayHang() const;
     qreal leftOf(const QTextLine &line) const;
 
     Setting m_setting;

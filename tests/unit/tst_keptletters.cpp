@@ -1,5 +1,6 @@
 #include "detail/keptletters.h"
 
+#include "randomtexts.h"
 #include "widgettest.h"
 
 #include <QPainter>
@@ -87,6 +88,44 @@ private slots:
         }
     }
 
+    void randomLettersHaveThePixelsOfDrawText_data()
+    {
+        QTest::addColumn<int>("seed");
+        for (int seed = 1; seed <= 4; ++seed)
+            QTest::addRow("%d", seed) << seed;
+    }
+
+    // Any characters, and those of texts that are hard to lay out.
+    void randomLettersHaveThePixelsOfDrawText()
+    {
+        QFETCH(int, seed);
+        RandomTexts random{quint32(seed)};
+        KeptLetters letters;
+        for (int paint = 0; paint < 60; ++paint) {
+            RandomText t = random.next(8);
+            t.flags = Qt::AlignHCenter | (t.flags & ~Qt::AlignHorizontal_Mask);
+            const double angle = random.between(0, 3) ? random.between(0, 3600) / 10.0 : 0;
+            const QString all = t.text + QChar(random.between(0, 0xffff))
+                + QChar(random.between(0, 0x7ff)) + QStringLiteral("A(");
+            for (const QChar letter : all) {
+                t.text = letter;
+                const auto drawn = [&](const std::function<void(QPainter &)> &draws) {
+                    return onCanvas(angle, t.font, [&](QPainter &p) {
+                        t.prepare(p);
+                        draws(p);
+                    });
+                };
+                const QImage expected = settled(
+                    [&] { return drawn([&](QPainter &p) { p.drawText(kBox, t.flags, t.text); }); });
+                const QImage actual =
+                    drawn([&](QPainter &p) { draw(letters, p, kBox, t.flags, letter); });
+                QVERIFY2(isSamePicture(actual, expected, __FILE__, __LINE__),
+                         qPrintable(t.inWords()));
+            }
+        }
+        takeMessages(); // Qt misses tables for some scripts in some fonts, and says so
+    }
+
     void boxesMayLieAnywhere()
     {
         KeptLetters letters;
@@ -131,6 +170,23 @@ private slots:
         underlined.setUnderline(true);
         check(underlined, QRect(-20, 0, 41, 44), Qt::AlignHCenter | Qt::AlignBottom);
         QCOMPARE(letters.layouts(), 5);
+    }
+
+    void anotherDirectionTurnsABracketRound()
+    {
+        KeptLetters letters;
+        for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft, Qt::LeftToRight}) {
+            const auto directed = [&](const std::function<void(QPainter &)> &paint) {
+                return onCanvas(7, fontOf(20), [&](QPainter &p) {
+                    p.setLayoutDirection(direction);
+                    paint(p);
+                });
+            };
+            COMPARE_PICTURES(
+                directed([&](QPainter &p) { draw(letters, p, kBox, kFlags, QChar('(')); }),
+                directed([&](QPainter &p) { p.drawText(kBox, kFlags, QStringLiteral("(")); }));
+        }
+        QCOMPARE(letters.layouts(), 3);
     }
 };
 

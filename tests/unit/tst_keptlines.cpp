@@ -1,5 +1,6 @@
 #include "detail/keptlines.h"
 
+#include "randomtexts.h"
 #include "widgettest.h"
 
 #include <QPainter>
@@ -112,6 +113,42 @@ private slots:
                 drawAlike(font, direction, flags, text);
                 if (QTest::currentTestFailed())
                     return;
+            }
+        }
+    }
+
+    void randomTextsHaveThePixelsOfDrawText_data()
+    {
+        QTest::addColumn<int>("seed");
+        for (int seed = 1; seed <= 8; ++seed)
+            QTest::addRow("%d", seed) << seed;
+    }
+
+    void randomTextsHaveThePixelsOfDrawText()
+    {
+        QFETCH(int, seed);
+        RandomTexts random{quint32(seed)};
+        KeptLines lines;
+        for (int i = 0; i < 500; ++i) {
+            const RandomText t = random.next(12);
+            const QRect rect(random.between(-20, 20), random.between(-20, 20),
+                             random.between(0, 180), random.between(0, 400));
+            const QPointF offset(qreal(random.between(-9, 9)) / 4,
+                                 qreal(random.between(-9, 9)) / 4);
+            const auto drawn = [&](const std::function<void(QPainter &)> &paint) {
+                return onCanvas([&](QPainter &p) {
+                    t.prepare(p);
+                    p.translate(offset);
+                    paint(p);
+                });
+            };
+            const QImage expected = settled(
+                [&] { return drawn([&](QPainter &p) { p.drawText(rect, t.flags, t.text); }); });
+            for (int paint = 0; paint < 2; ++paint) {
+                const QImage actual =
+                    drawn([&](QPainter &p) { lines.draw(p, rect, t.flags, t.text, kCanvas); });
+                QVERIFY2(isSamePicture(actual, expected, __FILE__, __LINE__),
+                         qPrintable(t.inWords()));
             }
         }
     }

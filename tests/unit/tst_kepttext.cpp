@@ -1,5 +1,6 @@
 #include "detail/kepttext.h"
 
+#include "randomtexts.h"
 #include "widgettest.h"
 
 #include <QPainter>
@@ -113,6 +114,43 @@ private slots:
                     QVERIFY2(isSamePicture(actual, expected, __FILE__, __LINE__),
                              qPrintable(QStringLiteral("%1 | %2").arg(text, font.toString())));
                 }
+            }
+        }
+    }
+
+    void randomTextsHaveThePixelsOfDrawText_data()
+    {
+        QTest::addColumn<int>("seed");
+        for (int seed = 1; seed <= 8; ++seed)
+            QTest::addRow("%d", seed) << seed;
+    }
+
+    void randomTextsHaveThePixelsOfDrawText()
+    {
+        QFETCH(int, seed);
+        RandomTexts random{quint32(seed)};
+        KeptText kept;
+        for (int i = 0; i < 700; ++i) {
+            const RandomText t = random.next(i % 2 ? 3 : 8);
+            const QRectF rect(
+                QPointF(qreal(random.between(-80, 80)) / 4, qreal(random.between(-80, 80)) / 4),
+                QSize(random.between(0, 200), random.between(0, 60)));
+            const QPointF offset(qreal(random.between(-9, 9)) / 4,
+                                 qreal(random.between(-9, 9)) / 4);
+            const auto drawn = [&](const std::function<void(QPainter &)> &paint) {
+                return onCanvas([&](QPainter &p) {
+                    t.prepare(p);
+                    p.translate(offset);
+                    paint(p);
+                });
+            };
+            const QImage expected = settled(
+                [&] { return drawn([&](QPainter &p) { p.drawText(rect, t.flags, t.text); }); });
+            for (int paint = 0; paint < 2; ++paint) {
+                const QImage actual =
+                    drawn([&](QPainter &p) { kept.draw(p, rect, t.flags, t.text); });
+                QVERIFY2(isSamePicture(actual, expected, __FILE__, __LINE__),
+                         qPrintable(t.inWords()));
             }
         }
     }

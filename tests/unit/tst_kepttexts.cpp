@@ -1,5 +1,6 @@
 #include "detail/kepttexts.h"
 
+#include "randomtexts.h"
 #include "widgettest.h"
 
 #include <QPainter>
@@ -54,6 +55,40 @@ private slots:
                                  onCanvas([&](QPainter &p) { p.drawText(rect, flags, text); }));
             }
             QCOMPARE(texts.layouts(), 50);
+        }
+    }
+
+    void randomTextsHaveThePixelsOfDrawText_data()
+    {
+        QTest::addColumn<int>("seed");
+        for (int seed = 1; seed <= 3; ++seed)
+            QTest::addRow("%d", seed) << seed;
+    }
+
+    // All of them are kept at once, and come up again in another order, font and direction.
+    void randomTextsHaveThePixelsOfDrawText()
+    {
+        QFETCH(int, seed);
+        RandomTexts random{quint32(seed)};
+        KeptTexts texts;
+        QVector<RandomText> known;
+        for (int i = 0; i < 200; ++i)
+            known += random.next(5);
+        for (int i = 0; i < 1500; ++i) {
+            RandomText t = known[random.between(0, known.size() - 1)];
+            t.direction = random.next(1).direction;
+            t.font = random.between(0, 1) ? t.font : known.first().font;
+            const QRect rect(kRect.topLeft(), QSize(120 + random.between(0, 1), 30));
+            const auto drawn = [&](const std::function<void(QPainter &)> &paint) {
+                return onCanvas([&](QPainter &p) {
+                    t.prepare(p);
+                    paint(p);
+                });
+            };
+            const QImage expected = settled(
+                [&] { return drawn([&](QPainter &p) { p.drawText(rect, t.flags, t.text); }); });
+            const QImage actual = drawn([&](QPainter &p) { texts.draw(p, rect, t.flags, t.text); });
+            QVERIFY2(isSamePicture(actual, expected, __FILE__, __LINE__), qPrintable(t.inWords()));
         }
     }
 

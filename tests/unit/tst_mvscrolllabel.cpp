@@ -14,6 +14,11 @@
 
 #include <climits>
 #include <memory>
+#include <type_traits>
+
+// The accessors that are part of the interface exactly as they are written.
+static_assert(std::is_same_v<decltype(&MVScrollLabel::isScroll), bool (MVScrollLabel::*)()>);
+static_assert(std::is_same_v<decltype(&MVScrollLabel::getHeight), int (MVScrollLabel::*)()>);
 
 namespace
 {
@@ -394,6 +399,36 @@ private slots:
                          }));
     }
 
+    void inARightToLeftApplicationTheTextStandsWhereDrawTextPutsIt_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("spaces at the end of a line") << QStringLiteral("You may  \nuse this");
+        QTest::newRow("more spaces") << QStringLiteral("You    \nmay \n   use\t\t\n\rthis");
+        QTest::newRow("sentence") << kSentence;
+    }
+
+    void inARightToLeftApplicationTheTextStandsWhereDrawTextPutsIt()
+    {
+        QFETCH(QString, text);
+        QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+        const auto label = makeLabel();
+        label->setText(text);
+        show(*label);
+        const QImage picture = onScreen(*label);
+        const int cycle = cycleOf(*label);
+        QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+        QVERIFY(!picture.isNull());
+        QImage expected(label->size(), QImage::Format_ARGB32_Premultiplied);
+        expected.fill(label->palette().color(QPalette::Window));
+        QPainter p(&expected);
+        p.setLayoutDirection(Qt::RightToLeft);
+        p.setFont(label->font());
+        p.setPen(label->palette().color(QPalette::WindowText));
+        p.drawText(QRect(0, 0, label->width(), cycle), int(label->alignment()), label->text());
+        p.end();
+        COMPARE_PICTURES(picture.convertToFormat(expected.format()), expected);
+    }
+
     void markupIsPaintedAsItIs()
     {
         const auto label = makeLabel(300);
@@ -527,6 +562,42 @@ private slots:
         QCOMPARE(runningTimers(*label), 0);
         label->stopScroll();
         QCOMPARE(log.take(), QStringList());
+    }
+
+    void twoTextsInARowStartTheScrollingTwice()
+    {
+        const auto label = makeLabel();
+        SignalLog log(label.get());
+        label->setText(tall());
+        virtualtime::advance(500);
+        label->setText(tall().toUpper());
+        log.take();
+        virtualtime::advance(kDelay - 500);
+        QCOMPARE(log.take(), lines({"scrollStateChanged(true)"}));
+        virtualtime::advance(499);
+        QCOMPARE(log.take(), QStringList());
+        virtualtime::advance(1);
+        QCOMPARE(log.take(), lines({"scrollStateChanged(true)"}));
+        virtualtime::advance(10000);
+        QCOMPARE(log.take(), QStringList());
+        QCOMPARE(runningTimers(*label), 1);
+    }
+
+    void aNewTextInTheMiddleOfATickGoesOnWithIt()
+    {
+        const auto label = makeLabel();
+        label->setAlignment(Qt::AlignTop);
+        label->setScrollSpeed(100);
+        label->setText(tall());
+        label->startScroll();
+        virtualtime::advance(550);
+        COMPARE_PICTURES(painted(*label), documented(*label, 5));
+        label->setText(tall().toUpper());
+        COMPARE_PICTURES(painted(*label), documented(*label, 0));
+        virtualtime::advance(49);
+        COMPARE_PICTURES(painted(*label), documented(*label, 0));
+        virtualtime::advance(1);
+        COMPARE_PICTURES(painted(*label), documented(*label, 1));
     }
 
     void stoppingStaysWhereItIs()
@@ -833,6 +904,38 @@ private slots:
         QCOMPARE(paints(*label, [&] { touch(label.get()).press(20, 30).release(); }), 0);
         QCOMPARE(paints(*label, [&] { touch(label.get()).press(20, 30).moveTo(20, 20); }), 1);
         QVERIFY(painted(*label) != before);
+    }
+
+    // QLabel tells of a link under the finger while it handles the touch.
+    void theTextIsPushedBeforeTheLabelHandlesTheTouch()
+    {
+        Handlers label(nullptr, Qt::WindowFlags());
+        label.resize(900, 60);
+        label.setTextInteractionFlags(Qt::LinksAccessibleByMouse);
+        label.setText(QStringLiteral("<a href=\"x\">You may use this</a>"));
+        int hovers = 0;
+        int activations = 0;
+        QImage seen;
+        connect(&label, &QLabel::linkHovered, this, [&] {
+            ++hovers;
+            seen = painted(label);
+        });
+        connect(&label, &QLabel::linkActivated, this, [&] {
+            ++activations;
+            seen = painted(label);
+        });
+        const auto send = [&](QEvent::Type type, int y, void (Handlers::*handler)(QMouseEvent *)) {
+            QMouseEvent event(type, QPointF(QPoint(10, y)), Qt::LeftButton, Qt::LeftButton,
+                              Qt::NoModifier);
+            (label.*handler)(&event);
+        };
+        send(QEvent::MouseButtonPress, 26, &Handlers::mousePressEvent);
+        send(QEvent::MouseMove, 31, &Handlers::mouseMoveEvent);
+        QCOMPARE(hovers, 1);
+        COMPARE_PICTURES(seen, documented(label, -5));
+        send(QEvent::MouseButtonRelease, 34, &Handlers::mouseReleaseEvent);
+        QCOMPARE(activations, 1);
+        COMPARE_PICTURES(seen, documented(label, -8));
     }
 
     void touchesGoOnToTheParent()

@@ -15,6 +15,7 @@
 
 // The accessors that are part of the interface exactly as they are written.
 static_assert(std::is_same_v<decltype(&SpLabel::setImage), void (SpLabel::*)(const QPixmap &)>);
+static_assert(std::is_same_v<decltype(&SpLabel::imageAlpha), int (SpLabel::*)()>);
 static_assert(std::is_same_v<decltype(&SpLabel::setImageAlpha), void (SpLabel::*)(const int &)>);
 
 namespace
@@ -46,7 +47,7 @@ QPixmap scaled(const QPixmap &pixmap, const QSize &size)
 }
 
 // The documented picture of a label that shows this one, which has its size, step by step.
-QImage documented(const SpLabel &label, const QPixmap &pixmap)
+QImage documented(SpLabel &label, const QPixmap &pixmap)
 {
     QImage image = pixmap.toImage();
     QPainter veil(&image);
@@ -279,8 +280,7 @@ private slots:
         }
     }
 
-    // --- Sizes and pictures
-    // -----------------------------------------------------------------------
+    // --- Sizes and pictures ---------------------------------------------------------------------
 
     void aWidthOrHeightOfOneIsScaledTo()
     {
@@ -329,21 +329,31 @@ private slots:
         }
     }
 
-    void upToTheLargestScreenTheCopyIsKept()
+    void largeLabelsLookAsSmallOnes_data()
     {
-        const auto label = makeLabel();
-        label->resize(4096, 2048);
-        painted(*label);
-        QCOMPARE(label->image().size(), QSize(4096, 2048));
+        QTest::addColumn<QSize>("size");
+        for (const QSize &size : {QSize(16383, 8), QSize(8, 16383), QSize(4096, 2049),
+                                  QSize(4097, 2048), QSize(16383, 600)})
+            QTest::addRow("%d x %d", size.width(), size.height()) << size;
     }
 
-    // A label of 400 million pixels would take gigabytes.
-    void beyondEveryScreenThePictureStaysAsItIs()
+    void largeLabelsLookAsSmallOnes()
+    {
+        QFETCH(QSize, size);
+        const auto label = makeLabel();
+        label->setMinimumSize(0, 0);
+        label->resize(size);
+        COMPARE_PICTURES(painted(*label), documented(*label, scaled(picture(), size)));
+        QCOMPARE(label->image().size(), size);
+    }
+
+    // A scaled copy would take gigabytes.
+    void beyond16384Times16384PixelsThePictureStaysAsItIs()
     {
         QWidget window;
         window.resize(60, 50);
         const auto label = makeLabel(&window);
-        for (const QSize &size : {QSize(4096, 2049), QSize(20000, 20000)}) {
+        for (const QSize &size : {QSize(16385, 16384), QSize(16384, 16385), QSize(20000, 20000)}) {
             label->resize(size);
             QVERIFY(cpuTime([&] { painted(window); }) < 1000);
             QCOMPARE(label->image().size(), QSize(40, 30));
@@ -354,15 +364,16 @@ private slots:
         }
     }
 
-    void aBitmapIsNoHarm()
+    void aBitmapIsShownToo()
     {
         QBitmap bitmap(16, 16);
         bitmap.fill(Qt::color1);
+        const QPixmap plain(bitmap);
         SpLabel label;
         label.setImage(bitmap);
         for (const QSize &size : {QSize(16, 16), QSize(50, 20)}) {
             label.resize(size);
-            painted(label);
+            COMPARE_PICTURES(painted(label), documented(label, scaled(plain, size)));
         }
     }
 

@@ -227,26 +227,28 @@ private slots:
         QCOMPARE(runningTimers(*ring), 0);
     }
 
-    void aHiddenRingRests()
+    void aHiddenRingTurnsOn()
     {
         const auto ring = makeRing();
         show(*ring);
         ring->setTimer(100);
         virtualtime::advance(200);
         ring->hide();
-        QCOMPARE(runningTimers(*ring), 0);
-        virtualtime::advance(1000);
-        QCOMPARE(ring->index(), 2);
-        ring->setTimer(50);
-        QCOMPARE(runningTimers(*ring), 0);
-        ring->show();
-        QCOMPARE(runningTimers(*ring), 1);
-        virtualtime::advance(100);
+        virtualtime::advance(150);
+        QCOMPARE(ring->index(), 3);
+        show(*ring);
+        virtualtime::advance(49);
+        QCOMPARE(ring->index(), 3);
+        virtualtime::advance(1);
         QCOMPARE(ring->index(), 4);
         ring->hide();
+        ring->setTimer(200);
+        virtualtime::advance(400);
+        QCOMPARE(ring->index(), 6);
         ring->stopTimer();
-        ring->show();
-        QCOMPARE(runningTimers(*ring), 0);
+        show(*ring);
+        virtualtime::advance(1000);
+        QCOMPARE(ring->index(), 6);
     }
 
     void aRingThatWasNeverShownTurns()
@@ -315,6 +317,46 @@ private slots:
             QCOMPARE(finger.moveTo(6, 5).wasAccepted(), isHeld);
             QCOMPARE(finger.release().wasAccepted(), isHeld);
         }
+    }
+
+    void heldTouchesAreReportedAllTheSame()
+    {
+        const auto ring = makeRing();
+        ring->setholdMouseEvent(true);
+        SignalLog log(ring.get());
+        touch(ring.get()).tap(5, 6);
+        QCOMPARE(log.take(),
+                 (QStringList{at("pressMask", 5, 6), at("releaseMask", 5, 6),
+                              QStringLiteral("clicked()")}));
+        touch(ring.get()).press(5, 6).moveTo(9, 6).release();
+        QCOMPARE(log.take(), (QStringList{at("pressMask", 5, 6), at("releaseMask", 9, 6)}));
+        touch(ring.get()).tap(7, 8);
+        QCOMPARE(log.take().size(), 3);
+    }
+
+    // QWidget has left the event to the parent by the time that a slot hears of it.
+    void theBaseHandlersComeBeforeTheSignalsUnlessTheTouchIsHeld_data()
+    {
+        QTest::addColumn<bool>("isHeld");
+        QTest::newRow("passed on") << false;
+        QTest::newRow("held") << true;
+    }
+
+    void theBaseHandlersComeBeforeTheSignalsUnlessTheTouchIsHeld()
+    {
+        QFETCH(bool, isHeld);
+        Handlers ring;
+        ring.setholdMouseEvent(isHeld);
+        SignalLog log(&ring);
+        QVector<bool> accepted;
+        const auto send = [&](QEvent::Type type, void (Handlers::*handler)(QMouseEvent *)) {
+            QMouseEvent event(type, QPointF(5, 6), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+            log.onLine([&](const QString &) { accepted += event.isAccepted(); });
+            (ring.*handler)(&event);
+        };
+        send(QEvent::MouseButtonPress, &Handlers::mousePressEvent);
+        send(QEvent::MouseButtonRelease, &Handlers::mouseReleaseEvent);
+        QCOMPARE(accepted, QVector<bool>(3, isHeld));
     }
 
     // --- Robustness -----------------------------------------------------------------------------
