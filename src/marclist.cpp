@@ -10,8 +10,11 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QTimer>
+#include <QVector>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
 #include <optional>
@@ -53,9 +56,53 @@ double length(int x, qint64 y)
 
 } // namespace
 
+class Q_DECL_HIDDEN MArcList::Private
+{
+public:
+    explicit Private(MArcList *widget) : q(widget) { }
+
+    struct ArcPlaces;
+
+    bool isItem(qint64 index) const;
+    double arcEnd() const;
+    double lastFirstRow() const;
+    void touchArc(const QPoint &p, bool release);
+    void touchColumn(const QPoint &p, bool release);
+    void takeTouch(int index, bool release, bool isTap);
+    void fling(double way, double low, double high);
+    void startFling(const QPoint &pos);
+    void placeOnArc(const QPainter &painter);
+    void drawMarker(QPainter &painter, int marker, int index);
+
+    MArcList *const q;
+    double radius = 470.0; // px
+    double startAngle = 0.0; // degrees; in a column the index of the first row
+    double itemHight = 8.0; // degrees; in a column px
+    double pixXOffset = 2.5; // degrees; in a column px
+    QColor pressColor{255, 255, 255, 255};
+    ARCLIST_STYLE style = ARCLIST_STYLE_0;
+    int showItem = 15;
+    QPixmap pointPixmap;
+    QVector<QChar> characters;
+    QPoint lastPos;
+    QPoint pressPos;
+    int currentIndex = -1; // -1: none
+    int pressedIndex = -1; // -1: none
+    bool moved = false;
+    int moveStartTime = 0; // ms of getCurrentTime(), 0: no move since the press
+    int textXOffset = 0; // px
+    QTimer flingTimer{q};
+    int flingSteps = 0; // ticks still to run
+    bool movingDown = false;
+
+    KeptLetters letters;
+    std::unique_ptr<ArcPlaces> places;
+    std::array<KeptLayer, 2> markers; // pressed, current
+};
+
 // The transforms of those letters on the arc that can be seen, kept while nothing changes on which
 // they depend.
-struct MArcList::ArcPlaces {
+struct MArcList::Private::ArcPlaces {
     struct Place {
         int index;
         QTransform transform;
@@ -82,27 +129,40 @@ struct MArcList::ArcPlaces {
 };
 
 /** An empty list, on an arc. */
-MArcList::MArcList(QWidget *parent)
-    : QWidget(parent), m_flingTimer(this), m_letters(std::make_unique<KeptLetters>()),
-      m_places(std::make_unique<ArcPlaces>()), m_markers{std::make_unique<KeptLayer>(),
-                                                         std::make_unique<KeptLayer>()}
+MArcList::MArcList(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
 {
-    connect(&m_flingTimer, SIGNAL(timeout()), this, SLOT(speedTimerSlot()));
+    d->places = std::make_unique<Private::ArcPlaces>();
+    connect(&d->flingTimer, SIGNAL(timeout()), this, SLOT(speedTimerSlot()));
 }
 
 MArcList::~MArcList() = default;
 
+double MArcList::radius() const
+{
+    return d->radius;
+}
+
 /** The radius of the arc in px; 470 by default. Stored only. A column has no use for it. */
 void MArcList::setRadius(double radius)
 {
-    m_radius = radius;
+    d->radius = radius;
+}
+
+QPixmap MArcList::pointPixmap() const
+{
+    return d->pointPixmap;
 }
 
 /** The marker at the pressed and the current character; none by default. Repaints. */
 void MArcList::setPointPixmap(const QPixmap &pixmap)
 {
-    m_pointPixmap = pixmap;
+    d->pointPixmap = pixmap;
     update();
+}
+
+double MArcList::startAngle() const
+{
+    return d->startAngle;
 }
 
 /**
@@ -112,19 +172,34 @@ void MArcList::setPointPixmap(const QPixmap &pixmap)
  */
 void MArcList::setStartAngle(double angle)
 {
-    m_startAngle = angle;
+    d->startAngle = angle;
+}
+
+double MArcList::itemHight() const
+{
+    return d->itemHight;
 }
 
 /** From one character to the next: degrees, or in a column px. 8 by default. Stored only. */
 void MArcList::setItemHight(double height)
 {
-    m_itemHight = height;
+    d->itemHight = height;
+}
+
+QColor MArcList::pressColor() const
+{
+    return d->pressColor;
 }
 
 /** The colour of the pressed character; white by default. Stored only. */
 void MArcList::setPressColor(const QColor &color)
 {
-    m_pressColor = color;
+    d->pressColor = color;
+}
+
+MArcList::ARCLIST_STYLE MArcList::acrListStyle() const
+{
+    return d->style;
 }
 
 /**
@@ -133,7 +208,12 @@ void MArcList::setPressColor(const QColor &color)
  */
 void MArcList::setAcrListStyle(ARCLIST_STYLE style)
 {
-    m_style = style;
+    d->style = style;
+}
+
+int MArcList::showItem() const
+{
+    return d->showItem;
 }
 
 /**
@@ -142,7 +222,12 @@ void MArcList::setAcrListStyle(ARCLIST_STYLE style)
  */
 void MArcList::setShowItem(int count)
 {
-    m_showItem = count;
+    d->showItem = count;
+}
+
+double MArcList::pixXOffset() const
+{
+    return d->pixXOffset;
 }
 
 /**
@@ -151,21 +236,26 @@ void MArcList::setShowItem(int count)
  */
 void MArcList::setPixXOffset(double offset)
 {
-    m_pixXOffset = offset;
+    d->pixXOffset = offset;
+}
+
+int MArcList::getTextXOffset() const
+{
+    return d->textXOffset;
 }
 
 /** Where the characters of a column begin, in px; 0 by default. Stored only. */
 void MArcList::setTextXOffset(int offset)
 {
-    m_textXOffset = offset;
+    d->textXOffset = offset;
 }
 
 /** Appends a character and repaints; one that the list already has is ignored. */
 void MArcList::addAlpha(QChar c)
 {
-    if (m_characters.contains(c))
+    if (d->characters.contains(c))
         return;
-    m_characters.append(c);
+    d->characters.append(c);
     update();
 }
 
@@ -176,11 +266,11 @@ void MArcList::addAlpha(QChar c)
  */
 void MArcList::clearData()
 {
-    if (m_characters.isEmpty())
+    if (d->characters.isEmpty())
         return;
-    m_characters.clear();
-    m_currentIndex = -1;
-    m_startAngle = 0.0;
+    d->characters.clear();
+    d->currentIndex = -1;
+    d->startAngle = 0.0;
     update();
 }
 
@@ -190,14 +280,14 @@ void MArcList::clearData()
  */
 void MArcList::setCurrentIndex(QChar c)
 {
-    const int index = m_characters.indexOf(c);
+    const int index = d->characters.indexOf(c);
     if (index < 0)
         return;
-    m_currentIndex = index;
-    if (m_style == ARCLIST_STYLE_0)
-        m_startAngle = std::max(-(m_itemHight * index), arcEnd());
-    else if (m_style == ARCLIST_STYLE_1)
-        m_startAngle = bounded(0.0, index, lastFirstRow());
+    d->currentIndex = index;
+    if (d->style == ARCLIST_STYLE_0)
+        d->startAngle = std::max(-(d->itemHight * index), d->arcEnd());
+    else if (d->style == ARCLIST_STYLE_1)
+        d->startAngle = bounded(0.0, index, d->lastFirstRow());
     update();
 }
 
@@ -208,15 +298,16 @@ void MArcList::setCurrentIndex(QChar c)
  */
 void MArcList::moveList(QPoint p)
 {
-    const qint64 dy = qint64(p.y()) - m_lastPos.y();
-    if (m_style == ARCLIST_STYLE_0) {
-        m_startAngle = bounded(arcEnd(), m_startAngle + double(dy) / kPixelsPerDegree, kArcStart);
-    } else if (m_style == ARCLIST_STYLE_1) {
-        m_startAngle =
-            bounded(0.0, m_startAngle - ratio(double(2 * dy), m_itemHight), lastFirstRow());
+    const qint64 dy = qint64(p.y()) - d->lastPos.y();
+    if (d->style == ARCLIST_STYLE_0) {
+        d->startAngle =
+            bounded(d->arcEnd(), d->startAngle + double(dy) / kPixelsPerDegree, kArcStart);
+    } else if (d->style == ARCLIST_STYLE_1) {
+        d->startAngle =
+            bounded(0.0, d->startAngle - ratio(double(2 * dy), d->itemHight), d->lastFirstRow());
     }
     update();
-    m_lastPos = p;
+    d->lastPos = p;
 }
 
 /**
@@ -226,10 +317,10 @@ void MArcList::moveList(QPoint p)
  */
 void MArcList::calcCurValue(QPoint p, bool release)
 {
-    if (m_style == ARCLIST_STYLE_0)
-        touchArc(p, release);
-    else if (m_style == ARCLIST_STYLE_1)
-        touchColumn(p, release);
+    if (d->style == ARCLIST_STYLE_0)
+        d->touchArc(p, release);
+    else if (d->style == ARCLIST_STYLE_1)
+        d->touchColumn(p, release);
 }
 
 /**
@@ -240,16 +331,16 @@ void MArcList::drawTicks(QPainter *painter)
 {
     if (!painter)
         return;
-    placeOnArc(*painter);
-    m_letters->set(*painter, kArcBox.size(), Qt::AlignCenter);
+    d->placeOnArc(*painter);
+    d->letters.set(*painter, kArcBox.size(), Qt::AlignCenter);
     const QTransform origin = painter->worldTransform();
     const QPen pen = painter->pen();
-    for (const ArcPlaces::Place &place : m_places->places) {
+    for (const Private::ArcPlaces::Place &place : d->places->places) {
         painter->setWorldTransform(place.transform);
-        if (place.index == m_pressedIndex)
-            painter->setPen(QPen(m_pressColor));
-        m_letters->draw(*painter, kArcBox.topLeft(), m_characters[place.index]);
-        if (place.index == m_pressedIndex)
+        if (place.index == d->pressedIndex)
+            painter->setPen(QPen(d->pressColor));
+        d->letters.draw(*painter, kArcBox.topLeft(), d->characters[place.index]);
+        if (place.index == d->pressedIndex)
             painter->setPen(pen);
     }
     painter->setWorldTransform(origin);
@@ -259,12 +350,12 @@ void MArcList::drawTicks(QPainter *painter)
  */
 void MArcList::drawPointer(QPainter *painter)
 {
-    if (!painter || m_pointPixmap.isNull())
+    if (!painter || d->pointPixmap.isNull())
         return;
-    if (isItem(m_pressedIndex))
-        drawMarker(*painter, 0, m_pressedIndex);
-    if (isItem(m_currentIndex) && m_currentIndex != m_pressedIndex)
-        drawMarker(*painter, 1, m_currentIndex);
+    if (d->isItem(d->pressedIndex))
+        d->drawMarker(*painter, 0, d->pressedIndex);
+    if (d->isItem(d->currentIndex) && d->currentIndex != d->pressedIndex)
+        d->drawMarker(*painter, 1, d->currentIndex);
 }
 
 /**
@@ -275,33 +366,33 @@ void MArcList::drawTicks1(QPainter *painter)
 {
     if (!painter)
         return;
-    const qint64 first = toInt(m_startAngle);
-    const qint64 end = std::min<qint64>(first + m_showItem, m_characters.size());
+    const qint64 first = toInt(d->startAngle);
+    const qint64 end = std::min<qint64>(first + d->showItem, d->characters.size());
     const DeviceView view(*painter);
-    m_letters->set(*painter, QSize(kLetterBox, kLetterBox), Qt::AlignHCenter | Qt::AlignBottom);
+    d->letters.set(*painter, QSize(kLetterBox, kLetterBox), Qt::AlignHCenter | Qt::AlignBottom);
     for (auto i = int(std::max<qint64>(first, 0)); i < end; ++i) {
-        if (i == m_pressedIndex)
-            painter->setPen(QPen(m_pressColor));
+        if (i == d->pressedIndex)
+            painter->setPen(QPen(d->pressColor));
         const QRect box =
-            boundedRect(m_textXOffset, toInt(double(i - first) * m_itemHight + kColumnTop),
+            boundedRect(d->textXOffset, toInt(double(i - first) * d->itemHight + kColumnTop),
                         kLetterBox, kLetterBox);
         if (view.shows(painter->worldTransform(), box))
-            m_letters->draw(*painter, box.topLeft(), m_characters[i]);
+            d->letters.draw(*painter, box.topLeft(), d->characters[i]);
     }
 }
 
 /** Draws the marker of the column at the current row, or at the pressed one if there is none. */
 void MArcList::drawPointer1(QPainter *painter)
 {
-    if (!painter || m_pointPixmap.isNull())
+    if (!painter || d->pointPixmap.isNull())
         return;
-    const int index = isItem(m_currentIndex) ? m_currentIndex : m_pressedIndex;
-    if (!isItem(index))
+    const int index = d->isItem(d->currentIndex) ? d->currentIndex : d->pressedIndex;
+    if (!d->isItem(index))
         return;
-    const double row = double(index) - toInt(m_startAngle);
-    painter->drawPixmap(boundedRect(toInt(m_pixXOffset), toInt(row * m_itemHight),
-                                    m_pointPixmap.width(), m_pointPixmap.height()),
-                        m_pointPixmap);
+    const double row = double(index) - toInt(d->startAngle);
+    painter->drawPixmap(boundedRect(toInt(d->pixXOffset), toInt(row * d->itemHight),
+                                    d->pointPixmap.width(), d->pointPixmap.height()),
+                        d->pointPixmap);
 }
 
 /**
@@ -318,12 +409,12 @@ void MArcList::paintEvent(QPaintEvent *e)
     QWidget::paintEvent(e);
     QPainter painter(this);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    if (m_style == ARCLIST_STYLE_0) {
+    if (d->style == ARCLIST_STYLE_0) {
         painter.translate(QPoint(0, height() / 2));
         drawTicks(&painter);
         drawPointer(&painter);
-    } else if (m_style == ARCLIST_STYLE_1) {
-        painter.translate(QPoint((width() - m_pointPixmap.width()) / 2, 0));
+    } else if (d->style == ARCLIST_STYLE_1) {
+        painter.translate(QPoint((width() - d->pointPixmap.width()) / 2, 0));
         drawTicks1(&painter);
         drawPointer1(&painter);
     }
@@ -335,12 +426,12 @@ void MArcList::mousePressEvent(QMouseEvent *e)
 {
     if (!e)
         return;
-    m_flingTimer.stop();
-    m_flingSteps = 0;
-    m_moveStartTime = 0;
-    m_lastPos = e->pos();
-    m_pressPos = e->pos();
-    m_moved = false;
+    d->flingTimer.stop();
+    d->flingSteps = 0;
+    d->moveStartTime = 0;
+    d->lastPos = e->pos();
+    d->pressPos = e->pos();
+    d->moved = false;
     calcCurValue(e->pos(), false);
 }
 
@@ -348,11 +439,11 @@ void MArcList::mouseMoveEvent(QMouseEvent *e)
 {
     if (!e)
         return;
-    if (m_moveStartTime == 0)
-        m_moveStartTime = getCurrentTime();
-    m_movingDown = qint64(e->pos().y()) - m_lastPos.y() > 0;
+    if (d->moveStartTime == 0)
+        d->moveStartTime = getCurrentTime();
+    d->movingDown = qint64(e->pos().y()) - d->lastPos.y() > 0;
     moveList(e->pos());
-    m_moved = true;
+    d->moved = true;
     calcCurValue(e->pos(), false);
 }
 
@@ -361,8 +452,8 @@ void MArcList::mouseReleaseEvent(QMouseEvent *e)
 {
     if (!e)
         return;
-    if (m_moved && m_moveStartTime != 0)
-        startFling(e->pos());
+    if (d->moved && d->moveStartTime != 0)
+        d->startFling(e->pos());
     moveList(e->pos());
     calcCurValue(e->pos(), true);
 }
@@ -373,153 +464,153 @@ void MArcList::mouseReleaseEvent(QMouseEvent *e)
  */
 void MArcList::speedTimerSlot()
 {
-    if (m_flingSteps <= 0) {
-        m_flingTimer.stop();
+    if (d->flingSteps <= 0) {
+        d->flingTimer.stop();
         return;
     }
-    --m_flingSteps;
-    if (m_style == ARCLIST_STYLE_0)
-        fling(m_movingDown ? kArcFling : -kArcFling, arcEnd(), kArcStart);
-    else if (m_style == ARCLIST_STYLE_1)
-        fling(m_movingDown ? -kColumnFling : kColumnFling, 0.0, lastFirstRow());
+    --d->flingSteps;
+    if (d->style == ARCLIST_STYLE_0)
+        d->fling(d->movingDown ? kArcFling : -kArcFling, d->arcEnd(), kArcStart);
+    else if (d->style == ARCLIST_STYLE_1)
+        d->fling(d->movingDown ? -kColumnFling : kColumnFling, 0.0, d->lastFirstRow());
     update();
 }
 
-bool MArcList::isItem(qint64 index) const
+bool MArcList::Private::isItem(qint64 index) const
 {
-    return index >= 0 && index < m_characters.size();
+    return index >= 0 && index < characters.size();
 }
 
 // The start angle at which the list lies just before the start.
-double MArcList::arcEnd() const
+double MArcList::Private::arcEnd() const
 {
-    return -(m_itemHight * m_characters.size());
+    return -(itemHight * characters.size());
 }
 
 // The first row at which the last one still is shown; negative for a list that fits.
-double MArcList::lastFirstRow() const
+double MArcList::Private::lastFirstRow() const
 {
-    return double(m_characters.size()) - m_showItem;
+    return double(characters.size()) - showItem;
 }
 
 // Only touches near the arc count. Those exactly beside or above the centre have no angle; they are
 // reported as movement but touch nothing.
-void MArcList::touchArc(const QPoint &p, bool release)
+void MArcList::Private::touchArc(const QPoint &p, bool release)
 {
-    const int middle = height() / 2;
+    const int middle = q->height() / 2;
     const qint64 dy = qint64(p.y()) - middle;
-    const double off = length(p.x(), dy) - m_radius;
+    const double off = length(p.x(), dy) - radius;
     if (!(off > -kReach && off < kReach))
         return;
-    const QPointer<MArcList> guard(this);
-    emit listMoveing(m_currentIndex);
+    const QPointer<MArcList> guard(q);
+    emit q->listMoveing(currentIndex);
     if (!guard)
         return;
     const std::optional<double> direction = touchDirection(p.x(), double(dy), -90);
     if (!direction)
         return;
     // Truncation toward zero makes the stretch just before the first character its own too.
-    const int index = toInt(ratio(*direction - m_startAngle, m_itemHight));
-    takeTouch(index, release, !m_moved);
+    const int index = toInt(ratio(*direction - startAngle, itemHight));
+    takeTouch(index, release, !moved);
 }
 
 // Only touches of a row count. Having moved does not spoil a tap here, only a release far away.
-void MArcList::touchColumn(const QPoint &p, bool release)
+void MArcList::Private::touchColumn(const QPoint &p, bool release)
 {
-    const int index = toInt(ratio(p.y(), m_itemHight) + toInt(m_startAngle));
+    const int index = toInt(ratio(p.y(), itemHight) + toInt(startAngle));
     if (!isItem(index))
         return;
-    const QPointer<MArcList> guard(this);
-    emit listMoveing(m_currentIndex);
+    const QPointer<MArcList> guard(q);
+    emit q->listMoveing(currentIndex);
     if (!guard)
         return;
     const bool isNear =
-        distance(p.y(), m_pressPos.y()) <= kTapSlop && distance(p.x(), m_pressPos.x()) <= kTapSlop;
+        distance(p.y(), pressPos.y()) <= kTapSlop && distance(p.x(), pressPos.x()) <= kTapSlop;
     takeTouch(index, release, isNear);
 }
 
 // What a touch of a character does. A slot may have emptied the list meanwhile.
-void MArcList::takeTouch(int index, bool release, bool isTap)
+void MArcList::Private::takeTouch(int index, bool release, bool isTap)
 {
     if (!isItem(index))
         return;
     if (!release) {
-        m_pressedIndex = m_moved ? -1 : index;
-        update();
+        pressedIndex = moved ? -1 : index;
+        q->update();
         return;
     }
     if (isTap) {
-        m_currentIndex = index;
-        const QPointer<MArcList> guard(this);
-        emit itemClicked(m_characters[index]);
+        currentIndex = index;
+        const QPointer<MArcList> guard(q);
+        emit q->itemClicked(characters[index]);
         if (!guard)
             return;
     }
-    m_pressedIndex = -1;
-    update();
+    pressedIndex = -1;
+    q->update();
 }
 
-void MArcList::fling(double way, double low, double high)
+void MArcList::Private::fling(double way, double low, double high)
 {
-    const double wanted = m_startAngle + way;
-    m_startAngle = bounded(low, wanted, high);
+    const double wanted = startAngle + way;
+    startAngle = bounded(low, wanted, high);
     if (wanted >= low && wanted <= high)
         return;
-    m_flingSteps = 0;
-    m_flingTimer.stop();
+    flingSteps = 0;
+    flingTimer.stop();
 }
 
 // The faster the finger from its first move, the more ticks; a slow one, or one that crossed the
 // end of a minute, flings nothing.
-void MArcList::startFling(const QPoint &pos)
+void MArcList::Private::startFling(const QPoint &pos)
 {
-    const int duration = getCurrentTime() - m_moveStartTime;
+    const int duration = q->getCurrentTime() - moveStartTime;
     if (duration < kShortestFlick || duration > kLongestFlick)
         return;
-    m_flingTimer.setInterval(kFlingInterval);
-    const qint64 steps = distance(pos.y(), m_pressPos.y()) * 2 / duration;
-    m_flingSteps = int(std::min<qint64>(steps, std::numeric_limits<int>::max()));
-    m_flingTimer.start();
+    flingTimer.setInterval(kFlingInterval);
+    const qint64 steps = distance(pos.y(), pressPos.y()) * 2 / duration;
+    flingSteps = int(std::min<qint64>(steps, std::numeric_limits<int>::max()));
+    flingTimer.start();
 }
 
 // The arc is turned on from letter to letter, drawn or not, so that rounding is the same wherever
 // the list stands.
-void MArcList::placeOnArc(const QPainter &painter)
+void MArcList::Private::placeOnArc(const QPainter &painter)
 {
     const ArcPlaces::Key key{
-        DeviceView(painter), painter.worldTransform(), m_radius, m_startAngle, m_itemHight,
-        m_showItem,          m_characters.size()};
-    if (key == m_places->key)
+        DeviceView(painter), painter.worldTransform(), radius, startAngle, itemHight, showItem,
+        characters.size()};
+    if (key == places->key)
         return;
-    m_places->key = key;
-    m_places->places.clear();
-    const qint64 first = toInt(ratio(-m_startAngle, m_itemHight));
-    const qint64 last = std::min<qint64>(first + m_showItem, m_characters.size() - 1);
+    places->key = key;
+    places->places.clear();
+    const qint64 first = toInt(ratio(-startAngle, itemHight));
+    const qint64 last = std::min<qint64>(first + showItem, characters.size() - 1);
     const QRectF boxAndOverhang = QRectF(kArcBox).adjusted(-kLetterBox, 0, kLetterBox, 0);
     QTransform turned = key.origin;
-    turned.rotate(qreal(m_startAngle - 90));
-    for (int i = 0; i <= last; ++i, turned.rotate(qreal(m_itemHight))) {
-        if (i < first - m_showItem)
+    turned.rotate(qreal(startAngle - 90));
+    for (int i = 0; i <= last; ++i, turned.rotate(qreal(itemHight))) {
+        if (i < first - showItem)
             continue;
         QTransform upright = turned;
-        upright.translate(0, qreal(m_radius));
+        upright.translate(0, qreal(radius));
         upright.rotate(90);
         if (key.view.shows(upright, boxAndOverhang))
-            m_places->places.push_back({i, upright});
+            places->places.push_back({i, upright});
     }
 }
 
 // The marker's left edge is cut to whole px, and its halves are those of whole numbers.
-void MArcList::drawMarker(QPainter &painter, int marker, int index)
+void MArcList::Private::drawMarker(QPainter &painter, int marker, int index)
 {
-    const QSize size = m_pointPixmap.size();
+    const QSize size = pointPixmap.size();
     const int halfWidth = size.width() / 2;
     const QRect rect =
-        boundedRect(toInt(m_radius - halfWidth), -(size.height() / 2), size.width(), size.height());
+        boundedRect(toInt(radius - halfWidth), -(size.height() / 2), size.width(), size.height());
     QTransform turned = painter.worldTransform();
-    turned.rotate(qreal(index * m_itemHight + m_startAngle + m_pixXOffset));
+    turned.rotate(qreal(index * itemHight + startAngle + pixXOffset));
     const KeptLayer::Content content{
-        QRectF(rect).adjusted(-1, -1, 1, 1), {}, m_pointPixmap.cacheKey()};
-    m_markers[std::size_t(marker)]->draw(painter, turned, content,
-                                         [&](QPainter &p) { p.drawPixmap(rect, m_pointPixmap); });
+        QRectF(rect).adjusted(-1, -1, 1, 1), {}, pointPixmap.cacheKey()};
+    markers[std::size_t(marker)].draw(painter, turned, content,
+                                      [&](QPainter &p) { p.drawPixmap(rect, pointPixmap); });
 }

@@ -7,20 +7,11 @@
 #include <QColor>
 #include <QPixmap>
 #include <QPoint>
-#include <QTimer>
-#include <QVector>
 #include <QWidget>
 
-#include <array>
 #include <memory>
 
 class QPainter;
-
-namespace panelkit
-{
-class KeptLayer;
-class KeptLetters;
-} // namespace panelkit
 
 /**
  * A short list of single characters, such as the index of a contact book, that a finger scrolls and
@@ -53,23 +44,23 @@ public:
     explicit MArcList(QWidget *parent = nullptr);
     ~MArcList() override;
 
-    double radius() const { return m_radius; }
+    double radius() const;
     void setRadius(double radius);
-    QPixmap pointPixmap() const { return m_pointPixmap; }
+    QPixmap pointPixmap() const;
     void setPointPixmap(const QPixmap &pixmap);
-    double startAngle() const { return m_startAngle; }
+    double startAngle() const;
     void setStartAngle(double angle);
-    double itemHight() const { return m_itemHight; }
+    double itemHight() const;
     void setItemHight(double height);
-    QColor pressColor() const { return m_pressColor; }
+    QColor pressColor() const;
     void setPressColor(const QColor &color);
-    ARCLIST_STYLE acrListStyle() const { return m_style; }
+    ARCLIST_STYLE acrListStyle() const;
     void setAcrListStyle(ARCLIST_STYLE style);
-    int showItem() const { return m_showItem; }
+    int showItem() const;
     void setShowItem(int count);
-    double pixXOffset() const { return m_pixXOffset; }
+    double pixXOffset() const;
     void setPixXOffset(double offset);
-    int getTextXOffset() const { return m_textXOffset; }
+    int getTextXOffset() const;
     void setTextXOffset(int offset);
 
     void addAlpha(QChar c);
@@ -98,42 +89,8 @@ private slots:
     void speedTimerSlot();
 
 private:
-    struct ArcPlaces;
-
-    bool isItem(qint64 index) const;
-    double arcEnd() const;
-    double lastFirstRow() const;
-    void touchArc(const QPoint &p, bool release);
-    void touchColumn(const QPoint &p, bool release);
-    void takeTouch(int index, bool release, bool isTap);
-    void fling(double way, double low, double high);
-    void startFling(const QPoint &pos);
-    void placeOnArc(const QPainter &painter);
-    void drawMarker(QPainter &painter, int marker, int index);
-
-    double m_radius = 470.0; // px
-    double m_startAngle = 0.0; // degrees; in a column the index of the first row
-    double m_itemHight = 8.0; // degrees; in a column px
-    double m_pixXOffset = 2.5; // degrees; in a column px
-    QColor m_pressColor{255, 255, 255, 255};
-    ARCLIST_STYLE m_style = ARCLIST_STYLE_0;
-    int m_showItem = 15;
-    QPixmap m_pointPixmap;
-    QVector<QChar> m_characters;
-    QPoint m_lastPos;
-    QPoint m_pressPos;
-    int m_currentIndex = -1; // -1: none
-    int m_pressedIndex = -1; // -1: none
-    bool m_moved = false;
-    int m_moveStartTime = 0; // ms of getCurrentTime(), 0: no move since the press
-    int m_textXOffset = 0; // px
-    QTimer m_flingTimer;
-    int m_flingSteps = 0; // ticks still to run
-    bool m_movingDown = false;
-
-    std::unique_ptr<panelkit::KeptLetters> m_letters;
-    std::unique_ptr<ArcPlaces> m_places;
-    std::array<std::unique_ptr<panelkit::KeptLayer>, 2> m_markers; // pressed, current
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 #endif // MARCLIST_H

@@ -54,10 +54,37 @@ bool coversRows(const QPainter &painter)
 
 } // namespace
 
+class Q_DECL_HIDDEN MArcScrollBar::Private
+{
+public:
+    explicit Private(MArcScrollBar *widget) : q(widget) { }
+
+    bool isStraight() const;
+    qint64 range() const;
+    double span() const;
+    double pointerAngle() const;
+    bool ticksStandApart(const QPainter &painter) const;
+    void drawTicksOneByOne(QPainter &painter) const;
+    void touch(const QPoint &p, bool release);
+    void takeValue(double exact, bool release);
+
+    MArcScrollBar *const q;
+    double radius = 570.0; // px, below 1: straight
+    QPointF centerPoint{-460.0, 200.0}; // px
+    QColor lineColor{173, 173, 173, 255};
+    QColor pointColor{94, 94, 94, 255};
+    double rotateAngle = 90.0; // degrees
+    double startAngle = 162.0; // degrees
+    QPixmap pointPixmap;
+    bool showTicks = true;
+
+    mutable KeptLayer ticks;
+    mutable KeptLayer pointer;
+};
+
 /** The range is that of a new QScrollBar, 0 to 99. The parent shows through between the ticks. */
 MArcScrollBar::MArcScrollBar(QWidget *parent)
-    : QScrollBar(parent), m_ticks(std::make_unique<KeptLayer>()),
-      m_pointer(std::make_unique<KeptLayer>())
+    : QScrollBar(parent), d(std::make_unique<Private>(this))
 {
     setAttribute(Qt::WA_WState_OwnSizePolicy);
     setAttribute(Qt::WA_OpaquePaintEvent, false);
@@ -65,10 +92,20 @@ MArcScrollBar::MArcScrollBar(QWidget *parent)
 
 MArcScrollBar::~MArcScrollBar() = default;
 
+double MArcScrollBar::radius() const
+{
+    return d->radius;
+}
+
 /** The radius of the arc in px; 570 by default, below 1 for a straight bar. Stored only. */
 void MArcScrollBar::setRadius(double radius)
 {
-    m_radius = radius;
+    d->radius = radius;
+}
+
+QColor MArcScrollBar::lineColor() const
+{
+    return d->lineColor;
 }
 
 /**
@@ -78,15 +115,25 @@ void MArcScrollBar::setRadius(double radius)
  */
 void MArcScrollBar::setLineColor(QColor color)
 {
-    m_lineColor = color;
+    d->lineColor = color;
     update();
+}
+
+QColor MArcScrollBar::pointColor() const
+{
+    return d->pointColor;
 }
 
 /** The colour of the triangle at the value; rgb(94, 94, 94) by default. Repaints. */
 void MArcScrollBar::setPointColor(QColor color)
 {
-    m_pointColor = color;
+    d->pointColor = color;
     update();
+}
+
+double MArcScrollBar::rotateAngle() const
+{
+    return d->rotateAngle;
 }
 
 /**
@@ -95,10 +142,15 @@ void MArcScrollBar::setPointColor(QColor color)
  */
 void MArcScrollBar::setRotateAngle(double angle)
 {
-    if (!(angle >= 0 && angle <= kFullTurn) || !differs(angle, m_rotateAngle))
+    if (!(angle >= 0 && angle <= kFullTurn) || !differs(angle, d->rotateAngle))
         return;
-    m_rotateAngle = angle;
+    d->rotateAngle = angle;
     update();
+}
+
+double MArcScrollBar::startAngle() const
+{
+    return d->startAngle;
 }
 
 /**
@@ -107,10 +159,15 @@ void MArcScrollBar::setRotateAngle(double angle)
  */
 void MArcScrollBar::setStartAngle(double angle)
 {
-    if (!differs(angle, m_startAngle))
+    if (!differs(angle, d->startAngle))
         return;
-    m_startAngle = angle;
+    d->startAngle = angle;
     update();
+}
+
+QPixmap MArcScrollBar::pointPixmap() const
+{
+    return d->pointPixmap;
 }
 
 /**
@@ -119,22 +176,32 @@ void MArcScrollBar::setStartAngle(double angle)
  */
 void MArcScrollBar::setPointPixmap(const QPixmap &pixmap)
 {
-    m_pointPixmap = pixmap;
+    d->pointPixmap = pixmap;
     update();
+}
+
+bool MArcScrollBar::showTicks() const
+{
+    return d->showTicks;
 }
 
 /** Whether there are ticks; true by default. Repaints. */
 void MArcScrollBar::setShowTicks(bool shown)
 {
-    m_showTicks = shown;
+    d->showTicks = shown;
     update();
+}
+
+QPointF MArcScrollBar::centerPoint() const
+{
+    return d->centerPoint;
 }
 
 /** The centre of the arc in px of the bar, usually outside of it; (-460, 200) by default. Repaints.
  */
 void MArcScrollBar::setCenterPoint(const QPointF &center)
 {
-    m_centerPoint = center;
+    d->centerPoint = center;
     update();
 }
 
@@ -148,14 +215,15 @@ void MArcScrollBar::drawTicks(QPainter *painter)
     if (!painter)
         return;
     const auto draw = [this](QPainter &p) {
-        drawTicksOneByOne(p);
+        d->drawTicksOneByOne(p);
     };
-    const auto reach = qreal(std::abs(m_radius)) + 1;
+    const auto reach = qreal(std::abs(d->radius)) + 1;
     const QRectF area(-reach, -reach, 2 * reach, 2 * reach);
     QTransform turned = painter->worldTransform();
-    turned.rotate(qreal(m_startAngle));
-    if (ticksStandApart(*painter)) {
-        m_ticks->draw(*painter, turned, {area, {m_radius, span(), double(range())}, 0}, draw);
+    turned.rotate(qreal(d->startAngle));
+    if (d->ticksStandApart(*painter)) {
+        d->ticks.draw(*painter, turned, {area, {d->radius, d->span(), double(d->range())}, 0},
+                      draw);
     } else if (DeviceView(*painter).shows(turned, area)) {
         painter->save();
         painter->setWorldTransform(turned);
@@ -169,34 +237,34 @@ void MArcScrollBar::drawPointer(QPainter *painter)
 {
     if (!painter)
         return;
-    const QSize size = m_pointPixmap.size();
+    const QSize size = d->pointPixmap.size();
     const QRect picture =
-        boundedRect(-(size.width() / 2), toInt(-m_radius), size.width(), size.height());
-    const auto base = qreal(toInt(-m_radius * kPointerBase));
-    const auto tip = -qreal(toInt(m_radius));
+        boundedRect(-(size.width() / 2), toInt(-d->radius), size.width(), size.height());
+    const auto base = qreal(toInt(-d->radius * kPointerBase));
+    const auto tip = -qreal(toInt(d->radius));
     const std::array<QPointF, 3> triangle{QPointF(-kPointerHalfBase, base),
                                           QPointF(kPointerHalfBase, base), QPointF(0, tip)};
-    const bool hasPicture = !m_pointPixmap.isNull();
+    const bool hasPicture = !d->pointPixmap.isNull();
     const QRectF triangleArea =
         QRectF(triangle[0], triangle[2]).normalized().adjusted(0, 0, kPointerHalfBase, 0);
     const QRectF area = (hasPicture ? QRectF(picture) : triangleArea).adjusted(-1, -1, 1, 1);
 
     const auto draw = [&](QPainter &p) {
         if (hasPicture) {
-            p.drawPixmap(picture, m_pointPixmap);
+            p.drawPixmap(picture, d->pointPixmap);
             return;
         }
         p.save();
         p.setPen(Qt::NoPen);
-        p.setBrush(m_pointColor);
+        p.setBrush(d->pointColor);
         p.drawConvexPolygon(triangle.data(), int(triangle.size()));
         p.restore();
     };
     QTransform turned = painter->worldTransform();
-    turned.rotate(qreal(m_startAngle - 180));
-    turned.rotate(qreal(pointerAngle()));
-    m_pointer->draw(*painter, turned,
-                    {area, {double(m_pointColor.rgba())}, m_pointPixmap.cacheKey()},
+    turned.rotate(qreal(d->startAngle - 180));
+    turned.rotate(qreal(d->pointerAngle()));
+    d->pointer.draw(*painter, turned,
+                    {area, {double(d->pointColor.rgba())}, d->pointPixmap.cacheKey()},
                     std::cref(draw));
 }
 
@@ -210,10 +278,10 @@ void MArcScrollBar::drawTicksVert(QPainter *painter)
     if (!painter)
         return;
     const qint64 height100 = toInt(height() - 2 * kMargin);
-    const qint64 pitch = range() == 0 ? 0 : height100 / range();
+    const qint64 pitch = d->range() == 0 ? 0 : height100 / d->range();
     // Without distance all ticks are one line over and over.
     const bool isOneLine = pitch == 0 && coversRows(*painter);
-    const qint64 last = isOneLine ? 0 : std::min(range(), kMostTicks);
+    const qint64 last = isOneLine ? 0 : std::min(d->range(), kMostTicks);
     QVector<QRect> rows;
     rows.reserve(int(last) + 1);
     for (qint64 i = 0; i <= last; ++i)
@@ -228,20 +296,20 @@ void MArcScrollBar::drawTicksVert(QPainter *painter)
         for (const QRect &row : qAsConst(rows))
             painter->drawLine(row.topLeft(), row.topRight());
     }
-    painter->setBrush(m_lineColor);
+    painter->setBrush(d->lineColor);
 }
 
 /** Draws the pointer of the straight bar: the picture, and nothing if there is none. */
 void MArcScrollBar::drawPointerVert(QPainter *painter)
 {
-    if (!painter || m_pointPixmap.isNull())
+    if (!painter || d->pointPixmap.isNull())
         return;
     const double along =
-        ratio((height() - 2 * kMargin) * double(qint64(value()) - minimum()), double(range()));
-    const int half = m_pointPixmap.height() / 2;
+        ratio((height() - 2 * kMargin) * double(qint64(value()) - minimum()), double(d->range()));
+    const int half = d->pointPixmap.height() / 2;
     const int y = toInt(along - half + kMargin);
-    painter->drawPixmap(boundedRect(0, y, m_pointPixmap.width(), m_pointPixmap.height()),
-                        m_pointPixmap);
+    painter->drawPixmap(boundedRect(0, y, d->pointPixmap.width(), d->pointPixmap.height()),
+                        d->pointPixmap);
 }
 
 /**
@@ -251,41 +319,41 @@ void MArcScrollBar::drawPointerVert(QPainter *painter)
  */
 void MArcScrollBar::calcCurValue(QPoint p, bool release)
 {
-    const double x = double(p.x()) - toInt(double(m_centerPoint.x()));
-    const double y = double(p.y()) - toInt(double(m_centerPoint.y()));
-    const double off = std::sqrt(x * x + y * y) - m_radius;
+    const double x = double(p.x()) - toInt(double(d->centerPoint.x()));
+    const double y = double(p.y()) - toInt(double(d->centerPoint.y()));
+    const double off = std::sqrt(x * x + y * y) - d->radius;
     if (!(off > -kReach && off < kReach))
         return;
     const std::optional<double> direction = touchDirection(x, y, 0);
     if (!direction)
         return;
-    double along = *direction + m_rotateAngle - m_startAngle;
+    double along = *direction + d->rotateAngle - d->startAngle;
     if (along >= kFullTurn)
         along = std::fmod(along, kFullTurn);
-    takeValue(minimum() + ratio(along * double(range()), span()), release);
+    d->takeValue(minimum() + ratio(along * double(d->range()), d->span()), release);
 }
 
 /** Sets the value from the height of a point, in the same way as calcCurValue(). */
 void MArcScrollBar::calcCurValueVert(QPoint p, bool release)
 {
-    takeValue(minimum() + ratio((p.y() - kMargin) * double(range()), height() - 2 * kMargin),
-              release);
+    d->takeValue(minimum() + ratio((p.y() - kMargin) * double(d->range()), height() - 2 * kMargin),
+                 release);
 }
 
 void MArcScrollBar::paintEvent(QPaintEvent *e)
 {
     QWidget::paintEvent(e); // NOLINT(bugprone-parent-virtual-call): nothing of QScrollBar's picture
     QPainter painter(this);
-    if (isStraight()) {
-        if (m_showTicks)
+    if (d->isStraight()) {
+        if (d->showTicks)
             drawTicksVert(&painter);
         drawPointerVert(&painter);
         return;
     }
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    painter.translate(m_centerPoint);
-    painter.rotate(qreal(m_rotateAngle));
-    if (m_showTicks)
+    painter.translate(d->centerPoint);
+    painter.rotate(qreal(d->rotateAngle));
+    if (d->showTicks)
         drawTicks(&painter);
     drawPointer(&painter);
 }
@@ -299,13 +367,13 @@ void MArcScrollBar::mousePressEvent(QMouseEvent *e)
     const QPointer<MArcScrollBar> guard(this);
     emit sliderPressed();
     if (guard)
-        touch(e->pos(), false);
+        d->touch(e->pos(), false);
 }
 
 void MArcScrollBar::mouseMoveEvent(QMouseEvent *e)
 {
     if (e)
-        touch(e->pos(), false);
+        d->touch(e->pos(), false);
 }
 
 /** Takes the value, then emits sliderReleased. */
@@ -314,58 +382,58 @@ void MArcScrollBar::mouseReleaseEvent(QMouseEvent *e)
     if (!e)
         return;
     const QPointer<MArcScrollBar> guard(this);
-    touch(e->pos(), true);
+    d->touch(e->pos(), true);
     if (guard)
         emit sliderReleased();
 }
 
-bool MArcScrollBar::isStraight() const
+bool MArcScrollBar::Private::isStraight() const
 {
-    return m_radius < kStraightBelow;
+    return radius < kStraightBelow;
 }
 
 // Of values; 64 bits hold the distance of any two ints.
-qint64 MArcScrollBar::range() const
+qint64 MArcScrollBar::Private::range() const
 {
-    return qint64(maximum()) - minimum();
+    return qint64(q->maximum()) - q->minimum();
 }
 
 // Of degrees.
-double MArcScrollBar::span() const
+double MArcScrollBar::Private::span() const
 {
-    return kFullTurn - 2 * m_startAngle;
+    return kFullTurn - 2 * startAngle;
 }
 
 // From the first tick. A range without extent has the pointer at its only tick. The value is above
 // the maximum while a slot is told of a smaller range.
-double MArcScrollBar::pointerAngle() const
+double MArcScrollBar::Private::pointerAngle() const
 {
-    if (value() > maximum())
+    if (q->value() > q->maximum())
         return kFullTurn;
     if (range() == 0)
         return 0;
-    return span() / double(range()) * double(qint64(value()) - minimum());
+    return span() / double(range()) * double(qint64(q->value()) - q->minimum());
 }
 
 // Whether no pixel can belong to two ticks: only then are kept ones the same in every pixel.
-bool MArcScrollBar::ticksStandApart(const QPainter &painter) const
+bool MArcScrollBar::Private::ticksStandApart(const QPainter &painter) const
 {
     if (range() == 0)
         return true;
     const double step = std::abs(span()) / double(range());
     const double scale = std::sqrt(std::abs(double(painter.worldTransform().determinant())));
-    const double distance = std::abs(m_radius) * kTickStart * step * kRadian * scale;
+    const double distance = std::abs(radius) * kTickStart * step * kRadian * scale;
     const double thickness = std::max(1.0, double(painter.pen().widthF()) * scale) + 2; // px
     return distance >= thickness && std::abs(span()) + step <= kFullTurn;
 }
 
-void MArcScrollBar::drawTicksOneByOne(QPainter &painter) const
+void MArcScrollBar::Private::drawTicksOneByOne(QPainter &painter) const
 {
     const qint64 stride = std::max<qint64>((range() + kMostTicks - 1) / kMostTicks, 1);
     const double step = range() == 0 ? 0 : span() / double(range()) * double(stride);
-    const QLineF tick(0, qreal(kTickStart * m_radius), 0, qreal(kTickEnd * m_radius));
+    const QLineF tick(0, qreal(kTickStart * radius), 0, qreal(kTickEnd * radius));
     painter.save();
-    painter.setBrush(m_lineColor);
+    painter.setBrush(lineColor);
     for (qint64 i = 0; i <= range(); i += stride) {
         painter.drawLine(tick);
         painter.rotate(qreal(step));
@@ -373,31 +441,31 @@ void MArcScrollBar::drawTicksOneByOne(QPainter &painter) const
     painter.restore();
 }
 
-void MArcScrollBar::touch(const QPoint &p, bool release)
+void MArcScrollBar::Private::touch(const QPoint &p, bool release)
 {
     if (isStraight())
-        calcCurValueVert(p, release);
+        q->calcCurValueVert(p, release);
     else
-        calcCurValue(p, release);
+        q->calcCurValue(p, release);
 }
 
 // A release emits valueChanged a second time, after the one that setValue() itself has emitted:
 // listeners tell the end of a touch by it. Likewise sliderMoved always follows the new position.
-void MArcScrollBar::takeValue(double exact, bool release)
+void MArcScrollBar::Private::takeValue(double exact, bool release)
 {
     if (std::isnan(exact))
         return;
-    const int wanted = toInt(std::clamp(exact, double(minimum()), double(maximum())));
-    if (wanted == value())
+    const int wanted = toInt(std::clamp(exact, double(q->minimum()), double(q->maximum())));
+    if (wanted == q->value())
         return;
-    const QPointer<MArcScrollBar> guard(this);
+    const QPointer<MArcScrollBar> guard(q);
     if (release) {
-        setValue(wanted);
+        q->setValue(wanted);
         if (guard)
-            emit valueChanged(wanted);
+            emit q->valueChanged(wanted);
     } else {
-        setSliderPosition(wanted);
+        q->setSliderPosition(wanted);
         if (guard)
-            emit sliderMoved(wanted);
+            emit q->sliderMoved(wanted);
     }
 }

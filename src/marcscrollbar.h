@@ -12,11 +12,6 @@
 
 class QPainter;
 
-namespace panelkit
-{
-class KeptLayer;
-} // namespace panelkit
-
 /**
  * A scroll bar in the shape of a stretch of an arc: ticks along it, and a pointer at the value. A
  * radius below 1 makes it a straight vertical bar.
@@ -42,21 +37,21 @@ public:
     explicit MArcScrollBar(QWidget *parent = nullptr);
     ~MArcScrollBar() override;
 
-    double radius() const { return m_radius; }
+    double radius() const;
     void setRadius(double radius);
-    QColor lineColor() const { return m_lineColor; }
+    QColor lineColor() const;
     void setLineColor(QColor color);
-    QColor pointColor() const { return m_pointColor; }
+    QColor pointColor() const;
     void setPointColor(QColor color);
-    double rotateAngle() const { return m_rotateAngle; }
+    double rotateAngle() const;
     void setRotateAngle(double angle);
-    double startAngle() const { return m_startAngle; }
+    double startAngle() const;
     void setStartAngle(double angle);
-    QPixmap pointPixmap() const { return m_pointPixmap; }
+    QPixmap pointPixmap() const;
     void setPointPixmap(const QPixmap &pixmap);
-    bool showTicks() const { return m_showTicks; }
+    bool showTicks() const;
     void setShowTicks(bool shown);
-    QPointF centerPoint() const { return m_centerPoint; }
+    QPointF centerPoint() const;
     void setCenterPoint(const QPointF &center);
 
     void drawTicks(QPainter *painter);
@@ -73,26 +68,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent *e) override;
 
 private:
-    bool isStraight() const;
-    qint64 range() const;
-    double span() const;
-    double pointerAngle() const;
-    bool ticksStandApart(const QPainter &painter) const;
-    void drawTicksOneByOne(QPainter &painter) const;
-    void touch(const QPoint &p, bool release);
-    void takeValue(double exact, bool release);
-
-    double m_radius = 570.0; // px, below 1: straight
-    QPointF m_centerPoint{-460.0, 200.0}; // px
-    QColor m_lineColor{173, 173, 173, 255};
-    QColor m_pointColor{94, 94, 94, 255};
-    double m_rotateAngle = 90.0; // degrees
-    double m_startAngle = 162.0; // degrees
-    QPixmap m_pointPixmap;
-    bool m_showTicks = true;
-
-    std::unique_ptr<panelkit::KeptLayer> m_ticks;
-    std::unique_ptr<panelkit::KeptLayer> m_pointer;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 #endif // MARCSCROLLBAR_H

@@ -128,21 +128,75 @@ template <class Inputs> struct KeptPart {
 
 } // namespace
 
-struct MCircularDial::Kept {
+class Q_DECL_HIDDEN MCircularDial::Private
+{
+public:
+    explicit Private(MCircularDial *widget) : q(widget) { }
+
+    struct Kept;
+
+    double paintedRadius() const;
+    int tickCount() const;
+    double span() const;
+    double pointerAngle() const;
+    bool canKeepFace() const;
+    void drawFace(QPainter &painter) const;
+    void drawBg(QPainter &painter) const;
+    void drawTicks(QPainter &painter) const;
+    double valueAt(qint64 tick) const;
+    qint64 labelStride(qint64 tickStride) const;
+    bool isLong(double tick) const;
+    void drawTick(QPainter &painter, bool isLong) const;
+    void drawLabel(QPainter &painter, const DeviceView &view, double tick) const;
+    void drawPointer(QPainter &painter) const;
+    void drawValue(QPainter &painter) const;
+    void takeTouch(QMouseEvent *e, bool release);
+    void calcCurValue(QPoint p, bool release);
+
+    MCircularDial *const q;
+    double radius = 250.0; // px
+    double minValue = 87.5;
+    double maxValue = 108.0;
+    double value = 87.5;
+    QString unit;
+    QColor textColor{255, 255, 255};
+    QColor bgColor{173, 173, 173};
+    QColor centerColor{94, 94, 94};
+    double rotateAngle = 90.0; // degrees
+    double scale = 0.1; // of the value, a tick
+    int scaleLong = 1; // whole values
+    double startAngle = 120.0; // degrees
+
+    std::unique_ptr<Kept> kept;
+};
+
+struct MCircularDial::Private::Kept {
     KeptPart<FaceInputs> face;
     KeptPart<ValueInputs> value;
 };
 
 /** A dial of 250 px at the lower end of the FM band. */
-MCircularDial::MCircularDial(QWidget *parent)
-    : QWidget(parent), m_kept(std::make_unique<Kept>()) { }
+MCircularDial::MCircularDial(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
+{
+    d->kept = std::make_unique<Private::Kept>();
+}
 
 MCircularDial::~MCircularDial() = default;
+
+double MCircularDial::radius() const
+{
+    return d->radius;
+}
 
 /** The radius in px; 250 by default. Stored only: it shows at the next paint. */
 void MCircularDial::setRadius(double radius)
 {
-    m_radius = radius;
+    d->radius = radius;
+}
+
+double MCircularDial::minValue() const
+{
+    return d->minValue;
 }
 
 /**
@@ -153,25 +207,35 @@ void MCircularDial::setRadius(double radius)
  */
 void MCircularDial::setMinValue(double minimum)
 {
-    if (isSameValue(minimum, m_minValue) || minimum >= m_maxValue)
+    if (isSameValue(minimum, d->minValue) || minimum >= d->maxValue)
         return;
-    m_minValue = minimum;
-    if (m_value < minimum)
+    d->minValue = minimum;
+    if (d->value < minimum)
         setValue(minimum);
     else
         update();
 }
 
+double MCircularDial::maxValue() const
+{
+    return d->maxValue;
+}
+
 /** The highest value; 108 by default. The mirror image of setMinValue(). */
 void MCircularDial::setMaxValue(double maximum)
 {
-    if (isSameValue(maximum, m_maxValue) || maximum <= m_minValue)
+    if (isSameValue(maximum, d->maxValue) || maximum <= d->minValue)
         return;
-    m_maxValue = maximum;
-    if (m_value > maximum)
+    d->maxValue = maximum;
+    if (d->value > maximum)
         setValue(maximum);
     else
         update();
+}
+
+double MCircularDial::value() const
+{
+    return d->value;
 }
 
 /**
@@ -180,38 +244,63 @@ void MCircularDial::setMaxValue(double maximum)
  */
 void MCircularDial::setValue(double value)
 {
-    if (isSameValue(value, m_value))
+    if (isSameValue(value, d->value))
         return;
-    m_value = std::clamp(value, m_minValue, m_maxValue);
+    d->value = std::clamp(value, d->minValue, d->maxValue);
     update();
+}
+
+QString MCircularDial::unit() const
+{
+    return d->unit;
 }
 
 /** The text that follows the value at once; empty by default. Repaints. */
 void MCircularDial::setUnit(QString unit)
 {
-    m_unit = std::move(unit);
+    d->unit = std::move(unit);
     update();
+}
+
+QColor MCircularDial::textColor() const
+{
+    return d->textColor;
 }
 
 /** The colour of the ticks, their labels and the value; white by default. Repaints. */
 void MCircularDial::setTextColor(QColor color)
 {
-    m_textColor = color;
+    d->textColor = color;
     update();
+}
+
+QColor MCircularDial::bgColor() const
+{
+    return d->bgColor;
 }
 
 /** The colour of the ground; rgb(173, 173, 173) by default. Repaints. */
 void MCircularDial::setBgColor(QColor color)
 {
-    m_bgColor = color;
+    d->bgColor = color;
     update();
+}
+
+QColor MCircularDial::centerColor() const
+{
+    return d->centerColor;
 }
 
 /** The colour of the pointer and its hub; rgb(94, 94, 94) by default. Repaints. */
 void MCircularDial::setCenterColor(QColor color)
 {
-    m_centerColor = color;
+    d->centerColor = color;
     update();
+}
+
+double MCircularDial::rotateAngle() const
+{
+    return d->rotateAngle;
 }
 
 /**
@@ -220,10 +309,15 @@ void MCircularDial::setCenterColor(QColor color)
  */
 void MCircularDial::setRotateAngle(double angle)
 {
-    if (!(angle >= 0 && angle <= kFullTurn) || isSameAngle(angle, m_rotateAngle))
+    if (!(angle >= 0 && angle <= kFullTurn) || isSameAngle(angle, d->rotateAngle))
         return;
-    m_rotateAngle = angle;
+    d->rotateAngle = angle;
     update();
+}
+
+double MCircularDial::scale() const
+{
+    return d->scale;
 }
 
 /** How much of the value there is from tick to tick; 0.1 by default. Scales of 0.01 and below are
@@ -232,18 +326,28 @@ void MCircularDial::setScale(double scale)
 {
     if (!(scale > kFinestScale))
         return;
-    m_scale = scale;
+    d->scale = scale;
     update();
+}
+
+int MCircularDial::scaleLong() const
+{
+    return d->scaleLong;
 }
 
 /** Every how many whole values a tick is long and labelled; 1 by default. Numbers below 1 are
  * ignored. Repaints on a change. */
 void MCircularDial::setScaleLong(int wholes)
 {
-    if (wholes == m_scaleLong || wholes < 1)
+    if (wholes == d->scaleLong || wholes < 1)
         return;
-    m_scaleLong = wholes;
+    d->scaleLong = wholes;
     update();
+}
+
+double MCircularDial::startAngle() const
+{
+    return d->startAngle;
 }
 
 /**
@@ -253,9 +357,9 @@ void MCircularDial::setScaleLong(int wholes)
  */
 void MCircularDial::setStartAngle(double angle)
 {
-    if (isSameAngle(angle, m_startAngle))
+    if (isSameAngle(angle, d->startAngle))
         return;
-    m_startAngle = angle;
+    d->startAngle = angle;
     update();
 }
 
@@ -265,10 +369,10 @@ void MCircularDial::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     painter.translate(QPoint(width() / 2, height() / 2));
-    painter.rotate(qreal(m_rotateAngle));
-    drawFace(painter);
-    drawPointer(painter);
-    drawValue(painter);
+    painter.rotate(qreal(d->rotateAngle));
+    d->drawFace(painter);
+    d->drawPointer(painter);
+    d->drawValue(painter);
 }
 
 /** QWidget goes first, which leaves the event to the parent, here and below. */
@@ -277,7 +381,7 @@ void MCircularDial::mousePressEvent(QMouseEvent *e)
     if (!e)
         return;
     QWidget::mousePressEvent(e);
-    takeTouch(e, false);
+    d->takeTouch(e, false);
 }
 
 void MCircularDial::mouseMoveEvent(QMouseEvent *e)
@@ -285,7 +389,7 @@ void MCircularDial::mouseMoveEvent(QMouseEvent *e)
     if (!e)
         return;
     QWidget::mouseMoveEvent(e);
-    takeTouch(e, false);
+    d->takeTouch(e, false);
 }
 
 void MCircularDial::mouseReleaseEvent(QMouseEvent *e)
@@ -293,13 +397,13 @@ void MCircularDial::mouseReleaseEvent(QMouseEvent *e)
     if (!e)
         return;
     QWidget::mouseReleaseEvent(e);
-    takeTouch(e, true);
+    d->takeTouch(e, true);
 }
 
 // A dial that a slot has deleted ends the way of the event, which QWidget has left to the parent.
-void MCircularDial::takeTouch(QMouseEvent *e, bool release)
+void MCircularDial::Private::takeTouch(QMouseEvent *e, bool release)
 {
-    const QPointer<MCircularDial> guard(this);
+    const QPointer<MCircularDial> guard(q);
     calcCurValue(e->pos(), release);
     if (!guard)
         e->accept();
@@ -307,50 +411,50 @@ void MCircularDial::takeTouch(QMouseEvent *e, bool release)
 
 // A radius that is no number has nothing to draw; one beyond every widget fills it like the
 // largest.
-double MCircularDial::paintedRadius() const
+double MCircularDial::Private::paintedRadius() const
 {
-    return std::isnan(m_radius) ? 0 : std::clamp(m_radius, -kLargestRadius, kLargestRadius);
+    return std::isnan(radius) ? 0 : std::clamp(radius, -kLargestRadius, kLargestRadius);
 }
 
-int MCircularDial::tickCount() const
+int MCircularDial::Private::tickCount() const
 {
-    return toInt((m_maxValue - m_minValue) / m_scale);
+    return toInt((maxValue - minValue) / scale);
 }
 
 // Of degrees.
-double MCircularDial::span() const
+double MCircularDial::Private::span() const
 {
-    return kFullTurn - 2 * m_startAngle;
+    return kFullTurn - 2 * startAngle;
 }
 
 // From the first tick. It goes by the whole number of ticks, so that it stays with them where the
 // range is not a multiple of the scale. A value above the maximum, which a change too small to be
 // one leaves there, is shown at the full turn. With a single tick the pointer is at that one.
-double MCircularDial::pointerAngle() const
+double MCircularDial::Private::pointerAngle() const
 {
-    if (m_value > m_maxValue)
+    if (value > maxValue)
         return kFullTurn;
     const int count = tickCount();
     if (count == 0)
         return 0;
-    return span() / count * ((m_value - m_minValue) / m_scale);
+    return span() / count * ((value - minValue) / scale);
 }
 
 // Whether the ticks touch opaque pixels only. Where they do not, what is below the dial shines
 // through two layers, which kept pixels would round in another way.
-bool MCircularDial::canKeepFace() const
+bool MCircularDial::Private::canKeepFace() const
 {
-    return m_bgColor.alpha() == 255 && (1 - kTickEnd) * std::abs(paintedRadius()) >= kClearRim;
+    return bgColor.alpha() == 255 && (1 - kTickEnd) * std::abs(paintedRadius()) >= kClearRim;
 }
 
-void MCircularDial::drawFace(QPainter &painter) const
+void MCircularDial::Private::drawFace(QPainter &painter) const
 {
     const double reach = std::abs(paintedRadius()) + kLabel.width();
     const QRectF area(qreal(-reach), qreal(-reach), qreal(2 * reach), qreal(2 * reach));
-    const FaceInputs inputs{{m_radius, m_minValue, m_maxValue, m_scale, m_startAngle},
-                            m_scaleLong,
-                            m_bgColor.rgba(),
-                            Lettering(painter, m_textColor)};
+    const FaceInputs inputs{{radius, minValue, maxValue, scale, startAngle},
+                            scaleLong,
+                            bgColor.rgba(),
+                            Lettering(painter, textColor)};
     const auto paint = [this, &painter](QPainter &p) {
         p.save();
         p.setFont(painter.font());
@@ -360,25 +464,25 @@ void MCircularDial::drawFace(QPainter &painter) const
         p.restore();
     };
     if (canKeepFace())
-        m_kept->face.draw(painter, inputs, area, paint);
+        kept->face.draw(painter, inputs, area, paint);
     else
         paint(painter);
 }
 
-void MCircularDial::drawBg(QPainter &painter) const
+void MCircularDial::Private::drawBg(QPainter &painter) const
 {
-    const auto radius = qreal(paintedRadius());
-    QRadialGradient ground(QPointF(0, 0), radius, QPointF(0, 0));
-    ground.setColorAt(0, m_bgColor.lighter(100));
-    ground.setColorAt(1, m_bgColor);
+    const auto rim = qreal(paintedRadius());
+    QRadialGradient ground(QPointF(0, 0), rim, QPointF(0, 0));
+    ground.setColorAt(0, bgColor.lighter(100));
+    ground.setColorAt(1, bgColor);
     painter.setPen(Qt::NoPen);
     painter.setBrush(ground);
-    painter.drawEllipse(QRectF(-radius, -radius, 2 * radius, 2 * radius));
+    painter.drawEllipse(QRectF(-rim, -rim, 2 * rim, 2 * rim));
 }
 
 // A range of more ticks than anyone can tell apart is thinned out, so that one of a billion costs
 // no more than the ring of ticks that one sees.
-void MCircularDial::drawTicks(QPainter &painter) const
+void MCircularDial::Private::drawTicks(QPainter &painter) const
 {
     const int count = tickCount();
     const qint64 stride = tickStride(count);
@@ -387,16 +491,16 @@ void MCircularDial::drawTicks(QPainter &painter) const
     qint64 labelIndex = 0;
 
     painter.save();
-    painter.setPen(m_textColor);
-    painter.rotate(qreal(m_startAngle));
+    painter.setPen(textColor);
+    painter.rotate(qreal(startAngle));
     const DeviceView view(painter);
     for (qint64 i = 0; i <= count; i += stride) {
-        const double value = valueAt(i);
-        if (value >= m_minValue && value <= m_maxValue) {
-            const bool isLabelled = isLong(value);
+        const double tick = valueAt(i);
+        if (tick >= minValue && tick <= maxValue) {
+            const bool isLabelled = isLong(tick);
             drawTick(painter, isLabelled);
             if (isLabelled && labelIndex++ % everyLabel == 0)
-                drawLabel(painter, view, value);
+                drawLabel(painter, view, tick);
         }
         painter.rotate(qreal(step));
     }
@@ -404,13 +508,13 @@ void MCircularDial::drawTicks(QPainter &painter) const
 }
 
 // The fused multiplication keeps tenths exact.
-double MCircularDial::valueAt(qint64 tick) const
+double MCircularDial::Private::valueAt(qint64 tick) const
 {
-    return std::fma(double(tick), m_scale, m_minValue);
+    return std::fma(double(tick), scale, minValue);
 }
 
 // Labels cost most, and where ticks are thinned out even fewer of them lie on top of each other.
-qint64 MCircularDial::labelStride(qint64 tickStride) const
+qint64 MCircularDial::Private::labelStride(qint64 tickStride) const
 {
     if (tickStride == 1)
         return 1;
@@ -422,20 +526,20 @@ qint64 MCircularDial::labelStride(qint64 tickStride) const
 
 // Only a value at or a trace above a whole number counts as one: one a trace below, which is cut to
 // the number before it, gets a short tick.
-bool MCircularDial::isLong(double value) const
+bool MCircularDial::Private::isLong(double tick) const
 {
-    const int whole = toInt(value);
-    return std::abs(value - whole) <= kNearWhole && whole % m_scaleLong == 0;
+    const int whole = toInt(tick);
+    return std::abs(tick - whole) <= kNearWhole && whole % scaleLong == 0;
 }
 
-void MCircularDial::drawTick(QPainter &painter, bool isLong) const
+void MCircularDial::Private::drawTick(QPainter &painter, bool isLong) const
 {
-    const double radius = paintedRadius();
-    const double start = (kTickEnd - (isLong ? kLongTick : kShortTick)) * radius;
-    painter.drawLine(QLineF(0, qreal(start), 0, qreal(kTickEnd * radius)));
+    const double rim = paintedRadius();
+    const double start = (kTickEnd - (isLong ? kLongTick : kShortTick)) * rim;
+    painter.drawLine(QLineF(0, qreal(start), 0, qreal(kTickEnd * rim)));
 }
 
-void MCircularDial::drawLabel(QPainter &painter, const DeviceView &view, double value) const
+void MCircularDial::Private::drawLabel(QPainter &painter, const DeviceView &view, double tick) const
 {
     painter.save();
     painter.translate(0, qreal(kLabelAt * paintedRadius()));
@@ -443,41 +547,41 @@ void MCircularDial::drawLabel(QPainter &painter, const DeviceView &view, double 
     constexpr int kOverhang = 8; // px that a letter may lean out of its box
     const QRect reach = kLabel.adjusted(-kOverhang, -kOverhang, kOverhang, kOverhang);
     if (view.shows(painter.worldTransform(), QRectF(reach)))
-        painter.drawText(kLabel, Qt::AlignCenter, QString::number(value, 'g', 6));
+        painter.drawText(kLabel, Qt::AlignCenter, QString::number(tick, 'g', 6));
     painter.restore();
 }
 
-void MCircularDial::drawPointer(QPainter &painter) const
+void MCircularDial::Private::drawPointer(QPainter &painter) const
 {
     const std::array<QPointF, 3> triangle{QPointF(-kPointerHalfBase, 0),
                                           QPointF(kPointerHalfBase, 0),
                                           QPointF(0, qreal(toInt(-paintedRadius())))};
     painter.save();
     painter.setPen(Qt::NoPen);
-    painter.setBrush(m_centerColor);
-    painter.rotate(qreal(m_startAngle - 180));
+    painter.setBrush(centerColor);
+    painter.rotate(qreal(startAngle - 180));
     painter.rotate(qreal(pointerAngle()));
     painter.drawConvexPolygon(triangle.data(), int(triangle.size()));
     painter.restore();
 
     painter.save();
     painter.setPen(Qt::NoPen);
-    painter.setBrush(m_centerColor);
+    painter.setBrush(centerColor);
     painter.drawEllipse(kHub);
     painter.restore();
 }
 
-void MCircularDial::drawValue(QPainter &painter) const
+void MCircularDial::Private::drawValue(QPainter &painter) const
 {
-    const double radius = paintedRadius();
-    const QString text = QString::number(m_value, 'g', 6) + m_unit;
-    const QRectF area(QPointF(-kValueSize.width() / 2, qreal(kValueAt * radius)), kValueSize);
-    const ValueInputs inputs{radius, text, Lettering(painter, m_textColor)};
-    m_kept->value.draw(painter, inputs, area, [&](QPainter &p) {
+    const double rim = paintedRadius();
+    const QString text = QString::number(value, 'g', 6) + unit;
+    const QRectF area(QPointF(-kValueSize.width() / 2, qreal(kValueAt * rim)), kValueSize);
+    const ValueInputs inputs{rim, text, Lettering(painter, textColor)};
+    kept->value.draw(painter, inputs, area, [&](QPainter &p) {
         p.save();
         p.setFont(painter.font());
         p.setLayoutDirection(painter.layoutDirection());
-        p.setPen(m_textColor);
+        p.setPen(textColor);
         p.drawText(area, Qt::AlignCenter, text);
         p.restore();
     });
@@ -486,27 +590,26 @@ void MCircularDial::drawValue(QPainter &painter) const
 // The value for a point, if it is near the rim. The angle is used as it is where the dial does not
 // reach: that is a value outside the range, which is ignored, as are points exactly above, below or
 // beside the centre. The report carries the value that was touched.
-void MCircularDial::calcCurValue(QPoint p, bool release)
+void MCircularDial::Private::calcCurValue(QPoint p, bool release)
 {
-    const QPoint centre(width() / 2, height() / 2);
+    const QPoint centre(q->width() / 2, q->height() / 2);
     const double x = double(p.x()) - centre.x();
     const double y = double(p.y()) - centre.y();
-    const double off = std::sqrt(x * x + y * y) - m_radius;
+    const double off = std::sqrt(x * x + y * y) - radius;
     if (!(off > -kReach && off < kReach))
         return;
     const std::optional<double> direction = touchDirection(x, y, 0);
     if (!direction)
         return;
-    double along = *direction - m_rotateAngle + 0.5 * m_startAngle;
+    double along = *direction - rotateAngle + 0.5 * startAngle;
     if (along >= kFullTurn)
         along = std::fmod(along, kFullTurn);
-    const double touched = m_minValue + ratio((m_maxValue - m_minValue) * along, span());
-    if (!(touched >= m_minValue && touched <= m_maxValue)
-        || std::abs(touched - m_value) <= kFinestValue)
+    const double touched = minValue + ratio((maxValue - minValue) * along, span());
+    if (!(touched >= minValue && touched <= maxValue) || std::abs(touched - value) <= kFinestValue)
         return;
-    setValue(touched);
+    q->setValue(touched);
     if (release)
-        emit valueChanged(touched);
+        emit q->valueChanged(touched);
     else
-        emit currentValueChange(touched);
+        emit q->currentValueChange(touched);
 }

@@ -9,13 +9,6 @@
 
 #include <memory>
 
-class QPainter;
-
-namespace panelkit
-{
-class DeviceView;
-} // namespace panelkit
-
 /**
  * A round dial: ticks with numbers along an arc, a pointer at the value, and the value as text. The
  * user sets the value by touching or dragging near the rim.
@@ -47,29 +40,29 @@ public:
     explicit MCircularDial(QWidget *parent = nullptr);
     ~MCircularDial() override;
 
-    double radius() const { return m_radius; }
+    double radius() const;
     void setRadius(double radius);
-    double minValue() const { return m_minValue; }
+    double minValue() const;
     void setMinValue(double minimum);
-    double maxValue() const { return m_maxValue; }
+    double maxValue() const;
     void setMaxValue(double maximum);
-    double value() const { return m_value; }
+    double value() const;
     void setValue(double value);
-    QString unit() const { return m_unit; }
+    QString unit() const;
     void setUnit(QString unit);
-    QColor textColor() const { return m_textColor; }
+    QColor textColor() const;
     void setTextColor(QColor color);
-    QColor bgColor() const { return m_bgColor; }
+    QColor bgColor() const;
     void setBgColor(QColor color);
-    QColor centerColor() const { return m_centerColor; }
+    QColor centerColor() const;
     void setCenterColor(QColor color);
-    double rotateAngle() const { return m_rotateAngle; }
+    double rotateAngle() const;
     void setRotateAngle(double angle);
-    double scale() const { return m_scale; }
+    double scale() const;
     void setScale(double scale);
-    int scaleLong() const { return m_scaleLong; }
+    int scaleLong() const;
     void setScaleLong(int wholes);
-    double startAngle() const { return m_startAngle; }
+    double startAngle() const;
     void setStartAngle(double angle);
 
 signals:
@@ -83,40 +76,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent *e) override;
 
 private:
-    struct Kept;
-
-    double paintedRadius() const;
-    int tickCount() const;
-    double span() const;
-    double pointerAngle() const;
-    bool canKeepFace() const;
-    void drawFace(QPainter &painter) const;
-    void drawBg(QPainter &painter) const;
-    void drawTicks(QPainter &painter) const;
-    double valueAt(qint64 tick) const;
-    qint64 labelStride(qint64 tickStride) const;
-    bool isLong(double value) const;
-    void drawTick(QPainter &painter, bool isLong) const;
-    void drawLabel(QPainter &painter, const panelkit::DeviceView &view, double value) const;
-    void drawPointer(QPainter &painter) const;
-    void drawValue(QPainter &painter) const;
-    void takeTouch(QMouseEvent *e, bool release);
-    void calcCurValue(QPoint p, bool release);
-
-    double m_radius = 250.0; // px
-    double m_minValue = 87.5;
-    double m_maxValue = 108.0;
-    double m_value = 87.5;
-    QString m_unit;
-    QColor m_textColor{255, 255, 255};
-    QColor m_bgColor{173, 173, 173};
-    QColor m_centerColor{94, 94, 94};
-    double m_rotateAngle = 90.0; // degrees
-    double m_scale = 0.1; // of the value, a tick
-    int m_scaleLong = 1; // whole values
-    double m_startAngle = 120.0; // degrees
-
-    std::unique_ptr<Kept> m_kept;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 #endif // MCIRCULARDIAL_H

@@ -9,21 +9,57 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QSize>
 #include <QTimerEvent>
 
 using namespace panelkit;
+
+class Q_DECL_HIDDEN MFocusButton::Private
+{
+public:
+    explicit Private(MFocusButton *widget) : q(widget) { }
+
+    void endTiming();
+    bool isHighlighted() const;
+    const QPixmap &shownImage() const;
+    QColor shownTextColor() const;
+    void drawPicture(QPainter &painter) const;
+    void drawCaption(QPainter &painter) const;
+
+    MFocusButton *const q;
+    QPixmap normalImage;
+    QPixmap pressImage;
+    QPixmap disableImage;
+    QString displayText;
+    QColor normalTextColor;
+    QColor pressTextColor;
+    QColor disableTextColor;
+    QSize imageSize;
+    QRect displayTextRect;
+    QString buttonID = QStringLiteral("MFocusButton_ID");
+    int timerId = 0; // 0: no press is timed
+    int longPressIntal = 2500; // ms
+    bool longPressed = false;
+
+    mutable ImageLook look;
+    mutable KeptText caption;
+};
 
 /**
  * A radio button that has no pictures yet. Its text colours are invalid, which is black, until they
  * are set.
  */
 MFocusButton::MFocusButton(QWidget *parent)
-    : QRadioButton(parent), m_look(std::make_unique<ImageLook>()),
-      m_caption(std::make_unique<KeptText>())
+    : QRadioButton(parent), d(std::make_unique<Private>(this))
 {
 }
 
 MFocusButton::~MFocusButton() = default;
+
+QPixmap MFocusButton::normalImage() const
+{
+    return d->normalImage;
+}
 
 /**
  * The picture shown normally. Its size becomes the size into which every picture is stretched, and
@@ -32,62 +68,107 @@ MFocusButton::~MFocusButton() = default;
  */
 void MFocusButton::setNormalImage(const QPixmap &image)
 {
-    m_normalImage = image;
+    d->normalImage = image;
     if (image.isNull())
         return;
-    m_imageSize = image.size();
-    setMinimumSize(m_imageSize);
+    d->imageSize = image.size();
+    setMinimumSize(d->imageSize);
     update();
+}
+
+QPixmap MFocusButton::pressImage() const
+{
+    return d->pressImage;
 }
 
 /** The picture shown while pressed or checked; without it there is none. Stored only. */
 void MFocusButton::setPressImage(const QPixmap &image)
 {
-    m_pressImage = image;
+    d->pressImage = image;
+}
+
+QPixmap MFocusButton::disableImage() const
+{
+    return d->disableImage;
 }
 
 /** The picture shown while disabled; without it the normal one stays. Repaints. */
 void MFocusButton::setDisableImage(const QPixmap &image)
 {
-    m_disableImage = image;
+    d->disableImage = image;
     update();
+}
+
+QString MFocusButton::displayText() const
+{
+    return d->displayText;
 }
 
 /** The caption. It is neither shortened nor wrapped. Repaints. */
 void MFocusButton::setDisplayText(const QString &text)
 {
-    m_displayText = text;
+    d->displayText = text;
     update();
+}
+
+QColor MFocusButton::normalTextColor() const
+{
+    return d->normalTextColor;
 }
 
 /** The colour of the caption normally. Stored only. */
 void MFocusButton::setNormalTextColor(const QColor &color)
 {
-    m_normalTextColor = color;
+    d->normalTextColor = color;
+}
+
+QColor MFocusButton::pressTextColor() const
+{
+    return d->pressTextColor;
 }
 
 /** The colour of the caption while pressed or checked. Stored only. */
 void MFocusButton::setPressTextColor(const QColor &color)
 {
-    m_pressTextColor = color;
+    d->pressTextColor = color;
+}
+
+QColor MFocusButton::disableTextColor() const
+{
+    return d->disableTextColor;
 }
 
 /** The colour of the caption while disabled. Stored only. */
 void MFocusButton::setDisableTextColor(const QColor &color)
 {
-    m_disableTextColor = color;
+    d->disableTextColor = color;
+}
+
+QRect MFocusButton::displayTextRect() const
+{
+    return d->displayTextRect;
 }
 
 /** Where the caption is centred; one that is not valid is the whole widget. Stored only. */
 void MFocusButton::setdisplayTextRect(const QRect &rect)
 {
-    m_displayTextRect = rect;
+    d->displayTextRect = rect;
+}
+
+QString MFocusButton::buttonID() const
+{
+    return d->buttonID;
 }
 
 /** The text that either signal carries; "MFocusButton_ID" by default. Stored only. */
 void MFocusButton::setButtonID(const QString &id)
 {
-    m_buttonID = id;
+    d->buttonID = id;
+}
+
+int MFocusButton::getLongPressIntal() const
+{
+    return d->longPressIntal;
 }
 
 /**
@@ -97,7 +178,7 @@ void MFocusButton::setButtonID(const QString &id)
  */
 void MFocusButton::setLongPressIntal(int interval)
 {
-    m_longPressIntal = interval;
+    d->longPressIntal = interval;
 }
 
 /** Sets the size of the widget's font in px; sizes below 1 are ignored. */
@@ -115,13 +196,13 @@ bool MFocusButton::hitButton(const QPoint &) const
 
 void MFocusButton::paintEvent(QPaintEvent *e)
 {
-    if (m_normalImage.isNull()) {
+    if (d->normalImage.isNull()) {
         QRadioButton::paintEvent(e);
         return;
     }
     QPainter painter(this);
-    drawPicture(painter);
-    drawCaption(painter);
+    d->drawPicture(painter);
+    d->drawCaption(painter);
 }
 
 /** A press is timed; being down and checked is the business of QAbstractButton. */
@@ -129,10 +210,10 @@ void MFocusButton::mousePressEvent(QMouseEvent *e)
 {
     if (!e)
         return;
-    endTiming();
-    if (m_longPressIntal >= 0)
-        m_timerId = startTimer(m_longPressIntal);
-    m_longPressed = false;
+    d->endTiming();
+    if (d->longPressIntal >= 0)
+        d->timerId = startTimer(d->longPressIntal);
+    d->longPressed = false;
     QAbstractButton::mousePressEvent(e);
 }
 
@@ -145,13 +226,13 @@ void MFocusButton::mouseReleaseEvent(QMouseEvent *e)
     if (!e)
         return;
     const QPointer<MFocusButton> guard(this);
-    if (!m_longPressed) {
+    if (!d->longPressed) {
         postKeyRequest(this, kBeepRequest);
-        emit btnClicked(m_buttonID);
+        emit btnClicked(d->buttonID);
         if (!guard)
             return;
     }
-    endTiming();
+    d->endTiming();
     QAbstractButton::mouseReleaseEvent(e);
 }
 
@@ -161,51 +242,51 @@ void MFocusButton::mouseReleaseEvent(QMouseEvent *e)
  */
 void MFocusButton::timerEvent(QTimerEvent *e)
 {
-    if (!e || e->timerId() != m_timerId)
+    if (!e || e->timerId() != d->timerId)
         return;
-    endTiming();
-    m_longPressed = true;
-    emit btnLongClicked(m_buttonID);
+    d->endTiming();
+    d->longPressed = true;
+    emit btnLongClicked(d->buttonID);
 }
 
-void MFocusButton::endTiming()
+void MFocusButton::Private::endTiming()
 {
-    if (m_timerId == 0)
+    if (timerId == 0)
         return;
-    killTimer(m_timerId);
-    m_timerId = 0;
+    q->killTimer(timerId);
+    timerId = 0;
 }
 
-bool MFocusButton::isHighlighted() const
+bool MFocusButton::Private::isHighlighted() const
 {
-    return isDown() || isChecked();
+    return q->isDown() || q->isChecked();
 }
 
-const QPixmap &MFocusButton::shownImage() const
+const QPixmap &MFocusButton::Private::shownImage() const
 {
-    if (isEnabled())
-        return isHighlighted() ? m_pressImage : m_normalImage;
-    return m_disableImage.isNull() ? m_normalImage : m_disableImage;
+    if (q->isEnabled())
+        return isHighlighted() ? pressImage : normalImage;
+    return disableImage.isNull() ? normalImage : disableImage;
 }
 
-QColor MFocusButton::shownTextColor() const
+QColor MFocusButton::Private::shownTextColor() const
 {
-    if (!isEnabled())
-        return m_disableTextColor;
-    return isHighlighted() ? m_pressTextColor : m_normalTextColor;
+    if (!q->isEnabled())
+        return disableTextColor;
+    return isHighlighted() ? pressTextColor : normalTextColor;
 }
 
-void MFocusButton::drawPicture(QPainter &painter) const
+void MFocusButton::Private::drawPicture(QPainter &painter) const
 {
     const QPixmap &image = shownImage();
     if (!image.isNull())
-        m_look->drawScaled(painter, centredTowardZero(m_imageSize, rect()), image);
+        look.drawScaled(painter, centredTowardZero(imageSize, q->rect()), image);
 }
 
-void MFocusButton::drawCaption(QPainter &painter) const
+void MFocusButton::Private::drawCaption(QPainter &painter) const
 {
-    if (m_displayText.isEmpty())
+    if (displayText.isEmpty())
         return;
     painter.setPen(shownTextColor());
-    m_caption->draw(painter, boundedOr(m_displayTextRect, rect()), Qt::AlignCenter, m_displayText);
+    caption.draw(painter, boundedOr(displayTextRect, q->rect()), Qt::AlignCenter, displayText);
 }

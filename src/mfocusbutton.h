@@ -7,16 +7,9 @@
 #include <QPixmap>
 #include <QRadioButton>
 #include <QRect>
-#include <QSize>
 #include <QString>
 
 #include <memory>
-
-namespace panelkit
-{
-class ImageLook;
-class KeptText;
-} // namespace panelkit
 
 /**
  * One of several pictured buttons of which one is the current choice, with a caption over it.
@@ -44,26 +37,26 @@ public:
     explicit MFocusButton(QWidget *parent = nullptr);
     ~MFocusButton() override;
 
-    QPixmap normalImage() const { return m_normalImage; }
+    QPixmap normalImage() const;
     void setNormalImage(const QPixmap &image);
-    QPixmap pressImage() const { return m_pressImage; }
+    QPixmap pressImage() const;
     void setPressImage(const QPixmap &image);
-    QPixmap disableImage() const { return m_disableImage; }
+    QPixmap disableImage() const;
     void setDisableImage(const QPixmap &image);
-    QString displayText() const { return m_displayText; }
+    QString displayText() const;
     void setDisplayText(const QString &text);
-    QColor normalTextColor() const { return m_normalTextColor; }
+    QColor normalTextColor() const;
     void setNormalTextColor(const QColor &color);
-    QColor pressTextColor() const { return m_pressTextColor; }
+    QColor pressTextColor() const;
     void setPressTextColor(const QColor &color);
-    QColor disableTextColor() const { return m_disableTextColor; }
+    QColor disableTextColor() const;
     void setDisableTextColor(const QColor &color);
-    QRect displayTextRect() const { return m_displayTextRect; }
+    QRect displayTextRect() const;
     void setdisplayTextRect(const QRect &rect);
-    QString buttonID() const { return m_buttonID; }
+    QString buttonID() const;
     void setButtonID(const QString &id);
 
-    int getLongPressIntal() const { return m_longPressIntal; }
+    int getLongPressIntal() const;
     void setLongPressIntal(int interval);
     void setFontSize(int px);
 
@@ -81,29 +74,8 @@ protected:
     void timerEvent(QTimerEvent *e) override;
 
 private:
-    void endTiming();
-    bool isHighlighted() const;
-    const QPixmap &shownImage() const;
-    QColor shownTextColor() const;
-    void drawPicture(QPainter &painter) const;
-    void drawCaption(QPainter &painter) const;
-
-    QPixmap m_normalImage;
-    QPixmap m_pressImage;
-    QPixmap m_disableImage;
-    QString m_displayText;
-    QColor m_normalTextColor;
-    QColor m_pressTextColor;
-    QColor m_disableTextColor;
-    QSize m_imageSize;
-    QRect m_displayTextRect;
-    QString m_buttonID = QStringLiteral("MFocusButton_ID");
-    int m_timerId = 0; // 0: no press is timed
-    int m_longPressIntal = 2500; // ms
-    bool m_longPressed = false;
-
-    std::unique_ptr<panelkit::ImageLook> m_look;
-    std::unique_ptr<panelkit::KeptText> m_caption;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 #endif // MFOCUSBUTTON_H

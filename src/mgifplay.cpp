@@ -20,15 +20,36 @@ constexpr int kStopped = 1;
 
 } // namespace
 
+class Q_DECL_HIDDEN MGifPlay::Private
+{
+public:
+    explicit Private(MGifPlay *widget) : q(widget) { }
+
+    void discardMovie();
+
+    MGifPlay *const q;
+    QString gifImage;
+    QMovie *movie = nullptr; // has no parent
+    int gifSpeed = 100; // percent
+
+    ImageLook look;
+    qint64 paintedFrame = 0; // QPixmap::cacheKey()
+};
+
 /** A player without a file: it paints nothing. It stands above its siblings. */
-MGifPlay::MGifPlay(QWidget *parent) : QWidget(parent), m_look(std::make_unique<ImageLook>())
+MGifPlay::MGifPlay(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
 {
     raise();
 }
 
 MGifPlay::~MGifPlay()
 {
-    discardMovie();
+    d->discardMovie();
+}
+
+QString MGifPlay::gifImage() const
+{
+    return d->gifImage;
 }
 
 /**
@@ -38,16 +59,21 @@ MGifPlay::~MGifPlay()
  */
 void MGifPlay::setGifImage(QString path)
 {
-    m_gifImage = std::move(path);
-    if (m_gifImage.size() < 2)
+    d->gifImage = std::move(path);
+    if (d->gifImage.size() < 2)
         return;
-    discardMovie();
-    m_movie = movieFromFile(m_gifImage).release();
-    if (m_gifSpeed != 100)
-        m_movie->setSpeed(m_gifSpeed);
-    m_movie->start();
+    d->discardMovie();
+    d->movie = movieFromFile(d->gifImage).release();
+    if (d->gifSpeed != 100)
+        d->movie->setSpeed(d->gifSpeed);
+    d->movie->start();
     update();
-    connect(m_movie, SIGNAL(frameChanged(int)), this, SLOT(update()));
+    connect(d->movie, SIGNAL(frameChanged(int)), this, SLOT(update()));
+}
+
+int MGifPlay::gifSpeed() const
+{
+    return d->gifSpeed;
 }
 
 /**
@@ -56,9 +82,9 @@ void MGifPlay::setGifImage(QString path)
  */
 void MGifPlay::setGifSpeed(int percent)
 {
-    m_gifSpeed = percent;
-    if (m_movie)
-        m_movie->setSpeed(percent);
+    d->gifSpeed = percent;
+    if (d->movie)
+        d->movie->setSpeed(percent);
 }
 
 /**
@@ -67,35 +93,35 @@ void MGifPlay::setGifSpeed(int percent)
  */
 int MGifPlay::getGifState()
 {
-    return m_movie && m_movie->state() != QMovie::Running ? kStopped : kPlaying;
+    return d->movie && d->movie->state() != QMovie::Running ? kStopped : kPlaying;
 }
 
 /** 0 plays the animation, from its first frame if it was stopped; anything else stops it, and the
  * frame that is there stays. Does nothing without a file. */
 void MGifPlay::setGifState(int state)
 {
-    if (!m_movie)
+    if (!d->movie)
         return;
     if (state == kPlaying)
-        m_movie->start();
+        d->movie->start();
     else
-        m_movie->stop();
+        d->movie->stop();
 }
 
 /** Most frames are painted once: only one that is painted again is worth a stretched copy. */
 void MGifPlay::paintEvent(QPaintEvent *)
 {
-    if (!m_movie)
+    if (!d->movie)
         return;
-    const QPixmap frame = m_movie->currentPixmap();
+    const QPixmap frame = d->movie->currentPixmap();
     if (frame.isNull())
         return;
     QPainter painter(this);
-    if (frame.cacheKey() == m_paintedFrame)
-        m_look->drawScaled(painter, rect(), frame);
+    if (frame.cacheKey() == d->paintedFrame)
+        d->look.drawScaled(painter, rect(), frame);
     else
         painter.drawPixmap(rect(), frame);
-    m_paintedFrame = frame.cacheKey();
+    d->paintedFrame = frame.cacheKey();
 }
 
 /** A press asks for the click sound. The event then goes on to QWidget, which leaves it to the
@@ -126,10 +152,10 @@ void MGifPlay::mouseReleaseEvent(QMouseEvent *e)
 
 // One animation at a time: another one that went on unseen would cost as much as the one on the
 // screen.
-void MGifPlay::discardMovie()
+void MGifPlay::Private::discardMovie()
 {
-    if (!m_movie)
+    if (!movie)
         return;
-    m_movie->stop();
-    m_movie->deleteLater();
+    movie->stop();
+    movie->deleteLater();
 }

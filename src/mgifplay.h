@@ -8,13 +8,6 @@
 
 #include <memory>
 
-class QMovie;
-
-namespace panelkit
-{
-class ImageLook;
-} // namespace panelkit
-
 /**
  * Plays an animated image file, stretched over the widget, from the moment when it is given one;
  * setGifState stops it and starts it again. It is a simple button too: a release, wherever it is,
@@ -30,9 +23,9 @@ public:
     explicit MGifPlay(QWidget *parent = nullptr);
     ~MGifPlay() override;
 
-    QString gifImage() const { return m_gifImage; }
+    QString gifImage() const;
     void setGifImage(QString path);
-    int gifSpeed() const { return m_gifSpeed; }
+    int gifSpeed() const;
     void setGifSpeed(int percent);
 
     int getGifState();
@@ -48,14 +41,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent *e) override;
 
 private:
-    void discardMovie();
-
-    QString m_gifImage;
-    QMovie *m_movie = nullptr; // has no parent
-    int m_gifSpeed = 100; // percent
-
-    std::unique_ptr<panelkit::ImageLook> m_look;
-    qint64 m_paintedFrame = 0; // QPixmap::cacheKey()
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 #endif // MGIFPLAY_H

@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QPalette>
 #include <QPointer>
+#include <QRect>
 
 #include <algorithm>
 #include <cstdlib>
@@ -26,17 +27,63 @@ const char kValueStyle[] = "QLabel:disabled{color:Gray;}                        
 
 } // namespace
 
-/** A slider for -5 to 5 at 0 that shows nothing before it has its pictures. */
-MHorSlider::MHorSlider(QWidget *parent)
-    : QWidget(parent), m_knob(new QLabel(this)), m_valueLabel(new QLabel(this))
+class Q_DECL_HIDDEN MHorSlider::Private
 {
+public:
+    explicit Private(MHorSlider *widget) : q(widget) { }
+
+    void layOutLabels(const QRect &valueRect);
+    void placeFill(int value, int knobLeft);
+    int knobLeftAt(int x) const;
+    bool isDrawnDisabled() const;
+
+    MHorSlider *const q;
+    QLabel *knob = nullptr;
+    QLabel *valueLabel = nullptr;
+    bool isNormal = true; // the fill grows from the left end
+    int itemID = 0;
+    int currentValue = 0;
+    int maxValue = 5;
+    int minValue = -5;
+    int textWidth = 0; // px
+    QRect grooveRect; // px
+    QRect fillTarget; // px, in the widget
+    QRect fillSource; // px, in the picture of the filled groove
+    QFont font;
+    Qt::Alignment alignment;
+    QPixmap sliderNormalImage;
+    QPixmap sliderNormalDisableImage;
+    QPixmap sliderPressImage;
+    QPixmap sliderPressDisableImage;
+    QPixmap pointNormalImage;
+    QPixmap pointPressImage;
+    QPixmap pointDisableImage;
+};
+
+/** A slider for -5 to 5 at 0 that shows nothing before it has its pictures. */
+MHorSlider::MHorSlider(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
+{
+    d->knob = new QLabel(this);
+    d->valueLabel = new QLabel(this);
+}
+
+MHorSlider::~MHorSlider() = default;
+
+QFont MHorSlider::getFont() const
+{
+    return d->font;
 }
 
 /** The font of the value; the name hides that of the widget's own font, on purpose. */
 void MHorSlider::setFont(const QFont &font)
 {
-    m_font = font;
-    m_valueLabel->setFont(m_font);
+    d->font = font;
+    d->valueLabel->setFont(d->font);
+}
+
+int MHorSlider::getTextWidth() const
+{
+    return d->textWidth;
 }
 
 /**
@@ -45,43 +92,78 @@ void MHorSlider::setFont(const QFont &font)
  */
 void MHorSlider::setTextWidth(int width)
 {
-    m_textWidth = width;
+    d->textWidth = width;
+}
+
+Qt::Alignment MHorSlider::getAlignment() const
+{
+    return d->alignment;
 }
 
 /** How the value stands in its place; nothing by default. Stored only. */
 void MHorSlider::setAlignment(const Qt::Alignment &alignment)
 {
-    m_alignment = alignment;
+    d->alignment = alignment;
+}
+
+QPixmap MHorSlider::sliderNormalImage() const
+{
+    return d->sliderNormalImage;
 }
 
 /** The groove; its size is that of the slider. Stored only. */
 void MHorSlider::setSliderNormalImage(const QPixmap &image)
 {
-    m_sliderNormalImage = image;
+    d->sliderNormalImage = image;
+}
+
+QPixmap MHorSlider::sliderPressImage() const
+{
+    return d->sliderPressImage;
 }
 
 /** The filled groove, of which a part is shown, cut and not scaled. Stored only. */
 void MHorSlider::setSliderPressImage(const QPixmap &image)
 {
-    m_sliderPressImage = image;
+    d->sliderPressImage = image;
+}
+
+QPixmap MHorSlider::sliderNormalDisablePix() const
+{
+    return d->sliderNormalDisableImage;
 }
 
 /** The groove of a disabled slider; counts together with the filled one only. Stored only. */
 void MHorSlider::setSliderNormalDisablePix(const QPixmap &image)
 {
-    m_sliderNormalDisableImage = image;
+    d->sliderNormalDisableImage = image;
+}
+
+QPixmap MHorSlider::sliderPressDisablePix() const
+{
+    return d->sliderPressDisableImage;
 }
 
 /** The filled groove of a disabled slider; counts together with the other one only. Stored only. */
 void MHorSlider::setSliderPressDisablePix(const QPixmap &image)
 {
-    m_sliderPressDisableImage = image;
+    d->sliderPressDisableImage = image;
+}
+
+QPixmap MHorSlider::pointNormalImage() const
+{
+    return d->pointNormalImage;
 }
 
 /** The knob. Stored only. */
 void MHorSlider::setPointNormalImage(const QPixmap &image)
 {
-    m_pointNormalImage = image;
+    d->pointNormalImage = image;
+}
+
+QPixmap MHorSlider::pointPressImage() const
+{
+    return d->pointPressImage;
 }
 
 /**
@@ -90,33 +172,58 @@ void MHorSlider::setPointNormalImage(const QPixmap &image)
  */
 void MHorSlider::setPointPressImage(const QPixmap &image)
 {
-    m_pointPressImage = image;
+    d->pointPressImage = image;
     initWidget();
     update();
+}
+
+QPixmap MHorSlider::pointDisableImage() const
+{
+    return d->pointDisableImage;
 }
 
 /** The knob of a disabled slider, shown when it is disabled the next time. Stored only. */
 void MHorSlider::setPointDisableImage(const QPixmap &image)
 {
-    m_pointDisableImage = image;
+    d->pointDisableImage = image;
+}
+
+int MHorSlider::itemID() const
+{
+    return d->itemID;
 }
 
 /** The number that both signals carry. Stored only. */
 void MHorSlider::setItemID(int id)
 {
-    m_itemID = id;
+    d->itemID = id;
+}
+
+int MHorSlider::maxValue() const
+{
+    return d->maxValue;
 }
 
 /** The largest value, at the right; 5 by default. Stored only. */
 void MHorSlider::setMaxValue(int value)
 {
-    m_maxValue = value;
+    d->maxValue = value;
+}
+
+int MHorSlider::getMinValue() const
+{
+    return d->minValue;
 }
 
 /** The smallest value, at the left; -5 by default. Stored only. */
 void MHorSlider::setMinValue(int value)
 {
-    m_minValue = value;
+    d->minValue = value;
+}
+
+int MHorSlider::currentValue() const
+{
+    return d->currentValue;
 }
 
 /**
@@ -125,17 +232,22 @@ void MHorSlider::setMinValue(int value)
  */
 void MHorSlider::setCurrentValue(int value)
 {
-    if (std::abs(qint64(value)) > m_maxValue)
+    if (std::abs(qint64(value)) > d->maxValue)
         return;
-    m_currentValue = value;
-    m_valueLabel->setText(QString::number(m_currentValue));
-    setTouchPos(m_currentValue);
+    d->currentValue = value;
+    d->valueLabel->setText(QString::number(d->currentValue));
+    setTouchPos(d->currentValue);
+}
+
+bool MHorSlider::getIsNormal() const
+{
+    return d->isNormal;
 }
 
 /** Whether the fill grows from the left end, the default, or from the middle. Stored only. */
 void MHorSlider::setIsNormal(bool isNormal)
 {
-    m_isNormal = isNormal;
+    d->isNormal = isNormal;
 }
 
 /**
@@ -144,41 +256,41 @@ void MHorSlider::setIsNormal(bool isNormal)
  */
 void MHorSlider::initWidget()
 {
-    if (m_sliderNormalImage.isNull() || m_pointNormalImage.isNull())
+    if (d->sliderNormalImage.isNull() || d->pointNormalImage.isNull())
         return;
-    const QSize groove = m_sliderNormalImage.size();
-    const int textWidth = boundedPixel(m_textWidth);
-    const int height = std::max({groove.height(), m_pointNormalImage.height(), kLeastHeight});
-    m_fillSource = QRect(0, 0, 0, groove.height());
+    const QSize groove = d->sliderNormalImage.size();
+    const int textWidth = boundedPixel(d->textWidth);
+    const int height = std::max({groove.height(), d->pointNormalImage.height(), kLeastHeight});
+    d->fillSource = QRect(0, 0, 0, groove.height());
     setFixedSize(qBound(0, groove.width() + textWidth, QWIDGETSIZE_MAX), height);
-    m_grooveRect = QRect(QPoint(0, height / 2 - groove.height() / 2), groove);
-    m_fillTarget = m_grooveRect;
-    layOutLabels(QRect(groove.width() - 1, 0, std::max(0, textWidth), height));
-    setTouchPos(m_currentValue);
+    d->grooveRect = QRect(QPoint(0, height / 2 - groove.height() / 2), groove);
+    d->fillTarget = d->grooveRect;
+    d->layOutLabels(QRect(groove.width() - 1, 0, std::max(0, textWidth), height));
+    setTouchPos(d->currentValue);
 }
 
 /** Moves the knob to a value, and the fill with it. Ignored outside minValue to maxValue. */
 void MHorSlider::setTouchPos(int value)
 {
-    if (value < m_minValue || value > m_maxValue)
+    if (value < d->minValue || value > d->maxValue)
         return;
-    const qint64 range = qint64(m_maxValue) - m_minValue;
-    const qint64 travel = m_grooveRect.width() - m_pointNormalImage.width();
-    const qint64 offset = range == 0 ? 0 : travel * (qint64(value) - m_minValue) / range;
-    const int knobLeft = m_grooveRect.left() + int(offset);
-    m_knob->move(knobLeft, (height() - m_pointNormalImage.height()) / 2);
-    placeFill(value, knobLeft);
+    const qint64 range = qint64(d->maxValue) - d->minValue;
+    const qint64 travel = d->grooveRect.width() - d->pointNormalImage.width();
+    const qint64 offset = range == 0 ? 0 : travel * (qint64(value) - d->minValue) / range;
+    const int knobLeft = d->grooveRect.left() + int(offset);
+    d->knob->move(knobLeft, (height() - d->pointNormalImage.height()) / 2);
+    d->placeFill(value, knobLeft);
     update();
 }
 
 /** Sets the value from a touch at this x; a change is reported with valueChangeSig. */
 void MHorSlider::setTouchPos(QPoint pos)
 {
-    const qint64 range = qint64(m_maxValue) - m_minValue;
-    const qint64 way = knobLeftAt(pos.x()) - m_grooveRect.left();
-    const int travel = m_grooveRect.width() - m_pointNormalImage.width();
-    const int value = travel == 0 ? m_minValue : saturated(range * way / travel + m_minValue);
-    if (value == m_currentValue)
+    const qint64 range = qint64(d->maxValue) - d->minValue;
+    const qint64 way = d->knobLeftAt(pos.x()) - d->grooveRect.left();
+    const int travel = d->grooveRect.width() - d->pointNormalImage.width();
+    const int value = travel == 0 ? d->minValue : saturated(range * way / travel + d->minValue);
+    if (value == d->currentValue)
         return;
     setCurrentValue(value);
     emitValueChangedSgl();
@@ -187,30 +299,32 @@ void MHorSlider::setTouchPos(QPoint pos)
 /** Shows or hides the value. */
 void MHorSlider::setIsShowValue(bool isShown)
 {
-    m_valueLabel->setVisible(isShown);
+    d->valueLabel->setVisible(isShown);
 }
 
 /** The middle of the knob, in the widget. */
 QPoint MHorSlider::getTouchPos()
 {
-    return m_knob->pos() + QPoint(m_pointNormalImage.width() / 2, m_pointNormalImage.height() / 2);
+    return d->knob->pos()
+        + QPoint(d->pointNormalImage.width() / 2, d->pointNormalImage.height() / 2);
 }
 
 /** Emits valueChangeSig with the current value. */
 void MHorSlider::emitValueChangedSgl()
 {
-    emit valueChangeSig(m_itemID, m_currentValue);
+    emit valueChangeSig(d->itemID, d->currentValue);
 }
 
 void MHorSlider::paintEvent(QPaintEvent *)
 {
-    const bool isDisabled = isDrawnDisabled();
-    const QPixmap &fill = isDisabled ? m_sliderPressDisableImage : m_sliderPressImage;
+    const bool isDisabled = d->isDrawnDisabled();
+    const QPixmap &fill = isDisabled ? d->sliderPressDisableImage : d->sliderPressImage;
     QPainter painter(this);
-    painter.drawPixmap(m_grooveRect, isDisabled ? m_sliderNormalDisableImage : m_sliderNormalImage);
+    painter.drawPixmap(d->grooveRect,
+                       isDisabled ? d->sliderNormalDisableImage : d->sliderNormalImage);
     // To drawPixmap an empty part means the rest of the picture; here it means nothing.
-    if (!fill.isNull() && !m_fillTarget.isEmpty())
-        painter.drawPixmap(m_fillTarget, fill, m_fillSource);
+    if (!fill.isNull() && !d->fillTarget.isEmpty())
+        painter.drawPixmap(d->fillTarget, fill, d->fillSource);
 }
 
 /**
@@ -220,8 +334,8 @@ void MHorSlider::paintEvent(QPaintEvent *)
 void MHorSlider::mousePressEvent(QMouseEvent *e)
 {
     postKeyRequest(this, kBeepRequest);
-    if (!m_pointPressImage.isNull())
-        m_knob->setPixmap(m_pointPressImage);
+    if (!d->pointPressImage.isNull())
+        d->knob->setPixmap(d->pointPressImage);
     update();
     if (!e)
         return;
@@ -245,10 +359,10 @@ void MHorSlider::mouseMoveEvent(QMouseEvent *e)
 /** Every release emits saveDataSig, whether the value has changed or not. */
 void MHorSlider::mouseReleaseEvent(QMouseEvent *e)
 {
-    m_knob->setPixmap(m_pointNormalImage);
+    d->knob->setPixmap(d->pointNormalImage);
     update();
     const QPointer<MHorSlider> guard(this);
-    emit saveDataSig(m_itemID, m_currentValue);
+    emit saveDataSig(d->itemID, d->currentValue);
     if (guard && e)
         QWidget::mouseReleaseEvent(e);
 }
@@ -259,61 +373,61 @@ void MHorSlider::changeEvent(QEvent *e)
     if (!e)
         return;
     if (e->type() == QEvent::EnabledChange) {
-        const bool hasOwn = !isEnabled() && !m_pointDisableImage.isNull();
-        m_knob->setPixmap(hasOwn ? m_pointDisableImage : m_pointNormalImage);
+        const bool hasOwn = !isEnabled() && !d->pointDisableImage.isNull();
+        d->knob->setPixmap(hasOwn ? d->pointDisableImage : d->pointNormalImage);
     }
     QWidget::changeEvent(e);
 }
 
-void MHorSlider::layOutLabels(const QRect &valueRect)
+void MHorSlider::Private::layOutLabels(const QRect &valueRect)
 {
-    m_knob->setPixmap(m_pointNormalImage);
-    m_knob->setFixedSize(m_pointNormalImage.size());
+    knob->setPixmap(pointNormalImage);
+    knob->setFixedSize(pointNormalImage.size());
     QPalette palette;
     palette.setBrush(QPalette::Light, QColor(255, 255, 255, 0));
-    m_valueLabel->setPalette(palette);
-    m_valueLabel->setStyleSheet(QLatin1String(kValueStyle));
-    m_valueLabel->setFont(m_font);
-    m_valueLabel->setGeometry(valueRect);
-    m_valueLabel->setAlignment(m_alignment);
-    m_valueLabel->setText(QString::number(m_currentValue));
+    valueLabel->setPalette(palette);
+    valueLabel->setStyleSheet(QLatin1String(kValueStyle));
+    valueLabel->setFont(font);
+    valueLabel->setGeometry(valueRect);
+    valueLabel->setAlignment(alignment);
+    valueLabel->setText(QString::number(currentValue));
 }
 
 // From the left end the fill ends just left of the knob's middle. From the middle it keeps a gap,
 // of 2 px at the right and 3 px at the left: both are meant, the artwork has its mark there.
-void MHorSlider::placeFill(int value, int knobLeft)
+void MHorSlider::Private::placeFill(int value, int knobLeft)
 {
-    const int knobMiddle = knobLeft + m_pointNormalImage.width() / 2;
-    const int middle = m_grooveRect.left() + m_grooveRect.width() / 2;
-    if (m_isNormal) {
-        m_fillTarget.setRight(knobMiddle - 1);
+    const int knobMiddle = knobLeft + pointNormalImage.width() / 2;
+    const int middle = grooveRect.left() + grooveRect.width() / 2;
+    if (isNormal) {
+        fillTarget.setRight(knobMiddle - 1);
     } else if (value == 0) {
-        m_fillTarget.setLeft(middle);
-        m_fillTarget.setRight(middle - 1);
+        fillTarget.setLeft(middle);
+        fillTarget.setRight(middle - 1);
     } else if (knobLeft >= middle) {
-        m_fillTarget.setLeft(middle + kGapRight);
-        m_fillTarget.setRight(knobMiddle - 1);
+        fillTarget.setLeft(middle + kGapRight);
+        fillTarget.setRight(knobMiddle - 1);
     } else {
-        m_fillTarget.setLeft(knobMiddle);
-        m_fillTarget.setRight(middle - kGapLeft);
+        fillTarget.setLeft(knobMiddle);
+        fillTarget.setRight(middle - kGapLeft);
     }
-    m_fillSource.setLeft(m_fillTarget.left() - m_grooveRect.left());
-    m_fillSource.setRight(m_fillTarget.right() - m_grooveRect.left());
+    fillSource.setLeft(fillTarget.left() - grooveRect.left());
+    fillSource.setRight(fillTarget.right() - grooveRect.left());
 }
 
 // The knob stands with its middle under the finger, but within the groove.
-int MHorSlider::knobLeftAt(int x) const
+int MHorSlider::Private::knobLeftAt(int x) const
 {
-    const int half = m_pointNormalImage.width() / 2;
-    if (x < m_grooveRect.left() + half)
-        return m_grooveRect.left();
-    if (x > m_grooveRect.right() - half)
-        return m_grooveRect.right() + 1 - m_pointNormalImage.width();
+    const int half = pointNormalImage.width() / 2;
+    if (x < grooveRect.left() + half)
+        return grooveRect.left();
+    if (x > grooveRect.right() - half)
+        return grooveRect.right() + 1 - pointNormalImage.width();
     return x - half;
 }
 
-bool MHorSlider::isDrawnDisabled() const
+bool MHorSlider::Private::isDrawnDisabled() const
 {
-    return !isEnabled() && !m_sliderNormalDisableImage.isNull()
-        && !m_sliderPressDisableImage.isNull();
+    return !q->isEnabled() && !sliderNormalDisableImage.isNull()
+        && !sliderPressDisableImage.isNull();
 }

@@ -6,10 +6,9 @@
 #include <QFont>
 #include <QPixmap>
 #include <QPoint>
-#include <QRect>
 #include <QWidget>
 
-class QLabel;
+#include <memory>
 
 /**
  * A horizontal slider made of pictures: a groove that fills up to the knob, and the value as a
@@ -43,36 +42,37 @@ class PANELKIT_EXPORT MHorSlider : public QWidget
 
 public:
     explicit MHorSlider(QWidget *parent = nullptr);
+    ~MHorSlider() override;
 
-    QFont getFont() const { return m_font; }
+    QFont getFont() const;
     void setFont(const QFont &font);
-    int getTextWidth() const { return m_textWidth; }
+    int getTextWidth() const;
     void setTextWidth(int width);
-    Qt::Alignment getAlignment() const { return m_alignment; }
+    Qt::Alignment getAlignment() const;
     void setAlignment(const Qt::Alignment &alignment);
-    QPixmap sliderNormalImage() const { return m_sliderNormalImage; }
+    QPixmap sliderNormalImage() const;
     void setSliderNormalImage(const QPixmap &image);
-    QPixmap sliderPressImage() const { return m_sliderPressImage; }
+    QPixmap sliderPressImage() const;
     void setSliderPressImage(const QPixmap &image);
-    QPixmap sliderNormalDisablePix() const { return m_sliderNormalDisableImage; }
+    QPixmap sliderNormalDisablePix() const;
     void setSliderNormalDisablePix(const QPixmap &image);
-    QPixmap sliderPressDisablePix() const { return m_sliderPressDisableImage; }
+    QPixmap sliderPressDisablePix() const;
     void setSliderPressDisablePix(const QPixmap &image);
-    QPixmap pointNormalImage() const { return m_pointNormalImage; }
+    QPixmap pointNormalImage() const;
     void setPointNormalImage(const QPixmap &image);
-    QPixmap pointPressImage() const { return m_pointPressImage; }
+    QPixmap pointPressImage() const;
     void setPointPressImage(const QPixmap &image);
-    QPixmap pointDisableImage() const { return m_pointDisableImage; }
+    QPixmap pointDisableImage() const;
     void setPointDisableImage(const QPixmap &image);
-    int itemID() const { return m_itemID; }
+    int itemID() const;
     void setItemID(int id);
-    int maxValue() const { return m_maxValue; }
+    int maxValue() const;
     void setMaxValue(int value);
-    int getMinValue() const { return m_minValue; }
+    int getMinValue() const;
     void setMinValue(int value);
-    int currentValue() const { return m_currentValue; }
+    int currentValue() const;
     void setCurrentValue(int value);
-    bool getIsNormal() const { return m_isNormal; }
+    bool getIsNormal() const;
     void setIsNormal(bool isNormal);
 
     void initWidget();
@@ -94,31 +94,8 @@ protected:
     void changeEvent(QEvent *e) override;
 
 private:
-    void layOutLabels(const QRect &valueRect);
-    void placeFill(int value, int knobLeft);
-    int knobLeftAt(int x) const;
-    bool isDrawnDisabled() const;
-
-    QLabel *m_knob;
-    QLabel *m_valueLabel;
-    bool m_isNormal = true; // the fill grows from the left end
-    int m_itemID = 0;
-    int m_currentValue = 0;
-    int m_maxValue = 5;
-    int m_minValue = -5;
-    int m_textWidth = 0; // px
-    QRect m_grooveRect; // px
-    QRect m_fillTarget; // px, in the widget
-    QRect m_fillSource; // px, in the picture of the filled groove
-    QFont m_font;
-    Qt::Alignment m_alignment;
-    QPixmap m_sliderNormalImage;
-    QPixmap m_sliderNormalDisableImage;
-    QPixmap m_sliderPressImage;
-    QPixmap m_sliderPressDisableImage;
-    QPixmap m_pointNormalImage;
-    QPixmap m_pointPressImage;
-    QPixmap m_pointDisableImage;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 #endif // MHORSLIDER_H

@@ -9,6 +9,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPaintEvent>
+#include <QPoint>
 #include <QPointer>
 #include <QResizeEvent>
 
@@ -98,12 +99,61 @@ QString written(double freq)
 
 } // namespace
 
+class Q_DECL_HIDDEN MKARVOSlider::Private
+{
+public:
+    explicit Private(MKARVOSlider *widget) : q(widget) { }
+
+    struct Look;
+    struct Tick;
+
+    float freqAt(int x);
+    void tune(float freq);
+    Look look() const;
+    void layOut(const Look &look);
+    void addLines(const Tick &tick);
+    void addLabel(const Tick &tick);
+    int tickBase() const;
+    int labelTop() const;
+    void drawIndicator(QPainter &painter) const;
+
+    MKARVOSlider *const q;
+    QPixmap indicatePix;
+    QColor lineColor{255, 255, 255, 255};
+    QFont font;
+    QPoint pressPoint;
+    float leftX = 0; // px, x of the first tick
+    float widthF = 0; // px
+    float realMinFreq = 1620.0F; // above the maximum on purpose, until a band comes
+    float realMaxFreq = 522.0F;
+    float realFreqStep = 9.0F;
+    int stepCount = 0;
+    int lineH = 30; // px
+    int lineW = 1; // px, without effect
+    float lineGap = 5.0F; // px from step to step
+    float freqStart = 500.0F;
+    float freqEnd = 1720.0F;
+    float freqStep = 20.0F;
+    bool isFM = false;
+    int marginY = 0; // px, without effect
+    int marginX = 35; // px, left and right of the scale
+    ScaleAlignmentMode scaleMode = AlignCenter;
+    TextPosition textPosition = TextTop;
+    int textMarginY = 5; // px
+    int scaleMarginY = 40; // px
+    int pointMarginY = 46; // px
+    float curFreq = 800.0F;
+
+    std::unique_ptr<Look> drawnLook; // of the kept picture
+    ScalePicture picture;
+};
+
 // What the kept picture depends on. The colour and the font come with each paint.
-struct MKARVOSlider::Look {
+struct MKARVOSlider::Private::Look {
     std::tuple<QSize, float, float, int, int, float, float, bool, int, int, int, int> inputs;
 };
 
-struct MKARVOSlider::Tick {
+struct MKARVOSlider::Private::Tick {
     float x; // px
     float freq;
     TickKind kind;
@@ -114,81 +164,125 @@ struct MKARVOSlider::Tick {
  * upside down until freqParamChangedSlot() brings one, on purpose: whatever is dragged before
  * becomes 1620 or 522.
  */
-MKARVOSlider::MKARVOSlider(QWidget *parent)
-    : QWidget(parent), m_picture(std::make_unique<ScalePicture>())
+MKARVOSlider::MKARVOSlider(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
 {
-    m_font.setPixelSize(20);
+    d->font.setPixelSize(20);
     initSliderRange();
 }
 
 MKARVOSlider::~MKARVOSlider() = default;
 
+QPixmap MKARVOSlider::getIndicatePix() const
+{
+    return d->indicatePix;
+}
+
 /** The picture at the tuned frequency, at its own size; none by default. Stored only. */
 void MKARVOSlider::setIndicatePix(const QPixmap &pixmap)
 {
-    m_indicatePix = pixmap;
+    d->indicatePix = pixmap;
+}
+
+QColor MKARVOSlider::getLineColor() const
+{
+    return d->lineColor;
 }
 
 /** The colour of ticks and labels, white by default; an invalid one is drawn in black. Stored only.
  */
 void MKARVOSlider::setLineColor(const QColor &color)
 {
-    m_lineColor = color;
+    d->lineColor = color;
+}
+
+QFont MKARVOSlider::getFont() const
+{
+    return d->font;
 }
 
 /** The font of the labels, of 20 px by default; the name hides that of the widget's own font, on
  * purpose. Stored only. */
 void MKARVOSlider::setFont(const QFont &font)
 {
-    m_font = font;
+    d->font = font;
+}
+
+int MKARVOSlider::getLineH() const
+{
+    return d->lineH;
 }
 
 /** A third of the length of a major tick in px, 30 by default. Stored only. */
 void MKARVOSlider::setLineH(int height)
 {
-    m_lineH = height;
+    d->lineH = height;
+}
+
+int MKARVOSlider::getLineW() const
+{
+    return d->lineW;
 }
 
 /** Stored only, and without effect: ticks are one pixel wide, because the colour makes a new pen.
  */
 void MKARVOSlider::setLineW(int width)
 {
-    m_lineW = width;
+    d->lineW = width;
 }
 
 /** The distance from step to step, truncated to px. */
 int MKARVOSlider::getLineGap() const
 {
-    return toInt(double(m_lineGap));
+    return toInt(double(d->lineGap));
 }
 
 /** Sets the distance from step to step in px until the scale is laid out the next time. Stored
  * only. */
 void MKARVOSlider::setLineGap(int gap)
 {
-    m_lineGap = float(gap);
+    d->lineGap = float(gap);
+}
+
+float MKARVOSlider::getFreqStart() const
+{
+    return d->freqStart;
 }
 
 /** The first frequency of the scale, 500 by default. Stored only: the number of steps stays until
  * the scale is laid out the next time. */
 void MKARVOSlider::setFreqStart(float freq)
 {
-    m_freqStart = freq;
+    d->freqStart = freq;
+}
+
+float MKARVOSlider::getFreqEnd() const
+{
+    return d->freqEnd;
 }
 
 /** The last frequency of the scale, 1720 by default. Stored only, in the manner of setFreqStart().
  */
 void MKARVOSlider::setFreqEnd(float freq)
 {
-    m_freqEnd = freq;
+    d->freqEnd = freq;
+}
+
+float MKARVOSlider::getFreqStep() const
+{
+    return d->freqStep;
 }
 
 /** The frequency from step to step, 20 by default. Lays the scale out and repaints. */
 void MKARVOSlider::setFreqStep(float step)
 {
-    m_freqStep = step;
+    d->freqStep = step;
     initSliderRange();
     update();
+}
+
+float MKARVOSlider::getCurFreq() const
+{
+    return d->curFreq;
 }
 
 /** Tunes, in display units, without a signal, and repaints. Ignored outside the scale; not snapped.
@@ -197,82 +291,137 @@ void MKARVOSlider::setCurFreq(float freq)
 {
     if (!isValidFreq(freq))
         return;
-    m_curFreq = freq;
+    d->curFreq = freq;
     update();
+}
+
+bool MKARVOSlider::getIsFM() const
+{
+    return d->isFM;
 }
 
 /** Whether ticks and labels are those of FM and the outer frequencies hundredths; false by default.
  * Lays the scale out and repaints. */
 void MKARVOSlider::setIsFM(bool isFM)
 {
-    m_isFM = isFM;
+    d->isFM = isFM;
     initSliderRange();
     update();
+}
+
+int MKARVOSlider::marginY() const
+{
+    return d->marginY;
 }
 
 /** Repaints, but has no effect on the picture. */
 void MKARVOSlider::setMarginY(int margin)
 {
-    m_marginY = margin;
+    d->marginY = margin;
     update();
+}
+
+int MKARVOSlider::marginX() const
+{
+    return d->marginX;
 }
 
 /** The margin left and right of the scale in px, 35 by default. Lays the scale out and repaints. */
 void MKARVOSlider::setMarginX(int margin)
 {
-    m_marginX = margin;
+    d->marginX = margin;
     initSliderRange();
     update();
+}
+
+MKARVOSlider::ScaleAlignmentMode MKARVOSlider::scaleAlign() const
+{
+    return d->scaleMode;
 }
 
 /** Where the ticks stand, AlignCenter by default; a value that is none stands for AlignBottom.
  * Stored only. */
 void MKARVOSlider::setScaleAlign(const ScaleAlignmentMode &mode)
 {
-    m_scaleMode = mode;
+    d->scaleMode = mode;
+}
+
+MKARVOSlider::TextPosition MKARVOSlider::getTextPosition() const
+{
+    return d->textPosition;
 }
 
 /** Where the labels stand, TextTop by default; a value that is none stands for TextBottom. Stored
  * only. */
 void MKARVOSlider::setTextPosition(const TextPosition &position)
 {
-    m_textPosition = position;
+    d->textPosition = position;
+}
+
+int MKARVOSlider::getTextMarginY() const
+{
+    return d->textMarginY;
 }
 
 /** How far down the labels are moved, 5 px by default. Ticks beside them move too. Stored only. */
 void MKARVOSlider::setTextMarginY(int margin)
 {
-    m_textMarginY = margin;
+    d->textMarginY = margin;
+}
+
+int MKARVOSlider::getScaleMarginY() const
+{
+    return d->scaleMarginY;
 }
 
 /** How far down the ticks are moved, 40 px by default. Stored only. */
 void MKARVOSlider::setScaleMarginY(int margin)
 {
-    m_scaleMarginY = margin;
+    d->scaleMarginY = margin;
+}
+
+int MKARVOSlider::getPointMarginY() const
+{
+    return d->pointMarginY;
 }
 
 /** How far down the indicator is moved, 46 px by default. Stored only. */
 void MKARVOSlider::setPointMarginY(int margin)
 {
-    m_pointMarginY = margin;
+    d->pointMarginY = margin;
+}
+
+float MKARVOSlider::getRealMinFreq() const
+{
+    return d->realMinFreq;
 }
 
 /** The lower end of the band that drags snap to, 1620 by default. Stored only. */
 void MKARVOSlider::setRealMinFreq(float freq)
 {
-    m_realMinFreq = freq;
+    d->realMinFreq = freq;
+}
+
+float MKARVOSlider::getRealMaxFreq() const
+{
+    return d->realMaxFreq;
 }
 
 /** The upper end of the band that drags snap to, 522 by default. Stored only. */
 void MKARVOSlider::setRealMaxFreq(float freq)
 {
-    m_realMaxFreq = freq;
+    d->realMaxFreq = freq;
+}
+
+float MKARVOSlider::getRealFreqStep() const
+{
+    return d->realFreqStep;
 }
 
 /** The step that drags snap to, 9 by default. Stored only. */
 void MKARVOSlider::setRealFreqStep(float step)
 {
-    m_realFreqStep = step;
+    d->realFreqStep = step;
 }
 
 /**
@@ -281,11 +430,11 @@ void MKARVOSlider::setRealFreqStep(float step)
  */
 void MKARVOSlider::initSliderRange()
 {
-    m_leftX = float((Whole(m_marginX) + rect().left()).value());
-    m_widthF = float(width());
-    m_stepCount = quotient(toInt(double((m_freqEnd - m_freqStart) * 100.0F)),
-                           toInt(double(m_freqStep * 100.0F)));
-    m_lineGap = ratio(m_widthF - float((2 * Whole(m_marginX)).value()), float(m_stepCount));
+    d->leftX = float((Whole(d->marginX) + rect().left()).value());
+    d->widthF = float(width());
+    d->stepCount = quotient(toInt(double((d->freqEnd - d->freqStart) * 100.0F)),
+                            toInt(double(d->freqStep * 100.0F)));
+    d->lineGap = ratio(d->widthF - float((2 * Whole(d->marginX)).value()), float(d->stepCount));
 }
 
 /**
@@ -294,11 +443,11 @@ void MKARVOSlider::initSliderRange()
  */
 float MKARVOSlider::calFreqRule(float freq)
 {
-    if (double(freq) < double(m_realMinFreq) - kSame)
-        return m_realMinFreq;
-    if (double(freq) > double(m_realMaxFreq) + kSame)
-        return m_realMaxFreq;
-    const int step = toInt(double(m_realFreqStep * 100.0F));
+    if (double(freq) < double(d->realMinFreq) - kSame)
+        return d->realMinFreq;
+    if (double(freq) > double(d->realMaxFreq) + kSame)
+        return d->realMaxFreq;
+    const int step = toInt(double(d->realFreqStep * 100.0F));
     const Whole hundredths = toInt(double(freq * 100.0F));
     const int rest = (hundredths - hundredths / step * step).value();
     const float base = freq * 100.0F - float(rest);
@@ -310,20 +459,20 @@ float MKARVOSlider::calFreqRule(float freq)
 /** Whether the drawn scale reaches this frequency, in display units. */
 bool MKARVOSlider::isValidFreq(float freq)
 {
-    return m_freqStart <= freq && freq <= m_freqEnd;
+    return d->freqStart <= freq && freq <= d->freqEnd;
 }
 
 void MKARVOSlider::paintEvent(QPaintEvent *e)
 {
-    const Look now = look();
-    if (!m_look || m_look->inputs != now.inputs)
-        layOut(now);
-    QColor faint = m_lineColor;
+    const Private::Look now = d->look();
+    if (!d->drawnLook || d->drawnLook->inputs != now.inputs)
+        d->layOut(now);
+    QColor faint = d->lineColor;
     faint.setAlpha(kFaintAlpha);
     QPainter painter(this);
-    painter.setFont(m_font);
-    m_picture->draw(painter, e ? e->rect() : rect(), m_lineColor, faint);
-    drawIndicator(painter);
+    painter.setFont(d->font);
+    d->picture.draw(painter, e ? e->rect() : rect(), d->lineColor, faint);
+    d->drawIndicator(painter);
 }
 
 /** The scale takes the new width at once. */
@@ -337,7 +486,7 @@ void MKARVOSlider::resizeEvent(QResizeEvent *e)
 void MKARVOSlider::mousePressEvent(QMouseEvent *e)
 {
     if (e)
-        m_pressPoint = e->pos();
+        d->pressPoint = e->pos();
     emit mousePressed(true);
 }
 
@@ -345,17 +494,17 @@ void MKARVOSlider::mousePressEvent(QMouseEvent *e)
 void MKARVOSlider::mouseMoveEvent(QMouseEvent *e)
 {
     if (e)
-        tune(freqAt(e->pos().x()));
+        d->tune(d->freqAt(e->pos().x()));
 }
 
 /** The end of a press is reported first, then, as in a move, a change of the frequency. */
 void MKARVOSlider::mouseReleaseEvent(QMouseEvent *e)
 {
-    const float freq = e ? freqAt(e->pos().x()) : m_curFreq;
+    const float freq = e ? d->freqAt(e->pos().x()) : d->curFreq;
     const QPointer<MKARVOSlider> guard(this);
     emit mousePressed(false);
     if (guard)
-        tune(freq);
+        d->tune(freq);
 }
 
 /**
@@ -379,12 +528,12 @@ void MKARVOSlider::freqParamChangedSlot(bool isFM, float freqMin, float freqMax,
 /** Tunes from outside: for FM in hundredths, for AM in display units. */
 void MKARVOSlider::curFreqChangedSlot(float freq)
 {
-    setCurFreq(m_isFM ? freq / 100.0F : freq);
+    setCurFreq(d->isFM ? freq / 100.0F : freq);
 }
 
 int MKARVOSlider::wholeFreqStart() const
 {
-    return toInt(double(m_freqStart));
+    return toInt(double(d->freqStart));
 }
 
 void MKARVOSlider::setWholeFreqStart(int freq)
@@ -394,7 +543,7 @@ void MKARVOSlider::setWholeFreqStart(int freq)
 
 int MKARVOSlider::wholeFreqEnd() const
 {
-    return toInt(double(m_freqEnd));
+    return toInt(double(d->freqEnd));
 }
 
 void MKARVOSlider::setWholeFreqEnd(int freq)
@@ -404,7 +553,7 @@ void MKARVOSlider::setWholeFreqEnd(int freq)
 
 int MKARVOSlider::wholeFreqStep() const
 {
-    return toInt(double(m_freqStep));
+    return toInt(double(d->freqStep));
 }
 
 void MKARVOSlider::setWholeFreqStep(int step)
@@ -414,7 +563,7 @@ void MKARVOSlider::setWholeFreqStep(int step)
 
 int MKARVOSlider::wholeCurFreq() const
 {
-    return toInt(double(m_curFreq));
+    return toInt(double(d->curFreq));
 }
 
 void MKARVOSlider::setWholeCurFreq(int freq)
@@ -422,44 +571,43 @@ void MKARVOSlider::setWholeCurFreq(int freq)
     setCurFreq(float(freq));
 }
 
-float MKARVOSlider::freqAt(int x)
+float MKARVOSlider::Private::freqAt(int x)
 {
-    const float steps = ratio(float(x) - m_leftX, m_lineGap);
-    return calFreqRule(std::fma(m_freqStep, steps, m_freqStart));
+    const float steps = ratio(float(x) - leftX, lineGap);
+    return q->calFreqRule(std::fma(freqStep, steps, freqStart));
 }
 
 // AM leaves in whole units, whatever fraction the snapping has carried along.
-void MKARVOSlider::tune(float freq)
+void MKARVOSlider::Private::tune(float freq)
 {
-    if (!(double(std::fabs(freq - m_curFreq)) > kSame))
+    if (!(double(std::fabs(freq - curFreq)) > kSame))
         return;
-    m_curFreq = freq;
-    update();
-    emit freqChangedSgl(m_isFM ? m_curFreq * 100.0F : float(toInt(double(m_curFreq))));
+    curFreq = freq;
+    q->update();
+    emit q->freqChangedSgl(isFM ? curFreq * 100.0F : float(toInt(double(curFreq))));
 }
 
-MKARVOSlider::Look MKARVOSlider::look() const
+MKARVOSlider::Private::Look MKARVOSlider::Private::look() const
 {
-    return {{size(), m_leftX, m_lineGap, m_stepCount, m_lineH, m_freqStart, m_freqStep, m_isFM,
-             m_scaleMode, m_textPosition, m_textMarginY, m_scaleMarginY}};
+    return {{q->size(), leftX, lineGap, stepCount, lineH, freqStart, freqStep, isFM, scaleMode,
+             textPosition, textMarginY, scaleMarginY}};
 }
 
 // x is summed up tick by tick, as the ticks have always stood, and not multiplied, which would
 // round otherwise.
-void MKARVOSlider::layOut(const Look &look)
+void MKARVOSlider::Private::layOut(const Look &look)
 {
-    m_look = std::make_unique<Look>(look);
-    m_picture->clear(size());
+    drawnLook = std::make_unique<Look>(look);
+    picture.clear(q->size());
     const auto freqAt = [this](int step) {
-        return std::fma(float(step), m_freqStep, m_freqStart);
+        return std::fma(float(step), freqStep, freqStart);
     };
-    const int stride =
-        strideOf(m_stepCount, [&](int step) { return kindOf(freqAt(step), m_isFM); });
-    const float gap = m_lineGap * float(stride);
-    float x = m_leftX;
-    for (qint64 i = 0; i <= m_stepCount; i += stride, x += gap) {
+    const int stride = strideOf(stepCount, [&](int step) { return kindOf(freqAt(step), isFM); });
+    const float gap = lineGap * float(stride);
+    float x = leftX;
+    for (qint64 i = 0; i <= stepCount; i += stride, x += gap) {
         const float freq = freqAt(int(i));
-        const Tick tick{x, freq, kindOf(freq, m_isFM)};
+        const Tick tick{x, freq, kindOf(freq, isFM)};
         if (tick.kind == Minor)
             continue;
         addLines(tick);
@@ -468,13 +616,13 @@ void MKARVOSlider::layOut(const Look &look)
     }
 }
 
-void MKARVOSlider::addLines(const Tick &tick)
+void MKARVOSlider::Private::addLines(const Tick &tick)
 {
-    const Shape shape = shapeOf(m_scaleMode);
+    const Shape shape = shapeOf(scaleMode);
     const auto add = [&](ScalePicture::Tone tone, const Span &span) {
-        const int from = saturated(tickBase() + qint64(span.from) * m_lineH);
-        const int to = saturated(tickBase() + qint64(span.to) * m_lineH);
-        m_picture->addLine(tone, from == to ? pointColumn(tick.x) : lineColumn(tick.x), from, to);
+        const int from = saturated(tickBase() + qint64(span.from) * lineH);
+        const int to = saturated(tickBase() + qint64(span.to) * lineH);
+        picture.addLine(tone, from == to ? pointColumn(tick.x) : lineColumn(tick.x), from, to);
     };
     if (tick.kind == Major) {
         add(ScalePicture::Solid, shape.major);
@@ -484,40 +632,40 @@ void MKARVOSlider::addLines(const Tick &tick)
     add(ScalePicture::Solid, shape.solid);
 }
 
-void MKARVOSlider::addLabel(const Tick &tick)
+void MKARVOSlider::Private::addLabel(const Tick &tick)
 {
     const QRectF box(qreal(tick.x - kLabelWidth / 2), qreal(labelTop()), qreal(kLabelWidth),
                      kLabelHeight);
-    m_picture->addLabel(box, double(tick.freq), written);
+    picture.addLabel(box, double(tick.freq), written);
 }
 
-int MKARVOSlider::tickBase() const
+int MKARVOSlider::Private::tickBase() const
 {
-    const qint64 aboveText = qint64(height()) - 1 - kLabelHeight + m_textMarginY + m_scaleMarginY;
-    const bool isTextTop = m_textPosition == TextTop;
-    if (m_scaleMode == AlignTop)
-        return saturated(isTextTop ? qint64(kLabelHeight) + m_textMarginY + m_scaleMarginY
-                                   : m_scaleMarginY);
-    if (m_scaleMode == AlignCenter)
-        return saturated(isTextTop ? m_scaleMarginY : aboveText);
-    return saturated(isTextTop ? qint64(height()) - 1 + m_scaleMarginY : aboveText);
+    const qint64 aboveText = qint64(q->height()) - 1 - kLabelHeight + textMarginY + scaleMarginY;
+    const bool isTextTop = textPosition == TextTop;
+    if (scaleMode == AlignTop)
+        return saturated(isTextTop ? qint64(kLabelHeight) + textMarginY + scaleMarginY
+                                   : scaleMarginY);
+    if (scaleMode == AlignCenter)
+        return saturated(isTextTop ? scaleMarginY : aboveText);
+    return saturated(isTextTop ? qint64(q->height()) - 1 + scaleMarginY : aboveText);
 }
 
-int MKARVOSlider::labelTop() const
+int MKARVOSlider::Private::labelTop() const
 {
-    if (m_textPosition == TextTop)
-        return m_textMarginY;
-    return saturated(qint64(height()) - 1 - kLabelHeight + m_textMarginY);
+    if (textPosition == TextTop)
+        return textMarginY;
+    return saturated(qint64(q->height()) - 1 - kLabelHeight + textMarginY);
 }
 
-void MKARVOSlider::drawIndicator(QPainter &painter) const
+void MKARVOSlider::Private::drawIndicator(QPainter &painter) const
 {
-    const float steps = ratio((m_curFreq - m_freqStart) * 100.0F, m_freqStep * 100.0F);
-    const int middle = toInt(double(std::fma(m_lineGap, steps, m_leftX)));
-    const QSize size = m_indicatePix.size();
+    const float steps = ratio((curFreq - freqStart) * 100.0F, freqStep * 100.0F);
+    const int middle = toInt(double(std::fma(lineGap, steps, leftX)));
+    const QSize size = indicatePix.size();
     const int left = saturated(qint64(middle) - size.width() / 2);
-    const int top = saturated(qint64((height() - size.height()) / 2) + m_pointMarginY);
+    const int top = saturated(qint64((q->height() - size.height()) / 2) + pointMarginY);
     const QRectF target({qreal(left), qreal(top)}, QSizeF(size));
-    if (target.intersects(QRectF(rect())))
-        painter.drawPixmap(target, m_indicatePix, QRectF());
+    if (target.intersects(QRectF(q->rect())))
+        painter.drawPixmap(target, indicatePix, QRectF());
 }

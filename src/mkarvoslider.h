@@ -6,15 +6,9 @@
 #include <QColor>
 #include <QFont>
 #include <QPixmap>
-#include <QPoint>
 #include <QWidget>
 
 #include <memory>
-
-namespace panelkit
-{
-class ScalePicture;
-} // namespace panelkit
 
 /**
  * A tuner whose indicator is dragged over a fixed scale. The frequency under the finger snaps to a
@@ -65,47 +59,47 @@ public:
     explicit MKARVOSlider(QWidget *parent = nullptr);
     ~MKARVOSlider() override;
 
-    QPixmap getIndicatePix() const { return m_indicatePix; }
+    QPixmap getIndicatePix() const;
     void setIndicatePix(const QPixmap &pixmap);
-    QColor getLineColor() const { return m_lineColor; }
+    QColor getLineColor() const;
     void setLineColor(const QColor &color);
-    QFont getFont() const { return m_font; }
+    QFont getFont() const;
     void setFont(const QFont &font);
-    int getLineH() const { return m_lineH; }
+    int getLineH() const;
     void setLineH(int height);
-    int getLineW() const { return m_lineW; }
+    int getLineW() const;
     void setLineW(int width);
     int getLineGap() const;
     void setLineGap(int gap);
-    float getFreqStart() const { return m_freqStart; }
+    float getFreqStart() const;
     void setFreqStart(float freq);
-    float getFreqEnd() const { return m_freqEnd; }
+    float getFreqEnd() const;
     void setFreqEnd(float freq);
-    float getFreqStep() const { return m_freqStep; }
+    float getFreqStep() const;
     void setFreqStep(float step);
-    float getCurFreq() const { return m_curFreq; }
+    float getCurFreq() const;
     void setCurFreq(float freq);
-    bool getIsFM() const { return m_isFM; }
+    bool getIsFM() const;
     void setIsFM(bool isFM);
-    int marginY() const { return m_marginY; }
+    int marginY() const;
     void setMarginY(int margin);
-    int marginX() const { return m_marginX; }
+    int marginX() const;
     void setMarginX(int margin);
-    ScaleAlignmentMode scaleAlign() const { return m_scaleMode; }
+    ScaleAlignmentMode scaleAlign() const;
     void setScaleAlign(const ScaleAlignmentMode &mode);
-    TextPosition getTextPosition() const { return m_textPosition; }
+    TextPosition getTextPosition() const;
     void setTextPosition(const TextPosition &position);
-    int getTextMarginY() const { return m_textMarginY; }
+    int getTextMarginY() const;
     void setTextMarginY(int margin);
-    int getScaleMarginY() const { return m_scaleMarginY; }
+    int getScaleMarginY() const;
     void setScaleMarginY(int margin);
-    int getPointMarginY() const { return m_pointMarginY; }
+    int getPointMarginY() const;
     void setPointMarginY(int margin);
-    float getRealMinFreq() const { return m_realMinFreq; }
+    float getRealMinFreq() const;
     void setRealMinFreq(float freq);
-    float getRealMaxFreq() const { return m_realMaxFreq; }
+    float getRealMaxFreq() const;
     void setRealMaxFreq(float freq);
-    float getRealFreqStep() const { return m_realFreqStep; }
+    float getRealFreqStep() const;
     void setRealFreqStep(float step);
 
     void initSliderRange();
@@ -128,8 +122,6 @@ private slots:
     void curFreqChangedSlot(float freq);
 
 private:
-    struct Look;
-
     int wholeFreqStart() const;
     void setWholeFreqStart(int freq);
     int wholeFreqEnd() const;
@@ -139,46 +131,8 @@ private:
     int wholeCurFreq() const;
     void setWholeCurFreq(int freq);
 
-    struct Tick;
-
-    float freqAt(int x);
-    void tune(float freq);
-    Look look() const;
-    void layOut(const Look &look);
-    void addLines(const Tick &tick);
-    void addLabel(const Tick &tick);
-    int tickBase() const;
-    int labelTop() const;
-    void drawIndicator(QPainter &painter) const;
-
-    QPixmap m_indicatePix;
-    QColor m_lineColor{255, 255, 255, 255};
-    QFont m_font;
-    QPoint m_pressPoint;
-    float m_leftX = 0; // px, x of the first tick
-    float m_widthF = 0; // px
-    float m_realMinFreq = 1620.0F; // above the maximum on purpose, until a band comes
-    float m_realMaxFreq = 522.0F;
-    float m_realFreqStep = 9.0F;
-    int m_stepCount = 0;
-    int m_lineH = 30; // px
-    int m_lineW = 1; // px, without effect
-    float m_lineGap = 5.0F; // px from step to step
-    float m_freqStart = 500.0F;
-    float m_freqEnd = 1720.0F;
-    float m_freqStep = 20.0F;
-    bool m_isFM = false;
-    int m_marginY = 0; // px, without effect
-    int m_marginX = 35; // px, left and right of the scale
-    ScaleAlignmentMode m_scaleMode = AlignCenter;
-    TextPosition m_textPosition = TextTop;
-    int m_textMarginY = 5; // px
-    int m_scaleMarginY = 40; // px
-    int m_pointMarginY = 46; // px
-    float m_curFreq = 800.0F;
-
-    std::unique_ptr<Look> m_look; // of the kept picture
-    std::unique_ptr<panelkit::ScalePicture> m_picture;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 #endif // MKARVOSLIDER_H

@@ -3,17 +3,40 @@
 #include "spiconbutton.h"
 
 #include <QMouseEvent>
+#include <QPointer>
 
 #include <algorithm>
+
+class Q_DECL_HIDDEN MListView::Private
+{
+public:
+    explicit Private(MListView *widget) : q(widget) { }
+
+    SpIconButton *makeButton(const QPixmap &first, const QPixmap &second);
+    void placeButtons();
+    void stackButtons();
+    void raiseButtons();
+
+    MListView *const q;
+    SpTableList *tableList = nullptr;
+    QRect viewRect;
+    QList<QPixmap> pixmapList; // two for each button
+    QList<QPointer<SpIconButton>> buttonList;
+    QList<QPoint> positionList; // one for each button, or not used
+    int currentIndex = -1;
+    bool isNormalUse = true;
+};
 
 /**
  * An empty view of this geometry. The list is not owned and never called; that there is one keeps
  * the view from reporting mouse events. May be null.
  */
 MListView::MListView(QWidget *parent, SpTableList *list, QRect rect)
-    : QWidget(parent), m_tableList(list), m_viewRect(rect)
+    : QWidget(parent), d(std::make_unique<Private>(this))
 {
-    setGeometry(m_viewRect);
+    d->tableList = list;
+    d->viewRect = rect;
+    setGeometry(d->viewRect);
 }
 
 /** An empty view of this geometry without a table list. */
@@ -27,7 +50,7 @@ MListView::~MListView() = default;
  */
 void MListView::setIsNormalUse(bool normal)
 {
-    m_isNormalUse = normal;
+    d->isNormalUse = normal;
 }
 
 /**
@@ -37,7 +60,7 @@ void MListView::setIsNormalUse(bool normal)
 void MListView::setPositionList(QList<QPoint> &list)
 {
     if (!list.isEmpty())
-        m_positionList = list;
+        d->positionList = list;
 }
 
 /**
@@ -49,15 +72,15 @@ void MListView::setPixmapList(QList<QPixmap> &list)
 {
     if (list.isEmpty())
         return;
-    m_pixmapList = list;
-    m_buttonList.clear();
-    for (int i = 0; i < m_pixmapList.size(); i += 2)
-        m_buttonList.append(makeButton(m_pixmapList.at(i), m_pixmapList.value(i + 1)));
-    if (m_positionList.size() == m_buttonList.size())
-        placeButtons();
+    d->pixmapList = list;
+    d->buttonList.clear();
+    for (int i = 0; i < d->pixmapList.size(); i += 2)
+        d->buttonList.append(d->makeButton(d->pixmapList.at(i), d->pixmapList.value(i + 1)));
+    if (d->positionList.size() == d->buttonList.size())
+        d->placeButtons();
     else
-        stackButtons();
-    raiseButtons();
+        d->stackButtons();
+    d->raiseButtons();
 }
 
 /**
@@ -69,8 +92,8 @@ void MListView::setButtonIsChecked(bool enable)
 {
     if (!enable)
         return;
-    for (int i = 0; i < m_buttonList.size(); ++i) {
-        SpIconButton *button = m_buttonList.at(i);
+    for (int i = 0; i < d->buttonList.size(); ++i) {
+        SpIconButton *button = d->buttonList.at(i);
         if (!button)
             continue;
         button->setButtonID(QString::number(i));
@@ -83,7 +106,7 @@ void MListView::sltButtonClicked(QString id)
 {
     if (id.isEmpty())
         return;
-    for (SpIconButton *button : qAsConst(m_buttonList)) {
+    for (SpIconButton *button : qAsConst(d->buttonList)) {
         if (button)
             button->setIsDown(button->buttonID() == id);
     }
@@ -92,7 +115,7 @@ void MListView::sltButtonClicked(QString id)
 /** Remembers the index. Nothing else depends on it. */
 void MListView::sltItemClicked(int index)
 {
-    m_currentIndex = index;
+    d->currentIndex = index;
 }
 
 /** With true, takes the focused look from all buttons. */
@@ -100,7 +123,7 @@ void MListView::sltRowCountChange(bool change)
 {
     if (!change)
         return;
-    for (SpIconButton *button : qAsConst(m_buttonList)) {
+    for (SpIconButton *button : qAsConst(d->buttonList)) {
         if (button)
             button->setFocus(false);
     }
@@ -112,7 +135,7 @@ void MListView::mousePressEvent(QMouseEvent *e)
     if (!e)
         return;
     const QPointer<MListView> guard(this);
-    if (!m_tableList)
+    if (!d->tableList)
         emit sigMousePress(e->pos());
     if (guard)
         QWidget::mousePressEvent(e);
@@ -123,7 +146,7 @@ void MListView::mouseMoveEvent(QMouseEvent *e)
     if (!e)
         return;
     const QPointer<MListView> guard(this);
-    if (!m_tableList)
+    if (!d->tableList)
         emit sigMouseMove(e->pos());
     if (guard)
         QWidget::mouseMoveEvent(e);
@@ -134,17 +157,17 @@ void MListView::mouseReleaseEvent(QMouseEvent *e)
     if (!e)
         return;
     const QPointer<MListView> guard(this);
-    if (!m_tableList)
+    if (!d->tableList)
         emit sigMouseRelease(e->pos());
     if (guard)
         QWidget::mouseReleaseEvent(e);
 }
 
-SpIconButton *MListView::makeButton(const QPixmap &first, const QPixmap &second)
+SpIconButton *MListView::Private::makeButton(const QPixmap &first, const QPixmap &second)
 {
-    auto *button = new SpIconButton(this);
+    auto *button = new SpIconButton(q);
     button->setNormalImage(first);
-    if (m_isNormalUse) {
+    if (isNormalUse) {
         button->setPressImage(second);
     } else {
         button->setPressImage(first);
@@ -155,19 +178,19 @@ SpIconButton *MListView::makeButton(const QPixmap &first, const QPixmap &second)
     return button;
 }
 
-void MListView::placeButtons()
+void MListView::Private::placeButtons()
 {
-    for (int i = 0; i < m_buttonList.size(); ++i)
-        m_buttonList.at(i)->move(m_positionList.at(i));
+    for (int i = 0; i < buttonList.size(); ++i)
+        buttonList.at(i)->move(positionList.at(i));
 }
 
 // Each button stands at its predecessor's height plus all tops before: buttons of one height h at
 // 0, h, 2h, 4h, 8h and so on. The growing distances are meant; even ones take a position list.
-void MListView::stackButtons()
+void MListView::Private::stackButtons()
 {
     qint64 top = 0;
     qint64 sum = 0;
-    for (SpIconButton *button : qAsConst(m_buttonList)) {
+    for (SpIconButton *button : qAsConst(buttonList)) {
         sum = std::min<qint64>(sum + top, QWIDGETSIZE_MAX);
         button->move(0, int(top));
         top = std::min<qint64>(button->height() + sum, QWIDGETSIZE_MAX);
@@ -176,8 +199,8 @@ void MListView::stackButtons()
 
 // Neither the first button nor the last is raised, on purpose: where buttons overlap, these two lie
 // behind the others.
-void MListView::raiseButtons()
+void MListView::Private::raiseButtons()
 {
-    for (int i = m_buttonList.size() - 2; i >= 1; --i)
-        m_buttonList.at(i)->raise();
+    for (int i = buttonList.size() - 2; i >= 1; --i)
+        buttonList.at(i)->raise();
 }

@@ -6,12 +6,12 @@
 #include <QList>
 #include <QPixmap>
 #include <QPoint>
-#include <QPointer>
 #include <QRect>
 #include <QString>
 #include <QWidget>
 
-class SpIconButton;
+#include <memory>
+
 class SpTableList;
 
 /**
@@ -51,18 +51,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent *e) override;
 
 private:
-    SpIconButton *makeButton(const QPixmap &first, const QPixmap &second);
-    void placeButtons();
-    void stackButtons();
-    void raiseButtons();
-
-    SpTableList *m_tableList = nullptr;
-    QRect m_viewRect;
-    QList<QPixmap> m_pixmapList; // two for each button
-    QList<QPointer<SpIconButton>> m_buttonList;
-    QList<QPoint> m_positionList; // one for each button, or not used
-    int m_currentIndex = -1;
-    bool m_isNormalUse = true;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 #endif // MLISTVIEW_H

@@ -9,9 +9,11 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPoint>
 #include <QPointer>
 #include <QTimerEvent>
 #include <QVariant>
+#include <QVector>
 
 using namespace panelkit;
 
@@ -54,8 +56,58 @@ QImage dimmedImage(const QPixmap &pixmap, const QRect &target)
 
 } // namespace
 
+class Q_DECL_HIDDEN MOnOffButton::Private
+{
+public:
+    explicit Private(MOnOffButton *widget) : q(widget) { }
+
+    struct Dimmed;
+    struct Surface;
+
+    int knobRadius() const { return q->height() / 2; }
+    int farthestKnob() const { return q->width() - knobRadius(); }
+    bool isMoving() const { return knobPos != 0; }
+    QColor statusColor() const { return onoffStatus ? onColor : offColor; }
+    void endGlide();
+    void releaseDrag(const QPoint &pos);
+    void releaseTap(const QPoint &pos);
+    bool hasPictures() const;
+    QRect bkgRect() const;
+    QRect restingChunkRect() const;
+    void drawPictures(QPainter &painter);
+    void drawSplitBkg(QPainter &painter) const;
+    void drawMovingChunk(QPainter &painter) const;
+    void drawStyle0(QPainter &painter);
+    void drawSlimTrack(QPainter &painter, int left, int right, const Surface &surface);
+    void drawRoundKnob(QPainter &painter, int left, const QColor &pen, const QColor &brush) const;
+    void drawStyle1(QPainter &painter);
+    int flatKnobLeft() const;
+    void drawPlate(QPainter &painter, const QRect &rect, const Surface &surface);
+
+    MOnOffButton *const q;
+    QColor onColor{255, 145, 20, 255};
+    QColor offColor{155, 155, 155, 255};
+    QString btnID = QStringLiteral("ID_MOnOffButton");
+    bool onoffStatus = false;
+    int timerId = 0; // 0: no glide
+    int knobPos = 0; // px, middle of the knob; 0: at rest
+    bool isDragged = false;
+    QPoint pressPoint;
+    bool btnDisable = false;
+    QPixmap normalBkgPix;
+    QPixmap pressBkgPix;
+    QPixmap normalChunkPix;
+    QPixmap pressChunkPix;
+    bool reverse = false;
+    OnOff_STYLE style = ONOFF_STYLE_0;
+
+    QVector<int> overtakenTimers; // of glides that another one took over from
+    std::unique_ptr<Dimmed> dimmedBkg;
+    std::unique_ptr<Dimmed> dimmedChunk;
+};
+
 // The dimmed copy of a picture, composed anew only when the picture or its place changes.
-struct MOnOffButton::Dimmed {
+struct MOnOffButton::Private::Dimmed {
     const QImage &of(const QPixmap &pixmap, const QRect &target)
     {
         if (m_pixmap != pixmap.cacheKey() || m_target != target) {
@@ -73,47 +125,72 @@ private:
 };
 
 // What a painted shape is covered with.
-struct MOnOffButton::Surface {
+struct MOnOffButton::Private::Surface {
     QColor pen;
     QColor brush;
     QColor ground = {}; // under the brush: it shows through the soft edge
 };
 
 /** A switch that is off, of at least 90 x 44 px, painted in ONOFF_STYLE_0. */
-MOnOffButton::MOnOffButton(QWidget *parent)
-    : QWidget(parent), m_dimmedBkg(std::make_unique<Dimmed>()),
-      m_dimmedChunk(std::make_unique<Dimmed>())
+MOnOffButton::MOnOffButton(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
 {
+    d->dimmedBkg = std::make_unique<Private::Dimmed>();
+    d->dimmedChunk = std::make_unique<Private::Dimmed>();
     setMinimumSize(kSmallestSize);
 }
 
 MOnOffButton::~MOnOffButton() = default;
 
+QColor MOnOffButton::onColor() const
+{
+    return d->onColor;
+}
+
 /** The colour of the painted looks while on; orange by default. Repaints. */
 void MOnOffButton::setOnColor(const QColor &color)
 {
-    m_onColor = color;
+    d->onColor = color;
     update();
+}
+
+QColor MOnOffButton::offColor() const
+{
+    return d->offColor;
 }
 
 /** The colour of the painted looks while off; grey by default. Repaints. */
 void MOnOffButton::setOffColor(const QColor &color)
 {
-    m_offColor = color;
+    d->offColor = color;
     update();
+}
+
+QString MOnOffButton::btnID() const
+{
+    return d->btnID;
 }
 
 /** The text that onoffStatusChanged carries; "ID_MOnOffButton" by default. Stored only. */
 void MOnOffButton::setBtnID(const QString &id)
 {
-    m_btnID = id;
+    d->btnID = id;
+}
+
+bool MOnOffButton::onoffStatus() const
+{
+    return d->onoffStatus;
 }
 
 /** Switches without a signal and without a glide. Repaints. */
 void MOnOffButton::setOnoffStatus(const bool &on)
 {
-    m_onoffStatus = on;
+    d->onoffStatus = on;
     update();
+}
+
+bool MOnOffButton::btnDisable() const
+{
+    return d->btnDisable;
 }
 
 /**
@@ -123,8 +200,13 @@ void MOnOffButton::setOnoffStatus(const bool &on)
  */
 void MOnOffButton::setBtnDisable(const bool &disabled)
 {
-    m_btnDisable = disabled;
+    d->btnDisable = disabled;
     update();
+}
+
+QPixmap MOnOffButton::normalBkgPix() const
+{
+    return d->normalBkgPix;
 }
 
 /**
@@ -133,31 +215,51 @@ void MOnOffButton::setBtnDisable(const bool &disabled)
  */
 void MOnOffButton::setNormalBkgPix(const QPixmap &pixmap)
 {
-    m_normalBkgPix = pixmap;
+    d->normalBkgPix = pixmap;
     if (!pixmap.isNull())
         setMinimumSize(pixmap.size());
     update();
 }
 
+QPixmap MOnOffButton::pressBkgPix() const
+{
+    return d->pressBkgPix;
+}
+
 /** The track of a switch that is off; "press" is its name on purpose. Repaints. */
 void MOnOffButton::setPressBkgPix(const QPixmap &pixmap)
 {
-    m_pressBkgPix = pixmap;
+    d->pressBkgPix = pixmap;
     update();
+}
+
+QPixmap MOnOffButton::normalChunkPix() const
+{
+    return d->normalChunkPix;
 }
 
 /** The knob at rest. Repaints. */
 void MOnOffButton::setNormalChunkPix(const QPixmap &pixmap)
 {
-    m_normalChunkPix = pixmap;
+    d->normalChunkPix = pixmap;
     update();
+}
+
+QPixmap MOnOffButton::pressChunkPix() const
+{
+    return d->pressChunkPix;
 }
 
 /** The knob while it is dragged or glides. Repaints. */
 void MOnOffButton::setPressChunkPix(const QPixmap &pixmap)
 {
-    m_pressChunkPix = pixmap;
+    d->pressChunkPix = pixmap;
     update();
+}
+
+bool MOnOffButton::reverse() const
+{
+    return d->reverse;
 }
 
 /**
@@ -166,14 +268,19 @@ void MOnOffButton::setPressChunkPix(const QPixmap &pixmap)
  */
 void MOnOffButton::setReverse(bool reversed)
 {
-    m_reverse = reversed;
+    d->reverse = reversed;
     update();
+}
+
+MOnOffButton::OnOff_STYLE MOnOffButton::UIStyle() const
+{
+    return d->style;
 }
 
 /** The look without pictures. Stored only, on purpose; a value that is no style is style 0. */
 void MOnOffButton::setUIStyle(OnOff_STYLE style)
 {
-    m_style = style;
+    d->style = style;
 }
 
 /**
@@ -187,14 +294,14 @@ void MOnOffButton::setUIStyle(OnOff_STYLE style)
  */
 void MOnOffButton::changeStatus(bool status)
 {
-    if (m_btnDisable)
+    if (d->btnDisable)
         return;
-    m_onoffStatus = status;
-    m_knobPos = status ? knobRadius() : farthestKnob();
-    if (m_timerId != 0)
-        m_overtakenTimers += m_timerId;
-    m_timerId = startTimer(kGlideTick);
-    emit onoffStatusChanged(m_btnID, status);
+    d->onoffStatus = status;
+    d->knobPos = status ? d->knobRadius() : d->farthestKnob();
+    if (d->timerId != 0)
+        d->overtakenTimers += d->timerId;
+    d->timerId = startTimer(kGlideTick);
+    emit onoffStatusChanged(d->btnID, status);
 }
 
 void MOnOffButton::paintEvent(QPaintEvent *)
@@ -203,12 +310,12 @@ void MOnOffButton::paintEvent(QPaintEvent *)
         return;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    if (hasPictures())
-        drawPictures(painter);
-    else if (m_style == ONOFF_STYLE_1)
-        drawStyle1(painter);
+    if (d->hasPictures())
+        d->drawPictures(painter);
+    else if (d->style == ONOFF_STYLE_1)
+        d->drawStyle1(painter);
     else
-        drawStyle0(painter);
+        d->drawStyle0(painter);
 }
 
 /**
@@ -218,13 +325,13 @@ void MOnOffButton::paintEvent(QPaintEvent *)
  */
 void MOnOffButton::mousePressEvent(QMouseEvent *e)
 {
-    if (!m_btnDisable) {
+    if (!d->btnDisable) {
         postKeyRequest(this, kBeepRequest);
-        if (m_timerId != 0)
-            endGlide();
-        m_isDragged = false;
+        if (d->timerId != 0)
+            d->endGlide();
+        d->isDragged = false;
         if (e)
-            m_pressPoint = e->pos();
+            d->pressPoint = e->pos();
     }
     const QPointer<MOnOffButton> guard(this);
     emit buttonClicked();
@@ -240,14 +347,14 @@ void MOnOffButton::mouseMoveEvent(QMouseEvent *e)
 {
     if (!e)
         return;
-    if (!m_btnDisable) {
+    if (!d->btnDisable) {
         const int x = e->pos().x();
-        if (distance(x, m_pressPoint.x()) > kDragSlop)
-            m_isDragged = true;
-        if (x < knobRadius())
-            m_knobPos = knobRadius();
+        if (distance(x, d->pressPoint.x()) > kDragSlop)
+            d->isDragged = true;
+        if (x < d->knobRadius())
+            d->knobPos = d->knobRadius();
         else
-            m_knobPos = qMin(x, farthestKnob());
+            d->knobPos = qMin(x, d->farthestKnob());
         update();
     }
     QWidget::mouseMoveEvent(e);
@@ -258,11 +365,11 @@ void MOnOffButton::mouseReleaseEvent(QMouseEvent *e)
     if (!e)
         return;
     const QPointer<MOnOffButton> guard(this);
-    if (!m_btnDisable) {
-        if (m_isDragged)
-            releaseDrag(e->pos());
+    if (!d->btnDisable) {
+        if (d->isDragged)
+            d->releaseDrag(e->pos());
         else
-            releaseTap(e->pos());
+            d->releaseTap(e->pos());
     }
     if (guard)
         QWidget::mouseReleaseEvent(e);
@@ -276,17 +383,17 @@ void MOnOffButton::timerEvent(QTimerEvent *e)
 {
     if (!e)
         return;
-    if (m_overtakenTimers.removeOne(e->timerId())) {
+    if (d->overtakenTimers.removeOne(e->timerId())) {
         killTimer(e->timerId());
         return;
     }
-    if (m_btnDisable || e->timerId() != m_timerId)
+    if (d->btnDisable || e->timerId() != d->timerId)
         return;
-    m_knobPos += m_onoffStatus != m_reverse ? kGlideStep : -kGlideStep;
-    if (m_knobPos > knobRadius() && m_knobPos < farthestKnob())
+    d->knobPos += d->onoffStatus != d->reverse ? kGlideStep : -kGlideStep;
+    if (d->knobPos > d->knobRadius() && d->knobPos < d->farthestKnob())
         update();
     else
-        endGlide();
+        d->endGlide();
 }
 
 void MOnOffButton::createRectPath(QPainterPath &path, QRectF rect, int radius)
@@ -306,119 +413,119 @@ void MOnOffButton::createRectPath(QPainterPath &path, QRectF rect, int radius)
 
 void MOnOffButton::drawDisableImage(QRect target, QPixmap pixmap, QPainter &painter)
 {
-    Dimmed &dimmed = target == bkgRect() ? *m_dimmedBkg : *m_dimmedChunk;
+    Private::Dimmed &dimmed = target == d->bkgRect() ? *d->dimmedBkg : *d->dimmedChunk;
     const QImage &image = dimmed.of(pixmap, target);
     painter.drawImage(QRectF(target), image, QRectF(image.rect()));
 }
 
-void MOnOffButton::endGlide()
+void MOnOffButton::Private::endGlide()
 {
-    killTimer(m_timerId);
-    m_timerId = 0;
-    m_knobPos = 0;
-    update();
+    q->killTimer(timerId);
+    timerId = 0;
+    knobPos = 0;
+    q->update();
 }
 
 // A drag shorter than the knob's way springs back. A longer one switches on in either direction,
 // but off only toward the off end: a hasty finger rather switches on than off, on purpose.
-void MOnOffButton::releaseDrag(const QPoint &pos)
+void MOnOffButton::Private::releaseDrag(const QPoint &pos)
 {
-    m_knobPos = 0;
-    m_isDragged = false;
-    const bool isFar = distance(pos.x(), m_pressPoint.x()) >= (width() - height()) / 2;
-    const bool isTowardOff = m_reverse ? pos.x() > m_pressPoint.x() : pos.x() < m_pressPoint.x();
-    if (!isFar || (m_onoffStatus && !isTowardOff)) {
-        update();
+    knobPos = 0;
+    isDragged = false;
+    const bool isFar = distance(pos.x(), pressPoint.x()) >= (q->width() - q->height()) / 2;
+    const bool isTowardOff = reverse ? pos.x() > pressPoint.x() : pos.x() < pressPoint.x();
+    if (!isFar || (onoffStatus && !isTowardOff)) {
+        q->update();
         return;
     }
-    setOnoffStatus(!m_onoffStatus);
-    emit onoffStatusChanged(m_btnID, m_onoffStatus);
+    q->setOnoffStatus(!onoffStatus);
+    emit q->onoffStatusChanged(btnID, onoffStatus);
 }
 
 // While a list scrolls the finger does not mean the switch that happens to lie under it. One that
 // went sideways meanwhile makes the switch glide to where it is, and say so again, on purpose.
-void MOnOffButton::releaseTap(const QPoint &pos)
+void MOnOffButton::Private::releaseTap(const QPoint &pos)
 {
     const bool isListMoving = QCoreApplication::instance()->property("listMoving").toBool();
     if (!isListMoving)
-        changeStatus(!m_onoffStatus);
-    else if (pos.x() != m_pressPoint.x())
-        changeStatus(m_onoffStatus);
+        q->changeStatus(!onoffStatus);
+    else if (pos.x() != pressPoint.x())
+        q->changeStatus(onoffStatus);
 }
 
-bool MOnOffButton::hasPictures() const
+bool MOnOffButton::Private::hasPictures() const
 {
-    return !m_normalBkgPix.isNull() && !m_normalChunkPix.isNull();
+    return !normalBkgPix.isNull() && !normalChunkPix.isNull();
 }
 
-QRect MOnOffButton::bkgRect() const
+QRect MOnOffButton::Private::bkgRect() const
 {
-    return centredTowardZero(m_normalBkgPix.size(), rect());
+    return centredTowardZero(normalBkgPix.size(), q->rect());
 }
 
 // At its right end the knob stops one pixel short of the track, on purpose.
-QRect MOnOffButton::restingChunkRect() const
+QRect MOnOffButton::Private::restingChunkRect() const
 {
     const QRect track = bkgRect();
-    QRect chunk = centredTowardZero(m_normalChunkPix.size(), rect());
-    const bool isLeft = m_onoffStatus == m_reverse;
+    QRect chunk = centredTowardZero(normalChunkPix.size(), q->rect());
+    const bool isLeft = onoffStatus == reverse;
     chunk.moveLeft(isLeft ? track.left() : track.left() + track.width() - 1 - chunk.width());
     return chunk;
 }
 
-void MOnOffButton::drawPictures(QPainter &painter)
+void MOnOffButton::Private::drawPictures(QPainter &painter)
 {
-    const QPixmap &bkg = m_onoffStatus ? m_normalBkgPix : m_pressBkgPix;
-    if (m_btnDisable) {
-        drawDisableImage(bkgRect(), bkg, painter);
-        drawDisableImage(restingChunkRect(), m_normalChunkPix, painter);
+    const QPixmap &bkg = onoffStatus ? normalBkgPix : pressBkgPix;
+    if (btnDisable) {
+        q->drawDisableImage(bkgRect(), bkg, painter);
+        q->drawDisableImage(restingChunkRect(), normalChunkPix, painter);
     } else if (isMoving()) {
         drawSplitBkg(painter);
         drawMovingChunk(painter);
     } else {
         painter.drawPixmap(bkgRect().topLeft(), bkg);
-        painter.drawPixmap(restingChunkRect().topLeft(), m_normalChunkPix);
+        painter.drawPixmap(restingChunkRect().topLeft(), normalChunkPix);
     }
 }
 
 // The whole on track squeezed into one side of the knob, the whole off track into the other.
-void MOnOffButton::drawSplitBkg(QPainter &painter) const
+void MOnOffButton::Private::drawSplitBkg(QPainter &painter) const
 {
     const QRect track = bkgRect();
     QRect left = track;
-    left.setRight(m_knobPos - 1);
+    left.setRight(knobPos - 1);
     QRect right = track;
-    right.setLeft(m_knobPos);
-    right.setRight(width() - track.left() - 1);
+    right.setLeft(knobPos);
+    right.setRight(q->width() - track.left() - 1);
     if (!left.isEmpty())
-        painter.drawPixmap(left, m_reverse ? m_pressBkgPix : m_normalBkgPix);
+        painter.drawPixmap(left, reverse ? pressBkgPix : normalBkgPix);
     if (!right.isEmpty())
-        painter.drawPixmap(right, m_reverse ? m_normalBkgPix : m_pressBkgPix);
+        painter.drawPixmap(right, reverse ? normalBkgPix : pressBkgPix);
 }
 
-void MOnOffButton::drawMovingChunk(QPainter &painter) const
+void MOnOffButton::Private::drawMovingChunk(QPainter &painter) const
 {
-    const QRect chunk = centredTowardZero(m_pressChunkPix.size(), rect());
-    painter.drawPixmap(m_knobPos - chunk.width() / 2, chunk.top(), m_pressChunkPix);
+    const QRect chunk = centredTowardZero(pressChunkPix.size(), q->rect());
+    painter.drawPixmap(knobPos - chunk.width() / 2, chunk.top(), pressChunkPix);
 }
 
-void MOnOffButton::drawStyle0(QPainter &painter)
+void MOnOffButton::Private::drawStyle0(QPainter &painter)
 {
     const auto dark = [](const QColor &color) {
         return fraction(color, 2, 3);
     };
     const QColor color = statusColor();
-    const int restingLeft = m_onoffStatus ? width() - 1 - height() : 0;
-    const int right = width() - 2;
-    if (m_btnDisable) {
+    const int restingLeft = onoffStatus ? q->width() - 1 - q->height() : 0;
+    const int right = q->width() - 2;
+    if (btnDisable) {
         const QColor darkest = fraction(color, 2, 5);
         drawSlimTrack(painter, 1, right, {darkest, darkest, dark(color)});
         drawRoundKnob(painter, restingLeft, dark(color), dark(color));
     } else if (isMoving()) {
-        drawSlimTrack(painter, 1, m_knobPos - 1, {kOutline, dark(m_offColor), m_offColor});
-        drawSlimTrack(painter, m_knobPos, right, {kOutline, dark(m_onColor), m_onColor});
-        drawRoundKnob(painter, m_knobPos - height() / 2, kOutline,
-                      m_knobPos <= width() / 2 ? m_offColor : m_onColor);
+        drawSlimTrack(painter, 1, knobPos - 1, {kOutline, dark(offColor), offColor});
+        drawSlimTrack(painter, knobPos, right, {kOutline, dark(onColor), onColor});
+        drawRoundKnob(painter, knobPos - q->height() / 2, kOutline,
+                      knobPos <= q->width() / 2 ? offColor : onColor);
     } else {
         drawSlimTrack(painter, 1, right, {kOutline, dark(color), color});
         drawRoundKnob(painter, restingLeft, kOutline, color);
@@ -426,32 +533,33 @@ void MOnOffButton::drawStyle0(QPainter &painter)
 }
 
 // The part of the track from one column of pixels to another, both included.
-void MOnOffButton::drawSlimTrack(QPainter &painter, int left, int right, const Surface &surface)
+void MOnOffButton::Private::drawSlimTrack(QPainter &painter, int left, int right,
+                                          const Surface &surface)
 {
-    const int sixth = height() / 6;
+    const int sixth = q->height() / 6;
     QPainterPath path;
-    createRectPath(path, QRectF(QRect(left, sixth + 1, right - left + 1, 4 * sixth)), 2 * sixth);
+    q->createRectPath(path, QRectF(QRect(left, sixth + 1, right - left + 1, 4 * sixth)), 2 * sixth);
     painter.fillPath(path, surface.ground);
     painter.setPen(surface.pen);
     painter.setBrush(surface.brush);
     painter.drawPath(path);
 }
 
-void MOnOffButton::drawRoundKnob(QPainter &painter, int left, const QColor &pen,
-                                 const QColor &brush) const
+void MOnOffButton::Private::drawRoundKnob(QPainter &painter, int left, const QColor &pen,
+                                          const QColor &brush) const
 {
     painter.setPen(pen);
     painter.setBrush(brush);
-    painter.drawEllipse(left, 0, height(), height());
+    painter.drawEllipse(left, 0, q->height(), q->height());
 }
 
-void MOnOffButton::drawStyle1(QPainter &painter)
+void MOnOffButton::Private::drawStyle1(QPainter &painter)
 {
     const QColor color = statusColor();
     Surface outer{color, fraction(color, 1, 1)};
     Surface inner{color, fraction(color, 1, 2, 155)};
     Surface knob{color, color};
-    if (m_btnDisable) {
+    if (btnDisable) {
         outer = {fraction(color, 2, 3), fraction(color, 2, 3)};
         inner = {fraction(color, 1, 3), fraction(color, 1, 3)};
         knob = inner;
@@ -460,28 +568,29 @@ void MOnOffButton::drawStyle1(QPainter &painter)
         inner = {fraction(color, 1, 2), fraction(color, 1, 2)};
     }
 
-    const int inset = height() - 1 > 14 ? height() / 8 : 2;
-    const int third = height() / 3;
-    drawPlate(painter, rect().adjusted(1, 1, -1, -1), outer);
-    drawPlate(painter, rect().adjusted(inset, inset, -inset, -inset), inner);
-    drawPlate(painter, QRect(flatKnobLeft(), third, width() / 2 - 2 * third, height() - 2 * third),
+    const int inset = q->height() - 1 > 14 ? q->height() / 8 : 2;
+    const int third = q->height() / 3;
+    drawPlate(painter, q->rect().adjusted(1, 1, -1, -1), outer);
+    drawPlate(painter, q->rect().adjusted(inset, inset, -inset, -inset), inner);
+    drawPlate(painter,
+              QRect(flatKnobLeft(), third, q->width() / 2 - 2 * third, q->height() - 2 * third),
               knob);
 }
 
 // In motion the left of the knob goes from that of the left half to that of the right half.
-int MOnOffButton::flatKnobLeft() const
+int MOnOffButton::Private::flatKnobLeft() const
 {
-    const int third = height() / 3;
-    if (m_btnDisable || !isMoving())
-        return m_onoffStatus ? width() / 2 + third : third;
-    const int gone = m_knobPos - knobRadius();
-    return toInt(third + ratio(double(gone), double(width() - height())) * width() / 2);
+    const int third = q->height() / 3;
+    if (btnDisable || !isMoving())
+        return onoffStatus ? q->width() / 2 + third : third;
+    const int gone = knobPos - knobRadius();
+    return toInt(third + ratio(double(gone), double(q->width() - q->height())) * q->width() / 2);
 }
 
-void MOnOffButton::drawPlate(QPainter &painter, const QRect &rect, const Surface &surface)
+void MOnOffButton::Private::drawPlate(QPainter &painter, const QRect &rect, const Surface &surface)
 {
     QPainterPath path;
-    createRectPath(path, QRectF(rect), rect.height() / 2);
+    q->createRectPath(path, QRectF(rect), rect.height() / 2);
     painter.setPen(surface.pen);
     painter.setBrush(surface.brush);
     painter.drawPath(path);

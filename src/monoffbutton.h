@@ -5,10 +5,8 @@
 
 #include <QColor>
 #include <QPixmap>
-#include <QPoint>
 #include <QRect>
 #include <QString>
-#include <QVector>
 #include <QWidget>
 
 #include <memory>
@@ -50,27 +48,27 @@ public:
     explicit MOnOffButton(QWidget *parent = nullptr);
     ~MOnOffButton() override;
 
-    QColor onColor() const { return m_onColor; }
+    QColor onColor() const;
     void setOnColor(const QColor &color);
-    QColor offColor() const { return m_offColor; }
+    QColor offColor() const;
     void setOffColor(const QColor &color);
-    QString btnID() const { return m_btnID; }
+    QString btnID() const;
     void setBtnID(const QString &id);
-    bool onoffStatus() const { return m_onoffStatus; }
+    bool onoffStatus() const;
     void setOnoffStatus(const bool &on);
-    bool btnDisable() const { return m_btnDisable; }
+    bool btnDisable() const;
     void setBtnDisable(const bool &disabled);
-    QPixmap normalBkgPix() const { return m_normalBkgPix; }
+    QPixmap normalBkgPix() const;
     void setNormalBkgPix(const QPixmap &pixmap);
-    QPixmap pressBkgPix() const { return m_pressBkgPix; }
+    QPixmap pressBkgPix() const;
     void setPressBkgPix(const QPixmap &pixmap);
-    QPixmap normalChunkPix() const { return m_normalChunkPix; }
+    QPixmap normalChunkPix() const;
     void setNormalChunkPix(const QPixmap &pixmap);
-    QPixmap pressChunkPix() const { return m_pressChunkPix; }
+    QPixmap pressChunkPix() const;
     void setPressChunkPix(const QPixmap &pixmap);
-    bool reverse() const { return m_reverse; }
+    bool reverse() const;
     void setReverse(bool reversed);
-    OnOff_STYLE UIStyle() const { return m_style; }
+    OnOff_STYLE UIStyle() const;
     void setUIStyle(OnOff_STYLE style);
 
     /// Switches as a tap does: reports at once, then glides.
@@ -93,48 +91,8 @@ protected:
     void drawDisableImage(QRect target, QPixmap pixmap, QPainter &painter);
 
 private:
-    struct Dimmed;
-    struct Surface;
-
-    int knobRadius() const { return height() / 2; }
-    int farthestKnob() const { return width() - knobRadius(); }
-    bool isMoving() const { return m_knobPos != 0; }
-    QColor statusColor() const { return m_onoffStatus ? m_onColor : m_offColor; }
-    void endGlide();
-    void releaseDrag(const QPoint &pos);
-    void releaseTap(const QPoint &pos);
-    bool hasPictures() const;
-    QRect bkgRect() const;
-    QRect restingChunkRect() const;
-    void drawPictures(QPainter &painter);
-    void drawSplitBkg(QPainter &painter) const;
-    void drawMovingChunk(QPainter &painter) const;
-    void drawStyle0(QPainter &painter);
-    void drawSlimTrack(QPainter &painter, int left, int right, const Surface &surface);
-    void drawRoundKnob(QPainter &painter, int left, const QColor &pen, const QColor &brush) const;
-    void drawStyle1(QPainter &painter);
-    int flatKnobLeft() const;
-    void drawPlate(QPainter &painter, const QRect &rect, const Surface &surface);
-
-    QColor m_onColor{255, 145, 20, 255};
-    QColor m_offColor{155, 155, 155, 255};
-    QString m_btnID = QStringLiteral("ID_MOnOffButton");
-    bool m_onoffStatus = false;
-    int m_timerId = 0; // 0: no glide
-    int m_knobPos = 0; // px, middle of the knob; 0: at rest
-    bool m_isDragged = false;
-    QPoint m_pressPoint;
-    bool m_btnDisable = false;
-    QPixmap m_normalBkgPix;
-    QPixmap m_pressBkgPix;
-    QPixmap m_normalChunkPix;
-    QPixmap m_pressChunkPix;
-    bool m_reverse = false;
-    OnOff_STYLE m_style = ONOFF_STYLE_0;
-
-    QVector<int> m_overtakenTimers; // of glides that another one took over from
-    std::unique_ptr<Dimmed> m_dimmedBkg;
-    std::unique_ptr<Dimmed> m_dimmedChunk;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 #endif // MONOFFBUTTON_H

@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPointer>
+#include <QRectF>
 
 #include <algorithm>
 
@@ -23,9 +24,39 @@ constexpr double kTextShare =
 
 } // namespace
 
+class Q_DECL_HIDDEN MOProgress::Private
+{
+public:
+    explicit Private(MOProgress *widget) : q(widget) { }
+
+    struct Kept;
+
+    template <typename T> void change(T &member, const T &value);
+    QRectF square() const;
+    void layOut();
+    void drawRing(QPainter &painter) const;
+    void drawTexts(QPainter &painter) const;
+
+    MOProgress *const q;
+    int itemID = 0;
+    int currentValue = 50; // percent
+    int radius = 100; // px
+    QColor normalColor{150, 150, 150, 100};
+    QColor pressColor{255, 125, 0, 255};
+    bool boundary = true;
+    QColor boundaryColor{255, 255, 255, 255};
+    int arcHeight = 20; // px
+    QColor insideColor{0, 0, 0, 100};
+    int fontSize = 25; // px
+    QString dispalyText;
+    QColor displayTextColor{255, 255, 255, 255};
+
+    std::unique_ptr<Kept> kept;
+};
+
 // To cut one path out of another costs more than to fill both, so the outcome is kept with what it
 // was made from.
-struct MOProgress::Kept {
+struct MOProgress::Private::Kept {
     int radius = 0;
     int arcHeight = 0;
     int value = -1;
@@ -37,14 +68,27 @@ struct MOProgress::Kept {
 };
 
 /** A ring of 100 px at 50 %. */
-MOProgress::MOProgress(QWidget *parent) : QWidget(parent), m_kept(std::make_unique<Kept>()) { }
+MOProgress::MOProgress(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
+{
+    d->kept = std::make_unique<Private::Kept>();
+}
 
 MOProgress::~MOProgress() = default;
+
+int MOProgress::itemID() const
+{
+    return d->itemID;
+}
 
 /** The number that btnClicked carries. Stored only. */
 void MOProgress::setItemID(int id)
 {
-    m_itemID = id;
+    d->itemID = id;
+}
+
+int MOProgress::currentValue() const
+{
+    return d->currentValue;
 }
 
 /**
@@ -53,52 +97,92 @@ void MOProgress::setItemID(int id)
  */
 void MOProgress::setCurrentValue(int percent)
 {
-    change(m_currentValue, percent);
+    d->change(d->currentValue, percent);
+}
+
+int MOProgress::radius() const
+{
+    return d->radius;
 }
 
 /** The outer radius in px; 100 by default. Repaints on a change. */
 void MOProgress::setRadius(int radius)
 {
-    change(m_radius, radius);
+    d->change(d->radius, radius);
+}
+
+QColor MOProgress::normalColor() const
+{
+    return d->normalColor;
 }
 
 /** The colour of the ring; a translucent grey by default. Repaints on a change. */
 void MOProgress::setNormalColor(QColor color)
 {
-    change(m_normalColor, color);
+    d->change(d->normalColor, color);
+}
+
+QColor MOProgress::pressColor() const
+{
+    return d->pressColor;
 }
 
 /** The colour of the part of the ring that is done; orange by default. Repaints on a change. */
 void MOProgress::setPressColor(QColor color)
 {
-    change(m_pressColor, color);
+    d->change(d->pressColor, color);
+}
+
+bool MOProgress::boundary() const
+{
+    return d->boundary;
 }
 
 /** Whether the ring and its part that is done have an outline; they do by default. Repaints on a
  * change. */
 void MOProgress::setBoundary(bool boundary)
 {
-    change(m_boundary, boundary);
+    d->change(d->boundary, boundary);
+}
+
+QColor MOProgress::boundaryColor() const
+{
+    return d->boundaryColor;
 }
 
 /** The colour of the outlines; white by default. Repaints on a change. */
 void MOProgress::setBoundaryColor(QColor color)
 {
-    change(m_boundaryColor, color);
+    d->change(d->boundaryColor, color);
+}
+
+int MOProgress::arcHeight() const
+{
+    return d->arcHeight;
 }
 
 /** The thickness of the ring in px, 20 by default; from the radius on nothing is drawn at all.
  * Repaints on a change. */
 void MOProgress::setArcHeight(int height)
 {
-    change(m_arcHeight, height);
+    d->change(d->arcHeight, height);
+}
+
+QColor MOProgress::insideColor() const
+{
+    return d->insideColor;
 }
 
 /** The colour of the middle, which shines through the ring; translucent black by default. Repaints
  * on a change. */
 void MOProgress::setInsideColor(QColor color)
 {
-    change(m_insideColor, color);
+    d->change(d->insideColor, color);
+}
+
+int MOProgress::fontSize() const
+{
+    return d->fontSize;
 }
 
 /**
@@ -107,34 +191,44 @@ void MOProgress::setInsideColor(QColor color)
  */
 void MOProgress::setFontSize(int px)
 {
-    change(m_fontSize, px);
+    d->change(d->fontSize, px);
+}
+
+QString MOProgress::dispalyText() const
+{
+    return d->dispalyText;
 }
 
 /** The caption below the percentage, which has the widget's own font. Repaints. */
 void MOProgress::setDispalyText(QString text)
 {
-    m_dispalyText = std::move(text);
+    d->dispalyText = std::move(text);
     update();
+}
+
+QColor MOProgress::displayTextColor() const
+{
+    return d->displayTextColor;
 }
 
 /** The colour of both texts; white by default. Repaints on a change. */
 void MOProgress::setDisplayTextColor(QColor color)
 {
-    change(m_displayTextColor, color);
+    d->change(d->displayTextColor, color);
 }
 
 /** The paint limits the value to 0..100 and writes it back, on purpose. */
 void MOProgress::paintEvent(QPaintEvent *)
 {
-    if (m_arcHeight >= m_radius)
+    if (d->arcHeight >= d->radius)
         return;
-    m_currentValue = std::clamp(m_currentValue, 0, 100);
-    layOut();
+    d->currentValue = std::clamp(d->currentValue, 0, 100);
+    d->layOut();
     QPainter painter(this);
     painter.translate(QPoint(width() / 2, height() / 2));
     painter.setRenderHint(QPainter::Antialiasing);
-    drawRing(painter);
-    drawTexts(painter);
+    d->drawRing(painter);
+    d->drawTexts(painter);
 }
 
 /** QWidget goes first, which leaves the event to the parent; then a release emits btnClicked unless
@@ -146,74 +240,73 @@ void MOProgress::mouseReleaseEvent(QMouseEvent *e)
     if (!isEnabled())
         return;
     const QPointer<MOProgress> guard(this);
-    emit btnClicked(m_itemID);
+    emit btnClicked(d->itemID);
     if (!guard && e)
         e->accept(); // there is no way to the parent any more
 }
 
-template <typename T> void MOProgress::change(T &member, const T &value)
+template <typename T> void MOProgress::Private::change(T &member, const T &value)
 {
     if (member == value)
         return;
     member = value;
-    update();
+    q->update();
 }
 
-QRectF MOProgress::square() const
+QRectF MOProgress::Private::square() const
 {
-    const auto radius = qreal(boundedPixel(m_radius));
-    return {-radius, -radius, 2 * radius, 2 * radius};
+    const auto rim = qreal(boundedPixel(radius));
+    return {-rim, -rim, 2 * rim, 2 * rim};
 }
 
-void MOProgress::layOut()
+void MOProgress::Private::layOut()
 {
-    if (m_kept->radius == m_radius && m_kept->arcHeight == m_arcHeight
-        && m_kept->value == m_currentValue)
+    if (kept->radius == radius && kept->arcHeight == arcHeight && kept->value == currentValue)
         return;
-    const auto thickness = qreal(boundedPixel(m_arcHeight));
+    const auto thickness = qreal(boundedPixel(arcHeight));
     QPainterPath inside;
     inside.addEllipse(square().adjusted(thickness, thickness, -thickness, -thickness));
     QPainterPath disc; // a circle alone, without a line to it from the middle
     disc.arcMoveTo(square(), 0);
     disc.arcTo(square(), 0, 360);
-    const int sweep = m_currentValue * 360 / -100; // whole degrees, clockwise
+    const int sweep = currentValue * 360 / -100; // whole degrees, clockwise
     QPainterPath done; // a sector: it starts and ends in the middle
     done.arcTo(square(), kTop, qreal(sweep));
 
-    m_kept->radius = m_radius;
-    m_kept->arcHeight = m_arcHeight;
-    m_kept->value = m_currentValue;
-    m_kept->disc = disc;
-    m_kept->ring = disc - inside;
-    m_kept->done = done - inside;
+    kept->radius = radius;
+    kept->arcHeight = arcHeight;
+    kept->value = currentValue;
+    kept->disc = disc;
+    kept->ring = disc - inside;
+    kept->done = done - inside;
 }
 
 // The middle is a whole disc with the pen that every painter starts with.
-void MOProgress::drawRing(QPainter &painter) const
+void MOProgress::Private::drawRing(QPainter &painter) const
 {
-    painter.setBrush(m_insideColor);
-    painter.drawPath(m_kept->disc);
-    painter.setBrush(m_normalColor);
-    if (m_boundary)
-        painter.setPen(QPen(m_boundaryColor, 1));
+    painter.setBrush(insideColor);
+    painter.drawPath(kept->disc);
+    painter.setBrush(normalColor);
+    if (boundary)
+        painter.setPen(QPen(boundaryColor, 1));
     else
         painter.setPen(Qt::NoPen);
-    painter.drawPath(m_kept->ring);
-    if (m_currentValue == 0)
+    painter.drawPath(kept->ring);
+    if (currentValue == 0)
         return;
-    painter.setBrush(m_pressColor);
-    painter.drawPath(m_kept->done);
+    painter.setBrush(pressColor);
+    painter.drawPath(kept->done);
 }
 
-void MOProgress::drawTexts(QPainter &painter) const
+void MOProgress::Private::drawTexts(QPainter &painter) const
 {
     const QRectF area = square();
     const auto split = qreal(double(area.height()) * kTextShare);
-    painter.setPen(m_displayTextColor);
-    m_kept->percentage.draw(painter, QRectF(area.topLeft(), QSizeF(area.width(), split)),
-                            Qt::AlignHCenter | Qt::AlignBottom,
-                            QStringLiteral("%1%").arg(m_currentValue));
-    painter.setFont(applicationFont(m_fontSize));
-    m_kept->caption.draw(painter, area.adjusted(0, split, 0, 0), Qt::AlignHCenter | Qt::AlignTop,
-                         m_dispalyText);
+    painter.setPen(displayTextColor);
+    kept->percentage.draw(painter, QRectF(area.topLeft(), QSizeF(area.width(), split)),
+                          Qt::AlignHCenter | Qt::AlignBottom,
+                          QStringLiteral("%1%").arg(currentValue));
+    painter.setFont(applicationFont(fontSize));
+    kept->caption.draw(painter, area.adjusted(0, split, 0, 0), Qt::AlignHCenter | Qt::AlignTop,
+                       dispalyText);
 }

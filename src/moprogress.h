@@ -4,7 +4,6 @@
 #include "panelkitglobal.h"
 
 #include <QColor>
-#include <QRectF>
 #include <QString>
 #include <QWidget>
 
@@ -34,29 +33,29 @@ public:
     explicit MOProgress(QWidget *parent = nullptr);
     ~MOProgress() override;
 
-    int itemID() const { return m_itemID; }
+    int itemID() const;
     void setItemID(int id);
-    int currentValue() const { return m_currentValue; }
+    int currentValue() const;
     void setCurrentValue(int percent);
-    int radius() const { return m_radius; }
+    int radius() const;
     void setRadius(int radius);
-    QColor normalColor() const { return m_normalColor; }
+    QColor normalColor() const;
     void setNormalColor(QColor color);
-    QColor pressColor() const { return m_pressColor; }
+    QColor pressColor() const;
     void setPressColor(QColor color);
-    bool boundary() const { return m_boundary; }
+    bool boundary() const;
     void setBoundary(bool boundary);
-    QColor boundaryColor() const { return m_boundaryColor; }
+    QColor boundaryColor() const;
     void setBoundaryColor(QColor color);
-    int arcHeight() const { return m_arcHeight; }
+    int arcHeight() const;
     void setArcHeight(int height);
-    QColor insideColor() const { return m_insideColor; }
+    QColor insideColor() const;
     void setInsideColor(QColor color);
-    int fontSize() const { return m_fontSize; }
+    int fontSize() const;
     void setFontSize(int px);
-    QString dispalyText() const { return m_dispalyText; }
+    QString dispalyText() const;
     void setDispalyText(QString text);
-    QColor displayTextColor() const { return m_displayTextColor; }
+    QColor displayTextColor() const;
     void setDisplayTextColor(QColor color);
 
 signals:
@@ -67,28 +66,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent *e) override;
 
 private:
-    struct Kept;
-
-    template <typename T> void change(T &member, const T &value);
-    QRectF square() const;
-    void layOut();
-    void drawRing(QPainter &painter) const;
-    void drawTexts(QPainter &painter) const;
-
-    int m_itemID = 0;
-    int m_currentValue = 50; // percent
-    int m_radius = 100; // px
-    QColor m_normalColor{150, 150, 150, 100};
-    QColor m_pressColor{255, 125, 0, 255};
-    bool m_boundary = true;
-    QColor m_boundaryColor{255, 255, 255, 255};
-    int m_arcHeight = 20; // px
-    QColor m_insideColor{0, 0, 0, 100};
-    int m_fontSize = 25; // px
-    QString m_dispalyText;
-    QColor m_displayTextColor{255, 255, 255, 255};
-
-    std::unique_ptr<Kept> m_kept;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 #endif // MOPROGRESS_H

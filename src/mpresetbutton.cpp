@@ -10,6 +10,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QSize>
 #include <QTimerEvent>
 
 using namespace panelkit;
@@ -22,17 +23,66 @@ constexpr int kLongPressSlop = 20; // px; a finger that went farther on either a
 
 } // namespace
 
+class Q_DECL_HIDDEN MPresetButton::Private
+{
+public:
+    explicit Private(MPresetButton *widget) : q(widget) { }
+
+    struct TextColors {
+        QColor normal;
+        QColor press;
+        QColor disable;
+    };
+
+    void endTiming();
+    bool isHighlighted() const;
+    const QPixmap &shownImage() const;
+    const QColor &shownTextColor(const TextColors &colors) const;
+    void drawPicture(QPainter &painter) const;
+    void drawIcon(QPainter &painter) const;
+    void drawFirstLine(QPainter &painter) const;
+    void drawSecondLine(QPainter &painter) const;
+
+    MPresetButton *const q;
+    QPixmap normalImage;
+    QPixmap pressImage;
+    QPixmap disableImage;
+    QPixmap presetIcon;
+    QPoint presetIconPos;
+    QPoint pressPoint;
+    QString displayText;
+    TextColors textColors;
+    QSize imageSize;
+    QRect displayTextRect;
+    QString displayText2;
+    TextColors textColors2;
+    QRect displayTextRect2;
+    int fontSize2 = 24; // px
+    QString buttonID = QStringLiteral("MPresetButton_ID");
+    int timerId = 0; // 0: no press is timed
+    bool longPressed = false;
+    bool moved = false;
+
+    mutable ImageLook look;
+    mutable KeptText firstLine;
+    mutable KeptText secondLine;
+};
+
 /**
  * A check box that has no pictures yet. Its text colours are invalid, which is black, until they
  * are set.
  */
 MPresetButton::MPresetButton(QWidget *parent)
-    : QCheckBox(parent), m_look(std::make_unique<ImageLook>()),
-      m_firstLine(std::make_unique<KeptText>()), m_secondLine(std::make_unique<KeptText>())
+    : QCheckBox(parent), d(std::make_unique<Private>(this))
 {
 }
 
 MPresetButton::~MPresetButton() = default;
+
+QPixmap MPresetButton::normalImage() const
+{
+    return d->normalImage;
+}
 
 /**
  * The picture shown normally. Its size becomes the size into which every picture is stretched, and
@@ -41,107 +91,182 @@ MPresetButton::~MPresetButton() = default;
  */
 void MPresetButton::setNormalImage(const QPixmap &image)
 {
-    m_normalImage = image;
+    d->normalImage = image;
     if (image.isNull())
         return;
-    m_imageSize = image.size();
-    setMinimumSize(m_imageSize);
+    d->imageSize = image.size();
+    setMinimumSize(d->imageSize);
     update();
+}
+
+QPixmap MPresetButton::pressImage() const
+{
+    return d->pressImage;
 }
 
 /** The picture shown while down or checked; without it there is none. Repaints. */
 void MPresetButton::setPressImage(const QPixmap &image)
 {
-    m_pressImage = image;
+    d->pressImage = image;
     update();
+}
+
+QPixmap MPresetButton::disableImage() const
+{
+    return d->disableImage;
 }
 
 /** The picture shown while disabled; without it the normal one stays. Repaints. */
 void MPresetButton::setDisableImage(const QPixmap &image)
 {
-    m_disableImage = image;
+    d->disableImage = image;
     update();
+}
+
+QPixmap MPresetButton::presetIcon() const
+{
+    return d->presetIcon;
 }
 
 /** A small picture over the other, in its own size; a disabled key has none. Repaints. */
 void MPresetButton::setPresetIcon(const QPixmap &icon)
 {
-    m_presetIcon = icon;
+    d->presetIcon = icon;
     update();
+}
+
+QPoint MPresetButton::presetIconPos() const
+{
+    return d->presetIconPos;
 }
 
 /** Where the icon's top left stands on the widget. Stored only. */
 void MPresetButton::setPresetIconPos(const QPoint &pos)
 {
-    m_presetIconPos = pos;
+    d->presetIconPos = pos;
+}
+
+QString MPresetButton::displayText() const
+{
+    return d->displayText;
 }
 
 /** The first line, in the widget's font. It is neither shortened nor wrapped. Repaints. */
 void MPresetButton::setDisplayText(const QString &text)
 {
-    m_displayText = text;
+    d->displayText = text;
     update();
+}
+
+QString MPresetButton::displayText2() const
+{
+    return d->displayText2;
 }
 
 /** The second line, in the application's font at fontSize2. Repaints. */
 void MPresetButton::setDisplayText2(const QString &text)
 {
-    m_displayText2 = text;
+    d->displayText2 = text;
     update();
+}
+
+QColor MPresetButton::normalTextColor() const
+{
+    return d->textColors.normal;
 }
 
 /** The colour of the first line normally. Repaints. */
 void MPresetButton::setNormalTextColor(const QColor &color)
 {
-    m_textColors.normal = color;
+    d->textColors.normal = color;
     update();
+}
+
+QColor MPresetButton::pressTextColor() const
+{
+    return d->textColors.press;
 }
 
 /** The colour of the first line while down or checked. Repaints. */
 void MPresetButton::setPressTextColor(const QColor &color)
 {
-    m_textColors.press = color;
+    d->textColors.press = color;
     update();
+}
+
+QColor MPresetButton::disableTextColor() const
+{
+    return d->textColors.disable;
 }
 
 /** The colour of the first line while disabled. Repaints. */
 void MPresetButton::setDisableTextColor(const QColor &color)
 {
-    m_textColors.disable = color;
+    d->textColors.disable = color;
     update();
+}
+
+QColor MPresetButton::normalTextColor2() const
+{
+    return d->textColors2.normal;
 }
 
 /** The colour of the second line normally. Repaints. */
 void MPresetButton::setNormalTextColor2(const QColor &color)
 {
-    m_textColors2.normal = color;
+    d->textColors2.normal = color;
     update();
+}
+
+QColor MPresetButton::pressTextColor2() const
+{
+    return d->textColors2.press;
 }
 
 /** The colour of the second line while down or checked. Repaints. */
 void MPresetButton::setPressTextColor2(const QColor &color)
 {
-    m_textColors2.press = color;
+    d->textColors2.press = color;
     update();
+}
+
+QColor MPresetButton::disableTextColor2() const
+{
+    return d->textColors2.disable;
 }
 
 /** The colour of the second line while disabled. Repaints. */
 void MPresetButton::setDisableTextColor2(const QColor &color)
 {
-    m_textColors2.disable = color;
+    d->textColors2.disable = color;
     update();
+}
+
+QRect MPresetButton::displayTextRect() const
+{
+    return d->displayTextRect;
 }
 
 /** Where the first line is centred; one that is not valid is the whole widget. Stored only. */
 void MPresetButton::setdisplayTextRect(const QRect &rect)
 {
-    m_displayTextRect = rect;
+    d->displayTextRect = rect;
+}
+
+QRect MPresetButton::displayTextRect2() const
+{
+    return d->displayTextRect2;
 }
 
 /** Where the second line is centred; one that is not valid is the whole widget. Stored only. */
 void MPresetButton::setdisplayTextRect2(const QRect &rect)
 {
-    m_displayTextRect2 = rect;
+    d->displayTextRect2 = rect;
+}
+
+int MPresetButton::fontSize2() const
+{
+    return d->fontSize2;
 }
 
 /**
@@ -150,14 +275,19 @@ void MPresetButton::setdisplayTextRect2(const QRect &rect)
  */
 void MPresetButton::setFontSize2(const int &px)
 {
-    m_fontSize2 = px;
+    d->fontSize2 = px;
     update();
+}
+
+QString MPresetButton::buttonID() const
+{
+    return d->buttonID;
 }
 
 /** The text that either signal carries; "MPresetButton_ID" by default. Stored only. */
 void MPresetButton::setButtonID(const QString &id)
 {
-    m_buttonID = id;
+    d->buttonID = id;
 }
 
 bool MPresetButton::hitButton(const QPoint &) const
@@ -167,15 +297,15 @@ bool MPresetButton::hitButton(const QPoint &) const
 
 void MPresetButton::paintEvent(QPaintEvent *e)
 {
-    if (m_normalImage.isNull()) {
+    if (d->normalImage.isNull()) {
         QCheckBox::paintEvent(e);
         return;
     }
     QPainter painter(this);
-    drawPicture(painter);
-    drawIcon(painter);
-    drawFirstLine(painter);
-    drawSecondLine(painter);
+    d->drawPicture(painter);
+    d->drawIcon(painter);
+    d->drawFirstLine(painter);
+    d->drawSecondLine(painter);
 }
 
 /**
@@ -188,12 +318,12 @@ void MPresetButton::mousePressEvent(QMouseEvent *e)
         return;
     if (isEnabled()) {
         postKeyRequest(this, kBeepRequest);
-        m_longPressed = false;
-        endTiming();
-        m_timerId = startTimer(kLongPress);
-        m_pressPoint = e->pos();
+        d->longPressed = false;
+        d->endTiming();
+        d->timerId = startTimer(kLongPress);
+        d->pressPoint = e->pos();
     }
-    m_moved = false;
+    d->moved = false;
     QWidget::mousePressEvent(e); // NOLINT(bugprone-parent-virtual-call): meant
 }
 
@@ -205,11 +335,11 @@ void MPresetButton::mouseMoveEvent(QMouseEvent *e)
 {
     if (!e)
         return;
-    const bool isFar = distance(e->x(), m_pressPoint.x()) > kLongPressSlop
-        || distance(e->y(), m_pressPoint.y()) > kLongPressSlop;
+    const bool isFar = distance(e->x(), d->pressPoint.x()) > kLongPressSlop
+        || distance(e->y(), d->pressPoint.y()) > kLongPressSlop;
     if (isFar)
-        endTiming();
-    m_moved = true;
+        d->endTiming();
+    d->moved = true;
     QWidget::mouseMoveEvent(e); // NOLINT(bugprone-parent-virtual-call): meant
 }
 
@@ -219,12 +349,12 @@ void MPresetButton::mouseReleaseEvent(QMouseEvent *e)
     if (!e)
         return;
     const QPointer<MPresetButton> guard(this);
-    if (!m_longPressed && !m_moved) {
-        emit btnClicked(m_buttonID);
+    if (!d->longPressed && !d->moved) {
+        emit btnClicked(d->buttonID);
         if (!guard)
             return;
     }
-    endTiming();
+    d->endTiming();
     QWidget::mouseReleaseEvent(e); // NOLINT(bugprone-parent-virtual-call): meant
 }
 
@@ -235,70 +365,68 @@ void MPresetButton::timerEvent(QTimerEvent *e)
         return;
     const QPointer<MPresetButton> guard(this);
     QAbstractButton::timerEvent(e);
-    if (!guard || e->timerId() != m_timerId)
+    if (!guard || e->timerId() != d->timerId)
         return;
-    endTiming();
-    m_longPressed = true;
-    emit btnLongClicked(m_buttonID);
+    d->endTiming();
+    d->longPressed = true;
+    emit btnLongClicked(d->buttonID);
 }
 
-void MPresetButton::endTiming()
+void MPresetButton::Private::endTiming()
 {
-    if (m_timerId == 0)
+    if (timerId == 0)
         return;
-    killTimer(m_timerId);
-    m_timerId = 0;
+    q->killTimer(timerId);
+    timerId = 0;
 }
 
-bool MPresetButton::isHighlighted() const
+bool MPresetButton::Private::isHighlighted() const
 {
-    return isDown() || isChecked();
+    return q->isDown() || q->isChecked();
 }
 
-const QPixmap &MPresetButton::shownImage() const
+const QPixmap &MPresetButton::Private::shownImage() const
 {
-    if (isEnabled())
-        return isHighlighted() ? m_pressImage : m_normalImage;
-    return m_disableImage.isNull() ? m_normalImage : m_disableImage;
+    if (q->isEnabled())
+        return isHighlighted() ? pressImage : normalImage;
+    return disableImage.isNull() ? normalImage : disableImage;
 }
 
-const QColor &MPresetButton::shownTextColor(const TextColors &colors) const
+const QColor &MPresetButton::Private::shownTextColor(const TextColors &colors) const
 {
-    if (!isEnabled())
+    if (!q->isEnabled())
         return colors.disable;
     return isHighlighted() ? colors.press : colors.normal;
 }
 
-void MPresetButton::drawPicture(QPainter &painter) const
+void MPresetButton::Private::drawPicture(QPainter &painter) const
 {
     const QPixmap &image = shownImage();
     if (!image.isNull())
-        m_look->drawScaled(painter, centredTowardZero(m_imageSize, rect()), image);
+        look.drawScaled(painter, centredTowardZero(imageSize, q->rect()), image);
 }
 
-void MPresetButton::drawIcon(QPainter &painter) const
+void MPresetButton::Private::drawIcon(QPainter &painter) const
 {
-    if (!isEnabled() || m_presetIcon.isNull())
+    if (!q->isEnabled() || presetIcon.isNull())
         return;
-    painter.drawPixmap(boundedPixel(m_presetIconPos.x()), boundedPixel(m_presetIconPos.y()),
-                       m_presetIcon);
+    painter.drawPixmap(boundedPixel(presetIconPos.x()), boundedPixel(presetIconPos.y()),
+                       presetIcon);
 }
 
-void MPresetButton::drawFirstLine(QPainter &painter) const
+void MPresetButton::Private::drawFirstLine(QPainter &painter) const
 {
-    if (m_displayText.isEmpty())
+    if (displayText.isEmpty())
         return;
-    painter.setPen(shownTextColor(m_textColors));
-    m_firstLine->draw(painter, boundedOr(m_displayTextRect, rect()), Qt::AlignCenter,
-                      m_displayText);
+    painter.setPen(shownTextColor(textColors));
+    firstLine.draw(painter, boundedOr(displayTextRect, q->rect()), Qt::AlignCenter, displayText);
 }
 
-void MPresetButton::drawSecondLine(QPainter &painter) const
+void MPresetButton::Private::drawSecondLine(QPainter &painter) const
 {
-    if (m_displayText2.isEmpty())
+    if (displayText2.isEmpty())
         return;
-    painter.setFont(applicationFont(m_fontSize2));
-    painter.setPen(shownTextColor(m_textColors2));
-    m_secondLine->draw(painter, boundedOr(m_displayTextRect2, rect()), Qt::AlignCenter,
-                       m_displayText2);
+    painter.setFont(applicationFont(fontSize2));
+    painter.setPen(shownTextColor(textColors2));
+    secondLine.draw(painter, boundedOr(displayTextRect2, q->rect()), Qt::AlignCenter, displayText2);
 }

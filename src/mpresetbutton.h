@@ -8,16 +8,9 @@
 #include <QPixmap>
 #include <QPoint>
 #include <QRect>
-#include <QSize>
 #include <QString>
 
 #include <memory>
-
-namespace panelkit
-{
-class ImageLook;
-class KeptText;
-} // namespace panelkit
 
 /**
  * A preset key, as for the stations of a radio: a picture with a small icon and two lines of text,
@@ -54,39 +47,39 @@ public:
     explicit MPresetButton(QWidget *parent = nullptr);
     ~MPresetButton() override;
 
-    QPixmap normalImage() const { return m_normalImage; }
+    QPixmap normalImage() const;
     void setNormalImage(const QPixmap &image);
-    QPixmap pressImage() const { return m_pressImage; }
+    QPixmap pressImage() const;
     void setPressImage(const QPixmap &image);
-    QPixmap disableImage() const { return m_disableImage; }
+    QPixmap disableImage() const;
     void setDisableImage(const QPixmap &image);
-    QPixmap presetIcon() const { return m_presetIcon; }
+    QPixmap presetIcon() const;
     void setPresetIcon(const QPixmap &icon);
-    QPoint presetIconPos() const { return m_presetIconPos; }
+    QPoint presetIconPos() const;
     void setPresetIconPos(const QPoint &pos);
-    QString displayText() const { return m_displayText; }
+    QString displayText() const;
     void setDisplayText(const QString &text);
-    QString displayText2() const { return m_displayText2; }
+    QString displayText2() const;
     void setDisplayText2(const QString &text);
-    QColor normalTextColor() const { return m_textColors.normal; }
+    QColor normalTextColor() const;
     void setNormalTextColor(const QColor &color);
-    QColor pressTextColor() const { return m_textColors.press; }
+    QColor pressTextColor() const;
     void setPressTextColor(const QColor &color);
-    QColor disableTextColor() const { return m_textColors.disable; }
+    QColor disableTextColor() const;
     void setDisableTextColor(const QColor &color);
-    QColor normalTextColor2() const { return m_textColors2.normal; }
+    QColor normalTextColor2() const;
     void setNormalTextColor2(const QColor &color);
-    QColor pressTextColor2() const { return m_textColors2.press; }
+    QColor pressTextColor2() const;
     void setPressTextColor2(const QColor &color);
-    QColor disableTextColor2() const { return m_textColors2.disable; }
+    QColor disableTextColor2() const;
     void setDisableTextColor2(const QColor &color);
-    QRect displayTextRect() const { return m_displayTextRect; }
+    QRect displayTextRect() const;
     void setdisplayTextRect(const QRect &rect);
-    QRect displayTextRect2() const { return m_displayTextRect2; }
+    QRect displayTextRect2() const;
     void setdisplayTextRect2(const QRect &rect);
-    int fontSize2() const { return m_fontSize2; }
+    int fontSize2() const;
     void setFontSize2(const int &px);
-    QString buttonID() const { return m_buttonID; }
+    QString buttonID() const;
     void setButtonID(const QString &id);
 
     /// True: the whole widget takes touches, not only what a check box paints.
@@ -104,43 +97,8 @@ protected:
     void timerEvent(QTimerEvent *e) override;
 
 private:
-    struct TextColors {
-        QColor normal;
-        QColor press;
-        QColor disable;
-    };
-
-    void endTiming();
-    bool isHighlighted() const;
-    const QPixmap &shownImage() const;
-    const QColor &shownTextColor(const TextColors &colors) const;
-    void drawPicture(QPainter &painter) const;
-    void drawIcon(QPainter &painter) const;
-    void drawFirstLine(QPainter &painter) const;
-    void drawSecondLine(QPainter &painter) const;
-
-    QPixmap m_normalImage;
-    QPixmap m_pressImage;
-    QPixmap m_disableImage;
-    QPixmap m_presetIcon;
-    QPoint m_presetIconPos;
-    QPoint m_pressPoint;
-    QString m_displayText;
-    TextColors m_textColors;
-    QSize m_imageSize;
-    QRect m_displayTextRect;
-    QString m_displayText2;
-    TextColors m_textColors2;
-    QRect m_displayTextRect2;
-    int m_fontSize2 = 24; // px
-    QString m_buttonID = QStringLiteral("MPresetButton_ID");
-    int m_timerId = 0; // 0: no press is timed
-    bool m_longPressed = false;
-    bool m_moved = false;
-
-    std::unique_ptr<panelkit::ImageLook> m_look;
-    std::unique_ptr<panelkit::KeptText> m_firstLine;
-    std::unique_ptr<panelkit::KeptText> m_secondLine;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 #endif // MPRESETBUTTON_H

@@ -8,6 +8,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QRect>
 
 #include <algorithm>
 
@@ -36,39 +37,106 @@ void transFormTime(qint64 seconds, QString &text)
     }
 }
 
-/** A bar from 0 to 100 that shows 50, in plain colours and without a knob. */
-MProgressBar::MProgressBar(QWidget *parent) : QWidget(parent), m_time(std::make_unique<KeptText>())
+class Q_DECL_HIDDEN MProgressBar::Private
 {
-}
+public:
+    explicit Private(MProgressBar *widget) : q(widget) { }
+
+    bool hasPictures() const;
+    bool isScaled(const QPainter &painter) const;
+    int bounded(int value) const;
+    int partOf(int length) const;
+    int valueAt(int x) const;
+    QRect grooveRect() const;
+    QRect knobRect() const;
+    const QPixmap &currentKnob() const;
+    void drawGroove(QPainter &painter) const;
+    void drawKnob(QPainter &painter) const;
+    void drawTime(QPainter &painter) const;
+    void drawPlain(QPainter &painter) const;
+
+    MProgressBar *const q;
+    int itemID = 0;
+    int currentValue = 50; // the one that is shown
+    int maxValue = 100;
+    int minValue = 0;
+    bool pressed = false;
+    int realValue = 0; // s, when it is shown as a time
+    QPixmap sliderNormalImage; // the played part
+    QPixmap sliderPressImage; // the whole groove
+    QPixmap sliderDisableImage;
+    QPixmap pointNormalImage;
+    QPixmap pointPressImage;
+    QPixmap pointDisableImage;
+    int ponitRadius = 0; // px
+    QColor normalColor{150, 150, 150};
+    QColor pressColor{255, 125, 0};
+    QColor pointNormalColor{230, 230, 230};
+    QColor pointPressColor{255, 155, 20};
+    bool showValue = false;
+    bool boundary = false;
+    QColor boundaryColor{210, 210, 210};
+
+    mutable KeptText time;
+};
+
+/** A bar from 0 to 100 that shows 50, in plain colours and without a knob. */
+MProgressBar::MProgressBar(QWidget *parent)
+    : QWidget(parent), d(std::make_unique<Private>(this)) { }
 
 MProgressBar::~MProgressBar() = default;
+
+QPixmap MProgressBar::sliderNormalImage() const
+{
+    return d->sliderNormalImage;
+}
 
 /** The played part, cut from its left. Repaints. */
 void MProgressBar::setSliderNormalImage(const QPixmap &image)
 {
-    m_sliderNormalImage = image;
+    d->sliderNormalImage = image;
     update();
+}
+
+QPixmap MProgressBar::sliderPressImage() const
+{
+    return d->sliderPressImage;
 }
 
 /** The whole groove; its size is that of the bar's drawing. Repaints. */
 void MProgressBar::setSliderPressImage(const QPixmap &image)
 {
-    m_sliderPressImage = image;
+    d->sliderPressImage = image;
     update();
+}
+
+QPixmap MProgressBar::sliderDisableImage() const
+{
+    return d->sliderDisableImage;
 }
 
 /** The played part of a disabled bar, squeezed into its place, not cut. Repaints. */
 void MProgressBar::setSliderDisableImage(const QPixmap &image)
 {
-    m_sliderDisableImage = image;
+    d->sliderDisableImage = image;
     update();
+}
+
+QPixmap MProgressBar::pointNormalImage() const
+{
+    return d->pointNormalImage;
 }
 
 /** The knob. Repaints. */
 void MProgressBar::setPointNormalImage(const QPixmap &image)
 {
-    m_pointNormalImage = image;
+    d->pointNormalImage = image;
     update();
+}
+
+QPixmap MProgressBar::pointPressImage() const
+{
+    return d->pointPressImage;
 }
 
 /**
@@ -76,44 +144,74 @@ void MProgressBar::setPointNormalImage(const QPixmap &image)
  */
 void MProgressBar::setPointPressImage(const QPixmap &image)
 {
-    m_pointPressImage = image;
+    d->pointPressImage = image;
     update();
+}
+
+QPixmap MProgressBar::pointDisableImage() const
+{
+    return d->pointDisableImage;
 }
 
 /** The knob of a disabled bar; without it the others serve. Repaints. */
 void MProgressBar::setPointDisableImage(const QPixmap &image)
 {
-    m_pointDisableImage = image;
+    d->pointDisableImage = image;
     update();
+}
+
+int MProgressBar::itemID() const
+{
+    return d->itemID;
 }
 
 /** The number that both signals carry. Stored only. */
 void MProgressBar::setItemID(int id)
 {
-    m_itemID = id;
+    d->itemID = id;
+}
+
+int MProgressBar::maxValue() const
+{
+    return d->maxValue;
 }
 
 /** The value at the right end; 100 by default. Repaints. */
 void MProgressBar::setMaxValue(int value)
 {
-    m_maxValue = value;
+    d->maxValue = value;
     update();
+}
+
+int MProgressBar::getMinValue() const
+{
+    return d->minValue;
 }
 
 /** The value at the left end; 0 by default. Repaints. */
 void MProgressBar::setMinValue(int value)
 {
-    m_minValue = value;
+    d->minValue = value;
     update();
+}
+
+int MProgressBar::currentValue() const
+{
+    return d->currentValue;
 }
 
 /** Shows a value, without a signal. Repaints. Ignored outside minValue to maxValue. */
 void MProgressBar::setCurrentValue(int value)
 {
-    if (value > m_maxValue || value < m_minValue)
+    if (value > d->maxValue || value < d->minValue)
         return;
-    m_currentValue = value;
+    d->currentValue = value;
     update();
+}
+
+int MProgressBar::ponitRadius() const
+{
+    return d->ponitRadius;
 }
 
 /**
@@ -122,54 +220,94 @@ void MProgressBar::setCurrentValue(int value)
  */
 void MProgressBar::setPonitRadius(int radius)
 {
-    m_ponitRadius = radius;
+    d->ponitRadius = radius;
     update();
+}
+
+QColor MProgressBar::normalColor() const
+{
+    return d->normalColor;
 }
 
 /** The colour of the groove; grey by default. Repaints. */
 void MProgressBar::setNormalColor(QColor color)
 {
-    m_normalColor = color;
+    d->normalColor = color;
     update();
+}
+
+QColor MProgressBar::pointNormalColor() const
+{
+    return d->pointNormalColor;
 }
 
 /** The colour of the knob; light grey by default. Repaints. */
 void MProgressBar::setPointNormalColor(QColor color)
 {
-    m_pointNormalColor = color;
+    d->pointNormalColor = color;
     update();
+}
+
+QColor MProgressBar::pointPressColor() const
+{
+    return d->pointPressColor;
 }
 
 /** The colour of the knob while touched; orange by default. Repaints. */
 void MProgressBar::setPointPressColor(QColor color)
 {
-    m_pointPressColor = color;
+    d->pointPressColor = color;
     update();
+}
+
+QColor MProgressBar::pressColor() const
+{
+    return d->pressColor;
 }
 
 /** The colour of the played part; orange by default. Stored only. */
 void MProgressBar::setPressColor(QColor color)
 {
-    m_pressColor = color;
+    d->pressColor = color;
+}
+
+bool MProgressBar::showValue() const
+{
+    return d->showValue;
 }
 
 /** Whether realValue stands on the knob as a time; only with pictures. Repaints. */
 void MProgressBar::setShowValue(bool show)
 {
-    m_showValue = show;
+    d->showValue = show;
     update();
+}
+
+bool MProgressBar::boundary() const
+{
+    return d->boundary;
 }
 
 /** Whether groove and knob have an outline; only in plain colours. Stored only. */
 void MProgressBar::setBoundary(bool boundary)
 {
-    m_boundary = boundary;
+    d->boundary = boundary;
+}
+
+QColor MProgressBar::boundaryColor() const
+{
+    return d->boundaryColor;
 }
 
 /** The colour of the outlines; light grey by default. Stored only. */
 void MProgressBar::setBoundaryColor(QColor color)
 {
-    m_boundaryColor = color;
+    d->boundaryColor = color;
+}
+
+int MProgressBar::realValue() const
+{
+    return d->realValue;
 }
 
 /**
@@ -178,31 +316,31 @@ void MProgressBar::setBoundaryColor(QColor color)
  */
 void MProgressBar::setRealValue(int value)
 {
-    m_realValue = bounded(value);
-    if (!m_pressed)
-        setCurrentValue(m_realValue);
+    d->realValue = d->bounded(value);
+    if (!d->pressed)
+        setCurrentValue(d->realValue);
 }
 
 /** Shows the value of a touch at this x and reports it with valueChanging, changed or not. */
 void MProgressBar::updateCurrentValue(QPoint pos)
 {
-    m_currentValue = valueAt(pos.x());
+    d->currentValue = d->valueAt(pos.x());
     update();
-    emit valueChanging(m_itemID, m_currentValue);
+    emit valueChanging(d->itemID, d->currentValue);
 }
 
 void MProgressBar::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    if (!hasPictures() || isScaled(painter))
+    if (!d->hasPictures() || d->isScaled(painter))
         painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    if (!hasPictures()) {
-        drawPlain(painter);
+    if (!d->hasPictures()) {
+        d->drawPlain(painter);
         return;
     }
-    drawGroove(painter);
-    drawKnob(painter);
-    drawTime(painter);
+    d->drawGroove(painter);
+    d->drawKnob(painter);
+    d->drawTime(painter);
 }
 
 /** A press asks for the click sound and takes the knob; it goes on to the parent. */
@@ -213,7 +351,7 @@ void MProgressBar::mousePressEvent(QMouseEvent *e)
     const QPointer<MProgressBar> guard(this);
     if (isEnabled()) {
         postKeyRequest(this, kBeepRequest);
-        m_pressed = true;
+        d->pressed = true;
         updateCurrentValue(e->pos());
     }
     if (guard)
@@ -239,128 +377,127 @@ void MProgressBar::mouseReleaseEvent(QMouseEvent *e)
         return;
     const QPointer<MProgressBar> guard(this);
     if (isEnabled()) {
-        m_pressed = false;
+        d->pressed = false;
         updateCurrentValue(e->pos());
         if (!guard)
             return;
-        m_realValue = m_currentValue;
-        emit valueChangedSig(m_itemID, m_currentValue);
+        d->realValue = d->currentValue;
+        emit valueChangedSig(d->itemID, d->currentValue);
     }
     if (guard)
         QWidget::mouseReleaseEvent(e);
 }
 
-bool MProgressBar::hasPictures() const
+bool MProgressBar::Private::hasPictures() const
 {
-    return !m_sliderNormalImage.isNull() && !m_sliderPressImage.isNull();
+    return !sliderNormalImage.isNull() && !sliderPressImage.isNull();
 }
 
 // Pictures that are copied pixel by pixel look the same without render hints, which make them a
 // sixth dearer.
-bool MProgressBar::isScaled(const QPainter &painter) const
+bool MProgressBar::Private::isScaled(const QPainter &painter) const
 {
-    const bool isSqueezed = !isEnabled() && !m_sliderDisableImage.isNull();
-    return isSqueezed || currentKnob().size() != m_pointPressImage.size()
+    const bool isSqueezed = !q->isEnabled() && !sliderDisableImage.isNull();
+    return isSqueezed || currentKnob().size() != pointPressImage.size()
         || painter.deviceTransform().type() > QTransform::TxTranslate;
 }
 
-int MProgressBar::bounded(int value) const
+int MProgressBar::Private::bounded(int value) const
 {
-    return std::max(m_minValue, std::min(value, m_maxValue));
+    return std::max(minValue, std::min(value, maxValue));
 }
 
 // The part of a length that is played. A range of one value has none; a value left outside of a
 // range that has shrunk may make it longer than the length.
-int MProgressBar::partOf(int length) const
+int MProgressBar::Private::partOf(int length) const
 {
-    const qint64 span = qint64(m_maxValue) - m_minValue;
+    const qint64 span = qint64(maxValue) - minValue;
     if (span == 0)
         return 0;
-    return boundedPixel(
-        saturated((qint64(m_currentValue) - m_minValue) * boundedPixel(length) / span));
+    return boundedPixel(saturated((qint64(currentValue) - minValue) * boundedPixel(length) / span));
 }
 
 // With pictures it does not depend on the radius, on purpose, although the place of the knob does:
 // both agree where the radius is half of the knob's width.
-int MProgressBar::valueAt(int x) const
+int MProgressBar::Private::valueAt(int x) const
 {
     const bool isPicture = hasPictures();
-    const int knob = isPicture ? m_pointPressImage.width() : boundedPixel(m_ponitRadius);
-    const int groove = isPicture ? m_sliderPressImage.width() : width();
-    const int start = (width() - groove) / 2 + knob / 2;
+    const int knob = isPicture ? pointPressImage.width() : boundedPixel(ponitRadius);
+    const int groove = isPicture ? sliderPressImage.width() : q->width();
+    const int start = (q->width() - groove) / 2 + knob / 2;
     if (x < start)
-        return m_minValue;
-    if (x > width() - start)
-        return m_maxValue;
-    const double span = double(qint64(m_maxValue) - m_minValue);
-    return bounded(toInt(ratio(double(x - start), double(groove - knob)) * span + m_minValue));
+        return minValue;
+    if (x > q->width() - start)
+        return maxValue;
+    const double span = double(qint64(maxValue) - minValue);
+    return bounded(toInt(ratio(double(x - start), double(groove - knob)) * span + minValue));
 }
 
-QRect MProgressBar::grooveRect() const
+QRect MProgressBar::Private::grooveRect() const
 {
-    return centredTowardZero(m_sliderPressImage.size(), rect());
+    return centredTowardZero(sliderPressImage.size(), q->rect());
 }
 
-QRect MProgressBar::knobRect() const
+QRect MProgressBar::Private::knobRect() const
 {
-    const QSize size = m_pointPressImage.size();
+    const QSize size = pointPressImage.size();
     const QRect groove = grooveRect();
-    const int radius = boundedPixel(m_ponitRadius);
+    const int radius = boundedPixel(ponitRadius);
     const int x = groove.left() + radius - size.width() / 2 + partOf(groove.width() - 2 * radius);
-    return {QPoint(x, (height() - size.height()) / 2), size};
+    return {QPoint(x, (q->height() - size.height()) / 2), size};
 }
 
-const QPixmap &MProgressBar::currentKnob() const
+const QPixmap &MProgressBar::Private::currentKnob() const
 {
-    if (!isEnabled() && !m_pointDisableImage.isNull())
-        return m_pointDisableImage;
-    return m_pressed ? m_pointPressImage : m_pointNormalImage;
+    if (!q->isEnabled() && !pointDisableImage.isNull())
+        return pointDisableImage;
+    return pressed ? pointPressImage : pointNormalImage;
 }
 
-void MProgressBar::drawGroove(QPainter &painter) const
+void MProgressBar::Private::drawGroove(QPainter &painter) const
 {
     const QRect groove = grooveRect();
-    painter.drawPixmap(groove, m_sliderPressImage);
+    painter.drawPixmap(groove, sliderPressImage);
     const QRect played(groove.topLeft(), QSize(partOf(groove.width()), groove.height()));
     if (played.isEmpty())
         return;
-    if (isEnabled() || m_sliderDisableImage.isNull())
-        painter.drawPixmap(played, m_sliderNormalImage, QRect(QPoint(), played.size()));
+    if (q->isEnabled() || sliderDisableImage.isNull())
+        painter.drawPixmap(played, sliderNormalImage, QRect(QPoint(), played.size()));
     else
-        painter.drawPixmap(played, m_sliderDisableImage);
+        painter.drawPixmap(played, sliderDisableImage);
 }
 
-void MProgressBar::drawKnob(QPainter &painter) const
+void MProgressBar::Private::drawKnob(QPainter &painter) const
 {
-    if (!m_pointPressImage.isNull())
+    if (!pointPressImage.isNull())
         painter.drawPixmap(knobRect(), currentKnob());
 }
 
-void MProgressBar::drawTime(QPainter &painter) const
+void MProgressBar::Private::drawTime(QPainter &painter) const
 {
-    if (!m_showValue || m_pointPressImage.isNull())
+    if (!showValue || pointPressImage.isNull())
         return;
     QString text;
-    transFormTime(m_realValue, text);
-    m_time->draw(painter, QRectF(knobRect()), Qt::AlignCenter, text);
+    transFormTime(realValue, text);
+    time.draw(painter, QRectF(knobRect()), Qt::AlignCenter, text);
 }
 
-void MProgressBar::drawPlain(QPainter &painter) const
+void MProgressBar::Private::drawPlain(QPainter &painter) const
 {
-    const int knob = boundedPixel(m_ponitRadius);
-    const int left = partOf(width() - knob);
-    QRect bar(0, height() * 2 / 5, width(), height() / 5);
-    if (m_boundary)
-        painter.setPen(QPen(m_boundaryColor));
+    const int knob = boundedPixel(ponitRadius);
+    const int left = partOf(q->width() - knob);
+    QRect bar(0, q->height() * 2 / 5, q->width(), q->height() / 5);
+    if (boundary)
+        painter.setPen(QPen(boundaryColor));
     else
         painter.setPen(Qt::NoPen);
-    painter.setBrush(m_normalColor);
+    painter.setBrush(normalColor);
     painter.drawRects(&bar, 1);
     bar.setRight(left + knob / 2 - 1);
-    painter.setBrush(m_pressColor);
+    painter.setBrush(pressColor);
     painter.drawRects(&bar, 1);
     if (knob <= 0)
         return;
-    painter.setBrush(m_pressed ? m_pointPressColor : m_pointNormalColor);
-    painter.drawEllipse(QRect(left, (height() - knob) / 2, knob, knob));
+    painter.setBrush(pressed ? pointPressColor : pointNormalColor);
+    painter.drawEllipse(QRect(left, (q->height() - knob) / 2, knob, knob));
 }

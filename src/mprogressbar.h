@@ -6,16 +6,10 @@
 #include <QColor>
 #include <QPixmap>
 #include <QPoint>
-#include <QRect>
 #include <QString>
 #include <QWidget>
 
 #include <memory>
-
-namespace panelkit
-{
-class KeptText;
-} // namespace panelkit
 
 /// Writes seconds as HH:MM:SS into `text`, with two digits for each: 3725 becomes "01:02:05". The
 /// tens of 100 hours and more run on past '9', and negative numbers before '0', on purpose: the
@@ -57,44 +51,44 @@ public:
     explicit MProgressBar(QWidget *parent = nullptr);
     ~MProgressBar() override;
 
-    QPixmap sliderNormalImage() const { return m_sliderNormalImage; }
+    QPixmap sliderNormalImage() const;
     void setSliderNormalImage(const QPixmap &image);
-    QPixmap sliderPressImage() const { return m_sliderPressImage; }
+    QPixmap sliderPressImage() const;
     void setSliderPressImage(const QPixmap &image);
-    QPixmap sliderDisableImage() const { return m_sliderDisableImage; }
+    QPixmap sliderDisableImage() const;
     void setSliderDisableImage(const QPixmap &image);
-    QPixmap pointNormalImage() const { return m_pointNormalImage; }
+    QPixmap pointNormalImage() const;
     void setPointNormalImage(const QPixmap &image);
-    QPixmap pointPressImage() const { return m_pointPressImage; }
+    QPixmap pointPressImage() const;
     void setPointPressImage(const QPixmap &image);
-    QPixmap pointDisableImage() const { return m_pointDisableImage; }
+    QPixmap pointDisableImage() const;
     void setPointDisableImage(const QPixmap &image);
-    int itemID() const { return m_itemID; }
+    int itemID() const;
     void setItemID(int id);
-    int maxValue() const { return m_maxValue; }
+    int maxValue() const;
     void setMaxValue(int value);
-    int getMinValue() const { return m_minValue; }
+    int getMinValue() const;
     void setMinValue(int value);
-    int currentValue() const { return m_currentValue; }
+    int currentValue() const;
     void setCurrentValue(int value);
-    int ponitRadius() const { return m_ponitRadius; }
+    int ponitRadius() const;
     void setPonitRadius(int radius);
-    QColor normalColor() const { return m_normalColor; }
+    QColor normalColor() const;
     void setNormalColor(QColor color);
-    QColor pointNormalColor() const { return m_pointNormalColor; }
+    QColor pointNormalColor() const;
     void setPointNormalColor(QColor color);
-    QColor pointPressColor() const { return m_pointPressColor; }
+    QColor pointPressColor() const;
     void setPointPressColor(QColor color);
-    QColor pressColor() const { return m_pressColor; }
+    QColor pressColor() const;
     void setPressColor(QColor color);
-    bool showValue() const { return m_showValue; }
+    bool showValue() const;
     void setShowValue(bool show);
-    bool boundary() const { return m_boundary; }
+    bool boundary() const;
     void setBoundary(bool boundary);
-    QColor boundaryColor() const { return m_boundaryColor; }
+    QColor boundaryColor() const;
     void setBoundaryColor(QColor color);
 
-    int realValue() const { return m_realValue; }
+    int realValue() const;
     void setRealValue(int value);
     void updateCurrentValue(QPoint pos);
 
@@ -109,41 +103,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent *e) override;
 
 private:
-    bool hasPictures() const;
-    bool isScaled(const QPainter &painter) const;
-    int bounded(int value) const;
-    int partOf(int length) const;
-    int valueAt(int x) const;
-    QRect grooveRect() const;
-    QRect knobRect() const;
-    const QPixmap &currentKnob() const;
-    void drawGroove(QPainter &painter) const;
-    void drawKnob(QPainter &painter) const;
-    void drawTime(QPainter &painter) const;
-    void drawPlain(QPainter &painter) const;
-
-    int m_itemID = 0;
-    int m_currentValue = 50; // the one that is shown
-    int m_maxValue = 100;
-    int m_minValue = 0;
-    bool m_pressed = false;
-    int m_realValue = 0; // s, when it is shown as a time
-    QPixmap m_sliderNormalImage; // the played part
-    QPixmap m_sliderPressImage; // the whole groove
-    QPixmap m_sliderDisableImage;
-    QPixmap m_pointNormalImage;
-    QPixmap m_pointPressImage;
-    QPixmap m_pointDisableImage;
-    int m_ponitRadius = 0; // px
-    QColor m_normalColor{150, 150, 150};
-    QColor m_pressColor{255, 125, 0};
-    QColor m_pointNormalColor{230, 230, 230};
-    QColor m_pointPressColor{255, 155, 20};
-    bool m_showValue = false;
-    bool m_boundary = false;
-    QColor m_boundaryColor{210, 210, 210};
-
-    std::unique_ptr<panelkit::KeptText> m_time;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 #endif // MPROGRESSBAR_H

@@ -10,6 +10,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPaintEvent>
+#include <QPointer>
+#include <QSharedPointer>
 
 #include <algorithm>
 
@@ -79,8 +81,44 @@ void log(int line, const char *function, const char *name)
 
 } // namespace
 
+class Q_DECL_HIDDEN ScaleBkg::Private
+{
+public:
+    explicit Private(ScaleBkg *widget) : q(widget) { }
+
+    struct Look;
+
+    Look look() const;
+    void layOut(const Look &look);
+    void layOutLabels(const Look &look);
+    void layOutTicks(const Look &look);
+
+    ScaleBkg *const q;
+    int step = 0;
+    int validStart = 0;
+    int firstTick = 0; // frequency at scale count 0
+    int validEnd = 0;
+    int lastTick = 0; // frequency at the right end of the drawable width
+    int posFactor = 10;
+    MapPixAndHz map{1, 10};
+    int pixCountMeta = 0; // scale units from tick to tick
+    int bMid = 0; // scale units from label to label, ticks from middle to middle
+    int bLarge = 0; // middle ticks from long to long
+    int lineStart = 0; // px
+    int lineEnd = 0; // px
+    int tickUnitHeight = 6; // px
+    int unitCount = 0;
+    int lineY = 40; // px, the owner's at construction; drawing takes the current one
+    bool isFM = false;
+    QColor color; // invalid; drawing takes the owner's
+    QPointer<MRadioMovePoint> owner;
+
+    std::unique_ptr<Look> drawnLook; // of the kept picture
+    ScalePicture picture;
+};
+
 // What the kept picture depends on besides the scale itself, which drops the picture on a change.
-struct ScaleBkg::Look {
+struct ScaleBkg::Private::Look {
     QSize size;
     int lineYpos = 0;
     int txtYpos = 0;
@@ -98,9 +136,11 @@ struct ScaleBkg::Look {
 ScaleBkg::ScaleBkg(int freqStart, int freqEnd, int step, int lineStart, int lineEnd, bool isFM,
                    int suggestStart, int suggestEnd, MRadioMovePoint *owner, QWidget *parent,
                    int pixCountMeta, int bMid, int bLarge, int totalCountMeta)
-    : QLabel(parent), m_lineY(owner ? owner->getLineYpos() : 40), m_owner(owner),
-      m_picture(std::make_unique<ScalePicture>())
+    : QLabel(parent), d(std::make_unique<Private>(this))
 {
+    d->owner = owner;
+    if (owner)
+        d->lineY = owner->getLineYpos();
     const QSize size = parent ? parent->size() : this->size();
     setGeometry(0, kTop, size.width(), size.height());
     resetParam(freqStart, freqEnd, step, lineStart, lineEnd, isFM, suggestStart, suggestEnd,
@@ -123,25 +163,25 @@ void ScaleBkg::resetParam(int freqStart, int freqEnd, int step, int lineStart, i
                           bool isFM, int suggestStart, int suggestEnd, int pixCountMeta, int bMid,
                           int bLarge, int totalCountMeta)
 {
-    m_step = step;
-    m_validStart = getValidStartFreq(freqStart, step, true);
-    m_validEnd = getValidStartFreq(freqEnd, step, false);
-    m_lineEnd = lineEnd;
-    m_pixCountMeta = pixCountMeta;
-    m_bMid = bMid;
-    m_bLarge = bLarge;
-    m_lineStart = lineStart;
-    m_isFM = isFM;
+    d->step = step;
+    d->validStart = getValidStartFreq(freqStart, step, true);
+    d->validEnd = getValidStartFreq(freqEnd, step, false);
+    d->lineEnd = lineEnd;
+    d->pixCountMeta = pixCountMeta;
+    d->bMid = bMid;
+    d->bLarge = bLarge;
+    d->lineStart = lineStart;
+    d->isFM = isFM;
 
     const Whole lineWidth = Whole(lineEnd) - lineStart;
-    m_map.pix = (lineWidth / totalCountMeta).value();
+    d->map.pix = (lineWidth / totalCountMeta).value();
     if (suggestStart == -1 || suggestEnd == -1) {
-        suggestStart = getValidStartFreq(m_validStart, 100, true);
-        suggestEnd = getValidStartFreq(m_validEnd, 100, false);
+        suggestStart = getValidStartFreq(d->validStart, 100, true);
+        suggestEnd = getValidStartFreq(d->validEnd, 100, false);
     }
-    m_map.hz = ((Whole(suggestEnd) - suggestStart) * m_map.pix / lineWidth).value();
-    if (m_map.hz == 0)
-        m_map.hz = 1;
+    d->map.hz = ((Whole(suggestEnd) - suggestStart) * d->map.pix / lineWidth).value();
+    if (d->map.hz == 0)
+        d->map.hz = 1;
     init();
 }
 
@@ -151,15 +191,15 @@ void ScaleBkg::resetParam(int freqStart, int freqEnd, int step, int lineStart, i
  */
 void ScaleBkg::init()
 {
-    const QSize size = m_owner ? m_owner->size() : this->size();
+    const QSize size = d->owner ? d->owner->size() : this->size();
     setGeometry(0, kTop, size.width(), size.height());
-    const Whole hz = m_map.hz;
-    m_firstTick = (Whole(m_validStart) / hz * hz - 2 * hz).value();
-    const Whole span = (width() - 2 * Whole(m_lineStart)) * hz / m_map.pix;
-    m_lastTick = (m_firstTick + span).value();
-    m_unitCount = (span / hz).value();
-    m_lineEnd = (m_lineStart + m_map.pix * Whole(m_unitCount) + 3 * Whole(m_map.pix)).value();
-    m_look.reset();
+    const Whole hz = d->map.hz;
+    d->firstTick = (Whole(d->validStart) / hz * hz - 2 * hz).value();
+    const Whole span = (width() - 2 * Whole(d->lineStart)) * hz / d->map.pix;
+    d->lastTick = (d->firstTick + span).value();
+    d->unitCount = (span / hz).value();
+    d->lineEnd = (d->lineStart + d->map.pix * Whole(d->unitCount) + 3 * Whole(d->map.pix)).value();
+    d->drawnLook.reset();
 }
 
 /**
@@ -174,28 +214,28 @@ int ScaleBkg::getValidStartFreq(int freq, int step, bool)
 /** The x of a scale count, in px. */
 int ScaleBkg::getPosByCount(int count)
 {
-    return (m_lineStart + count * Whole(m_map.pix)).value();
+    return (d->lineStart + count * Whole(d->map.pix)).value();
 }
 
 /** The frequency at x when ten units stand on each pixel, whatever the scale's geometry is. */
 int ScaleBkg::getValueByPos(int pos)
 {
-    return (m_firstTick + (pos - Whole(m_lineStart)) * m_posFactor).value();
+    return (d->firstTick + (pos - Whole(d->lineStart)) * d->posFactor).value();
 }
 
 /** How many tick units high the tick at a frequency is: 3 for long, 2 for middle, 1 for short. */
 int ScaleBkg::getBeishu(int freq)
 {
-    const Whole tick = freq / (m_map.hz * Whole(m_pixCountMeta));
-    if (tick.isMultipleOf(Whole(m_bMid) * m_bLarge))
+    const Whole tick = freq / (d->map.hz * Whole(d->pixCountMeta));
+    if (tick.isMultipleOf(Whole(d->bMid) * d->bLarge))
         return 3;
-    return tick.isMultipleOf(m_bMid) ? 2 : 1;
+    return tick.isMultipleOf(d->bMid) ? 2 : 1;
 }
 
 /** The height of the tick at a scale count, in px. */
 int ScaleBkg::getHeightByCount(int count)
 {
-    return m_tickUnitHeight * getBeishu((m_firstTick + count * Whole(m_map.hz)).value());
+    return d->tickUnitHeight * getBeishu((d->firstTick + count * Whole(d->map.hz)).value());
 }
 
 /**
@@ -204,7 +244,7 @@ int ScaleBkg::getHeightByCount(int count)
  */
 QRect ScaleBkg::getRectBYCertalXpos(int x)
 {
-    const Whole top = m_owner ? m_owner->getTxtYpos() : 0;
+    const Whole top = d->owner ? d->owner->getTxtYpos() : 0;
     return {QPoint((x - Whole(kLabelReach)).value(), top.value()),
             QPoint((x + Whole(kLabelReach) - 1).value(), (2 * top + 19).value())};
 }
@@ -212,16 +252,17 @@ QRect ScaleBkg::getRectBYCertalXpos(int x)
 /** Where the band starts in the parent, in px when ten units stand on each pixel, in tens. */
 int ScaleBkg::getPointStart()
 {
-    const Whole factor = m_posFactor;
-    return (x() + Whole(m_lineStart) + (Whole(m_validStart) - m_firstTick) / factor * factor)
+    const Whole factor = d->posFactor;
+    return (x() + Whole(d->lineStart) + (Whole(d->validStart) - d->firstTick) / factor * factor)
         .value();
 }
 
 /** Where the band ends in the parent, in the manner of getPointStart(). */
 int ScaleBkg::getPointEnd()
 {
-    const Whole factor = m_posFactor;
-    return (x() + Whole(m_lineStart) + (Whole(m_validEnd) - m_firstTick) / factor * factor).value();
+    const Whole factor = d->posFactor;
+    return (x() + Whole(d->lineStart) + (Whole(d->validEnd) - d->firstTick) / factor * factor)
+        .value();
 }
 
 /** For scales that know a further end; this one has none and says 0. */
@@ -230,41 +271,51 @@ int ScaleBkg::getEnd()
     return 0;
 }
 
+int ScaleBkg::getLine_start() const
+{
+    return d->lineStart;
+}
+
 /** Moves the scale count 0 to this x, in px. Stored only; ticks and labels move at the next paint.
  */
 void ScaleBkg::setLine_start(int start)
 {
-    m_lineStart = start;
-    m_look.reset();
+    d->lineStart = start;
+    d->drawnLook.reset();
+}
+
+int ScaleBkg::getLine_end() const
+{
+    return d->lineEnd;
 }
 
 /** Stored only; the next init() computes it anew. */
 void ScaleBkg::setLine_end(int end)
 {
-    m_lineEnd = end;
+    d->lineEnd = end;
 }
 
 /** Labels first and ticks over them. */
 void ScaleBkg::paintEvent(QPaintEvent *e)
 {
-    if (!m_owner)
+    if (!d->owner)
         return;
-    const Look now = look();
-    if (!m_look || !(*m_look == now))
-        layOut(now);
+    const Private::Look now = d->look();
+    if (!d->drawnLook || !(*d->drawnLook == now))
+        d->layOut(now);
     QPainter painter(this);
-    m_picture->draw(painter, e ? e->rect() : rect(), m_owner->getLineColor());
+    d->picture.draw(painter, e ? e->rect() : rect(), d->owner->getLineColor());
 }
 
-ScaleBkg::Look ScaleBkg::look() const
+ScaleBkg::Private::Look ScaleBkg::Private::look() const
 {
-    return {size(), m_owner->getLineYpos(), m_owner->getTxtYpos()};
+    return {q->size(), owner->getLineYpos(), owner->getTxtYpos()};
 }
 
-void ScaleBkg::layOut(const Look &look)
+void ScaleBkg::Private::layOut(const Look &look)
 {
-    m_look = std::make_unique<Look>(look);
-    m_picture->clear(look.size);
+    drawnLook = std::make_unique<Look>(look);
+    picture.clear(look.size);
     layOutLabels(look);
     layOutTicks(look);
 }
@@ -272,34 +323,45 @@ void ScaleBkg::layOut(const Look &look)
 // The three quotients of the first label are truncated separately, which is why labels need not
 // stand at long ticks: they are stepped by scale units and the ticks by their own stride. Keep it
 // so; the scales of existing screens are tuned to it.
-void ScaleBkg::layOutLabels(const Look &look)
+void ScaleBkg::Private::layOutLabels(const Look &look)
 {
-    const Whole first = m_firstTick;
+    const Whole first = firstTick;
     const Whole firstCount =
-        first / (m_map.hz * Whole(m_pixCountMeta)) / m_bMid * m_bMid + m_bMid - first / m_map.hz;
+        first / (map.hz * Whole(pixCountMeta)) / bMid * bMid + bMid - first / map.hz;
     const auto top = qreal(look.txtYpos);
     const qreal height = qreal((2 * Whole(look.txtYpos) + 20).value()) - top;
-    const Counts counts{firstCount.value(), m_bMid, m_unitCount};
+    const Counts counts{firstCount.value(), bMid, unitCount};
     constexpr int kReach = kLabelReach + ScalePicture::kOverhang;
-    forEachNear(
-        counts, m_lineStart, m_map.pix, -kReach, look.size.width() + kReach, [&](int count) {
-            const int value = (first + count * Whole(m_map.hz)).value();
-            const QRectF box(qreal(getPosByCount(count)) - kLabelReach, top, 2 * kLabelReach,
-                             height);
-            m_picture->addLabel(box, m_isFM ? float(value) / 100.0F : double(value), written);
-        });
+    forEachNear(counts, lineStart, map.pix, -kReach, look.size.width() + kReach, [&](int count) {
+        const int value = (first + count * Whole(map.hz)).value();
+        const QRectF box(qreal(q->getPosByCount(count)) - kLabelReach, top, 2 * kLabelReach,
+                         height);
+        picture.addLabel(box, isFM ? float(value) / 100.0F : double(value), written);
+    });
 }
 
-void ScaleBkg::layOutTicks(const Look &look)
+void ScaleBkg::Private::layOutTicks(const Look &look)
 {
     constexpr int kReach = ScalePicture::kOverhang;
-    forEachNear({0, m_pixCountMeta, m_unitCount}, m_lineStart, m_map.pix, -kReach,
+    forEachNear({0, pixCountMeta, unitCount}, lineStart, map.pix, -kReach,
                 look.size.width() + kReach, [&](int count) {
                     const Whole foot = look.lineYpos;
-                    m_picture->addLine(ScalePicture::Solid, getPosByCount(count),
-                                       (foot - getHeightByCount(count)).value(), foot.value());
+                    picture.addLine(ScalePicture::Solid, q->getPosByCount(count),
+                                    (foot - q->getHeightByCount(count)).value(), foot.value());
                 });
 }
+
+class Q_DECL_HIDDEN MovePoint::Private
+{
+public:
+    int lineStart = 0; // px, x of scale count 0
+    int firstTick = 0; // frequency at scale count 0
+    int minFreq = 0;
+    int step = 0;
+    int maxFreq = 0;
+    MapPixAndHz map{};
+    bool amFlag = false;
+};
 
 /**
  * A needle with this picture, as large as it, in its owner. It stands at the owner's pointYpos and
@@ -307,9 +369,14 @@ void ScaleBkg::layOutTicks(const Look &look)
  */
 MovePoint::MovePoint(int lineStart, int firstTick, int minFreq, int step, int maxFreq,
                      const MapPixAndHz &map, QPixmap *pixmap, MRadioMovePoint *owner)
-    : QLabel(owner), m_lineStart(lineStart), m_firstTick(firstTick), m_minFreq(minFreq),
-      m_step(step), m_maxFreq(maxFreq), m_map(map)
+    : QLabel(owner), d(std::make_unique<Private>())
 {
+    d->lineStart = lineStart;
+    d->firstTick = firstTick;
+    d->minFreq = minFreq;
+    d->step = step;
+    d->maxFreq = maxFreq;
+    d->map = map;
     if (pixmap) {
         setPixmap(*pixmap);
         setGeometry(pixmap->rect());
@@ -317,6 +384,8 @@ MovePoint::MovePoint(int lineStart, int firstTick, int minFreq, int step, int ma
     if (owner)
         move(boundedPoint(x(), owner->getPointYpos()));
 }
+
+MovePoint::~MovePoint() = default;
 
 /**
  * Takes over a scale: its x of count 0 in px, its frequency there, its pixels and frequency units
@@ -326,12 +395,12 @@ MovePoint::MovePoint(int lineStart, int firstTick, int minFreq, int step, int ma
 void MovePoint::resetParam(int lineStart, int firstTick, int minFreq, int step, int maxFreq,
                            const MapPixAndHz &map)
 {
-    m_lineStart = lineStart;
-    m_firstTick = firstTick;
-    m_minFreq = minFreq;
-    m_step = step;
-    m_maxFreq = maxFreq;
-    m_map = map;
+    d->lineStart = lineStart;
+    d->firstTick = firstTick;
+    d->minFreq = minFreq;
+    d->step = step;
+    d->maxFreq = maxFreq;
+    d->map = map;
     if (const auto *tuner = qobject_cast<MRadioMovePoint *>(parentWidget()))
         move(boundedPoint(x(), tuner->getPointYpos()));
 }
@@ -339,11 +408,11 @@ void MovePoint::resetParam(int lineStart, int firstTick, int minFreq, int step, 
 /** The frequency at an x of the owner: rounded toward zero to a step, within the band. */
 int MovePoint::cacPosMapFreq(int pos)
 {
-    const Whole atPos = (pos - Whole(m_lineStart)) * m_map.hz / m_map.pix + m_firstTick;
-    const int freq = (atPos / m_step * m_step).value();
-    if (freq < m_minFreq)
-        return m_minFreq;
-    return freq >= m_maxFreq ? m_maxFreq : freq;
+    const Whole atPos = (pos - Whole(d->lineStart)) * d->map.hz / d->map.pix + d->firstTick;
+    const int freq = (atPos / d->step * d->step).value();
+    if (freq < d->minFreq)
+        return d->minFreq;
+    return freq >= d->maxFreq ? d->maxFreq : freq;
 }
 
 /**
@@ -357,7 +426,7 @@ int MovePoint::cacFreqMapPos(int freq)
         QMessageLogger("src/mradiomovepoint", line, "int MovePoint::cacFreqMapPos(int)").debug()
             << text;
     };
-    Whole pos = (Whole(freq) - m_firstTick) * m_map.pix / m_map.hz + m_lineStart;
+    Whole pos = (Whole(freq) - d->firstTick) * d->map.pix / d->map.hz + d->lineStart;
     if (cacPosMapFreq(pos.value()) != freq) {
         log(__LINE__, "!!!!!!!!!!!!!!!!!=====");
         pos = pos + 1;
@@ -396,8 +465,16 @@ void MovePoint::moveByFreq(int freq)
 void MovePoint::emitFreq()
 {
     const Whole middle = x() + Whole(width() / 2);
-    emit freqChanged(cacPosMapFreq(middle.value()), m_amFlag);
+    emit freqChanged(cacPosMapFreq(middle.value()), d->amFlag);
 }
+
+FmMovePoint::FmMovePoint(int lineStart, int firstTick, int minFreq, int step, int maxFreq,
+                         const MapPixAndHz &map, QPixmap *pixmap, MRadioMovePoint *owner)
+    : MovePoint(lineStart, firstTick, minFreq, step, maxFreq, map, pixmap, owner)
+{
+}
+
+FmMovePoint::~FmMovePoint() = default;
 
 /** Never for AM; what band it serves is a matter of its scale. */
 bool FmMovePoint::isAm()
@@ -405,43 +482,85 @@ bool FmMovePoint::isAm()
     return false;
 }
 
+class Q_DECL_HIDDEN MRadioMovePoint::Private
+{
+public:
+    void resetNeedle(int minFreq, int step, int maxFreq);
+
+    int freqStart = 8500;
+    int freqEnd = 10800;
+    int freqStep = 10;
+    int suggestFreqStart = -1; // -1: from the band
+    int suggestFreqEnd = -1; // -1: from the band
+    int lineStart = 10; // px
+    int lineEnd = 500; // px
+    int pixCountMeta = 10; // scale units from tick to tick
+    int bMid = 5; // scale units from label to label, ticks from middle to middle
+    int bLarge = 2; // middle ticks from long to long
+    int totalCountMeta = 100; // scale units between lineStart and lineEnd
+    BNADTYPE bandType = AM;
+    QColor lineColor;
+    int txtYpos = 30; // px
+    int lineYpos = 40; // px
+    int pointYpos = 40; // px
+    bool initByCustomeValue = false;
+    QPixmap pointPix{10, 30};
+    QSharedPointer<MovePoint> needle;
+    QSharedPointer<ScaleBkg> scale;
+};
+
 /**
  * A tuner of 831 x 400 px for 8500 to 10800 in steps of 10. Its first scale has its own geometry
  * (0 to 800 px, a tick every 5 units), not that of the properties, and is wider than the tuner,
  * both on purpose: the properties count from the first write of initByCustomeValue on.
  */
-MRadioMovePoint::MRadioMovePoint(QWidget *parent) : QWidget(parent)
+MRadioMovePoint::MRadioMovePoint(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>())
 {
     constexpr char kFunction[] = "MRadioMovePoint::MRadioMovePoint(QWidget*)";
     setGeometry(80, 10, 831, 400);
-    m_pointPix.fill(QColor(0, 0, 255));
-    m_scale.reset(new ScaleBkg(m_freqStart, m_freqEnd, m_freqStep, 0, 800, m_bandType == FM,
-                               m_suggestFreqStart, m_suggestFreqEnd, this, this, 5, 5, 2, 100));
-    m_scale->setGeometry(0, 10, 1500, 200);
-    m_scale->show();
+    d->pointPix.fill(QColor(0, 0, 255));
+    d->scale.reset(new ScaleBkg(d->freqStart, d->freqEnd, d->freqStep, 0, 800, d->bandType == FM,
+                                d->suggestFreqStart, d->suggestFreqEnd, this, this, 5, 5, 2, 100));
+    d->scale->setGeometry(0, 10, 1500, 200);
+    d->scale->show();
     log(__LINE__, kFunction, "MRadioMovePoint");
 
-    m_needle.reset(new FmMovePoint(m_scale->m_lineStart, m_scale->m_firstTick,
-                                   m_scale->m_validStart, m_scale->m_step, m_scale->m_validEnd,
-                                   m_scale->m_map, &m_pointPix, this));
-    m_needle->moveByFreq(m_scale->m_validStart);
-    m_needle->show();
+    d->needle.reset(new FmMovePoint(d->scale->d->lineStart, d->scale->d->firstTick,
+                                    d->scale->d->validStart, d->scale->d->step,
+                                    d->scale->d->validEnd, d->scale->d->map, &d->pointPix, this));
+    d->needle->moveByFreq(d->scale->d->validStart);
+    d->needle->show();
     connectSignalAndSlots();
     log(__LINE__, kFunction, "MRadioMovePoint");
 }
 
 MRadioMovePoint::~MRadioMovePoint() = default;
 
+int MRadioMovePoint::getFreqStep() const
+{
+    return d->freqStep;
+}
+
 /** The tuning step, 10 by default. Stored only, like all others up to initByCustomeValue. */
 void MRadioMovePoint::setFreqStep(int step)
 {
-    m_freqStep = step;
+    d->freqStep = step;
+}
+
+int MRadioMovePoint::getFreqStart() const
+{
+    return d->freqStart;
 }
 
 /** The lower end of the band, 8500 by default. Stored only. */
 void MRadioMovePoint::setFreqStart(int freq)
 {
-    m_freqStart = freq;
+    d->freqStart = freq;
+}
+
+int MRadioMovePoint::getSuggestFreqStart() const
+{
+    return d->suggestFreqStart;
 }
 
 /**
@@ -450,25 +569,45 @@ void MRadioMovePoint::setFreqStart(int freq)
  */
 void MRadioMovePoint::setSuggestFreqStart(int freq)
 {
-    m_suggestFreqStart = freq;
+    d->suggestFreqStart = freq;
+}
+
+int MRadioMovePoint::getSuggestFreqEnd() const
+{
+    return d->suggestFreqEnd;
 }
 
 /** The upper end of the range that is spread over lineStart to lineEnd. Stored only. */
 void MRadioMovePoint::setSuggestFreqEnd(int freq)
 {
-    m_suggestFreqEnd = freq;
+    d->suggestFreqEnd = freq;
+}
+
+int MRadioMovePoint::getFreqEnd() const
+{
+    return d->freqEnd;
 }
 
 /** The upper end of the band, 10800 by default. Stored only. */
 void MRadioMovePoint::setFreqEnd(int freq)
 {
-    m_freqEnd = freq;
+    d->freqEnd = freq;
+}
+
+int MRadioMovePoint::getLineStart() const
+{
+    return d->lineStart;
 }
 
 /** The x where the scale begins, in px, 10 by default. Stored only. */
 void MRadioMovePoint::setLineStart(int x)
 {
-    m_lineStart = x;
+    d->lineStart = x;
+}
+
+int MRadioMovePoint::getLineEnd() const
+{
+    return d->lineEnd;
 }
 
 /**
@@ -477,71 +616,126 @@ void MRadioMovePoint::setLineStart(int x)
  */
 void MRadioMovePoint::setLineEnd(int x)
 {
-    m_lineEnd = x;
+    d->lineEnd = x;
+}
+
+int MRadioMovePoint::getPixCountMeta() const
+{
+    return d->pixCountMeta;
 }
 
 /** How many scale units there are from tick to tick, 10 by default. Stored only. */
 void MRadioMovePoint::setPixCountMeta(int count)
 {
-    m_pixCountMeta = count;
+    d->pixCountMeta = count;
+}
+
+int MRadioMovePoint::getBMid() const
+{
+    return d->bMid;
 }
 
 /** How many units there are from label to label, and ticks from middle to middle; 5 by default.
  * Stored only. */
 void MRadioMovePoint::setBMid(int count)
 {
-    m_bMid = count;
+    d->bMid = count;
+}
+
+int MRadioMovePoint::getBLarge() const
+{
+    return d->bLarge;
 }
 
 /** How many middle ticks there are from long to long, 2 by default. Stored only. */
 void MRadioMovePoint::setBLarge(int factor)
 {
-    m_bLarge = factor;
+    d->bLarge = factor;
+}
+
+int MRadioMovePoint::getTotalCountMeta() const
+{
+    return d->totalCountMeta;
 }
 
 /** How many scale units there are between lineStart and lineEnd, 100 by default. Stored only. */
 void MRadioMovePoint::setTotalCountMeta(int count)
 {
-    m_totalCountMeta = count;
+    d->totalCountMeta = count;
+}
+
+MRadioMovePoint::BNADTYPE MRadioMovePoint::getBandType() const
+{
+    return d->bandType;
 }
 
 /** Whether labels show a hundredth of the frequency (FM) or the frequency (AM, the default). Stored
  * only. */
 void MRadioMovePoint::setBandType(const BNADTYPE &type)
 {
-    m_bandType = type;
+    d->bandType = type;
+}
+
+QPixmap MRadioMovePoint::getPointPix() const
+{
+    return d->pointPix;
 }
 
 /** The picture of the needle; blue, 10 x 30 px by default. Shown at once, in the size of the first
  * one. */
 void MRadioMovePoint::setPointPix(const QPixmap &pixmap)
 {
-    m_pointPix = pixmap;
-    m_needle->setPixmap(m_pointPix);
+    d->pointPix = pixmap;
+    d->needle->setPixmap(d->pointPix);
+}
+
+QColor MRadioMovePoint::getLineColor() const
+{
+    return d->lineColor;
 }
 
 /** The colour of ticks and labels; an invalid one, the default, is drawn in black. Stored only. */
 void MRadioMovePoint::setLineColor(const QColor &color)
 {
-    m_lineColor = color;
+    d->lineColor = color;
+}
+
+int MRadioMovePoint::getTxtYpos() const
+{
+    return d->txtYpos;
 }
 
 /** The top of the labels, in px below the top of the scale, 30 by default. Stored only. */
 void MRadioMovePoint::setTxtYpos(int y)
 {
-    m_txtYpos = y;
+    d->txtYpos = y;
+}
+
+int MRadioMovePoint::getLineYpos() const
+{
+    return d->lineYpos;
 }
 
 /** The feet of the ticks, in px below the top of the scale, 40 by default. Stored only. */
 void MRadioMovePoint::setLineYpos(int y)
 {
-    m_lineYpos = y;
+    d->lineYpos = y;
+}
+
+int MRadioMovePoint::getPointYpos() const
+{
+    return d->pointYpos;
 }
 
 /** The top of the needle, in px, 40 by default. Stored only. */
 void MRadioMovePoint::setPointYpos(int y)
 {
-    m_pointYpos = y;
+    d->pointYpos = y;
+}
+
+bool MRadioMovePoint::getInitByCustomeValue() const
+{
+    return d->initByCustomeValue;
 }
 
 /**
@@ -550,12 +744,12 @@ void MRadioMovePoint::setPointYpos(int y)
  */
 void MRadioMovePoint::setInitByCustomeValue(bool value)
 {
-    m_initByCustomeValue = value;
-    m_scale->resetParam(m_freqStart, m_freqEnd, m_freqStep, m_lineStart, m_lineEnd,
-                        m_bandType == FM, m_suggestFreqStart, m_suggestFreqEnd, m_pixCountMeta,
-                        m_bMid, m_bLarge, m_totalCountMeta);
-    resetNeedle(m_freqStart, m_freqStep, m_freqEnd);
-    m_needle->moveByFreq(m_freqStart);
+    d->initByCustomeValue = value;
+    d->scale->resetParam(d->freqStart, d->freqEnd, d->freqStep, d->lineStart, d->lineEnd,
+                         d->bandType == FM, d->suggestFreqStart, d->suggestFreqEnd, d->pixCountMeta,
+                         d->bMid, d->bLarge, d->totalCountMeta);
+    d->resetNeedle(d->freqStart, d->freqStep, d->freqEnd);
+    d->needle->moveByFreq(d->freqStart);
     update();
 }
 
@@ -563,7 +757,7 @@ void MRadioMovePoint::setInitByCustomeValue(bool value)
 void MRadioMovePoint::connectSignalAndSlots()
 {
     log(__LINE__, "void MRadioMovePoint::connectSignalAndSlots()", "connectSignalAndSlots");
-    connect(m_needle.data(), SIGNAL(freqChanged(int, bool)), this, SLOT(freqChanged(int, bool)));
+    connect(d->needle.data(), SIGNAL(freqChanged(int, bool)), this, SLOT(freqChanged(int, bool)));
 }
 
 /** Takes the tuned frequency from the needle and emits freqChangedSgl() with it, unscaled. */
@@ -588,10 +782,10 @@ void MRadioMovePoint::freqParamChangedSlot(bool isFM, float freqMin, float freqM
     const int min = toInt(double(freqMin * factor));
     const int max = toInt(double(freqMax * factor));
     const int step = toInt(double(freqStep * factor));
-    const int lineStart = m_scale->getLine_start();
-    m_scale->resetParam(min, max, step, lineStart, lineStart, isFM, m_suggestFreqStart,
-                        m_suggestFreqEnd, 10, 5, 2, 100);
-    resetNeedle(min, step, max);
+    const int lineStart = d->scale->getLine_start();
+    d->scale->resetParam(min, max, step, lineStart, lineStart, isFM, d->suggestFreqStart,
+                         d->suggestFreqEnd, 10, 5, 2, 100);
+    d->resetNeedle(min, step, max);
     update();
 }
 
@@ -607,24 +801,24 @@ void MRadioMovePoint::freqParamChangedSlot(bool isFM, float freqMin, float freqM
     const int min = toInt(double(freqMin));
     const int max = toInt(double(freqMax));
     const int step = toInt(double(freqStep));
-    m_scale->resetParam(min, max, step, lineStart, lineEnd, isFM, c_suggestFreqStart,
-                        c_suggestFreqEnd, m_pixCountMeta, m_bMid, m_bLarge, m_totalCountMeta);
-    resetNeedle(min, step, max);
-    m_needle->moveByFreq(m_freqStart);
+    d->scale->resetParam(min, max, step, lineStart, lineEnd, isFM, c_suggestFreqStart,
+                         c_suggestFreqEnd, d->pixCountMeta, d->bMid, d->bLarge, d->totalCountMeta);
+    d->resetNeedle(min, step, max);
+    d->needle->moveByFreq(d->freqStart);
     update();
 }
 
 /** Moves the needle to a frequency, truncated and not scaled, and says nothing. */
 void MRadioMovePoint::curFreqChangedSlot(float freq)
 {
-    m_needle->moveByFreq(toInt(double(freq)));
+    d->needle->moveByFreq(toInt(double(freq)));
 }
 
 /** The needle follows the finger. A press alone does not move it. */
 void MRadioMovePoint::mouseMoveEvent(QMouseEvent *e)
 {
     if (e)
-        m_needle->moveByPos(e->pos().x());
+        d->needle->moveByPos(e->pos().x());
 }
 
 /** The needle goes to where the finger lifts and reports the frequency there. */
@@ -632,12 +826,12 @@ void MRadioMovePoint::mouseReleaseEvent(QMouseEvent *e)
 {
     if (!e)
         return;
-    m_needle->moveByPos(e->pos().x());
-    m_needle->emitFreq();
+    d->needle->moveByPos(e->pos().x());
+    d->needle->emitFreq();
 }
 
-void MRadioMovePoint::resetNeedle(int minFreq, int step, int maxFreq)
+void MRadioMovePoint::Private::resetNeedle(int minFreq, int step, int maxFreq)
 {
-    m_needle->resetParam(m_scale->m_lineStart, m_scale->m_firstTick, minFreq, step, maxFreq,
-                         m_scale->m_map);
+    needle->resetParam(scale->d->lineStart, scale->d->firstTick, minFreq, step, maxFreq,
+                       scale->d->map);
 }

@@ -6,18 +6,11 @@
 #include <QColor>
 #include <QLabel>
 #include <QPixmap>
-#include <QPointer>
-#include <QSharedPointer>
 #include <QWidget>
 
 #include <memory>
 
 class MRadioMovePoint;
-
-namespace panelkit
-{
-class ScalePicture;
-} // namespace panelkit
 
 /// How far apart a scale's units are: pixels and frequency units for one scale unit.
 struct MapPixAndHz {
@@ -55,44 +48,18 @@ public:
     int getPointStart();
     int getPointEnd();
     virtual int getEnd();
-    int getLine_start() { return m_lineStart; }
+    int getLine_start() const;
     void setLine_start(int start);
-    int getLine_end() { return m_lineEnd; }
+    int getLine_end() const;
     void setLine_end(int end);
 
 protected:
     void paintEvent(QPaintEvent *e) override;
 
 private:
-    struct Look;
     friend class MRadioMovePoint; // hands the geometry on to the needle
-
-    Look look() const;
-    void layOut(const Look &look);
-    void layOutLabels(const Look &look);
-    void layOutTicks(const Look &look);
-
-    int m_step = 0;
-    int m_validStart = 0;
-    int m_firstTick = 0; // frequency at scale count 0
-    int m_validEnd = 0;
-    int m_lastTick = 0; // frequency at the right end of the drawable width
-    int m_posFactor = 10;
-    MapPixAndHz m_map{1, 10};
-    int m_pixCountMeta = 0; // scale units from tick to tick
-    int m_bMid = 0; // scale units from label to label, ticks from middle to middle
-    int m_bLarge = 0; // middle ticks from long to long
-    int m_lineStart = 0; // px
-    int m_lineEnd = 0; // px
-    int m_tickUnitHeight = 6; // px
-    int m_unitCount = 0;
-    int m_lineY = 40; // px, the owner's at construction; drawing takes the current one
-    bool m_isFM = false;
-    QColor m_color; // invalid; drawing takes the owner's
-    QPointer<MRadioMovePoint> m_owner;
-
-    std::unique_ptr<Look> m_look; // of the kept picture
-    std::unique_ptr<panelkit::ScalePicture> m_picture;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 /**
@@ -106,6 +73,7 @@ class PANELKIT_EXPORT MovePoint : public QLabel
 public:
     MovePoint(int lineStart, int firstTick, int minFreq, int step, int maxFreq,
               const MapPixAndHz &map, QPixmap *pixmap, MRadioMovePoint *owner);
+    ~MovePoint() override;
 
     void resetParam(int lineStart, int firstTick, int minFreq, int step, int maxFreq,
                     const MapPixAndHz &map);
@@ -121,20 +89,17 @@ signals:
     void freqChanged(int fmFreq, bool isAm);
 
 private:
-    int m_lineStart; // px, x of scale count 0
-    int m_firstTick; // frequency at scale count 0
-    int m_minFreq;
-    int m_step;
-    int m_maxFreq;
-    MapPixAndHz m_map;
-    bool m_amFlag = false;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 /** The needle that MRadioMovePoint makes: a MovePoint that says it is not for AM. */
 class PANELKIT_EXPORT FmMovePoint : public MovePoint
 {
 public:
-    using MovePoint::MovePoint;
+    FmMovePoint(int lineStart, int firstTick, int minFreq, int step, int maxFreq,
+                const MapPixAndHz &map, QPixmap *pixmap, MRadioMovePoint *owner);
+    ~FmMovePoint() override;
 
     bool isAm() override;
 };
@@ -180,41 +145,41 @@ public:
     explicit MRadioMovePoint(QWidget *parent = nullptr);
     ~MRadioMovePoint() override;
 
-    int getFreqStep() const { return m_freqStep; }
+    int getFreqStep() const;
     void setFreqStep(int step);
-    int getFreqStart() const { return m_freqStart; }
+    int getFreqStart() const;
     void setFreqStart(int freq);
-    int getSuggestFreqStart() const { return m_suggestFreqStart; }
+    int getSuggestFreqStart() const;
     void setSuggestFreqStart(int freq);
-    int getSuggestFreqEnd() const { return m_suggestFreqEnd; }
+    int getSuggestFreqEnd() const;
     void setSuggestFreqEnd(int freq);
-    int getFreqEnd() const { return m_freqEnd; }
+    int getFreqEnd() const;
     void setFreqEnd(int freq);
-    int getLineStart() const { return m_lineStart; }
+    int getLineStart() const;
     void setLineStart(int x);
-    int getLineEnd() const { return m_lineEnd; }
+    int getLineEnd() const;
     void setLineEnd(int x);
-    int getPixCountMeta() const { return m_pixCountMeta; }
+    int getPixCountMeta() const;
     void setPixCountMeta(int count);
-    int getBMid() const { return m_bMid; }
+    int getBMid() const;
     void setBMid(int count);
-    int getBLarge() const { return m_bLarge; }
+    int getBLarge() const;
     void setBLarge(int factor);
-    int getTotalCountMeta() const { return m_totalCountMeta; }
+    int getTotalCountMeta() const;
     void setTotalCountMeta(int count);
-    BNADTYPE getBandType() const { return m_bandType; }
+    BNADTYPE getBandType() const;
     void setBandType(const BNADTYPE &type);
-    QPixmap getPointPix() const { return m_pointPix; }
+    QPixmap getPointPix() const;
     void setPointPix(const QPixmap &pixmap);
-    QColor getLineColor() const { return m_lineColor; }
+    QColor getLineColor() const;
     void setLineColor(const QColor &color);
-    int getTxtYpos() const { return m_txtYpos; }
+    int getTxtYpos() const;
     void setTxtYpos(int y);
-    int getLineYpos() const { return m_lineYpos; }
+    int getLineYpos() const;
     void setLineYpos(int y);
-    int getPointYpos() const { return m_pointYpos; }
+    int getPointYpos() const;
     void setPointYpos(int y);
-    bool getInitByCustomeValue() const { return m_initByCustomeValue; }
+    bool getInitByCustomeValue() const;
     void setInitByCustomeValue(bool value);
 
     void connectSignalAndSlots();
@@ -236,28 +201,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent *e) override;
 
 private:
-    void resetNeedle(int minFreq, int step, int maxFreq);
-
-    int m_freqStart = 8500;
-    int m_freqEnd = 10800;
-    int m_freqStep = 10;
-    int m_suggestFreqStart = -1; // -1: from the band
-    int m_suggestFreqEnd = -1; // -1: from the band
-    int m_lineStart = 10; // px
-    int m_lineEnd = 500; // px
-    int m_pixCountMeta = 10; // scale units from tick to tick
-    int m_bMid = 5; // scale units from label to label, ticks from middle to middle
-    int m_bLarge = 2; // middle ticks from long to long
-    int m_totalCountMeta = 100; // scale units between lineStart and lineEnd
-    BNADTYPE m_bandType = AM;
-    QColor m_lineColor;
-    int m_txtYpos = 30; // px
-    int m_lineYpos = 40; // px
-    int m_pointYpos = 40; // px
-    bool m_initByCustomeValue = false;
-    QPixmap m_pointPix{10, 30};
-    QSharedPointer<MovePoint> m_needle;
-    QSharedPointer<ScaleBkg> m_scale;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 #endif // MRADIOMOVEPOINT_H

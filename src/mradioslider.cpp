@@ -8,6 +8,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPaintEvent>
+#include <QPoint>
 
 #include <algorithm>
 #include <cmath>
@@ -59,8 +60,50 @@ Counts visibleCounts(int stepCount, int scrollX, int gap, int width)
 
 } // namespace
 
+class Q_DECL_HIDDEN MRadioSlider::Private
+{
+public:
+    explicit Private(MRadioSlider *widget) : q(widget) { }
+
+    struct Look;
+
+    Look look() const;
+    void layOut(const Look &look);
+    void addTick(int count, int x);
+    int tickBase() const;
+    int labelTop() const;
+    void drawIndicator(QPainter &painter) const;
+
+    MRadioSlider *const q;
+    QPixmap indicatePix;
+    QColor lineColor;
+    QFont font;
+    QPoint pressPoint; // of the press or the last move
+    int scrollX = 0; // px, x of the tick of freqStart
+    int minScrollX = 0; // px
+    int maxScrollX = 0; // px
+    int stepCount = 0;
+    int lineH = 8; // px, of a minor tick
+    int lineW = 1; // px, without effect
+    int lineGap = 5; // px from tick to tick
+    float freqStart = 87.5F;
+    float freqEnd = 108.0F;
+    float freqStep = 0.1F;
+    bool isFM = true;
+    int marginY = 0; // px, without effect
+    ScaleAlignmentMode scaleMode = AlignBottom;
+    TextPosition textPosition = TextBottom;
+    int textMarginY = 0; // px
+    int scaleMarginY = 0; // px
+    int pointMarginY = 0; // px
+    float curFreq = freqStart;
+
+    std::unique_ptr<Look> drawnLook; // of the kept picture
+    ScalePicture picture;
+};
+
 // What the kept picture depends on. The colour and the font come with each paint.
-struct MRadioSlider::Look {
+struct MRadioSlider::Private::Look {
     std::tuple<QSize, int, int, int, int, float, float, bool, int, int, int, int> inputs;
 };
 
@@ -68,70 +111,119 @@ struct MRadioSlider::Look {
  * An FM tuner for 87.5 to 108.0 MHz in steps of 0.1 with a tick every 5 px. The first tick stands
  * at the left edge until the first setCurFreq() or drag.
  */
-MRadioSlider::MRadioSlider(QWidget *parent)
-    : QWidget(parent), m_picture(std::make_unique<ScalePicture>())
+MRadioSlider::MRadioSlider(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
 {
     initSliderRange();
 }
 
 MRadioSlider::~MRadioSlider() = default;
 
+QPixmap MRadioSlider::getIndicatePix() const
+{
+    return d->indicatePix;
+}
+
 /** The picture in the middle of the widget, at its own size; none by default. Stored only. */
 void MRadioSlider::setIndicatePix(const QPixmap &pixmap)
 {
-    m_indicatePix = pixmap;
+    d->indicatePix = pixmap;
+}
+
+QColor MRadioSlider::getLineColor() const
+{
+    return d->lineColor;
 }
 
 /** The colour of ticks and labels; an invalid one, the default, is drawn in black. Stored only. */
 void MRadioSlider::setLineColor(const QColor &color)
 {
-    m_lineColor = color;
+    d->lineColor = color;
+}
+
+QFont MRadioSlider::getFont() const
+{
+    return d->font;
 }
 
 /** The font of the labels; the name hides that of the widget's own font, on purpose. Stored only.
  */
 void MRadioSlider::setFont(const QFont &font)
 {
-    m_font = font;
+    d->font = font;
+}
+
+int MRadioSlider::getLineH() const
+{
+    return d->lineH;
 }
 
 /** The length of a minor tick in px, 8 by default; middle ones are twice and major ones three times
  * as long. Stored only. */
 void MRadioSlider::setLineH(int height)
 {
-    m_lineH = height;
+    d->lineH = height;
+}
+
+int MRadioSlider::getLineW() const
+{
+    return d->lineW;
 }
 
 /** Stored only, and without effect: ticks are one pixel wide, because the colour makes a new pen.
  */
 void MRadioSlider::setLineW(int width)
 {
-    m_lineW = width;
+    d->lineW = width;
+}
+
+int MRadioSlider::getLineGap() const
+{
+    return d->lineGap;
 }
 
 /** The distance from tick to tick in px, 5 by default. Stored only; how far the scale can be
  * dragged stays. */
 void MRadioSlider::setLineGap(int gap)
 {
-    m_lineGap = gap;
+    d->lineGap = gap;
+}
+
+float MRadioSlider::getFreqStart() const
+{
+    return d->freqStart;
 }
 
 /** The first frequency of the scale, 87.5 by default. Stored only. */
 void MRadioSlider::setFreqStart(float freq)
 {
-    m_freqStart = freq;
+    d->freqStart = freq;
+}
+
+float MRadioSlider::getFreqEnd() const
+{
+    return d->freqEnd;
 }
 
 /** The last frequency of the scale, 108.0 by default. Stored only. */
 void MRadioSlider::setFreqEnd(float freq)
 {
-    m_freqEnd = freq;
+    d->freqEnd = freq;
+}
+
+float MRadioSlider::getFreqStep() const
+{
+    return d->freqStep;
 }
 
 /** The frequency from tick to tick, 0.1 by default. Stored only. */
 void MRadioSlider::setFreqStep(float step)
 {
-    m_freqStep = step;
+    d->freqStep = step;
+}
+
+float MRadioSlider::getCurFreq() const
+{
+    return d->curFreq;
 }
 
 /**
@@ -142,55 +234,90 @@ void MRadioSlider::setCurFreq(float freq)
 {
     if (!isValidFreq(freq))
         return;
-    m_curFreq = freq;
-    const float way = ratio((freq - m_freqStart) * float(m_lineGap), m_freqStep);
+    d->curFreq = freq;
+    const float way = ratio((freq - d->freqStart) * float(d->lineGap), d->freqStep);
     const int middle = width() / 2;
-    m_scrollX = toInt(double(float(middle) - way));
+    d->scrollX = toInt(double(float(middle) - way));
     update();
+}
+
+bool MRadioSlider::getIsFM() const
+{
+    return d->isFM;
 }
 
 /** Whether ticks and labels are those of FM, the default, and the outer frequencies hundredths.
  * Stored only. */
 void MRadioSlider::setIsFM(bool isFM)
 {
-    m_isFM = isFM;
+    d->isFM = isFM;
+}
+
+int MRadioSlider::marginY() const
+{
+    return d->marginY;
 }
 
 /** Repaints, but has no effect on the picture. */
 void MRadioSlider::setMarginY(int margin)
 {
-    m_marginY = margin;
+    d->marginY = margin;
     update();
+}
+
+MRadioSlider::ScaleAlignmentMode MRadioSlider::scaleAlign() const
+{
+    return d->scaleMode;
 }
 
 /** Where the ticks stand, AlignBottom by default and for a value that is none. Stored only. */
 void MRadioSlider::setScaleAlign(const ScaleAlignmentMode &mode)
 {
-    m_scaleMode = mode;
+    d->scaleMode = mode;
+}
+
+MRadioSlider::TextPosition MRadioSlider::getTextPosition() const
+{
+    return d->textPosition;
 }
 
 /** Where the labels stand, TextBottom by default and for a value that is none. Stored only. */
 void MRadioSlider::setTextPosition(const TextPosition &position)
 {
-    m_textPosition = position;
+    d->textPosition = position;
+}
+
+int MRadioSlider::getTextMarginY() const
+{
+    return d->textMarginY;
 }
 
 /** How far down the labels are moved, in px. Ticks beside them move too. Stored only. */
 void MRadioSlider::setTextMarginY(int margin)
 {
-    m_textMarginY = margin;
+    d->textMarginY = margin;
+}
+
+int MRadioSlider::getScaleMarginY() const
+{
+    return d->scaleMarginY;
 }
 
 /** How far down the ticks are moved, in px. Stored only. */
 void MRadioSlider::setScaleMarginY(int margin)
 {
-    m_scaleMarginY = margin;
+    d->scaleMarginY = margin;
+}
+
+int MRadioSlider::getPointMarginY() const
+{
+    return d->pointMarginY;
 }
 
 /** How far down the indicator is moved, in px. Stored only. */
 void MRadioSlider::setPointMarginY(int margin)
 {
-    m_pointMarginY = margin;
+    d->pointMarginY = margin;
 }
 
 /**
@@ -199,34 +326,34 @@ void MRadioSlider::setPointMarginY(int margin)
  */
 void MRadioSlider::initSliderRange()
 {
-    m_stepCount = quotient(toInt(double((m_freqEnd - m_freqStart) * 100.0F)),
-                           toInt(double(m_freqStep * 100.0F)));
-    m_maxScrollX = width() / 2;
-    m_minScrollX = saturated(width() / 2 - qint64(m_stepCount) * m_lineGap);
+    d->stepCount = quotient(toInt(double((d->freqEnd - d->freqStart) * 100.0F)),
+                            toInt(double(d->freqStep * 100.0F)));
+    d->maxScrollX = width() / 2;
+    d->minScrollX = saturated(width() / 2 - qint64(d->stepCount) * d->lineGap);
 }
 
 /** Whether the scale reaches this frequency, in display units. */
 bool MRadioSlider::isValidFreq(float freq)
 {
-    return m_freqStart <= freq && freq <= m_freqEnd;
+    return d->freqStart <= freq && freq <= d->freqEnd;
 }
 
 void MRadioSlider::paintEvent(QPaintEvent *e)
 {
-    const Look now = look();
-    if (!m_look || m_look->inputs != now.inputs)
-        layOut(now);
+    const Private::Look now = d->look();
+    if (!d->drawnLook || d->drawnLook->inputs != now.inputs)
+        d->layOut(now);
     QPainter painter(this);
-    painter.setFont(m_font);
-    m_picture->draw(painter, e ? e->rect() : rect(), m_lineColor);
-    drawIndicator(painter);
+    painter.setFont(d->font);
+    d->picture.draw(painter, e ? e->rect() : rect(), d->lineColor);
+    d->drawIndicator(painter);
 }
 
 /** A press only marks where a drag starts. */
 void MRadioSlider::mousePressEvent(QMouseEvent *e)
 {
     if (e)
-        m_pressPoint = e->pos();
+        d->pressPoint = e->pos();
 }
 
 /**
@@ -240,25 +367,25 @@ void MRadioSlider::mouseMoveEvent(QMouseEvent *e)
         return;
     const QMessageLogger log("src/mradioslider", __LINE__,
                              "virtual void MRadioSlider::mouseMoveEvent(QMouseEvent*)");
-    log.debug() << "pressPoint.x():" << m_pressPoint.x();
+    log.debug() << "pressPoint.x():" << d->pressPoint.x();
     log.debug() << "curPoint.x():" << e->pos().x();
-    const qint64 way = qint64(e->pos().x()) - m_pressPoint.x();
-    m_pressPoint = e->pos();
+    const qint64 way = qint64(e->pos().x()) - d->pressPoint.x();
+    d->pressPoint = e->pos();
 
-    m_scrollX = saturated(m_scrollX + way);
-    if (m_scrollX < m_minScrollX)
-        m_scrollX = m_minScrollX;
-    else if (m_scrollX > m_maxScrollX)
-        m_scrollX = m_maxScrollX;
-    const int steps = quotient(saturated(qint64(width() / 2) - m_scrollX), m_lineGap);
-    m_curFreq = m_freqStart + m_freqStep * float(steps);
+    d->scrollX = saturated(d->scrollX + way);
+    if (d->scrollX < d->minScrollX)
+        d->scrollX = d->minScrollX;
+    else if (d->scrollX > d->maxScrollX)
+        d->scrollX = d->maxScrollX;
+    const int steps = quotient(saturated(qint64(width() / 2) - d->scrollX), d->lineGap);
+    d->curFreq = d->freqStart + d->freqStep * float(steps);
     update();
 }
 
 /** Every release reports the tuned frequency, dragged or not: for FM in hundredths. */
 void MRadioSlider::mouseReleaseEvent(QMouseEvent *)
 {
-    emit freqChangedSgl(m_isFM ? m_curFreq * 100.0F : m_curFreq);
+    emit freqChangedSgl(d->isFM ? d->curFreq * 100.0F : d->curFreq);
 }
 
 /** A band from the tuner, in display units. The scale stays where it is, and tuned as it is. */
@@ -275,12 +402,12 @@ void MRadioSlider::freqParamChangedSlot(bool isFM, float freqMin, float freqMax,
 /** Tunes from outside: for FM in hundredths, for AM in display units. */
 void MRadioSlider::curFreqChangedSlot(float freq)
 {
-    setCurFreq(m_isFM ? freq / 100.0F : freq);
+    setCurFreq(d->isFM ? freq / 100.0F : freq);
 }
 
 int MRadioSlider::wholeFreqStart() const
 {
-    return toInt(double(m_freqStart));
+    return toInt(double(d->freqStart));
 }
 
 void MRadioSlider::setWholeFreqStart(int freq)
@@ -290,7 +417,7 @@ void MRadioSlider::setWholeFreqStart(int freq)
 
 int MRadioSlider::wholeFreqEnd() const
 {
-    return toInt(double(m_freqEnd));
+    return toInt(double(d->freqEnd));
 }
 
 void MRadioSlider::setWholeFreqEnd(int freq)
@@ -300,7 +427,7 @@ void MRadioSlider::setWholeFreqEnd(int freq)
 
 int MRadioSlider::wholeFreqStep() const
 {
-    return toInt(double(m_freqStep));
+    return toInt(double(d->freqStep));
 }
 
 void MRadioSlider::setWholeFreqStep(int step)
@@ -310,7 +437,7 @@ void MRadioSlider::setWholeFreqStep(int step)
 
 int MRadioSlider::wholeCurFreq() const
 {
-    return toInt(double(m_curFreq));
+    return toInt(double(d->curFreq));
 }
 
 void MRadioSlider::setWholeCurFreq(int freq)
@@ -318,66 +445,66 @@ void MRadioSlider::setWholeCurFreq(int freq)
     setCurFreq(float(freq));
 }
 
-MRadioSlider::Look MRadioSlider::look() const
+MRadioSlider::Private::Look MRadioSlider::Private::look() const
 {
-    return {{size(), m_scrollX, m_stepCount, m_lineH, m_lineGap, m_freqStart, m_freqStep, m_isFM,
-             m_scaleMode, m_textPosition, m_textMarginY, m_scaleMarginY}};
+    return {{q->size(), scrollX, stepCount, lineH, lineGap, freqStart, freqStep, isFM, scaleMode,
+             textPosition, textMarginY, scaleMarginY}};
 }
 
-void MRadioSlider::layOut(const Look &look)
+void MRadioSlider::Private::layOut(const Look &look)
 {
-    m_look = std::make_unique<Look>(look);
-    m_picture->clear(size());
-    const Counts visible = visibleCounts(m_stepCount, m_scrollX, m_lineGap, width());
+    drawnLook = std::make_unique<Look>(look);
+    picture.clear(q->size());
+    const Counts visible = visibleCounts(stepCount, scrollX, lineGap, q->width());
     for (qint64 i = visible.first; i <= visible.last; ++i)
-        addTick(int(i), saturated(m_scrollX + i * m_lineGap));
+        addTick(int(i), saturated(scrollX + i * lineGap));
 }
 
 // AlignCenter is AlignBottom with the shorter ticks raised. The multiply-add is a fused one,
 // without which some frequencies would miss their tick kind on one processor and not on another.
-void MRadioSlider::addTick(int count, int x)
+void MRadioSlider::Private::addTick(int count, int x)
 {
-    const float freq = std::fma(float(count), m_freqStep, m_freqStart);
-    const TickKind kind = kindOf(freq, m_isFM);
+    const float freq = std::fma(float(count), freqStep, freqStart);
+    const TickKind kind = kindOf(freq, isFM);
     const qint64 base = tickBase();
-    const qint64 length = qint64(m_lineH) * (kind == Major ? 3 : kind == Middle ? 2 : 1);
-    if (m_scaleMode == AlignTop) {
-        m_picture->addLine(ScalePicture::Solid, x, saturated(base), saturated(base + length));
+    const qint64 length = qint64(lineH) * (kind == Major ? 3 : kind == Middle ? 2 : 1);
+    if (scaleMode == AlignTop) {
+        picture.addLine(ScalePicture::Solid, x, saturated(base), saturated(base + length));
     } else {
-        const int raised = kind == Major ? 0 : kind == Middle ? m_lineH / 2 : m_lineH;
-        const qint64 foot = m_scaleMode == AlignCenter ? base - raised : base;
-        m_picture->addLine(ScalePicture::Solid, x, saturated(foot), saturated(foot - length));
+        const int raised = kind == Major ? 0 : kind == Middle ? lineH / 2 : lineH;
+        const qint64 foot = scaleMode == AlignCenter ? base - raised : base;
+        picture.addLine(ScalePicture::Solid, x, saturated(foot), saturated(foot - length));
     }
     if (kind == Major) {
         const int halfLabel = kLabelWidth / 2;
         const QRectF box(qreal(x) - qreal(halfLabel), qreal(labelTop()), kLabelWidth, kLabelHeight);
-        m_picture->addLabel(box, double(freq), written);
+        picture.addLabel(box, double(freq), written);
     }
 }
 
-int MRadioSlider::tickBase() const
+int MRadioSlider::Private::tickBase() const
 {
-    const qint64 beforeText = qint64(height()) - 1 + m_scaleMarginY;
-    const qint64 text = qint64(kLabelHeight) + m_textMarginY;
-    if (m_scaleMode == AlignTop)
-        return saturated(m_scaleMarginY + (m_textPosition == TextTop ? text : 0));
-    return saturated(m_textPosition == TextTop ? beforeText
-                                               : beforeText - kLabelHeight + m_textMarginY);
+    const qint64 beforeText = qint64(q->height()) - 1 + scaleMarginY;
+    const qint64 text = qint64(kLabelHeight) + textMarginY;
+    if (scaleMode == AlignTop)
+        return saturated(scaleMarginY + (textPosition == TextTop ? text : 0));
+    return saturated(textPosition == TextTop ? beforeText
+                                             : beforeText - kLabelHeight + textMarginY);
 }
 
-int MRadioSlider::labelTop() const
+int MRadioSlider::Private::labelTop() const
 {
-    if (m_textPosition == TextTop)
-        return m_textMarginY;
-    return saturated(qint64(height()) - 1 - kLabelHeight + m_textMarginY);
+    if (textPosition == TextTop)
+        return textMarginY;
+    return saturated(qint64(q->height()) - 1 - kLabelHeight + textMarginY);
 }
 
-void MRadioSlider::drawIndicator(QPainter &painter) const
+void MRadioSlider::Private::drawIndicator(QPainter &painter) const
 {
-    const QSize size = m_indicatePix.size();
-    const int left = (width() - size.width()) / 2;
-    const int top = saturated(qint64((height() - size.height()) / 2) + m_pointMarginY);
+    const QSize size = indicatePix.size();
+    const int left = (q->width() - size.width()) / 2;
+    const int top = saturated(qint64((q->height() - size.height()) / 2) + pointMarginY);
     const QRectF target({qreal(left), qreal(top)}, QSizeF(size));
-    if (target.intersects(QRectF(rect())))
-        painter.drawPixmap(target, m_indicatePix, QRectF());
+    if (target.intersects(QRectF(q->rect())))
+        painter.drawPixmap(target, indicatePix, QRectF());
 }

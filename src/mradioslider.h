@@ -6,15 +6,9 @@
 #include <QColor>
 #include <QFont>
 #include <QPixmap>
-#include <QPoint>
 #include <QWidget>
 
 #include <memory>
-
-namespace panelkit
-{
-class ScalePicture;
-} // namespace panelkit
 
 /**
  * A tuner whose scale is dragged sideways under a fixed indicator. The frequency under the middle
@@ -64,39 +58,39 @@ public:
     explicit MRadioSlider(QWidget *parent = nullptr);
     ~MRadioSlider() override;
 
-    QPixmap getIndicatePix() const { return m_indicatePix; }
+    QPixmap getIndicatePix() const;
     void setIndicatePix(const QPixmap &pixmap);
-    QColor getLineColor() const { return m_lineColor; }
+    QColor getLineColor() const;
     void setLineColor(const QColor &color);
-    QFont getFont() const { return m_font; }
+    QFont getFont() const;
     void setFont(const QFont &font);
-    int getLineH() const { return m_lineH; }
+    int getLineH() const;
     void setLineH(int height);
-    int getLineW() const { return m_lineW; }
+    int getLineW() const;
     void setLineW(int width);
-    int getLineGap() const { return m_lineGap; }
+    int getLineGap() const;
     void setLineGap(int gap);
-    float getFreqStart() const { return m_freqStart; }
+    float getFreqStart() const;
     void setFreqStart(float freq);
-    float getFreqEnd() const { return m_freqEnd; }
+    float getFreqEnd() const;
     void setFreqEnd(float freq);
-    float getFreqStep() const { return m_freqStep; }
+    float getFreqStep() const;
     void setFreqStep(float step);
-    float getCurFreq() const { return m_curFreq; }
+    float getCurFreq() const;
     void setCurFreq(float freq);
-    bool getIsFM() const { return m_isFM; }
+    bool getIsFM() const;
     void setIsFM(bool isFM);
-    int marginY() const { return m_marginY; }
+    int marginY() const;
     void setMarginY(int margin);
-    ScaleAlignmentMode scaleAlign() const { return m_scaleMode; }
+    ScaleAlignmentMode scaleAlign() const;
     void setScaleAlign(const ScaleAlignmentMode &mode);
-    TextPosition getTextPosition() const { return m_textPosition; }
+    TextPosition getTextPosition() const;
     void setTextPosition(const TextPosition &position);
-    int getTextMarginY() const { return m_textMarginY; }
+    int getTextMarginY() const;
     void setTextMarginY(int margin);
-    int getScaleMarginY() const { return m_scaleMarginY; }
+    int getScaleMarginY() const;
     void setScaleMarginY(int margin);
-    int getPointMarginY() const { return m_pointMarginY; }
+    int getPointMarginY() const;
     void setPointMarginY(int margin);
 
     void initSliderRange();
@@ -116,8 +110,6 @@ private slots:
     void curFreqChangedSlot(float freq);
 
 private:
-    struct Look;
-
     int wholeFreqStart() const;
     void setWholeFreqStart(int freq);
     int wholeFreqEnd() const;
@@ -127,38 +119,8 @@ private:
     int wholeCurFreq() const;
     void setWholeCurFreq(int freq);
 
-    Look look() const;
-    void layOut(const Look &look);
-    void addTick(int count, int x);
-    int tickBase() const;
-    int labelTop() const;
-    void drawIndicator(QPainter &painter) const;
-
-    QPixmap m_indicatePix;
-    QColor m_lineColor;
-    QFont m_font;
-    QPoint m_pressPoint; // of the press or the last move
-    int m_scrollX = 0; // px, x of the tick of freqStart
-    int m_minScrollX = 0; // px
-    int m_maxScrollX = 0; // px
-    int m_stepCount = 0;
-    int m_lineH = 8; // px, of a minor tick
-    int m_lineW = 1; // px, without effect
-    int m_lineGap = 5; // px from tick to tick
-    float m_freqStart = 87.5F;
-    float m_freqEnd = 108.0F;
-    float m_freqStep = 0.1F;
-    bool m_isFM = true;
-    int m_marginY = 0; // px, without effect
-    ScaleAlignmentMode m_scaleMode = AlignBottom;
-    TextPosition m_textPosition = TextBottom;
-    int m_textMarginY = 0; // px
-    int m_scaleMarginY = 0; // px
-    int m_pointMarginY = 0; // px
-    float m_curFreq = m_freqStart;
-
-    std::unique_ptr<Look> m_look; // of the kept picture
-    std::unique_ptr<panelkit::ScalePicture> m_picture;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 #endif // MRADIOSLIDER_H

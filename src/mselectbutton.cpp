@@ -9,7 +9,9 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPoint>
 #include <QPointer>
+#include <QSize>
 #include <QTimerEvent>
 
 using namespace panelkit;
@@ -22,14 +24,53 @@ constexpr int kSlideSlop = 10; // px; a finger that went farther on either axis 
 
 } // namespace
 
+class Q_DECL_HIDDEN MSelectButton::Private
+{
+public:
+    explicit Private(MSelectButton *widget) : q(widget) { }
+
+    bool isActive() const;
+    void endTiming();
+    const QPixmap &shownImage() const;
+    QColor shownTextColor() const;
+    void drawPicture(QPainter &painter) const;
+    void drawCaption(QPainter &painter) const;
+
+    MSelectButton *const q;
+    QPixmap normalImage;
+    QPixmap pressImage;
+    QPixmap selectImage;
+    QPixmap disableImage;
+    QString displayText;
+    QColor normalTextColor{255, 255, 255};
+    QColor pressTextColor{255, 255, 255};
+    QColor selectTextColor{255, 255, 255};
+    QColor disableTextColor{255, 255, 255};
+    QSize imageSize;
+    QRect displayTextRect;
+    QString buttonID = QStringLiteral("MSelectButton_ID");
+    int timerId = 0; // 0: no press is timed
+    bool longPressed = false;
+    bool isPressed = false;
+    bool selectState = false;
+    bool disableState = false;
+    QPoint pressPoint;
+
+    mutable ImageLook look;
+    mutable KeptText caption;
+};
+
 /** A button without pictures and caption: it paints nothing until it is given some. */
-MSelectButton::MSelectButton(QWidget *parent)
-    : QWidget(parent), m_look(std::make_unique<ImageLook>()),
-      m_caption(std::make_unique<KeptText>())
+MSelectButton::MSelectButton(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
 {
 }
 
 MSelectButton::~MSelectButton() = default;
+
+QPixmap MSelectButton::normalImage() const
+{
+    return d->normalImage;
+}
 
 /**
  * The picture shown normally. Its size becomes the size into which every picture is stretched, and
@@ -39,88 +80,148 @@ MSelectButton::~MSelectButton() = default;
  */
 void MSelectButton::setNormalImage(const QPixmap &image)
 {
-    m_normalImage = image;
+    d->normalImage = image;
     if (image.isNull())
         return;
-    m_imageSize = image.size();
-    setMinimumSize(m_imageSize);
+    d->imageSize = image.size();
+    setMinimumSize(d->imageSize);
     update();
+}
+
+QPixmap MSelectButton::pressImage() const
+{
+    return d->pressImage;
 }
 
 /** The picture shown while pressed; without it there is none. Repaints. */
 void MSelectButton::setPressImage(const QPixmap &image)
 {
-    m_pressImage = image;
+    d->pressImage = image;
     update();
+}
+
+QPixmap MSelectButton::selectImage() const
+{
+    return d->selectImage;
 }
 
 /** The picture shown while selected; without it there is none. Repaints. */
 void MSelectButton::setSelectImage(const QPixmap &image)
 {
-    m_selectImage = image;
+    d->selectImage = image;
     update();
+}
+
+QPixmap MSelectButton::disableImage() const
+{
+    return d->disableImage;
 }
 
 /** The picture shown while disabled; without it the normal one stays. Repaints. */
 void MSelectButton::setDisableImage(const QPixmap &image)
 {
-    m_disableImage = image;
+    d->disableImage = image;
     update();
+}
+
+QString MSelectButton::displayText() const
+{
+    return d->displayText;
 }
 
 /** The caption. It is neither shortened nor wrapped. Repaints. */
 void MSelectButton::setDisplayText(const QString &text)
 {
-    m_displayText = text;
+    d->displayText = text;
     update();
+}
+
+QColor MSelectButton::normalTextColor() const
+{
+    return d->normalTextColor;
 }
 
 /** The colour of the caption normally; white by default. Repaints. */
 void MSelectButton::setNormalTextColor(const QColor &color)
 {
-    m_normalTextColor = color;
+    d->normalTextColor = color;
     update();
+}
+
+QColor MSelectButton::pressTextColor() const
+{
+    return d->pressTextColor;
 }
 
 /** The colour of the caption while pressed and not selected; white by default. Repaints. */
 void MSelectButton::setPressTextColor(const QColor &color)
 {
-    m_pressTextColor = color;
+    d->pressTextColor = color;
     update();
+}
+
+QColor MSelectButton::selectTextColor() const
+{
+    return d->selectTextColor;
 }
 
 /** The colour of the caption while selected, pressed or not; white by default. Repaints. */
 void MSelectButton::setSelectTextColor(const QColor &color)
 {
-    m_selectTextColor = color;
+    d->selectTextColor = color;
     update();
+}
+
+QColor MSelectButton::disableTextColor() const
+{
+    return d->disableTextColor;
 }
 
 /** The colour of the caption while disabled; white by default. Repaints. */
 void MSelectButton::setDisableTextColor(const QColor &color)
 {
-    m_disableTextColor = color;
+    d->disableTextColor = color;
     update();
+}
+
+QRect MSelectButton::displayTextRect() const
+{
+    return d->displayTextRect;
 }
 
 /** Where the caption is centred; one that is not valid is the whole widget. Repaints. */
 void MSelectButton::setdisplayTextRect(const QRect &rect)
 {
-    m_displayTextRect = rect;
+    d->displayTextRect = rect;
     update();
+}
+
+QString MSelectButton::buttonID() const
+{
+    return d->buttonID;
 }
 
 /** The text that either signal carries; "MSelectButton_ID" by default. Stored only. */
 void MSelectButton::setButtonID(const QString &id)
 {
-    m_buttonID = id;
+    d->buttonID = id;
+}
+
+bool MSelectButton::selectState() const
+{
+    return d->selectState;
 }
 
 /** Sets the selected look, without a signal. Repaints. */
 void MSelectButton::setSelectState(const bool &selected)
 {
-    m_selectState = selected;
+    d->selectState = selected;
     update();
+}
+
+bool MSelectButton::disableState() const
+{
+    return d->disableState;
 }
 
 /**
@@ -129,7 +230,7 @@ void MSelectButton::setSelectState(const bool &selected)
  */
 void MSelectButton::setDisableState(const bool &disabled)
 {
-    m_disableState = disabled;
+    d->disableState = disabled;
     update();
 }
 
@@ -144,8 +245,8 @@ void MSelectButton::setFontSize(int px)
 void MSelectButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    drawPicture(painter);
-    drawCaption(painter);
+    d->drawPicture(painter);
+    d->drawCaption(painter);
 }
 
 /**
@@ -156,15 +257,15 @@ void MSelectButton::mousePressEvent(QMouseEvent *e)
 {
     if (!e)
         return;
-    if (isActive()) {
+    if (d->isActive()) {
         postKeyRequest(this, kBeepRequest);
-        m_longPressed = false;
-        endTiming();
-        m_timerId = startTimer(kLongPress);
-        m_isPressed = true;
+        d->longPressed = false;
+        d->endTiming();
+        d->timerId = startTimer(kLongPress);
+        d->isPressed = true;
         update();
     }
-    m_pressPoint = e->pos();
+    d->pressPoint = e->pos();
     QWidget::mousePressEvent(e);
 }
 
@@ -177,12 +278,12 @@ void MSelectButton::mouseMoveEvent(QMouseEvent *e)
 {
     if (!e)
         return;
-    const bool isAway = distance(e->x(), m_pressPoint.x()) > kSlideSlop
-        || distance(e->y(), m_pressPoint.y()) > kSlideSlop;
+    const bool isAway = distance(e->x(), d->pressPoint.x()) > kSlideSlop
+        || distance(e->y(), d->pressPoint.y()) > kSlideSlop;
     if (isAway) {
-        endTiming();
-        if (m_isPressed) {
-            m_isPressed = false;
+        d->endTiming();
+        if (d->isPressed) {
+            d->isPressed = false;
             update();
         }
     }
@@ -198,75 +299,75 @@ void MSelectButton::mouseReleaseEvent(QMouseEvent *e)
     if (!e)
         return;
     const QPointer<MSelectButton> guard(this);
-    if (isActive()) {
-        if (!m_longPressed && m_isPressed) {
-            emit btnClicked(m_buttonID);
+    if (d->isActive()) {
+        if (!d->longPressed && d->isPressed) {
+            emit btnClicked(d->buttonID);
             if (!guard)
                 return;
         }
         update();
     }
-    endTiming();
-    m_longPressed = false;
-    m_isPressed = false;
+    d->endTiming();
+    d->longPressed = false;
+    d->isPressed = false;
     QWidget::mouseReleaseEvent(e);
 }
 
 /** A long press, if the finger is still there. */
 void MSelectButton::timerEvent(QTimerEvent *e)
 {
-    if (!e || e->timerId() != m_timerId)
+    if (!e || e->timerId() != d->timerId)
         return;
-    endTiming();
-    m_longPressed = true;
-    if (m_isPressed)
-        emit btnLongClicked(m_buttonID);
+    d->endTiming();
+    d->longPressed = true;
+    if (d->isPressed)
+        emit btnLongClicked(d->buttonID);
 }
 
-bool MSelectButton::isActive() const
+bool MSelectButton::Private::isActive() const
 {
-    return !m_disableState && isEnabled();
+    return !disableState && q->isEnabled();
 }
 
-void MSelectButton::endTiming()
+void MSelectButton::Private::endTiming()
 {
-    if (m_timerId == 0)
+    if (timerId == 0)
         return;
-    killTimer(m_timerId);
-    m_timerId = 0;
+    q->killTimer(timerId);
+    timerId = 0;
 }
 
-const QPixmap &MSelectButton::shownImage() const
+const QPixmap &MSelectButton::Private::shownImage() const
 {
     if (!isActive())
-        return m_disableImage.isNull() ? m_normalImage : m_disableImage;
-    if (m_isPressed)
-        return m_pressImage;
-    return m_selectState ? m_selectImage : m_normalImage;
+        return disableImage.isNull() ? normalImage : disableImage;
+    if (isPressed)
+        return pressImage;
+    return selectState ? selectImage : normalImage;
 }
 
 // Being selected goes before being pressed here, and after it for the picture, on purpose: a
 // selected caption keeps its colour under the finger.
-QColor MSelectButton::shownTextColor() const
+QColor MSelectButton::Private::shownTextColor() const
 {
     if (!isActive())
-        return m_disableTextColor;
-    if (m_selectState)
-        return m_selectTextColor;
-    return m_isPressed ? m_pressTextColor : m_normalTextColor;
+        return disableTextColor;
+    if (selectState)
+        return selectTextColor;
+    return isPressed ? pressTextColor : normalTextColor;
 }
 
-void MSelectButton::drawPicture(QPainter &painter) const
+void MSelectButton::Private::drawPicture(QPainter &painter) const
 {
     const QPixmap &image = shownImage();
     if (!image.isNull())
-        m_look->drawScaled(painter, centredTowardZero(m_imageSize, rect()), image);
+        look.drawScaled(painter, centredTowardZero(imageSize, q->rect()), image);
 }
 
-void MSelectButton::drawCaption(QPainter &painter) const
+void MSelectButton::Private::drawCaption(QPainter &painter) const
 {
-    if (m_displayText.isEmpty())
+    if (displayText.isEmpty())
         return;
     painter.setPen(shownTextColor());
-    m_caption->draw(painter, boundedOr(m_displayTextRect, rect()), Qt::AlignCenter, m_displayText);
+    caption.draw(painter, boundedOr(displayTextRect, q->rect()), Qt::AlignCenter, displayText);
 }

@@ -5,19 +5,11 @@
 
 #include <QColor>
 #include <QPixmap>
-#include <QPoint>
 #include <QRect>
-#include <QSize>
 #include <QString>
 #include <QWidget>
 
 #include <memory>
-
-namespace panelkit
-{
-class ImageLook;
-class KeptText;
-} // namespace panelkit
 
 /**
  * A pictured button that can be selected, with a caption in a colour for each look.
@@ -46,32 +38,32 @@ public:
     explicit MSelectButton(QWidget *parent = nullptr);
     ~MSelectButton() override;
 
-    QPixmap normalImage() const { return m_normalImage; }
+    QPixmap normalImage() const;
     void setNormalImage(const QPixmap &image);
-    QPixmap pressImage() const { return m_pressImage; }
+    QPixmap pressImage() const;
     void setPressImage(const QPixmap &image);
-    QPixmap selectImage() const { return m_selectImage; }
+    QPixmap selectImage() const;
     void setSelectImage(const QPixmap &image);
-    QPixmap disableImage() const { return m_disableImage; }
+    QPixmap disableImage() const;
     void setDisableImage(const QPixmap &image);
-    QString displayText() const { return m_displayText; }
+    QString displayText() const;
     void setDisplayText(const QString &text);
-    QColor normalTextColor() const { return m_normalTextColor; }
+    QColor normalTextColor() const;
     void setNormalTextColor(const QColor &color);
-    QColor pressTextColor() const { return m_pressTextColor; }
+    QColor pressTextColor() const;
     void setPressTextColor(const QColor &color);
-    QColor selectTextColor() const { return m_selectTextColor; }
+    QColor selectTextColor() const;
     void setSelectTextColor(const QColor &color);
-    QColor disableTextColor() const { return m_disableTextColor; }
+    QColor disableTextColor() const;
     void setDisableTextColor(const QColor &color);
-    QRect displayTextRect() const { return m_displayTextRect; }
+    QRect displayTextRect() const;
     void setdisplayTextRect(const QRect &rect);
-    QString buttonID() const { return m_buttonID; }
+    QString buttonID() const;
     void setButtonID(const QString &id);
 
-    bool selectState() const { return m_selectState; }
+    bool selectState() const;
     void setSelectState(const bool &selected);
-    bool disableState() const { return m_disableState; }
+    bool disableState() const;
     void setDisableState(const bool &disabled);
     void setFontSize(int px);
 
@@ -87,34 +79,8 @@ protected:
     void timerEvent(QTimerEvent *e) override;
 
 private:
-    bool isActive() const;
-    void endTiming();
-    const QPixmap &shownImage() const;
-    QColor shownTextColor() const;
-    void drawPicture(QPainter &painter) const;
-    void drawCaption(QPainter &painter) const;
-
-    QPixmap m_normalImage;
-    QPixmap m_pressImage;
-    QPixmap m_selectImage;
-    QPixmap m_disableImage;
-    QString m_displayText;
-    QColor m_normalTextColor{255, 255, 255};
-    QColor m_pressTextColor{255, 255, 255};
-    QColor m_selectTextColor{255, 255, 255};
-    QColor m_disableTextColor{255, 255, 255};
-    QSize m_imageSize;
-    QRect m_displayTextRect;
-    QString m_buttonID = QStringLiteral("MSelectButton_ID");
-    int m_timerId = 0; // 0: no press is timed
-    bool m_longPressed = false;
-    bool m_isPressed = false;
-    bool m_selectState = false;
-    bool m_disableState = false;
-    QPoint m_pressPoint;
-
-    std::unique_ptr<panelkit::ImageLook> m_look;
-    std::unique_ptr<panelkit::KeptText> m_caption;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 #endif // MSELECTBUTTON_H

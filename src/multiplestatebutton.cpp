@@ -4,7 +4,10 @@
 #include "detail/imagefile.h"
 
 #include <QGraphicsOpacityEffect>
+#include <QList>
 #include <QPainter>
+#include <QPixmap>
+#include <QPointer>
 
 using namespace panelkit;
 
@@ -16,6 +19,21 @@ constexpr qreal kDimmed = 0.5; // opacity while disabled
 
 } // namespace
 
+class Q_DECL_HIDDEN MultipleStateButton::Private
+{
+public:
+    QPixmap stateImage() const;
+
+    QList<QPixmap> normalImages; // one for each state
+    QList<QPixmap> pressImages; // one for each state
+    QPixmap background;
+    int buttonId = 0;
+    int buttonValue = 0; // the state
+    bool pressed = false;
+    bool disabled = false;
+    QPointer<QGraphicsOpacityEffect> opacity; // gone once another effect is installed
+};
+
 /**
  * A button with its top left at (x, y) in the parent. It is as large as the background or, without
  * one, as the first normal picture; without either it has no size. `id` is what clicked carries.
@@ -26,19 +44,33 @@ constexpr qreal kDimmed = 0.5; // opacity while disabled
 MultipleStateButton::MultipleStateButton(int x, int y, int id, QStringList normalPaths,
                                          QStringList pressPaths, QString backgroundPath,
                                          QWidget *parent)
-    : QWidget(parent), m_background(pixmapFromFile(backgroundPath)), m_buttonId(id),
-      m_disabled(normalPaths.isEmpty() || normalPaths.size() != pressPaths.size()),
-      m_opacity(new QGraphicsOpacityEffect(this))
+    : QWidget(parent), d(std::make_unique<Private>())
 {
+    d->background = pixmapFromFile(backgroundPath);
+    d->buttonId = id;
+    d->disabled = normalPaths.isEmpty() || normalPaths.size() != pressPaths.size();
+    d->opacity = new QGraphicsOpacityEffect(this);
     for (int i = 0; i < normalPaths.size(); ++i) {
-        m_normalImages += pixmapFromFile(normalPaths.at(i));
-        m_pressImages += pixmapFromFile(pressPaths.value(i));
-        if (m_normalImages.last().isNull() || m_pressImages.last().isNull())
-            m_disabled = true;
+        d->normalImages += pixmapFromFile(normalPaths.at(i));
+        d->pressImages += pixmapFromFile(pressPaths.value(i));
+        if (d->normalImages.last().isNull() || d->pressImages.last().isNull())
+            d->disabled = true;
     }
-    const QPixmap &sized = m_background.isNull() ? m_normalImages.value(0) : m_background;
+    const QPixmap &sized = d->background.isNull() ? d->normalImages.value(0) : d->background;
     setGeometry(QRect(QPoint(x, y), sized.size()));
-    setGraphicsEffect(m_opacity);
+    setGraphicsEffect(d->opacity);
+}
+
+MultipleStateButton::~MultipleStateButton() = default;
+
+int MultipleStateButton::getButtonId() const
+{
+    return d->buttonId;
+}
+
+int MultipleStateButton::getButtonValue() const
+{
+    return d->buttonValue;
 }
 
 /**
@@ -48,9 +80,9 @@ MultipleStateButton::MultipleStateButton(int x, int y, int id, QStringList norma
  */
 int MultipleStateButton::setButtonValue(int value)
 {
-    if (value < 1 || value >= m_normalImages.size())
+    if (value < 1 || value >= d->normalImages.size())
         return kRefused;
-    m_buttonValue = value;
+    d->buttonValue = value;
     return 0;
 }
 
@@ -60,7 +92,7 @@ int MultipleStateButton::setButtonValue(int value)
  */
 int MultipleStateButton::setButtonDisable(bool disabled)
 {
-    m_disabled = disabled;
+    d->disabled = disabled;
     return 0;
 }
 
@@ -71,35 +103,35 @@ int MultipleStateButton::setButtonDisable(bool disabled)
 void MultipleStateButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.drawPixmap(0, 0, m_background);
-    const QPixmap image = stateImage();
+    painter.drawPixmap(0, 0, d->background);
+    const QPixmap image = d->stateImage();
     painter.drawPixmap(centredTowardZero(image.size(), rect()).topLeft(), image);
-    if (m_opacity)
-        m_opacity->setOpacity(m_disabled ? kDimmed : qreal(1));
+    if (d->opacity)
+        d->opacity->setOpacity(d->disabled ? kDimmed : qreal(1));
 }
 
 /** A press shows the pressed picture, without a request for a click sound. */
 void MultipleStateButton::mousePressEvent(QMouseEvent *)
 {
-    if (m_disabled)
+    if (d->disabled)
         return;
-    m_pressed = true;
+    d->pressed = true;
     update();
 }
 
 /** A release, wherever it is, steps on to the next state and reports it. */
 void MultipleStateButton::mouseReleaseEvent(QMouseEvent *)
 {
-    if (m_disabled)
+    if (d->disabled)
         return;
-    m_pressed = false;
-    m_buttonValue = m_buttonValue + 1 < m_normalImages.size() ? m_buttonValue + 1 : 0;
+    d->pressed = false;
+    d->buttonValue = d->buttonValue + 1 < d->normalImages.size() ? d->buttonValue + 1 : 0;
     update();
-    emit clicked(m_buttonId, m_buttonValue);
+    emit clicked(d->buttonId, d->buttonValue);
 }
 
-QPixmap MultipleStateButton::stateImage() const
+QPixmap MultipleStateButton::Private::stateImage() const
 {
-    const bool isPressedShown = m_pressed && !m_disabled;
-    return (isPressedShown ? m_pressImages : m_normalImages).value(m_buttonValue);
+    const bool isPressedShown = pressed && !disabled;
+    return (isPressedShown ? pressImages : normalImages).value(buttonValue);
 }

@@ -3,14 +3,11 @@
 
 #include "panelkitglobal.h"
 
-#include <QList>
-#include <QPixmap>
-#include <QPointer>
 #include <QString>
 #include <QStringList>
 #include <QWidget>
 
-class QGraphicsOpacityEffect;
+#include <memory>
 
 /**
  * A small image button that steps through several states, one pair of pictures for each, over an
@@ -28,9 +25,10 @@ class PANELKIT_EXPORT MultipleStateButton : public QWidget
 public:
     MultipleStateButton(int x, int y, int id, QStringList normalPaths, QStringList pressPaths,
                         QString backgroundPath, QWidget *parent = nullptr);
+    ~MultipleStateButton() override;
 
-    int getButtonId() const { return m_buttonId; }
-    int getButtonValue() const { return m_buttonValue; }
+    int getButtonId() const;
+    int getButtonValue() const;
     int setButtonValue(int value);
     int setButtonDisable(bool disabled);
 
@@ -43,16 +41,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent *e) override;
 
 private:
-    QPixmap stateImage() const;
-
-    QList<QPixmap> m_normalImages; // one for each state
-    QList<QPixmap> m_pressImages; // one for each state
-    QPixmap m_background;
-    int m_buttonId;
-    int m_buttonValue = 0; // the state
-    bool m_pressed = false;
-    bool m_disabled = false;
-    QPointer<QGraphicsOpacityEffect> m_opacity; // gone once another effect is installed
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 #endif // MULTIPLESTATEBUTTON_H

@@ -58,25 +58,60 @@ Wrapped wrapped(const QByteArray &text, int width, const QFontMetrics &metrics)
 
 } // namespace
 
+class Q_DECL_HIDDEN MVScrollLabel::Private
+{
+public:
+    explicit Private(MVScrollLabel *widget) : q(widget) { }
+
+    void endTimer();
+    void pushTo(const QPoint &pos);
+
+    MVScrollLabel *const q;
+    int scrollOffset = 0; // px
+    int timerId = 0; // 0: none; kept when a hidden label's timer ends
+    int cycleHeight = 0; // px, after which the text repeats
+    QString buttonID = QStringLiteral("ID_MVScrollLabel");
+    int scrollSpeed = 50; // ms for each px
+    bool isScrolling = false;
+    QPoint lastTouch;
+    bool isTicking = false; // the timer of the id runs
+    KeptLines lines;
+};
+
 /** An empty label. */
 MVScrollLabel::MVScrollLabel(QWidget *parent, Qt::WindowFlags flags)
-    : QLabel(parent, flags), m_lines(std::make_unique<KeptLines>())
+    : QLabel(parent, flags), d(std::make_unique<Private>(this))
 {
     connect(this, SIGNAL(currentTextChanged()), this, SLOT(metrics()));
 }
 
 MVScrollLabel::~MVScrollLabel() = default;
 
+QString MVScrollLabel::buttonID() const
+{
+    return d->buttonID;
+}
+
 /** A text for the application's own use; "ID_MVScrollLabel" by default. Stored only. */
 void MVScrollLabel::setButtonID(const QString &id)
 {
-    m_buttonID = id;
+    d->buttonID = id;
+}
+
+int MVScrollLabel::scrollSpeed() const
+{
+    return d->scrollSpeed;
 }
 
 /** How many ms the text takes for a pixel; 50 by default. It counts when scrolling next starts. */
 void MVScrollLabel::setScrollSpeed(const int &ms)
 {
-    m_scrollSpeed = ms;
+    d->scrollSpeed = ms;
+}
+
+bool MVScrollLabel::isScroll() const
+{
+    return d->isScrolling;
 }
 
 /**
@@ -106,34 +141,34 @@ void MVScrollLabel::setText(QString curText)
  */
 void MVScrollLabel::startScroll()
 {
-    endTimer();
-    m_isTicking = m_scrollSpeed >= 0;
-    m_timerId = m_isTicking ? startTimer(m_scrollSpeed) : 0;
-    m_isScrolling = true;
+    d->endTimer();
+    d->isTicking = d->scrollSpeed >= 0;
+    d->timerId = d->isTicking ? startTimer(d->scrollSpeed) : 0;
+    d->isScrolling = true;
     emit scrollStateChanged(true);
 }
 
 /** Stops scrolling, where it is. */
 void MVScrollLabel::stopScroll()
 {
-    if (m_timerId == 0)
+    if (d->timerId == 0)
         return;
-    endTimer();
-    m_timerId = 0;
-    m_isScrolling = false;
+    d->endTimer();
+    d->timerId = 0;
+    d->isScrolling = false;
     emit scrollStateChanged(false);
 }
 
 /** The text, and again after each cycle; nothing else that a QLabel paints. */
 void MVScrollLabel::paintEvent(QPaintEvent *e)
 {
-    if (m_cycleHeight <= 0)
+    if (d->cycleHeight <= 0)
         return;
     const QRect inSight = e ? e->rect() : rect();
     QPainter painter(this);
-    for (qint64 y = -qint64(m_scrollOffset); y < height(); y += m_cycleHeight) {
-        const QRect place(0, int(y), width(), boundedPixel(m_cycleHeight));
-        m_lines->draw(painter, place, int(alignment()), text(), inSight);
+    for (qint64 y = -qint64(d->scrollOffset); y < height(); y += d->cycleHeight) {
+        const QRect place(0, int(y), width(), boundedPixel(d->cycleHeight));
+        d->lines.draw(painter, place, int(alignment()), text(), inSight);
     }
 }
 
@@ -148,8 +183,8 @@ void MVScrollLabel::showEvent(QShowEvent *)
  */
 void MVScrollLabel::hideEvent(QHideEvent *)
 {
-    m_scrollOffset = 0;
-    endTimer();
+    d->scrollOffset = 0;
+    d->endTimer();
 }
 
 /** A tick of the own timer moves the text up by a pixel. */
@@ -157,13 +192,13 @@ void MVScrollLabel::timerEvent(QTimerEvent *e)
 {
     if (!e)
         return;
-    if (!m_isTicking || e->timerId() != m_timerId) {
+    if (!d->isTicking || e->timerId() != d->timerId) {
         QObject::timerEvent(e); // NOLINT(bugprone-parent-virtual-call): QLabel has no timers
         return;
     }
-    ++m_scrollOffset;
-    if (m_scrollOffset >= m_cycleHeight)
-        m_scrollOffset = 0;
+    ++d->scrollOffset;
+    if (d->scrollOffset >= d->cycleHeight)
+        d->scrollOffset = 0;
     scroll(0, -1);
 }
 
@@ -171,7 +206,7 @@ void MVScrollLabel::mousePressEvent(QMouseEvent *e)
 {
     if (!e)
         return;
-    m_lastTouch = e->pos();
+    d->lastTouch = e->pos();
     QLabel::mousePressEvent(e);
 }
 
@@ -179,8 +214,8 @@ void MVScrollLabel::mouseMoveEvent(QMouseEvent *e)
 {
     if (!e)
         return;
-    pushTo(e->pos());
-    m_lastTouch = e->pos();
+    d->pushTo(e->pos());
+    d->lastTouch = e->pos();
     QLabel::mouseMoveEvent(e);
 }
 
@@ -188,7 +223,7 @@ void MVScrollLabel::mouseReleaseEvent(QMouseEvent *e)
 {
     if (!e)
         return;
-    pushTo(e->pos());
+    d->pushTo(e->pos());
     QLabel::mouseReleaseEvent(e);
 }
 
@@ -198,9 +233,9 @@ void MVScrollLabel::mouseReleaseEvent(QMouseEvent *e)
  */
 void MVScrollLabel::metrics()
 {
-    m_scrollOffset = 0;
+    d->scrollOffset = 0;
     const int textHeight = getHeight();
-    m_cycleHeight = saturated(qint64(textHeight) + height());
+    d->cycleHeight = saturated(qint64(textHeight) + height());
     const QPointer<MVScrollLabel> guard(this);
     if (textHeight <= height())
         stopScroll();
@@ -211,21 +246,21 @@ void MVScrollLabel::metrics()
 }
 
 // The id stays; a second start has no use for the timer of the first.
-void MVScrollLabel::endTimer()
+void MVScrollLabel::Private::endTimer()
 {
-    if (m_isTicking)
-        killTimer(m_timerId);
-    m_isTicking = false;
+    if (isTicking)
+        q->killTimer(timerId);
+    isTicking = false;
 }
 
 // A finger that moves down brings back what has scrolled out at the top, and beyond the start of
 // the text the offset is negative. The pixels on the screen are moved the other way, on purpose:
 // the next full repaint shows the place that the offset says.
-void MVScrollLabel::pushTo(const QPoint &pos)
+void MVScrollLabel::Private::pushTo(const QPoint &pos)
 {
-    const qint64 dy = qint64(pos.y()) - m_lastTouch.y();
-    m_scrollOffset = saturated(m_scrollOffset - dy);
-    if (m_scrollOffset >= m_cycleHeight)
-        m_scrollOffset = 0;
-    scroll(0, boundedPixel(saturated(-dy)));
+    const qint64 dy = qint64(pos.y()) - lastTouch.y();
+    scrollOffset = saturated(scrollOffset - dy);
+    if (scrollOffset >= cycleHeight)
+        scrollOffset = 0;
+    q->scroll(0, boundedPixel(saturated(-dy)));
 }

@@ -4,15 +4,9 @@
 #include "panelkitglobal.h"
 
 #include <QLabel>
-#include <QPoint>
 #include <QString>
 
 #include <memory>
-
-namespace panelkit
-{
-class KeptLines;
-}
 
 /**
  * A text in Latin-1, wrapped to the width of the label between any two characters. If it is higher
@@ -33,12 +27,12 @@ public:
     explicit MVScrollLabel(QWidget *parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags());
     ~MVScrollLabel() override;
 
-    QString buttonID() const { return m_buttonID; }
+    QString buttonID() const;
     void setButtonID(const QString &id);
-    int scrollSpeed() const { return m_scrollSpeed; }
+    int scrollSpeed() const;
     void setScrollSpeed(const int &ms);
 
-    bool isScroll() { return m_isScrolling; }
+    bool isScroll() const;
     int getHeight();
 
 public slots:
@@ -63,18 +57,8 @@ private slots:
     void metrics();
 
 private:
-    void endTimer();
-    void pushTo(const QPoint &pos);
-
-    int m_scrollOffset = 0; // px
-    int m_timerId = 0; // 0: none; kept when a hidden label's timer ends
-    int m_cycleHeight = 0; // px, after which the text repeats
-    QString m_buttonID = QStringLiteral("ID_MVScrollLabel");
-    int m_scrollSpeed = 50; // ms for each px
-    bool m_isScrolling = false;
-    QPoint m_lastTouch;
-    bool m_isTicking = false; // the timer of the id runs
-    std::unique_ptr<panelkit::KeptLines> m_lines;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 #endif // MVSCROLLLABEL_H

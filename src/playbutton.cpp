@@ -4,6 +4,7 @@
 
 #include <QGraphicsOpacityEffect>
 #include <QPainter>
+#include <QPixmap>
 #include <QPointer>
 
 using namespace panelkit;
@@ -16,18 +17,38 @@ constexpr int kOnlyState = 0;
 
 } // namespace
 
+class Q_DECL_HIDDEN PlayButton::Private
+{
+public:
+    QPixmap normalImage;
+    QPixmap pressImage;
+    int buttonId = 0;
+    bool pressed = false;
+    bool disabled = false;
+    QPointer<QGraphicsOpacityEffect> opacity; // gone once another effect is installed
+};
+
 /**
  * A button with its top left at (x, y) in the parent, as large as the normal picture. `id` is what
  * clicked carries. It is disabled if one of the pictures cannot be read.
  */
 PlayButton::PlayButton(int x, int y, int id, QString normalPath, QString pressPath, QWidget *parent)
-    : QWidget(parent), m_normalImage(pixmapFromFile(normalPath)),
-      m_pressImage(pixmapFromFile(pressPath)), m_buttonId(id),
-      m_disabled(m_normalImage.isNull() || m_pressImage.isNull()),
-      m_opacity(new QGraphicsOpacityEffect(this))
+    : QWidget(parent), d(std::make_unique<Private>())
 {
-    setGeometry(QRect(QPoint(x, y), m_normalImage.size()));
-    setGraphicsEffect(m_opacity);
+    d->normalImage = pixmapFromFile(normalPath);
+    d->pressImage = pixmapFromFile(pressPath);
+    d->buttonId = id;
+    d->disabled = d->normalImage.isNull() || d->pressImage.isNull();
+    d->opacity = new QGraphicsOpacityEffect(this);
+    setGeometry(QRect(QPoint(x, y), d->normalImage.size()));
+    setGraphicsEffect(d->opacity);
+}
+
+PlayButton::~PlayButton() = default;
+
+int PlayButton::getButtonId() const
+{
+    return d->buttonId;
 }
 
 /**
@@ -36,35 +57,35 @@ PlayButton::PlayButton(int x, int y, int id, QString normalPath, QString pressPa
  */
 void PlayButton::setButtonDisable(bool disabled)
 {
-    m_disabled = disabled;
+    d->disabled = disabled;
 }
 
 /** The picture, and its opacity, which takes one more paint when it changes. */
 void PlayButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.drawPixmap(0, 0, m_pressed && !m_disabled ? m_pressImage : m_normalImage);
-    if (m_opacity)
-        m_opacity->setOpacity(m_disabled ? kDimmed : qreal(1));
+    painter.drawPixmap(0, 0, d->pressed && !d->disabled ? d->pressImage : d->normalImage);
+    if (d->opacity)
+        d->opacity->setOpacity(d->disabled ? kDimmed : qreal(1));
 }
 
 /** A press shows the pressed picture, without a request for a click sound. */
 void PlayButton::mousePressEvent(QMouseEvent *)
 {
-    if (m_disabled)
+    if (d->disabled)
         return;
-    m_pressed = true;
+    d->pressed = true;
     update();
 }
 
 /** A release, wherever it is, is reported before the normal picture comes back. */
 void PlayButton::mouseReleaseEvent(QMouseEvent *)
 {
-    if (m_disabled)
+    if (d->disabled)
         return;
-    m_pressed = false;
+    d->pressed = false;
     const QPointer<PlayButton> guard(this);
-    emit clicked(m_buttonId, kOnlyState);
+    emit clicked(d->buttonId, kOnlyState);
     if (guard)
         update();
 }

@@ -3,12 +3,10 @@
 
 #include "panelkitglobal.h"
 
-#include <QPixmap>
-#include <QPointer>
 #include <QString>
 #include <QWidget>
 
-class QGraphicsOpacityEffect;
+#include <memory>
 
 /**
  * A plain push button of two pictures, such as play or stop. Everything is told to its constructor:
@@ -25,8 +23,9 @@ class PANELKIT_EXPORT PlayButton : public QWidget
 public:
     PlayButton(int x, int y, int id, QString normalPath, QString pressPath,
                QWidget *parent = nullptr);
+    ~PlayButton() override;
 
-    int getButtonId() const { return m_buttonId; }
+    int getButtonId() const;
     void setButtonDisable(bool disabled);
 
 signals:
@@ -38,12 +37,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent *e) override;
 
 private:
-    QPixmap m_normalImage;
-    QPixmap m_pressImage;
-    int m_buttonId;
-    bool m_pressed = false;
-    bool m_disabled;
-    QPointer<QGraphicsOpacityEffect> m_opacity; // gone once another effect is installed
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 #endif // PLAYBUTTON_H

@@ -9,25 +9,56 @@
 
 using namespace panelkit;
 
+class Q_DECL_HIDDEN SpBackgroundImage::Private
+{
+public:
+    explicit Private(SpBackgroundImage *widget) : q(widget) { }
+
+    QTransform turn() const;
+
+    SpBackgroundImage *const q;
+    QPixmap pixmap;
+    bool holdMouseEvent = false;
+    bool fitPixmapSize = false;
+    int rotateAngle = 0; // degrees
+
+    KeptLayer layer;
+};
+
 /** A backdrop without a picture: it paints nothing until it is given one. */
 SpBackgroundImage::SpBackgroundImage(QWidget *parent)
-    : QWidget(parent), m_layer(std::make_unique<KeptLayer>())
+    : QWidget(parent), d(std::make_unique<Private>(this))
 {
 }
 
 SpBackgroundImage::~SpBackgroundImage() = default;
 
+QPixmap SpBackgroundImage::pixmap() const
+{
+    return d->pixmap;
+}
+
 /** The picture. The size of the widget stays, also with fitPixmapSize. Repaints. */
 void SpBackgroundImage::setPixmap(const QPixmap &pixmap)
 {
-    m_pixmap = pixmap;
+    d->pixmap = pixmap;
     update();
+}
+
+bool SpBackgroundImage::holdMouseEvent() const
+{
+    return d->holdMouseEvent;
 }
 
 /** Whether touches end here instead of going on to the parent; off by default. Stored only. */
 void SpBackgroundImage::setholdMouseEvent(const bool &hold)
 {
-    m_holdMouseEvent = hold;
+    d->holdMouseEvent = hold;
+}
+
+bool SpBackgroundImage::fitPixmapSize() const
+{
+    return d->fitPixmapSize;
 }
 
 /**
@@ -36,20 +67,25 @@ void SpBackgroundImage::setholdMouseEvent(const bool &hold)
  */
 void SpBackgroundImage::setFitPixmapSize(const bool &fit)
 {
-    m_fitPixmapSize = fit;
-    if (!fit || m_pixmap.isNull())
+    d->fitPixmapSize = fit;
+    if (!fit || d->pixmap.isNull())
         return;
-    setFixedSize(m_pixmap.size());
+    setFixedSize(d->pixmap.size());
     update();
 }
 
 /** Has no part in the picture, on purpose: it fills the widget either way. */
 void SpBackgroundImage::setPaintInCenter(bool) { }
 
+int SpBackgroundImage::rotateAngle() const
+{
+    return d->rotateAngle;
+}
+
 /** The angle in degrees, clockwise, by which the picture is turned; 0 by default. Repaints. */
 void SpBackgroundImage::setRotateAngle(const int &degrees)
 {
-    m_rotateAngle = degrees;
+    d->rotateAngle = degrees;
     update();
 }
 
@@ -60,46 +96,46 @@ void SpBackgroundImage::setRotateAngle(const int &degrees)
  */
 void SpBackgroundImage::paintEvent(QPaintEvent *)
 {
-    if (m_pixmap.isNull())
+    if (d->pixmap.isNull())
         return;
     QPainter painter(this);
-    if (m_rotateAngle == 0 && m_pixmap.size() == size() && isOnPixels(painter)) {
-        painter.drawPixmap(rect(), m_pixmap);
+    if (d->rotateAngle == 0 && d->pixmap.size() == size() && isOnPixels(painter)) {
+        painter.drawPixmap(rect(), d->pixmap);
         return;
     }
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    m_layer->draw(painter, turn(), {QRectF(rect()), {}, m_pixmap.cacheKey()},
-                  [this](QPainter &p) { p.drawPixmap(rect(), m_pixmap); });
+    d->layer.draw(painter, d->turn(), {QRectF(rect()), {}, d->pixmap.cacheKey()},
+                  [this](QPainter &p) { p.drawPixmap(rect(), d->pixmap); });
 }
 
 void SpBackgroundImage::mousePressEvent(QMouseEvent *e)
 {
-    if (e && !m_holdMouseEvent)
+    if (e && !d->holdMouseEvent)
         QWidget::mousePressEvent(e);
 }
 
 void SpBackgroundImage::mouseMoveEvent(QMouseEvent *e)
 {
-    if (e && !m_holdMouseEvent)
+    if (e && !d->holdMouseEvent)
         QWidget::mouseMoveEvent(e);
 }
 
 /** Emits releaseSig if touches end here; otherwise they are the parent's, and nobody is told. */
 void SpBackgroundImage::mouseReleaseEvent(QMouseEvent *e)
 {
-    if (m_holdMouseEvent)
+    if (d->holdMouseEvent)
         emit releaseSig();
     else if (e)
         QWidget::mouseReleaseEvent(e);
 }
 
-QTransform SpBackgroundImage::turn() const
+QTransform SpBackgroundImage::Private::turn() const
 {
     QTransform transform;
-    if (m_rotateAngle != 0) {
-        const QPointF middle(QPoint(width() / 2, height() / 2));
+    if (rotateAngle != 0) {
+        const QPointF middle(QPoint(q->width() / 2, q->height() / 2));
         transform.translate(middle.x(), middle.y());
-        transform.rotate(qreal(m_rotateAngle));
+        transform.rotate(qreal(rotateAngle));
         transform.translate(-middle.x(), -middle.y());
     }
     return transform;

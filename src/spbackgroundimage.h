@@ -4,15 +4,9 @@
 #include "panelkitglobal.h"
 
 #include <QPixmap>
-#include <QTransform>
 #include <QWidget>
 
 #include <memory>
-
-namespace panelkit
-{
-class KeptLayer;
-} // namespace panelkit
 
 /**
  * A picture behind other widgets, stretched over the whole widget and turned by any angle about its
@@ -30,15 +24,15 @@ public:
     explicit SpBackgroundImage(QWidget *parent = nullptr);
     ~SpBackgroundImage() override;
 
-    QPixmap pixmap() const { return m_pixmap; }
+    QPixmap pixmap() const;
     void setPixmap(const QPixmap &pixmap);
-    bool holdMouseEvent() const { return m_holdMouseEvent; }
+    bool holdMouseEvent() const;
     void setholdMouseEvent(const bool &hold);
-    bool fitPixmapSize() const { return m_fitPixmapSize; }
+    bool fitPixmapSize() const;
     void setFitPixmapSize(const bool &fit);
 
     void setPaintInCenter(bool inCenter);
-    int rotateAngle() const { return m_rotateAngle; }
+    int rotateAngle() const;
     void setRotateAngle(const int &degrees);
 
 signals:
@@ -51,14 +45,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent *e) override;
 
 private:
-    QTransform turn() const;
-
-    QPixmap m_pixmap;
-    bool m_holdMouseEvent = false;
-    bool m_fitPixmapSize = false;
-    int m_rotateAngle = 0; // degrees
-
-    std::unique_ptr<panelkit::KeptLayer> m_layer;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 #endif // SPBACKGROUNDIMAGE_H

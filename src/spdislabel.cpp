@@ -33,47 +33,109 @@ void keepFromParent(QMouseEvent *e)
 
 } // namespace
 
+class Q_DECL_HIDDEN SpDisLabel::Private
+{
+public:
+    explicit Private(SpDisLabel *widget) : q(widget) { }
+
+    QString shortened(const QString &full) const;
+    void drawGround(QPainter &painter) const;
+    void drawText(QPainter &painter) const;
+    void drawIcon(QPainter &painter) const;
+
+    SpDisLabel *const q;
+    DispalyMode displayMode = String;
+    QColor fontColor{Qt::white};
+    QColor pressFontColor{Qt::white};
+    QColor normalBackgroundColor{0, 0, 0, 0};
+    QColor pressBackgroundColor{0, 0, 0, 0};
+    QString text;
+    QString shownText; // as it is drawn, perhaps shortened
+    QPixmap icon;
+    QSize iconSize{32, 32};
+    int fontSize = 30; // px
+    bool isDown = false;
+    bool isLock = false;
+    bool holdMouseEvent = true;
+    Qt::Alignment alignment = Qt::AlignCenter;
+    bool isBeep = true;
+    int btnID = 0;
+    int roundXY = 0; // px, 0: square
+
+    mutable KeptLayer ground;
+    mutable KeptText caption;
+};
+
 /**
  * A label in String mode. Its text is "text", but it shows none until one is set, on purpose: a
  * label that waits for its content is empty.
  */
-SpDisLabel::SpDisLabel(QWidget *parent)
-    : QWidget(parent), m_text(QObject::tr("text")), m_ground(std::make_unique<KeptLayer>()),
-      m_caption(std::make_unique<KeptText>())
+SpDisLabel::SpDisLabel(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
 {
+    d->text = QObject::tr("text");
 }
 
 SpDisLabel::~SpDisLabel() = default;
 
+SpDisLabel::DispalyMode SpDisLabel::displayMode() const
+{
+    return d->displayMode;
+}
+
 /** What the label shows; String by default. Stored only. With any other value it shows nothing. */
 void SpDisLabel::setDisplayMode(const DispalyMode &mode)
 {
-    m_displayMode = mode;
+    d->displayMode = mode;
+}
+
+QColor SpDisLabel::fontColor() const
+{
+    return d->fontColor;
 }
 
 /** The colour of the text; white by default. Repaints. */
 void SpDisLabel::setFontColor(const QColor &color)
 {
-    m_fontColor = color;
+    d->fontColor = color;
     update();
+}
+
+QColor SpDisLabel::pressFontColor() const
+{
+    return d->pressFontColor;
 }
 
 /** The colour of the text while down; white by default. Stored only. */
 void SpDisLabel::setPressFontColor(const QColor &color)
 {
-    m_pressFontColor = color;
+    d->pressFontColor = color;
+}
+
+QColor SpDisLabel::normalBackgroundColor() const
+{
+    return d->normalBackgroundColor;
 }
 
 /** The colour of the ground; transparent by default. Stored only. */
 void SpDisLabel::setNormalBackgroundColor(const QColor &color)
 {
-    m_normalBackgroundColor = color;
+    d->normalBackgroundColor = color;
+}
+
+QColor SpDisLabel::pressBackgroundColor() const
+{
+    return d->pressBackgroundColor;
 }
 
 /** The colour of the ground while down; transparent by default. Stored only. */
 void SpDisLabel::setPressBackgroundColor(const QColor &color)
 {
-    m_pressBackgroundColor = color;
+    d->pressBackgroundColor = color;
+}
+
+QString SpDisLabel::text() const
+{
+    return d->text;
 }
 
 /**
@@ -82,9 +144,14 @@ void SpDisLabel::setPressBackgroundColor(const QColor &color)
  */
 void SpDisLabel::setText(const QString &text)
 {
-    m_text = text;
-    m_shownText = shortened(text);
+    d->text = text;
+    d->shownText = d->shortened(text);
     update();
+}
+
+QPixmap SpDisLabel::icon() const
+{
+    return d->icon;
 }
 
 /**
@@ -93,12 +160,17 @@ void SpDisLabel::setText(const QString &text)
  */
 void SpDisLabel::setIcon(const QPixmap &icon)
 {
-    m_icon = icon;
+    d->icon = icon;
     if (!icon.isNull()) {
-        m_iconSize = icon.size();
-        setMinimumSize(m_iconSize);
+        d->iconSize = icon.size();
+        setMinimumSize(d->iconSize);
     }
     update();
+}
+
+QSize SpDisLabel::iconSize() const
+{
+    return d->iconSize;
 }
 
 /**
@@ -107,9 +179,14 @@ void SpDisLabel::setIcon(const QPixmap &icon)
  */
 void SpDisLabel::setIconSize(const QSize &size)
 {
-    m_iconSize = size;
+    d->iconSize = size;
     setFixedSize(size.expandedTo({0, 0}).boundedTo({QWIDGETSIZE_MAX, QWIDGETSIZE_MAX}));
     update();
+}
+
+int SpDisLabel::fontSize() const
+{
+    return d->fontSize;
 }
 
 /**
@@ -118,53 +195,88 @@ void SpDisLabel::setIconSize(const QSize &size)
  */
 void SpDisLabel::setFontSize(int px)
 {
-    m_fontSize = px;
+    d->fontSize = px;
     if (px < 1)
         return;
     setFont(resized(font(), px));
 }
 
+bool SpDisLabel::isDown() const
+{
+    return d->isDown;
+}
+
 /** Sets the pressed look, without a signal; this is how a latched label is let go. Repaints. */
 void SpDisLabel::setIsDown(const bool &down)
 {
-    m_isDown = down;
+    d->isDown = down;
     update();
+}
+
+bool SpDisLabel::isLock() const
+{
+    return d->isLock;
 }
 
 /** Makes the label latch: it keeps its pressed look after the release. Stored only. */
 void SpDisLabel::setIsLock(const bool &lock)
 {
-    m_isLock = lock;
+    d->isLock = lock;
+}
+
+bool SpDisLabel::holdMouseEvent() const
+{
+    return d->holdMouseEvent;
 }
 
 /** Whether mouse events end here; on by default. Off, they go on to the parent. Stored only. */
 void SpDisLabel::setholdMouseEvent(const bool &hold)
 {
-    m_holdMouseEvent = hold;
+    d->holdMouseEvent = hold;
+}
+
+Qt::Alignment SpDisLabel::getAlignment() const
+{
+    return d->alignment;
 }
 
 /** How the text stands in the label; Qt::AlignCenter by default. Stored only. */
 void SpDisLabel::setAlignment(const Qt::Alignment &alignment)
 {
-    m_alignment = alignment;
+    d->alignment = alignment;
+}
+
+bool SpDisLabel::isBeep() const
+{
+    return d->isBeep;
 }
 
 /** Whether a press asks the application for a click sound; on by default. Stored only. */
 void SpDisLabel::setIsBeep(const bool &beep)
 {
-    m_isBeep = beep;
+    d->isBeep = beep;
+}
+
+int SpDisLabel::btnID() const
+{
+    return d->btnID;
 }
 
 /** The number that the signals carry; 0 by default. Stored only. */
 void SpDisLabel::setBtnID(int id)
 {
-    m_btnID = id;
+    d->btnID = id;
+}
+
+int SpDisLabel::roundXY() const
+{
+    return d->roundXY;
 }
 
 /** The radius of the ground's corners in px; 0, the default, or less: square. Stored only. */
 void SpDisLabel::setRoundXY(int radius)
 {
-    m_roundXY = radius;
+    d->roundXY = radius;
 }
 
 /** A new label without a parent, for loaders that only know this name. */
@@ -181,21 +293,21 @@ void SpDisLabel::ReleaseInstance(SpDisLabel *p)
 
 void SpDisLabel::setNormalText(const QString &text)
 {
-    m_text = text;
-    m_shownText = text;
+    d->text = text;
+    d->shownText = text;
     update();
 }
 
 void SpDisLabel::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    switch (m_displayMode) {
+    switch (d->displayMode) {
     case String:
-        drawGround(painter);
-        drawText(painter);
+        d->drawGround(painter);
+        d->drawText(painter);
         break;
     case Picture:
-        drawIcon(painter);
+        d->drawIcon(painter);
         break;
     }
 }
@@ -206,90 +318,90 @@ void SpDisLabel::paintEvent(QPaintEvent *)
  */
 void SpDisLabel::mousePressEvent(QMouseEvent *e)
 {
-    if (!m_holdMouseEvent && e)
+    if (!d->holdMouseEvent && e)
         QWidget::mousePressEvent(e);
-    if (m_isBeep)
+    if (d->isBeep)
         postKeyRequest(this, kBeepRequest);
-    if (m_displayMode == String) {
-        m_isDown = true;
+    if (d->displayMode == String) {
+        d->isDown = true;
         update();
     }
     const QPointer<SpDisLabel> guard(this);
-    emit pressed(m_btnID);
+    emit pressed(d->btnID);
     if (!guard)
         keepFromParent(e);
 }
 
 void SpDisLabel::mouseMoveEvent(QMouseEvent *e)
 {
-    if (!m_holdMouseEvent && e)
+    if (!d->holdMouseEvent && e)
         QWidget::mouseMoveEvent(e);
 }
 
 /** Any release emits released, wherever the finger was lifted. */
 void SpDisLabel::mouseReleaseEvent(QMouseEvent *e)
 {
-    if (!m_holdMouseEvent && e)
+    if (!d->holdMouseEvent && e)
         QWidget::mouseReleaseEvent(e);
-    if (m_displayMode == String) {
-        if (!m_isLock)
-            m_isDown = false;
+    if (d->displayMode == String) {
+        if (!d->isLock)
+            d->isDown = false;
         update();
     }
     const QPointer<SpDisLabel> guard(this);
-    emit released(m_btnID);
+    emit released(d->btnID);
     if (!guard)
         keepFromParent(e);
 }
 
 // First the text is cut one character before the one that reaches the last column of pixels, then
 // as far again as the dots need.
-QString SpDisLabel::shortened(const QString &text) const
+QString SpDisLabel::Private::shortened(const QString &full) const
 {
-    const QFontMetrics metrics(font());
+    const QFontMetrics metrics(q->font());
     const auto widthOf = [&metrics](const QString &part) {
         return metrics.horizontalAdvance(part);
     };
-    if (widthOf(text) <= width())
-        return text;
-    const int reaching = firstThat(text.size() + 1, kPrefixesTried,
-                                   [&](int n) { return widthOf(text.left(n)) > width() - 1; });
+    if (widthOf(full) <= q->width())
+        return full;
+    const int reaching = firstThat(full.size() + 1, kPrefixesTried,
+                                   [&](int n) { return widthOf(full.left(n)) > q->width() - 1; });
     const int most = qMax(0, reaching - 1);
     const int dropped = firstThat(most, kRemovalsTried, [&](int n) {
-        return widthOf(text.left(most - n) + kEllipsis) <= width();
+        return widthOf(full.left(most - n) + kEllipsis) <= q->width();
     });
-    return text.left(most - dropped) + kEllipsis;
+    return full.left(most - dropped) + kEllipsis;
 }
 
 // A rounded ground is kept as pixels; its corners cost more than all the rest.
-void SpDisLabel::drawGround(QPainter &painter) const
+void SpDisLabel::Private::drawGround(QPainter &painter) const
 {
-    const QColor color = m_isDown ? m_pressBackgroundColor : m_normalBackgroundColor;
-    if (m_roundXY == 0) {
-        painter.fillRect(rect(), color);
+    const QColor color = isDown ? pressBackgroundColor : normalBackgroundColor;
+    if (roundXY == 0) {
+        painter.fillRect(q->rect(), color);
         return;
     }
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    const QRectF area(rect());
+    const QRectF area(q->rect());
     const quint64 rgba = color.rgba64();
     const KeptLayer::Content content{
-        area, {double(m_roundXY), double(rgba >> 32), double(rgba & 0xffffffff)}};
-    m_ground->draw(painter, painter.worldTransform(), content, [&](QPainter &p) {
+        area, {double(roundXY), double(rgba >> 32), double(rgba & 0xffffffff)}};
+    ground.draw(painter, painter.worldTransform(), content, [&](QPainter &p) {
         p.setBrush(color);
-        p.drawRoundedRect(area, qreal(m_roundXY), qreal(m_roundXY), Qt::AbsoluteSize);
+        p.drawRoundedRect(area, qreal(roundXY), qreal(roundXY), Qt::AbsoluteSize);
         p.setBrush(Qt::NoBrush);
     });
 }
 
-void SpDisLabel::drawText(QPainter &painter) const
+void SpDisLabel::Private::drawText(QPainter &painter) const
 {
-    painter.setPen(m_isDown ? m_pressFontColor : m_fontColor);
-    m_caption->draw(painter, rect(), int(m_alignment), m_shownText);
+    painter.setPen(isDown ? pressFontColor : fontColor);
+    caption.draw(painter, q->rect(), int(alignment), shownText);
 }
 
-void SpDisLabel::drawIcon(QPainter &painter) const
+void SpDisLabel::Private::drawIcon(QPainter &painter) const
 {
-    if (!m_icon.isNull())
-        painter.drawPixmap(centredTowardZero(m_icon.size(), rect()).topLeft(), m_icon);
+    if (!icon.isNull())
+        painter.drawPixmap(centredTowardZero(icon.size(), q->rect()).topLeft(), icon);
 }

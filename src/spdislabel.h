@@ -11,12 +11,6 @@
 
 #include <memory>
 
-namespace panelkit
-{
-class KeptLayer;
-class KeptText;
-} // namespace panelkit
-
 /**
  * A label that can be touched: a string on a coloured ground, square or rounded, or a picture in
  * the middle.
@@ -58,37 +52,37 @@ public:
     explicit SpDisLabel(QWidget *parent = nullptr);
     ~SpDisLabel() override;
 
-    DispalyMode displayMode() const { return m_displayMode; }
+    DispalyMode displayMode() const;
     void setDisplayMode(const DispalyMode &mode);
-    QColor fontColor() const { return m_fontColor; }
+    QColor fontColor() const;
     void setFontColor(const QColor &color);
-    QColor pressFontColor() const { return m_pressFontColor; }
+    QColor pressFontColor() const;
     void setPressFontColor(const QColor &color);
-    QColor normalBackgroundColor() const { return m_normalBackgroundColor; }
+    QColor normalBackgroundColor() const;
     void setNormalBackgroundColor(const QColor &color);
-    QColor pressBackgroundColor() const { return m_pressBackgroundColor; }
+    QColor pressBackgroundColor() const;
     void setPressBackgroundColor(const QColor &color);
-    QString text() const { return m_text; }
+    QString text() const;
     void setText(const QString &text);
-    QPixmap icon() const { return m_icon; }
+    QPixmap icon() const;
     void setIcon(const QPixmap &icon);
-    QSize iconSize() const { return m_iconSize; }
+    QSize iconSize() const;
     void setIconSize(const QSize &size);
-    int fontSize() const { return m_fontSize; }
+    int fontSize() const;
     void setFontSize(int px);
-    bool isDown() const { return m_isDown; }
+    bool isDown() const;
     void setIsDown(const bool &down);
-    bool isLock() const { return m_isLock; }
+    bool isLock() const;
     void setIsLock(const bool &lock);
-    bool holdMouseEvent() const { return m_holdMouseEvent; }
+    bool holdMouseEvent() const;
     void setholdMouseEvent(const bool &hold);
-    Qt::Alignment getAlignment() const { return m_alignment; }
+    Qt::Alignment getAlignment() const;
     void setAlignment(const Qt::Alignment &alignment);
-    bool isBeep() const { return m_isBeep; }
+    bool isBeep() const;
     void setIsBeep(const bool &beep);
-    int btnID() const { return m_btnID; }
+    int btnID() const;
     void setBtnID(int id);
-    int roundXY() const { return m_roundXY; }
+    int roundXY() const;
     void setRoundXY(int radius);
 
     static SpDisLabel *GetInstance();
@@ -108,31 +102,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent *e) override;
 
 private:
-    QString shortened(const QString &text) const;
-    void drawGround(QPainter &painter) const;
-    void drawText(QPainter &painter) const;
-    void drawIcon(QPainter &painter) const;
-
-    DispalyMode m_displayMode = String;
-    QColor m_fontColor{Qt::white};
-    QColor m_pressFontColor{Qt::white};
-    QColor m_normalBackgroundColor{0, 0, 0, 0};
-    QColor m_pressBackgroundColor{0, 0, 0, 0};
-    QString m_text;
-    QString m_shownText; // as it is drawn, perhaps shortened
-    QPixmap m_icon;
-    QSize m_iconSize{32, 32};
-    int m_fontSize = 30; // px
-    bool m_isDown = false;
-    bool m_isLock = false;
-    bool m_holdMouseEvent = true;
-    Qt::Alignment m_alignment = Qt::AlignCenter;
-    bool m_isBeep = true;
-    int m_btnID = 0;
-    int m_roundXY = 0; // px, 0: square
-
-    std::unique_ptr<panelkit::KeptLayer> m_ground;
-    std::unique_ptr<panelkit::KeptText> m_caption;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 #endif // SPDISLABEL_H

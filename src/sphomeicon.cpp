@@ -34,10 +34,66 @@ int widgetLength(qint64 px)
     return int(qBound<qint64>(0, px, QWIDGETSIZE_MAX));
 }
 
+bool isAnyTileAnimated = false; // ever, in this process
+
 } // namespace
 
+class Q_DECL_HIDDEN SpHomeIcon::Private
+{
+public:
+    explicit Private(SpHomeIcon *widget) : q(widget) { }
+
+    struct Layers;
+    struct Kept;
+
+    bool hasOwnPressLook() const;
+    void renewPressImage();
+    QRect imageRect() const;
+    QRect captionRect() const;
+    QColor captionColor() const;
+    Layers layersWithRunningImage() const;
+    Layers layersWithoutRunningImage() const;
+    void drawImages(QPainter &painter) const;
+    void drawLayer(QPainter &painter, int number, const QPixmap *picture) const;
+    void drawCaption(QPainter &painter) const;
+
+    SpHomeIcon *const q;
+    bool isPressing = false;
+    bool isReady = true;
+    bool isRunning = false;
+    bool isSwitchSrc = false;
+    bool hideText = false;
+    int itemIndex = 0;
+    QPixmap normalImage;
+    QPixmap pressImage;
+    QPixmap runningImage;
+    QPixmap grayImage;
+    QPixmap switchImage;
+    QString pressImgPath;
+    QString grayImgPath;
+    QString iconText;
+    QString iconName = QStringLiteral("defaultName");
+    QSize iconSize{122, 122}; // px
+    QColor fontColor = Qt::white;
+    QColor pressTextColor = Qt::white;
+    QColor grayTextColor = Qt::white;
+    QColor runningTextColor = Qt::white;
+    int imageAlpha = 154; // 0..255; above 254 a pressed picture is the application's own
+    int fontSize = 22; // px
+    int textMargin = 10; // px
+    int textMarginH = 0; // px
+    bool textInPic = false;
+    Qt::Alignment textAlignment = Qt::AlignCenter;
+    int imageMarginH = 0; // px
+    QString gifImage;
+    std::unique_ptr<QMovie> movie;
+    int gifSpeed = 100; // percent
+
+    std::unique_ptr<Kept> kept;
+};
+
 // The pictures over the frame of an animation, from the bottom up. There may be none at any place.
-struct SpHomeIcon::Layers {
+struct SpHomeIcon::Private::Layers {
     const QPixmap *base = nullptr;
     bool isBaseDimmed = false;
     const QPixmap *state = nullptr;
@@ -46,7 +102,7 @@ struct SpHomeIcon::Layers {
 
 // What a paint takes from the one before it. Each layer has a look of its own, so that a finger
 // that comes and goes drives out none of the others.
-struct SpHomeIcon::Kept {
+struct SpHomeIcon::Private::Kept {
     std::array<ImageLook, LayerCount> looks;
     KeptText caption;
     QFont currentFont; // of the application, when captionFont was made
@@ -57,7 +113,7 @@ struct SpHomeIcon::Kept {
 };
 
 // The application's font in the size of the caption.
-const QFont &SpHomeIcon::Kept::fontOfSize(int px)
+const QFont &SpHomeIcon::Private::Kept::fontOfSize(int px)
 {
     const QFont current;
     if (fontSize != px || !currentFont.isCopyOf(current)) {
@@ -68,17 +124,21 @@ const QFont &SpHomeIcon::Kept::fontOfSize(int px)
     return captionFont;
 }
 
-bool SpHomeIcon::s_isDynamicUI = false;
-
 /** A tile without a picture, above its siblings. It has no size until it is given a picture. */
-SpHomeIcon::SpHomeIcon(QWidget *parent)
-    : QWidget(parent), m_iconText(QObject::tr("Text")), m_kept(std::make_unique<Kept>())
+SpHomeIcon::SpHomeIcon(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
 {
+    d->iconText = QObject::tr("Text");
+    d->kept = std::make_unique<Private::Kept>();
     raise();
 }
 
 /** The animation ends with its tile. */
 SpHomeIcon::~SpHomeIcon() = default;
+
+QPixmap SpHomeIcon::normalImage() const
+{
+    return d->normalImage;
+}
 
 /**
  * The picture of the tile at rest, as a copy of its own. The tile takes its size from it, makes its
@@ -86,8 +146,13 @@ SpHomeIcon::~SpHomeIcon() = default;
  */
 void SpHomeIcon::setNormalImage(const QPixmap &image)
 {
-    m_normalImage = image.copy();
+    d->normalImage = image.copy();
     resizeHomeIcon();
+}
+
+QPixmap SpHomeIcon::pressImage() const
+{
+    return d->pressImage;
 }
 
 /**
@@ -96,25 +161,45 @@ void SpHomeIcon::setNormalImage(const QPixmap &image)
  */
 void SpHomeIcon::setPressImage(const QPixmap &image)
 {
-    m_pressImage = image.copy();
+    d->pressImage = image.copy();
+}
+
+QPixmap SpHomeIcon::runningImage() const
+{
+    return d->runningImage;
 }
 
 /** The picture over the normal one while the application runs, as a copy. Stored only. */
 void SpHomeIcon::setRunningImage(const QPixmap &image)
 {
-    m_runningImage = image.copy();
+    d->runningImage = image.copy();
+}
+
+QPixmap SpHomeIcon::grayImage() const
+{
+    return d->grayImage;
 }
 
 /** The picture while the application is not ready, as a copy. Stored only. */
 void SpHomeIcon::setGrayImage(const QPixmap &image)
 {
-    m_grayImage = image.copy();
+    d->grayImage = image.copy();
+}
+
+QPixmap SpHomeIcon::switchImage() const
+{
+    return d->switchImage;
 }
 
 /** The picture over the normal one of the current source, as a copy. Stored only. */
 void SpHomeIcon::setSwitchImage(const QPixmap &image)
 {
-    m_switchImage = image.copy();
+    d->switchImage = image.copy();
+}
+
+int SpHomeIcon::imageAlpha() const
+{
+    return d->imageAlpha;
 }
 
 /**
@@ -124,21 +209,36 @@ void SpHomeIcon::setSwitchImage(const QPixmap &image)
  */
 void SpHomeIcon::setImageAlpha(const int &alpha)
 {
-    m_imageAlpha = alpha;
-    renewPressImage();
+    d->imageAlpha = alpha;
+    d->renewPressImage();
+}
+
+QString SpHomeIcon::iconText() const
+{
+    return d->iconText;
 }
 
 /** The caption; "Text" by default. Repaints. */
 void SpHomeIcon::setIconText(const QString &text)
 {
-    m_iconText = text;
+    d->iconText = text;
     update();
+}
+
+QString SpHomeIcon::iconName() const
+{
+    return d->iconName;
 }
 
 /** A name for the application's own use; "defaultName" by default. Stored only. */
 void SpHomeIcon::setIconName(const QString &name)
 {
-    m_iconName = name;
+    d->iconName = name;
+}
+
+QSize SpHomeIcon::iconSize() const
+{
+    return d->iconSize;
 }
 
 /**
@@ -147,39 +247,69 @@ void SpHomeIcon::setIconName(const QString &name)
  */
 void SpHomeIcon::setIconSize(const QSize &size)
 {
-    m_iconSize = size;
+    d->iconSize = size;
     update();
+}
+
+QColor SpHomeIcon::fontColor() const
+{
+    return d->fontColor;
 }
 
 /** The colour of the caption; white by default. Repaints. */
 void SpHomeIcon::setFontColor(const QColor &color)
 {
-    m_fontColor = color;
+    d->fontColor = color;
     update();
+}
+
+QColor SpHomeIcon::pressTextColor() const
+{
+    return d->pressTextColor;
 }
 
 /** The colour of the caption while pressed; white by default. Stored only. */
 void SpHomeIcon::setPressTextColor(const QColor &color)
 {
-    m_pressTextColor = color;
+    d->pressTextColor = color;
+}
+
+QColor SpHomeIcon::grayTextColor() const
+{
+    return d->grayTextColor;
 }
 
 /** The colour of the caption while not ready; white by default. Stored only. */
 void SpHomeIcon::setGrayTextColor(const QColor &color)
 {
-    m_grayTextColor = color;
+    d->grayTextColor = color;
+}
+
+QColor SpHomeIcon::runningTextColor() const
+{
+    return d->runningTextColor;
 }
 
 /** The colour of the caption while running; white by default. Stored only. */
 void SpHomeIcon::setRunningTextColor(const QColor &color)
 {
-    m_runningTextColor = color;
+    d->runningTextColor = color;
+}
+
+int SpHomeIcon::itemIndex() const
+{
+    return d->itemIndex;
 }
 
 /** The number that the signals carry; 0 by default. Stored only. */
 void SpHomeIcon::setItemIndex(const int &index)
 {
-    m_itemIndex = index;
+    d->itemIndex = index;
+}
+
+bool SpHomeIcon::hideText() const
+{
+    return d->hideText;
 }
 
 /**
@@ -188,22 +318,37 @@ void SpHomeIcon::setItemIndex(const int &index)
  */
 void SpHomeIcon::setHideText(const bool &hide)
 {
-    m_hideText = hide;
+    d->hideText = hide;
     update();
+}
+
+int SpHomeIcon::fontSize() const
+{
+    return d->fontSize;
 }
 
 /** The size of the caption in px; 22 by default. Resizes the tile. */
 void SpHomeIcon::setFontSize(const int &px)
 {
-    m_fontSize = px;
+    d->fontSize = px;
     resizeHomeIcon();
+}
+
+int SpHomeIcon::textMargin() const
+{
+    return d->textMargin;
 }
 
 /** More height for the caption, in px; 10 by default. Resizes the tile. */
 void SpHomeIcon::setTextMargin(const int &margin)
 {
-    m_textMargin = margin;
+    d->textMargin = margin;
     resizeHomeIcon();
+}
+
+int SpHomeIcon::textMarginH() const
+{
+    return d->textMarginH;
 }
 
 /**
@@ -212,27 +357,47 @@ void SpHomeIcon::setTextMargin(const int &margin)
  */
 void SpHomeIcon::setTextMarginH(const int &margin)
 {
-    m_textMarginH = margin;
+    d->textMarginH = margin;
+}
+
+bool SpHomeIcon::textInPic() const
+{
+    return d->textInPic;
 }
 
 /** Whether the caption is over the picture, without height of its own. Resizes the tile. */
 void SpHomeIcon::setTextInPic(const bool &inPicture)
 {
-    m_textInPic = inPicture;
+    d->textInPic = inPicture;
     resizeHomeIcon();
+}
+
+Qt::Alignment SpHomeIcon::textAlignment() const
+{
+    return d->textAlignment;
 }
 
 /** How the caption stands in its rectangle; Qt::AlignCenter by default. Stored only. */
 void SpHomeIcon::setTextAlignment(Qt::Alignment alignment)
 {
-    m_textAlignment = alignment;
+    d->textAlignment = alignment;
+}
+
+int SpHomeIcon::imageMarginH() const
+{
+    return d->imageMarginH;
 }
 
 /** Room left and right of the picture, in px. Resizes the tile. */
 void SpHomeIcon::setImageMarginH(const int &margin)
 {
-    m_imageMarginH = margin;
+    d->imageMarginH = margin;
     resizeHomeIcon();
+}
+
+QString SpHomeIcon::gifImage() const
+{
+    return d->gifImage;
 }
 
 /**
@@ -242,25 +407,35 @@ void SpHomeIcon::setImageMarginH(const int &margin)
  */
 void SpHomeIcon::setGifImage(QString path)
 {
-    m_gifImage = path;
+    d->gifImage = path;
     if (path.size() < 2)
         return;
-    m_movie = movieFromFile(m_gifImage);
-    if (m_gifSpeed != kNormalSpeed)
-        m_movie->setSpeed(m_gifSpeed);
-    m_movie->start();
+    d->movie = movieFromFile(d->gifImage);
+    if (d->gifSpeed != kNormalSpeed)
+        d->movie->setSpeed(d->gifSpeed);
+    d->movie->start();
     resizeHomeIcon();
     update();
-    connect(m_movie.get(), SIGNAL(frameChanged(int)), this, SLOT(update()));
-    s_isDynamicUI = true;
+    connect(d->movie.get(), SIGNAL(frameChanged(int)), this, SLOT(update()));
+    isAnyTileAnimated = true;
+}
+
+int SpHomeIcon::gifSpeed() const
+{
+    return d->gifSpeed;
 }
 
 /** The speed of the animation in percent; 100 by default, 0 stands still. */
 void SpHomeIcon::setGifSpeed(int percent)
 {
-    m_gifSpeed = percent;
-    if (m_movie)
-        m_movie->setSpeed(percent);
+    d->gifSpeed = percent;
+    if (d->movie)
+        d->movie->setSpeed(percent);
+}
+
+QString SpHomeIcon::pressImgPath() const
+{
+    return d->pressImgPath;
 }
 
 /**
@@ -269,9 +444,14 @@ void SpHomeIcon::setGifSpeed(int percent)
  */
 void SpHomeIcon::setPressImgPath(QString path)
 {
-    m_pressImgPath = path;
+    d->pressImgPath = path;
     if (path.size() > 1)
         postKeyRequest(this, kPressIconRequest);
+}
+
+QString SpHomeIcon::grayImgPath() const
+{
+    return d->grayImgPath;
 }
 
 /**
@@ -280,30 +460,55 @@ void SpHomeIcon::setPressImgPath(QString path)
  */
 void SpHomeIcon::setGrayImgPath(QString path)
 {
-    m_grayImgPath = path;
-    if (m_pressImgPath.size() > 1)
+    d->grayImgPath = path;
+    if (d->pressImgPath.size() > 1)
         postKeyRequest(this, kGrayIconRequest);
+}
+
+bool SpHomeIcon::getIsPressing() const
+{
+    return d->isPressing;
+}
+
+bool SpHomeIcon::getIsReady() const
+{
+    return d->isReady;
 }
 
 /** Whether the application behind the tile is ready; it is by default. Repaints. */
 void SpHomeIcon::setIsReady(bool ready)
 {
-    m_isReady = ready;
+    d->isReady = ready;
     update();
+}
+
+bool SpHomeIcon::getIsRunning() const
+{
+    return d->isRunning;
 }
 
 /** Whether the application behind the tile runs. Repaints. */
 void SpHomeIcon::setIsRunning(bool running)
 {
-    m_isRunning = running;
+    d->isRunning = running;
     update();
+}
+
+bool SpHomeIcon::getIsSwitchSrc() const
+{
+    return d->isSwitchSrc;
 }
 
 /** Whether the tile is the current source. Repaints. */
 void SpHomeIcon::setIsSwitchSrc(bool current)
 {
-    m_isSwitchSrc = current;
+    d->isSwitchSrc = current;
     update();
+}
+
+bool SpHomeIcon::isDynamicUI()
+{
+    return isAnyTileAnimated;
 }
 
 /**
@@ -312,7 +517,7 @@ void SpHomeIcon::setIsSwitchSrc(bool current)
  */
 void SpHomeIcon::setPressImageAlpha(int alpha, const QPixmap &source, QPixmap &target)
 {
-    target = QPixmap::fromImage(veiledImage(source, imageRect().size(), alpha));
+    target = QPixmap::fromImage(veiledImage(source, d->imageRect().size(), alpha));
 }
 
 /**
@@ -323,36 +528,36 @@ void SpHomeIcon::setPressImageAlpha(int alpha, const QPixmap &source, QPixmap &t
  */
 void SpHomeIcon::resizeHomeIcon()
 {
-    const bool isNormal = !m_normalImage.isNull();
-    const QPixmap &picture = isNormal || !m_movie ? m_normalImage : m_pressImage;
+    const bool isNormal = !d->normalImage.isNull();
+    const QPixmap &picture = isNormal || !d->movie ? d->normalImage : d->pressImage;
     if (picture.isNull())
         return;
-    m_iconSize = picture.size();
-    const qint64 caption = m_textInPic ? 0 : 2 * qint64(m_textMargin) + m_fontSize;
-    const QSize size(widgetLength(m_iconSize.width() + 2 * qint64(m_imageMarginH)),
-                     widgetLength(m_iconSize.height() + caption));
+    d->iconSize = picture.size();
+    const qint64 caption = d->textInPic ? 0 : 2 * qint64(d->textMargin) + d->fontSize;
+    const QSize size(widgetLength(d->iconSize.width() + 2 * qint64(d->imageMarginH)),
+                     widgetLength(d->iconSize.height() + caption));
     setMinimumSize(size);
     setGeometry(QRect(geometry().topLeft(), size));
     if (isNormal)
-        renewPressImage();
+        d->renewPressImage();
     update();
 }
 
 void SpHomeIcon::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    drawImages(painter);
-    drawCaption(painter);
+    d->drawImages(painter);
+    d->drawCaption(painter);
 }
 
 /** A press asks for the click sound, shows the pressed look and emits itemPress. */
 void SpHomeIcon::mousePressEvent(QMouseEvent *e)
 {
     postKeyRequest(this, kBeepRequest);
-    m_isPressing = true;
+    d->isPressing = true;
     update();
     const QPointer<SpHomeIcon> guard(this);
-    emit itemPress(m_itemIndex);
+    emit itemPress(d->itemIndex);
     if (guard && e)
         QWidget::mousePressEvent(e);
 }
@@ -360,9 +565,9 @@ void SpHomeIcon::mousePressEvent(QMouseEvent *e)
 /** Any move ends the pressed look, to be seen at the next paint, and emits itemMove. */
 void SpHomeIcon::mouseMoveEvent(QMouseEvent *e)
 {
-    m_isPressing = false;
+    d->isPressing = false;
     const QPointer<SpHomeIcon> guard(this);
-    emit itemMove(m_itemIndex);
+    emit itemMove(d->itemIndex);
     if (guard && e)
         QWidget::mouseMoveEvent(e);
 }
@@ -370,10 +575,10 @@ void SpHomeIcon::mouseMoveEvent(QMouseEvent *e)
 /** A release emits itemRelease, wherever the finger was lifted. */
 void SpHomeIcon::mouseReleaseEvent(QMouseEvent *e)
 {
-    m_isPressing = false;
+    d->isPressing = false;
     update();
     const QPointer<SpHomeIcon> guard(this);
-    emit itemRelease(m_itemIndex);
+    emit itemRelease(d->itemIndex);
     if (guard && e)
         QWidget::mouseReleaseEvent(e);
 }
@@ -385,16 +590,16 @@ void SpHomeIcon::mouseReleaseEvent(QMouseEvent *e)
 void SpHomeIcon::keyPressEvent(QKeyEvent *e)
 {
     if (isKeyRequest(e, kPressIconRequest))
-        m_pressImage = pixmapFromFile(m_pressImgPath);
+        d->pressImage = pixmapFromFile(d->pressImgPath);
     else if (isKeyRequest(e, kGrayIconRequest))
-        m_grayImage = pixmapFromFile(m_grayImgPath);
+        d->grayImage = pixmapFromFile(d->grayImgPath);
 }
 
 /** A tile that comes into view plays its animation from the beginning, or goes on with it. */
 void SpHomeIcon::showEvent(QShowEvent *e)
 {
-    if (m_movie)
-        m_movie->start();
+    if (d->movie)
+        d->movie->start();
     QWidget::showEvent(e);
 }
 
@@ -402,117 +607,117 @@ void SpHomeIcon::showEvent(QShowEvent *e)
 void SpHomeIcon::hideEvent(QHideEvent *e)
 {
     QWidget::hideEvent(e);
-    if (m_movie)
-        m_movie->stop();
+    if (d->movie)
+        d->movie->stop();
 }
 
 // Whether the pressed picture is the application's own and may look quite different, or is the
 // normal one, darker. In the second case there is no need for anything under it.
-bool SpHomeIcon::hasOwnPressLook() const
+bool SpHomeIcon::Private::hasOwnPressLook() const
 {
-    return m_imageAlpha > kStrongestVeil;
+    return imageAlpha > kStrongestVeil;
 }
 
-void SpHomeIcon::renewPressImage()
+void SpHomeIcon::Private::renewPressImage()
 {
-    if (m_pressImage.isNull() || !hasOwnPressLook())
-        setPressImageAlpha(m_imageAlpha, m_normalImage, m_pressImage);
+    if (pressImage.isNull() || !hasOwnPressLook())
+        q->setPressImageAlpha(imageAlpha, normalImage, pressImage);
 }
 
-QRect SpHomeIcon::imageRect() const
+QRect SpHomeIcon::Private::imageRect() const
 {
-    return boundedRect(m_imageMarginH, 0, m_iconSize.width(), m_iconSize.height());
+    return boundedRect(imageMarginH, 0, iconSize.width(), iconSize.height());
 }
 
 // It ends six pixels above the tile's own bottom.
-QRect SpHomeIcon::captionRect() const
+QRect SpHomeIcon::Private::captionRect() const
 {
-    const int text = boundedPixel(m_fontSize) + boundedPixel(m_textMargin);
-    const int shift = boundedPixel(m_textMarginH);
-    return {qMax(shift, 0), rect().bottom() - text - kCaptionRise, width() - qAbs(shift),
+    const int text = boundedPixel(fontSize) + boundedPixel(textMargin);
+    const int shift = boundedPixel(textMarginH);
+    return {qMax(shift, 0), q->rect().bottom() - text - kCaptionRise, q->width() - qAbs(shift),
             text + kCaptionRoom};
 }
 
-QColor SpHomeIcon::captionColor() const
+QColor SpHomeIcon::Private::captionColor() const
 {
-    if (!m_isReady)
-        return m_grayTextColor;
-    if (m_isPressing)
-        return m_pressTextColor;
-    return m_isRunning ? m_runningTextColor : m_fontColor;
+    if (!isReady)
+        return grayTextColor;
+    if (isPressing)
+        return pressTextColor;
+    return isRunning ? runningTextColor : fontColor;
 }
 
 // A running picture lies over the normal one, so that several may show at once. While the normal
 // picture is pressed and darker, nothing has to be under it.
-SpHomeIcon::Layers SpHomeIcon::layersWithRunningImage() const
+SpHomeIcon::Private::Layers SpHomeIcon::Private::layersWithRunningImage() const
 {
     Layers layers;
-    if (hasOwnPressLook() || !m_isPressing) {
-        if (!m_isReady)
-            layers.base = &m_grayImage;
-        else if (!m_movie)
-            layers.base = &m_normalImage;
+    if (hasOwnPressLook() || !isPressing) {
+        if (!isReady)
+            layers.base = &grayImage;
+        else if (!movie)
+            layers.base = &normalImage;
     }
-    if (m_isSwitchSrc)
-        layers.state = m_switchImage.isNull() ? &m_pressImage : &m_switchImage;
-    else if (m_isRunning)
-        layers.state = &m_runningImage;
-    if (m_isPressing)
-        layers.press = &m_pressImage;
+    if (isSwitchSrc)
+        layers.state = switchImage.isNull() ? &pressImage : &switchImage;
+    else if (isRunning)
+        layers.state = &runningImage;
+    if (isPressing)
+        layers.press = &pressImage;
     return layers;
 }
 
 // Without a running picture there is one picture only, beside the frame of an animation. Several
 // asymmetries are meant: a darkened tile looks the same whether it is ready or not, hideText counts
 // in a still tile alone, and being run makes an animated tile look pressed, but not a still one.
-SpHomeIcon::Layers SpHomeIcon::layersWithoutRunningImage() const
+SpHomeIcon::Private::Layers SpHomeIcon::Private::layersWithoutRunningImage() const
 {
     Layers layers;
-    const QPixmap *const atRest = m_movie ? nullptr : &m_normalImage;
+    const QPixmap *const atRest = movie ? nullptr : &normalImage;
     if (!hasOwnPressLook()) {
-        layers.base = m_isPressing ? &m_pressImage : atRest;
-    } else if (!m_isReady && !m_grayImage.isNull()) {
-        layers.base = &m_grayImage;
-    } else if (m_hideText && !m_movie) {
-        layers.base = &m_normalImage;
+        layers.base = isPressing ? &pressImage : atRest;
+    } else if (!isReady && !grayImage.isNull()) {
+        layers.base = &grayImage;
+    } else if (hideText && !movie) {
+        layers.base = &normalImage;
         layers.isBaseDimmed = true;
     } else {
-        const bool isPressLook = m_isPressing || m_isSwitchSrc || (m_isRunning && m_movie);
-        layers.base = isPressLook ? &m_pressImage : atRest;
+        const bool isPressLook = isPressing || isSwitchSrc || (isRunning && movie);
+        layers.base = isPressLook ? &pressImage : atRest;
     }
     return layers;
 }
 
 // A still tile without a normal picture shows no other one either.
-void SpHomeIcon::drawImages(QPainter &painter) const
+void SpHomeIcon::Private::drawImages(QPainter &painter) const
 {
-    if (m_movie) {
-        const QPixmap frame = m_movie->currentPixmap();
+    if (movie) {
+        const QPixmap frame = movie->currentPixmap();
         drawLayer(painter, FrameLayer, &frame);
-    } else if (m_normalImage.isNull()) {
+    } else if (normalImage.isNull()) {
         return;
     }
     const Layers layers =
-        m_runningImage.isNull() ? layersWithoutRunningImage() : layersWithRunningImage();
+        runningImage.isNull() ? layersWithoutRunningImage() : layersWithRunningImage();
     if (layers.isBaseDimmed)
-        m_kept->looks[BaseLayer].drawVeiled(painter, imageRect(), *layers.base, kHideTextVeil);
+        kept->looks[BaseLayer].drawVeiled(painter, imageRect(), *layers.base, kHideTextVeil);
     else
         drawLayer(painter, BaseLayer, layers.base);
     drawLayer(painter, StateLayer, layers.state);
     drawLayer(painter, PressLayer, layers.press);
 }
 
-void SpHomeIcon::drawLayer(QPainter &painter, int number, const QPixmap *picture) const
+void SpHomeIcon::Private::drawLayer(QPainter &painter, int number, const QPixmap *picture) const
 {
     if (picture && !picture->isNull())
-        m_kept->looks[std::size_t(number)].drawScaled(painter, imageRect(), *picture);
+        kept->looks[std::size_t(number)].drawScaled(painter, imageRect(), *picture);
 }
 
-void SpHomeIcon::drawCaption(QPainter &painter) const
+void SpHomeIcon::Private::drawCaption(QPainter &painter) const
 {
-    if (m_iconText.isEmpty())
+    if (iconText.isEmpty())
         return;
-    painter.setFont(m_kept->fontOfSize(m_fontSize));
+    painter.setFont(kept->fontOfSize(fontSize));
     painter.setPen(captionColor());
-    m_kept->caption.draw(painter, captionRect(), int(m_textAlignment), m_iconText);
+    kept->caption.draw(painter, captionRect(), int(textAlignment), iconText);
 }

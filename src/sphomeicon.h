@@ -11,8 +11,6 @@
 
 #include <memory>
 
-class QMovie;
-
 /**
  * A launcher tile of a home screen: a picture, still or animated, with a caption under it or over
  * it, that reports touches with its number.
@@ -55,67 +53,67 @@ public:
     explicit SpHomeIcon(QWidget *parent = nullptr);
     ~SpHomeIcon() override;
 
-    QPixmap normalImage() const { return m_normalImage; }
+    QPixmap normalImage() const;
     void setNormalImage(const QPixmap &image);
-    QPixmap pressImage() const { return m_pressImage; }
+    QPixmap pressImage() const;
     void setPressImage(const QPixmap &image);
-    QPixmap runningImage() const { return m_runningImage; }
+    QPixmap runningImage() const;
     void setRunningImage(const QPixmap &image);
-    QPixmap grayImage() const { return m_grayImage; }
+    QPixmap grayImage() const;
     void setGrayImage(const QPixmap &image);
-    QPixmap switchImage() const { return m_switchImage; }
+    QPixmap switchImage() const;
     void setSwitchImage(const QPixmap &image);
-    int imageAlpha() const { return m_imageAlpha; }
+    int imageAlpha() const;
     void setImageAlpha(const int &alpha);
-    QString iconText() const { return m_iconText; }
+    QString iconText() const;
     void setIconText(const QString &text);
-    QString iconName() const { return m_iconName; }
+    QString iconName() const;
     void setIconName(const QString &name);
-    QSize iconSize() const { return m_iconSize; }
+    QSize iconSize() const;
     void setIconSize(const QSize &size);
-    QColor fontColor() const { return m_fontColor; }
+    QColor fontColor() const;
     void setFontColor(const QColor &color);
-    QColor pressTextColor() const { return m_pressTextColor; }
+    QColor pressTextColor() const;
     void setPressTextColor(const QColor &color);
-    QColor grayTextColor() const { return m_grayTextColor; }
+    QColor grayTextColor() const;
     void setGrayTextColor(const QColor &color);
-    QColor runningTextColor() const { return m_runningTextColor; }
+    QColor runningTextColor() const;
     void setRunningTextColor(const QColor &color);
-    int itemIndex() const { return m_itemIndex; }
+    int itemIndex() const;
     void setItemIndex(const int &index);
-    bool hideText() const { return m_hideText; }
+    bool hideText() const;
     void setHideText(const bool &hide);
-    int fontSize() const { return m_fontSize; }
+    int fontSize() const;
     void setFontSize(const int &px);
-    int textMargin() const { return m_textMargin; }
+    int textMargin() const;
     void setTextMargin(const int &margin);
-    int textMarginH() const { return m_textMarginH; }
+    int textMarginH() const;
     void setTextMarginH(const int &margin);
-    bool textInPic() const { return m_textInPic; }
+    bool textInPic() const;
     void setTextInPic(const bool &inPicture);
-    Qt::Alignment textAlignment() const { return m_textAlignment; }
+    Qt::Alignment textAlignment() const;
     void setTextAlignment(Qt::Alignment alignment);
-    int imageMarginH() const { return m_imageMarginH; }
+    int imageMarginH() const;
     void setImageMarginH(const int &margin);
-    QString gifImage() const { return m_gifImage; }
+    QString gifImage() const;
     void setGifImage(QString path);
-    int gifSpeed() const { return m_gifSpeed; }
+    int gifSpeed() const;
     void setGifSpeed(int percent);
-    QString pressImgPath() const { return m_pressImgPath; }
+    QString pressImgPath() const;
     void setPressImgPath(QString path);
-    QString grayImgPath() const { return m_grayImgPath; }
+    QString grayImgPath() const;
     void setGrayImgPath(QString path);
 
-    bool getIsPressing() const { return m_isPressing; }
-    bool getIsReady() const { return m_isReady; }
+    bool getIsPressing() const;
+    bool getIsReady() const;
     void setIsReady(bool ready);
-    bool getIsRunning() const { return m_isRunning; }
+    bool getIsRunning() const;
     void setIsRunning(bool running);
-    bool getIsSwitchSrc() const { return m_isSwitchSrc; }
+    bool getIsSwitchSrc() const;
     void setIsSwitchSrc(bool current);
 
     /// Whether any tile of this process has been given an animation so far.
-    static bool isDynamicUI() { return s_isDynamicUI; }
+    static bool isDynamicUI();
 
     /// Makes the target a copy of the source under a black veil of this alpha.
     void setPressImageAlpha(int alpha, const QPixmap &source, QPixmap &target);
@@ -137,54 +135,8 @@ protected:
     void hideEvent(QHideEvent *e) override;
 
 private:
-    struct Layers;
-    struct Kept;
-
-    bool hasOwnPressLook() const;
-    void renewPressImage();
-    QRect imageRect() const;
-    QRect captionRect() const;
-    QColor captionColor() const;
-    Layers layersWithRunningImage() const;
-    Layers layersWithoutRunningImage() const;
-    void drawImages(QPainter &painter) const;
-    void drawLayer(QPainter &painter, int number, const QPixmap *picture) const;
-    void drawCaption(QPainter &painter) const;
-
-    static bool s_isDynamicUI;
-
-    bool m_isPressing = false;
-    bool m_isReady = true;
-    bool m_isRunning = false;
-    bool m_isSwitchSrc = false;
-    bool m_hideText = false;
-    int m_itemIndex = 0;
-    QPixmap m_normalImage;
-    QPixmap m_pressImage;
-    QPixmap m_runningImage;
-    QPixmap m_grayImage;
-    QPixmap m_switchImage;
-    QString m_pressImgPath;
-    QString m_grayImgPath;
-    QString m_iconText;
-    QString m_iconName = QStringLiteral("defaultName");
-    QSize m_iconSize{122, 122}; // px
-    QColor m_fontColor = Qt::white;
-    QColor m_pressTextColor = Qt::white;
-    QColor m_grayTextColor = Qt::white;
-    QColor m_runningTextColor = Qt::white;
-    int m_imageAlpha = 154; // 0..255; above 254 a pressed picture is the application's own
-    int m_fontSize = 22; // px
-    int m_textMargin = 10; // px
-    int m_textMarginH = 0; // px
-    bool m_textInPic = false;
-    Qt::Alignment m_textAlignment = Qt::AlignCenter;
-    int m_imageMarginH = 0; // px
-    QString m_gifImage;
-    std::unique_ptr<QMovie> m_movie;
-    int m_gifSpeed = 100; // percent
-
-    std::unique_ptr<Kept> m_kept;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 #endif // SPHOMEICON_H

@@ -12,6 +12,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QSize>
 #include <QStyle>
 #include <QStyleOption>
 
@@ -30,8 +31,43 @@ constexpr int kLogLine = 67;
 
 } // namespace
 
+class Q_DECL_HIDDEN SpHorStrButton::Private
+{
+public:
+    explicit Private(SpHorStrButton *widget) : q(widget) { }
+
+    struct Places;
+
+    Places places() const;
+    QColor captionColor() const;
+    void drawBackground(QPainter &painter) const;
+    void drawIcon(QPainter &painter, const QRect &rect) const;
+    void drawCaption(QPainter &painter, const Places &places) const;
+
+    SpHorStrButton *const q;
+    StrPosition stringPosition = StrLeft;
+    QString buttonId = QStringLiteral("0");
+    QString displayString = QStringLiteral("default");
+    QPixmap normalPixmap;
+    QPixmap pressPixmap;
+    QPixmap disablePixmap;
+    bool pressState = false;
+    bool btnDisable = false;
+    QSize iconSize{0, 0};
+    [[maybe_unused]] int reserved = 25; // read nowhere, part of every button on purpose
+    QColor normalTextColor{255, 255, 255, 255};
+    QColor pressTextColor{255, 0, 0, 255};
+    int textTopMargin = 0; // px
+    int textHeight = 0; // px, 0: that of the layout
+    int textLeftMargin = 0; // px
+    int textWidth = 0; // px, 0: that of the layout
+
+    mutable ImageLook imageLook;
+    mutable KeptText caption;
+};
+
 // Where the icon and the string stand in a button, and how the string is aligned.
-struct SpHorStrButton::Places {
+struct SpHorStrButton::Private::Places {
     QRect icon;
     QRect text;
     int flags = 0;
@@ -39,8 +75,7 @@ struct SpHorStrButton::Places {
 
 /** A button without icon, with the string "default" at its left. */
 SpHorStrButton::SpHorStrButton(QWidget *parent)
-    : QWidget(parent), m_look(std::make_unique<ImageLook>()),
-      m_caption(std::make_unique<KeptText>())
+    : QWidget(parent), d(std::make_unique<Private>(this))
 {
 }
 
@@ -51,20 +86,28 @@ SpHorStrButton::SpHorStrButton(QWidget *parent)
  */
 SpHorStrButton::SpHorStrButton(StrPosition pos, QString id, QString text, QString normal,
                                QString press, QString disable, QWidget *parent)
-    : QWidget(parent), m_stringPosition(pos), m_buttonId(id), m_displayString(text),
-      m_normalPixmap(pixmapFromFile(normal)), m_pressPixmap(pixmapFromFile(press)),
-      m_disablePixmap(pixmapFromFile(disable)), m_look(std::make_unique<ImageLook>()),
-      m_caption(std::make_unique<KeptText>())
+    : QWidget(parent), d(std::make_unique<Private>(this))
 {
-    if (!m_normalPixmap.isNull())
-        m_iconSize = m_normalPixmap.size();
-    m_normalTextColor = QColor();
-    m_pressTextColor = QColor();
+    d->stringPosition = pos;
+    d->buttonId = id;
+    d->displayString = text;
+    d->normalPixmap = pixmapFromFile(normal);
+    d->pressPixmap = pixmapFromFile(press);
+    d->disablePixmap = pixmapFromFile(disable);
+    if (!d->normalPixmap.isNull())
+        d->iconSize = d->normalPixmap.size();
+    d->normalTextColor = QColor();
+    d->pressTextColor = QColor();
     QMessageLogger("src/sphorstrbutton", kLogLine, Q_FUNC_INFO).debug()
-        << "[SpHorStrButton]instance,icon size:" << m_iconSize;
+        << "[SpHorStrButton]instance,icon size:" << d->iconSize;
 }
 
 SpHorStrButton::~SpHorStrButton() = default;
+
+SpHorStrButton::StrPosition SpHorStrButton::stringPosition() const
+{
+    return d->stringPosition;
+}
 
 /**
  * Where icon and string stand; StrLeft by default. Stored only. A value that is no StrPosition
@@ -72,20 +115,35 @@ SpHorStrButton::~SpHorStrButton() = default;
  */
 void SpHorStrButton::setStringPosition(const StrPosition &position)
 {
-    m_stringPosition = position;
+    d->stringPosition = position;
+}
+
+QString SpHorStrButton::buttonId() const
+{
+    return d->buttonId;
 }
 
 /** The text that clicked carries; "0" by default. Stored only. */
 void SpHorStrButton::setButtonId(const QString &id)
 {
-    m_buttonId = id;
+    d->buttonId = id;
+}
+
+QString SpHorStrButton::displayString() const
+{
+    return d->displayString;
 }
 
 /** The string; "default" by default. It is not shortened, only clipped. Repaints. */
 void SpHorStrButton::setDisplayString(const QString &text)
 {
-    m_displayString = text;
+    d->displayString = text;
     update();
+}
+
+QPixmap SpHorStrButton::normalPixmap() const
+{
+    return d->normalPixmap;
 }
 
 /**
@@ -95,37 +153,62 @@ void SpHorStrButton::setDisplayString(const QString &text)
  */
 void SpHorStrButton::setNormalPixmap(const QPixmap &pixmap)
 {
-    m_normalPixmap = pixmap;
+    d->normalPixmap = pixmap;
     if (pixmap.isNull())
         return;
-    m_iconSize = pixmap.size();
+    d->iconSize = pixmap.size();
     update();
+}
+
+QPixmap SpHorStrButton::pressPixmap() const
+{
+    return d->pressPixmap;
 }
 
 /** The icon shown while pressed; without it there is none then. Stored only. */
 void SpHorStrButton::setPressPixmap(const QPixmap &pixmap)
 {
-    m_pressPixmap = pixmap;
+    d->pressPixmap = pixmap;
+}
+
+QPixmap SpHorStrButton::disablePixmap() const
+{
+    return d->disablePixmap;
 }
 
 /** The icon shown while disabled; without it the normal one is darkened. Stored only. */
 void SpHorStrButton::setDisablePixmap(const QPixmap &pixmap)
 {
-    m_disablePixmap = pixmap;
+    d->disablePixmap = pixmap;
+}
+
+QColor SpHorStrButton::normalTextColor() const
+{
+    return d->normalTextColor;
 }
 
 /** The colour of the string; white by default. Repaints. */
 void SpHorStrButton::setNormalTextColor(const QColor &color)
 {
-    m_normalTextColor = color;
+    d->normalTextColor = color;
     update();
+}
+
+QColor SpHorStrButton::pressTextColor() const
+{
+    return d->pressTextColor;
 }
 
 /** The colour of the string while pressed; red by default. Repaints. */
 void SpHorStrButton::setPressTextColor(const QColor &color)
 {
-    m_pressTextColor = color;
+    d->pressTextColor = color;
     update();
+}
+
+int SpHorStrButton::textTopMargin() const
+{
+    return d->textTopMargin;
 }
 
 /**
@@ -134,7 +217,12 @@ void SpHorStrButton::setPressTextColor(const QColor &color)
  */
 void SpHorStrButton::setTextTopMargin(int margin)
 {
-    m_textTopMargin = margin;
+    d->textTopMargin = margin;
+}
+
+int SpHorStrButton::textHeight() const
+{
+    return d->textHeight;
 }
 
 /**
@@ -143,7 +231,12 @@ void SpHorStrButton::setTextTopMargin(int margin)
  */
 void SpHorStrButton::setTextHeight(int height)
 {
-    m_textHeight = height;
+    d->textHeight = height;
+}
+
+int SpHorStrButton::textLeftMargin() const
+{
+    return d->textLeftMargin;
 }
 
 /**
@@ -152,7 +245,12 @@ void SpHorStrButton::setTextHeight(int height)
  */
 void SpHorStrButton::setTextLeftMargin(int margin)
 {
-    m_textLeftMargin = margin;
+    d->textLeftMargin = margin;
+}
+
+int SpHorStrButton::textWidth() const
+{
+    return d->textWidth;
 }
 
 /**
@@ -161,7 +259,12 @@ void SpHorStrButton::setTextLeftMargin(int margin)
  */
 void SpHorStrButton::setTextWidth(int width)
 {
-    m_textWidth = width;
+    d->textWidth = width;
+}
+
+QString SpHorStrButton::getButtonId()
+{
+    return d->buttonId;
 }
 
 /**
@@ -170,14 +273,14 @@ void SpHorStrButton::setTextWidth(int width)
  */
 void SpHorStrButton::setBtnDisable(bool disabled)
 {
-    m_btnDisable = disabled;
+    d->btnDisable = disabled;
     update();
 }
 
 /** Sets the pressed look, without a signal. Repaints. */
 void SpHorStrButton::setPressState(bool pressed)
 {
-    m_pressState = pressed;
+    d->pressState = pressed;
     update();
 }
 
@@ -192,10 +295,10 @@ void SpHorStrButton::setFontSize(int px)
 void SpHorStrButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    const Places here = places();
-    drawBackground(painter);
-    drawIcon(painter, here.icon);
-    drawCaption(painter, here);
+    const Private::Places here = d->places();
+    d->drawBackground(painter);
+    d->drawIcon(painter, here.icon);
+    d->drawCaption(painter, here);
 }
 
 /**
@@ -204,9 +307,9 @@ void SpHorStrButton::paintEvent(QPaintEvent *)
  */
 void SpHorStrButton::mousePressEvent(QMouseEvent *e)
 {
-    if (!m_btnDisable) {
+    if (!d->btnDisable) {
         postKeyRequest(this, kBeepRequest);
-        m_pressState = true;
+        d->pressState = true;
     }
     update();
     if (e)
@@ -226,77 +329,77 @@ void SpHorStrButton::mouseMoveEvent(QMouseEvent *e)
  */
 void SpHorStrButton::mouseReleaseEvent(QMouseEvent *e)
 {
-    if (!m_btnDisable)
-        m_pressState = false;
+    if (!d->btnDisable)
+        d->pressState = false;
     update();
     const QPointer<SpHorStrButton> guard(this);
-    emit clicked(m_buttonId);
+    emit clicked(d->buttonId);
     if (guard && e)
         QWidget::mouseReleaseEvent(e);
 }
 
 // A margin counts only together with the size on its axis. The top margin moves the icon in
 // StrLeft and the string in every other layout.
-SpHorStrButton::Places SpHorStrButton::places() const
+SpHorStrButton::Private::Places SpHorStrButton::Private::places() const
 {
-    const bool hasWidth = m_textWidth > 0;
-    const bool hasHeight = m_textHeight > 0;
-    const int leftMargin = hasWidth ? boundedPixel(m_textLeftMargin) : 0;
-    const int topMargin = hasHeight ? boundedPixel(m_textTopMargin) : 0;
-    const int beside = m_iconSize.width() + kGap;
-    const int textWidth = hasWidth ? m_textWidth : width() - beside;
-    const int textHeight = hasHeight ? m_textHeight : height();
-    QRect icon = centredTowardMinusInfinity(m_iconSize, rect());
+    const bool hasWidth = textWidth > 0;
+    const bool hasHeight = textHeight > 0;
+    const int leftMargin = hasWidth ? boundedPixel(textLeftMargin) : 0;
+    const int topMargin = hasHeight ? boundedPixel(textTopMargin) : 0;
+    const int beside = iconSize.width() + kGap;
+    const QSize room(hasWidth ? textWidth : q->width() - beside,
+                     hasHeight ? textHeight : q->height());
+    QRect icon = centredTowardMinusInfinity(iconSize, q->rect());
 
-    switch (m_stringPosition) {
+    switch (stringPosition) {
     case StrLeft:
         icon.moveTopLeft({0, icon.top() + topMargin});
-        return {icon, boundedRect(beside + leftMargin, 0, textWidth, textHeight),
+        return {icon, boundedRect(beside + leftMargin, 0, room.width(), room.height()),
                 Qt::AlignLeft | Qt::AlignVCenter};
     case StrRight:
-        icon.moveLeft(width() - m_iconSize.width());
-        return {icon, boundedRect(leftMargin, topMargin, textWidth, textHeight),
+        icon.moveLeft(q->width() - iconSize.width());
+        return {icon, boundedRect(leftMargin, topMargin, room.width(), room.height()),
                 Qt::AlignRight | Qt::AlignVCenter};
     case StrCenter:
-        return {QRect(QPoint(), m_iconSize),
-                boundedRect(leftMargin, topMargin, hasWidth ? m_textWidth : m_iconSize.width(),
-                            hasHeight ? m_textHeight : m_iconSize.height()),
+        return {QRect(QPoint(), iconSize),
+                boundedRect(leftMargin, topMargin, hasWidth ? textWidth : iconSize.width(),
+                            hasHeight ? textHeight : iconSize.height()),
                 Qt::AlignCenter};
     }
     icon.moveLeft(0);
-    return {icon, boundedRect(beside + leftMargin, topMargin, textWidth, textHeight),
+    return {icon, boundedRect(beside + leftMargin, topMargin, room.width(), room.height()),
             Qt::AlignLeft | Qt::AlignVCenter};
 }
 
-QColor SpHorStrButton::captionColor() const
+QColor SpHorStrButton::Private::captionColor() const
 {
-    if (m_btnDisable)
+    if (btnDisable)
         return kDisabledTextColor;
-    return m_pressState ? m_pressTextColor : m_normalTextColor;
+    return pressState ? pressTextColor : normalTextColor;
 }
 
 // What a style sheet says of the widget: backgrounds, borders.
-void SpHorStrButton::drawBackground(QPainter &painter) const
+void SpHorStrButton::Private::drawBackground(QPainter &painter) const
 {
     QStyleOption option;
-    option.initFrom(this);
-    style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
+    option.initFrom(q);
+    q->style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, q);
 }
 
-void SpHorStrButton::drawIcon(QPainter &painter, const QRect &rect) const
+void SpHorStrButton::Private::drawIcon(QPainter &painter, const QRect &rect) const
 {
-    if (m_btnDisable && m_disablePixmap.isNull()) {
-        m_look->drawVeiled(painter, rect, m_normalPixmap, kVeil);
+    if (btnDisable && disablePixmap.isNull()) {
+        imageLook.drawVeiled(painter, rect, normalPixmap, kVeil);
         return;
     }
-    const QPixmap &enabled = m_pressState ? m_pressPixmap : m_normalPixmap;
-    const QPixmap &icon = m_btnDisable ? m_disablePixmap : enabled;
+    const QPixmap &enabled = pressState ? pressPixmap : normalPixmap;
+    const QPixmap &icon = btnDisable ? disablePixmap : enabled;
     if (!icon.isNull())
-        m_look->drawScaled(painter, rect, icon);
+        imageLook.drawScaled(painter, rect, icon);
 }
 
-void SpHorStrButton::drawCaption(QPainter &painter, const Places &places) const
+void SpHorStrButton::Private::drawCaption(QPainter &painter, const Places &places) const
 {
     painter.setPen(captionColor());
-    m_caption->draw(painter, places.text, places.flags, m_displayString);
+    caption.draw(painter, places.text, places.flags, displayString);
 }

@@ -5,17 +5,10 @@
 
 #include <QColor>
 #include <QPixmap>
-#include <QSize>
 #include <QString>
 #include <QWidget>
 
 #include <memory>
-
-namespace panelkit
-{
-class ImageLook;
-class KeptText;
-} // namespace panelkit
 
 /**
  * A touch button with an icon and a string: the string beside the icon on either side, or over it.
@@ -56,33 +49,33 @@ public:
                    QString disable, QWidget *parent = nullptr);
     ~SpHorStrButton() override;
 
-    StrPosition stringPosition() const { return m_stringPosition; }
+    StrPosition stringPosition() const;
     void setStringPosition(const StrPosition &position);
-    QString buttonId() const { return m_buttonId; }
+    QString buttonId() const;
     void setButtonId(const QString &id);
-    QString displayString() const { return m_displayString; }
+    QString displayString() const;
     void setDisplayString(const QString &text);
-    QPixmap normalPixmap() const { return m_normalPixmap; }
+    QPixmap normalPixmap() const;
     void setNormalPixmap(const QPixmap &pixmap);
-    QPixmap pressPixmap() const { return m_pressPixmap; }
+    QPixmap pressPixmap() const;
     void setPressPixmap(const QPixmap &pixmap);
-    QPixmap disablePixmap() const { return m_disablePixmap; }
+    QPixmap disablePixmap() const;
     void setDisablePixmap(const QPixmap &pixmap);
-    QColor normalTextColor() const { return m_normalTextColor; }
+    QColor normalTextColor() const;
     void setNormalTextColor(const QColor &color);
-    QColor pressTextColor() const { return m_pressTextColor; }
+    QColor pressTextColor() const;
     void setPressTextColor(const QColor &color);
-    int textTopMargin() const { return m_textTopMargin; }
+    int textTopMargin() const;
     void setTextTopMargin(int margin);
-    int textHeight() const { return m_textHeight; }
+    int textHeight() const;
     void setTextHeight(int height);
-    int textLeftMargin() const { return m_textLeftMargin; }
+    int textLeftMargin() const;
     void setTextLeftMargin(int margin);
-    int textWidth() const { return m_textWidth; }
+    int textWidth() const;
     void setTextWidth(int width);
 
     /// The same as buttonId().
-    QString getButtonId() { return m_buttonId; }
+    QString getButtonId();
     void setBtnDisable(bool disabled);
     void setPressState(bool pressed);
     void setFontSize(int px);
@@ -97,33 +90,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent *e) override;
 
 private:
-    struct Places;
-
-    Places places() const;
-    QColor captionColor() const;
-    void drawBackground(QPainter &painter) const;
-    void drawIcon(QPainter &painter, const QRect &rect) const;
-    void drawCaption(QPainter &painter, const Places &places) const;
-
-    StrPosition m_stringPosition = StrLeft;
-    QString m_buttonId = QStringLiteral("0");
-    QString m_displayString = QStringLiteral("default");
-    QPixmap m_normalPixmap;
-    QPixmap m_pressPixmap;
-    QPixmap m_disablePixmap;
-    bool m_pressState = false;
-    bool m_btnDisable = false;
-    QSize m_iconSize{0, 0};
-    [[maybe_unused]] int m_reserved = 25; // read nowhere, part of every button on purpose
-    QColor m_normalTextColor{255, 255, 255, 255};
-    QColor m_pressTextColor{255, 0, 0, 255};
-    int m_textTopMargin = 0; // px
-    int m_textHeight = 0; // px, 0: that of the layout
-    int m_textLeftMargin = 0; // px
-    int m_textWidth = 0; // px, 0: that of the layout
-
-    std::unique_ptr<panelkit::ImageLook> m_look;
-    std::unique_ptr<panelkit::KeptText> m_caption;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 #endif // SPHORSTRBUTTON_H

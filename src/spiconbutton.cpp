@@ -11,7 +11,9 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPoint>
 #include <QPointer>
+#include <QSize>
 #include <QTimer>
 
 #include <optional>
@@ -25,8 +27,63 @@ constexpr int kClickSlop = 50; // px; a release this far from the press on eithe
 
 } // namespace
 
+class Q_DECL_HIDDEN SpIconButton::Private
+{
+public:
+    explicit Private(SpIconButton *widget) : q(widget) { }
+
+    struct Look;
+
+    bool isDrawnEnabled() const;
+    bool isNearPress(const QPoint &pos) const;
+    QRect imageRect() const;
+    QRect textRect() const;
+    Look enabledLook() const;
+    Look disabledLook() const;
+    QColor captionColor() const;
+    void drawPicture(QPainter &painter) const;
+    void drawCaption(QPainter &painter) const;
+
+    SpIconButton *const q;
+    QPixmap normalImage;
+    QPixmap pressImage;
+    QPixmap disableImage;
+    QPixmap focusPixmap;
+    QString pressImgPath;
+    ShowMode showMode = HighlightMode;
+    DisableMode disableMode = Show_NormalImageAlpha;
+    QSize imageSize{32, 32};
+    int imageAlpha = 154; // 0..255
+    int disableAlpha = 154; // 0..255
+    int timerInterval = 1000; // ms
+    int timerInterval2 = -1; // ms, negative: no repeat
+    bool isDown = false;
+    bool disableState = false;
+    bool isFocus = false;
+    bool isLock = false;
+    bool supportLongPress = false;
+    bool longPressed = false;
+    QString buttonID = QStringLiteral("SpIconButton_ID");
+    QPoint pressPos;
+    QString displayText;
+    QColor normalTextColor{255, 255, 255, 255};
+    QColor pressTextColor{255, 0, 0, 255};
+    QColor disableTextColor{255, 255, 255, 154};
+    QColor focusTextColor{Qt::white};
+    QTimer *longPressTimer = nullptr;
+    int textTopMargin = 0; // px
+    int textHeight = 0; // px, 0: the full height
+    int textLeftMargin = 0; // px
+    int textWidth = 0; // px, 0: the full width
+    Qt::Alignment textAlign = Qt::AlignCenter;
+    bool isBeep = true;
+
+    mutable ImageLook imageLook;
+    mutable KeptText caption;
+};
+
 // What stands in the image rectangle: a picture, and the alpha of the veil over it if it has one.
-struct SpIconButton::Look {
+struct SpIconButton::Private::Look {
     const QPixmap *picture = nullptr;
     std::optional<int> veil = std::nullopt;
 };
@@ -36,12 +93,14 @@ struct SpIconButton::Look {
  * font, attributes and window flags are those of a plain QWidget.
  */
 SpIconButton::SpIconButton(QWidget *parent)
-    : QWidget(parent), m_look(std::make_unique<ImageLook>()),
-      m_caption(std::make_unique<KeptText>())
-{
-}
+    : QWidget(parent), d(std::make_unique<Private>(this)) { }
 
 SpIconButton::~SpIconButton() = default;
+
+SpIconButton::ShowMode SpIconButton::showMode() const
+{
+    return d->showMode;
+}
 
 /**
  * How the pressed and focused looks are made; HighlightMode by default. Stored only: it shows at
@@ -49,7 +108,12 @@ SpIconButton::~SpIconButton() = default;
  */
 void SpIconButton::setShowMode(const ShowMode &mode)
 {
-    m_showMode = mode;
+    d->showMode = mode;
+}
+
+SpIconButton::DisableMode SpIconButton::disableMode() const
+{
+    return d->disableMode;
 }
 
 /**
@@ -58,8 +122,13 @@ void SpIconButton::setShowMode(const ShowMode &mode)
  */
 void SpIconButton::setDisableMode(const DisableMode &mode)
 {
-    m_disableMode = mode;
-    setDisableImage(m_disableImage);
+    d->disableMode = mode;
+    setDisableImage(d->disableImage);
+}
+
+QPixmap SpIconButton::normalImage() const
+{
+    return d->normalImage;
 }
 
 /**
@@ -69,12 +138,17 @@ void SpIconButton::setDisableMode(const DisableMode &mode)
  */
 void SpIconButton::setNormalImage(const QPixmap &image)
 {
-    m_normalImage = image;
+    d->normalImage = image;
     if (image.isNull())
         return;
-    m_imageSize = image.size();
-    setMinimumSize(m_imageSize);
+    d->imageSize = image.size();
+    setMinimumSize(d->imageSize);
     update();
+}
+
+QPixmap SpIconButton::pressImage() const
+{
+    return d->pressImage;
 }
 
 /**
@@ -83,15 +157,25 @@ void SpIconButton::setNormalImage(const QPixmap &image)
  */
 void SpIconButton::setPressImage(const QPixmap &image)
 {
-    if (m_showMode == HighlightMode)
-        m_pressImage = image;
+    if (d->showMode == HighlightMode)
+        d->pressImage = image;
+}
+
+QPixmap SpIconButton::disableImage() const
+{
+    return d->disableImage;
 }
 
 /** The picture of the disabled look in Show_DisableImage. Repaints. */
 void SpIconButton::setDisableImage(const QPixmap &image)
 {
-    m_disableImage = image;
+    d->disableImage = image;
     update();
+}
+
+QPixmap SpIconButton::focusPixmap() const
+{
+    return d->focusPixmap;
 }
 
 /**
@@ -100,7 +184,12 @@ void SpIconButton::setDisableImage(const QPixmap &image)
  */
 void SpIconButton::setFocusPixmap(const QPixmap &pixmap)
 {
-    m_focusPixmap = pixmap;
+    d->focusPixmap = pixmap;
+}
+
+int SpIconButton::imageAlpha() const
+{
+    return d->imageAlpha;
 }
 
 /**
@@ -109,7 +198,12 @@ void SpIconButton::setFocusPixmap(const QPixmap &pixmap)
  */
 void SpIconButton::setImageAlpha(const int &alpha)
 {
-    m_imageAlpha = alpha;
+    d->imageAlpha = alpha;
+}
+
+int SpIconButton::disableAlpha() const
+{
+    return d->disableAlpha;
 }
 
 /**
@@ -118,7 +212,12 @@ void SpIconButton::setImageAlpha(const int &alpha)
  */
 void SpIconButton::setDisableAlpha(const int &alpha)
 {
-    m_disableAlpha = alpha;
+    d->disableAlpha = alpha;
+}
+
+bool SpIconButton::disableState() const
+{
+    return d->disableState;
 }
 
 /**
@@ -128,8 +227,13 @@ void SpIconButton::setDisableAlpha(const int &alpha)
  */
 void SpIconButton::setDisableState(const bool &disabled)
 {
-    m_disableState = disabled;
+    d->disableState = disabled;
     update();
+}
+
+bool SpIconButton::isFocus() const
+{
+    return d->isFocus;
 }
 
 /**
@@ -138,8 +242,13 @@ void SpIconButton::setDisableState(const bool &disabled)
  */
 void SpIconButton::setFocus(const bool &focused)
 {
-    m_isFocus = focused;
+    d->isFocus = focused;
     update();
+}
+
+bool SpIconButton::supportLongPress() const
+{
+    return d->supportLongPress;
 }
 
 /**
@@ -148,13 +257,13 @@ void SpIconButton::setFocus(const bool &focused)
  */
 void SpIconButton::setSupportLongPress(bool supported)
 {
-    m_supportLongPress = supported;
+    d->supportLongPress = supported;
 }
 
 /** The delay to the first long press in ms (1000 by default), or -1 without supportLongPress. */
 int SpIconButton::timerInterval() const
 {
-    return m_supportLongPress ? m_timerInterval : -1;
+    return d->supportLongPress ? d->timerInterval : -1;
 }
 
 /**
@@ -163,8 +272,13 @@ int SpIconButton::timerInterval() const
  */
 void SpIconButton::setTimerInterval(const int &interval)
 {
-    if (m_supportLongPress)
-        m_timerInterval = interval;
+    if (d->supportLongPress)
+        d->timerInterval = interval;
+}
+
+int SpIconButton::getTimerInt2() const
+{
+    return d->timerInterval2;
 }
 
 /**
@@ -173,82 +287,147 @@ void SpIconButton::setTimerInterval(const int &interval)
  */
 void SpIconButton::setTimerInt2(int interval)
 {
-    m_timerInterval2 = interval;
+    d->timerInterval2 = interval;
+}
+
+QString SpIconButton::buttonID() const
+{
+    return d->buttonID;
 }
 
 /** The text that every signal carries; "SpIconButton_ID" by default. Stored only. */
 void SpIconButton::setButtonID(const QString &id)
 {
-    m_buttonID = id;
+    d->buttonID = id;
+}
+
+QString SpIconButton::displayText() const
+{
+    return d->displayText;
 }
 
 /** The caption. It is neither shortened nor wrapped, and clipped to its rectangle. Repaints. */
 void SpIconButton::setDisplayText(const QString &text)
 {
-    m_displayText = text;
+    d->displayText = text;
     update();
+}
+
+QColor SpIconButton::normalTextColor() const
+{
+    return d->normalTextColor;
 }
 
 /** The colour of the caption of an enabled button; white by default. Repaints. */
 void SpIconButton::setNormalTextColor(const QColor &color)
 {
-    m_normalTextColor = color;
+    d->normalTextColor = color;
     update();
+}
+
+QColor SpIconButton::pressTextColor() const
+{
+    return d->pressTextColor;
 }
 
 /** The colour of the caption while pressed; red by default. Stored only. */
 void SpIconButton::setPressTextColor(const QColor &color)
 {
-    m_pressTextColor = color;
+    d->pressTextColor = color;
+}
+
+QColor SpIconButton::disableTextColor() const
+{
+    return d->disableTextColor;
 }
 
 /** The colour of the caption while disabled; white of alpha 154 by default. Stored only. */
 void SpIconButton::setDisableTextColor(const QColor &color)
 {
-    m_disableTextColor = color;
+    d->disableTextColor = color;
+}
+
+QColor SpIconButton::focusTextColor() const
+{
+    return d->focusTextColor;
 }
 
 /** The colour of the caption while isFocus is set; white by default. Stored only. */
 void SpIconButton::setFocusTextColor(const QColor &color)
 {
-    m_focusTextColor = color;
+    d->focusTextColor = color;
+}
+
+int SpIconButton::textTopMargin() const
+{
+    return d->textTopMargin;
 }
 
 /** The distance in px from the top to the caption; counts only with a textHeight. Stored only. */
 void SpIconButton::setTextTopMargin(int margin)
 {
-    m_textTopMargin = margin;
+    d->textTopMargin = margin;
+}
+
+int SpIconButton::textHeight() const
+{
+    return d->textHeight;
 }
 
 /** The height of the caption in px; 0 (the default) or less: the whole height. Stored only. */
 void SpIconButton::setTextHeight(int height)
 {
-    m_textHeight = height;
+    d->textHeight = height;
+}
+
+int SpIconButton::textLeftMargin() const
+{
+    return d->textLeftMargin;
 }
 
 /** The distance in px from the left to the caption; counts only with a textWidth. Stored only. */
 void SpIconButton::setTextLeftMargin(int margin)
 {
-    m_textLeftMargin = margin;
+    d->textLeftMargin = margin;
+}
+
+int SpIconButton::textWidth() const
+{
+    return d->textWidth;
 }
 
 /** The width of the caption in px; 0 (the default) or less: the whole width. Stored only. */
 void SpIconButton::setTextWidth(int width)
 {
-    m_textWidth = width;
+    d->textWidth = width;
+}
+
+Qt::Alignment SpIconButton::textAlign() const
+{
+    return d->textAlign;
 }
 
 /** How the caption stands in its rectangle; Qt::AlignCenter by default. Repaints. */
 void SpIconButton::setTextAlign(Qt::Alignment alignment)
 {
-    m_textAlign = alignment;
+    d->textAlign = alignment;
     update();
+}
+
+bool SpIconButton::isBeep()
+{
+    return d->isBeep;
 }
 
 /** Whether a press asks the application for a click sound; on by default. Stored only. */
 void SpIconButton::setIsBeep(bool beep)
 {
-    m_isBeep = beep;
+    d->isBeep = beep;
+}
+
+QString SpIconButton::pressImgPath() const
+{
+    return d->pressImgPath;
 }
 
 /**
@@ -258,7 +437,7 @@ void SpIconButton::setIsBeep(bool beep)
  */
 void SpIconButton::setPressImgPath(QString path)
 {
-    m_pressImgPath = path;
+    d->pressImgPath = path;
     if (path.size() > 1)
         postKeyRequest(this, kPressIconRequest);
 }
@@ -275,17 +454,27 @@ void SpIconButton::ReleaseInstance(SpIconButton *p)
     delete p;
 }
 
+bool SpIconButton::isDown() const
+{
+    return d->isDown;
+}
+
 /** Sets the pressed look, without signals; this is how a latched button is let go. Repaints. */
 void SpIconButton::setIsDown(bool down)
 {
-    m_isDown = down;
+    d->isDown = down;
     update();
+}
+
+bool SpIconButton::isLock() const
+{
+    return d->isLock;
 }
 
 /** Makes the button latch: it keeps its pressed look after the release. Stored only. */
 void SpIconButton::setIsLock(bool lock)
 {
-    m_isLock = lock;
+    d->isLock = lock;
 }
 
 /**
@@ -295,15 +484,15 @@ void SpIconButton::setIsLock(bool lock)
  */
 void SpIconButton::setStartTimer(bool start)
 {
-    if (m_supportLongPress && start && m_timerInterval >= 0) {
-        if (!m_longPressTimer) {
-            m_longPressTimer = new QTimer(this);
-            connect(m_longPressTimer, SIGNAL(timeout()), this, SLOT(longPressSlot()));
+    if (d->supportLongPress && start && d->timerInterval >= 0) {
+        if (!d->longPressTimer) {
+            d->longPressTimer = new QTimer(this);
+            connect(d->longPressTimer, SIGNAL(timeout()), this, SLOT(longPressSlot()));
         }
-        m_longPressTimer->setInterval(m_timerInterval);
-        m_longPressTimer->start();
-    } else if (m_longPressTimer) {
-        m_longPressTimer->stop();
+        d->longPressTimer->setInterval(d->timerInterval);
+        d->longPressTimer->start();
+    } else if (d->longPressTimer) {
+        d->longPressTimer->stop();
     }
 }
 
@@ -326,8 +515,8 @@ void SpIconButton::setFontSize(int px)
 void SpIconButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    drawPicture(painter);
-    drawCaption(painter);
+    d->drawPicture(painter);
+    d->drawCaption(painter);
 }
 
 /**
@@ -337,20 +526,20 @@ void SpIconButton::paintEvent(QPaintEvent *)
  */
 void SpIconButton::mousePressEvent(QMouseEvent *e)
 {
-    if (!m_disableState) {
-        if (m_isBeep)
+    if (!d->disableState) {
+        if (d->isBeep)
             postKeyRequest(this, kBeepRequest);
-        m_isDown = true;
+        d->isDown = true;
         update();
         const QPointer<SpIconButton> guard(this);
-        emit btnPressed(m_buttonID);
+        emit btnPressed(d->buttonID);
         if (!guard)
             return;
         setStartTimer(true);
     }
     if (!e)
         return;
-    m_pressPos = e->pos();
+    d->pressPos = e->pos();
     QWidget::mousePressEvent(e);
 }
 
@@ -368,25 +557,25 @@ void SpIconButton::mouseMoveEvent(QMouseEvent *e)
 void SpIconButton::mouseReleaseEvent(QMouseEvent *e)
 {
     const QPointer<SpIconButton> guard(this);
-    if (m_disableState) {
-        m_isDown = false;
-        m_longPressed = false;
+    if (d->disableState) {
+        d->isDown = false;
+        d->longPressed = false;
         setStartTimer(false);
     } else {
-        if (!m_isLock)
-            m_isDown = false;
+        if (!d->isLock)
+            d->isDown = false;
         update();
-        if (e && isNearPress(e->pos())) {
-            if (m_longPressed)
-                emit btnLongRelease(m_buttonID);
+        if (e && d->isNearPress(e->pos())) {
+            if (d->longPressed)
+                emit btnLongRelease(d->buttonID);
             else
-                emit btnClicked(m_buttonID);
+                emit btnClicked(d->buttonID);
             if (!guard)
                 return;
         }
-        m_longPressed = false;
+        d->longPressed = false;
         setStartTimer(false);
-        emit btnReleased(m_buttonID);
+        emit btnReleased(d->buttonID);
     }
     if (guard && e)
         QWidget::mouseReleaseEvent(e);
@@ -399,104 +588,104 @@ void SpIconButton::mouseReleaseEvent(QMouseEvent *e)
 void SpIconButton::keyPressEvent(QKeyEvent *e)
 {
     if (isKeyRequest(e, kPressIconRequest))
-        m_pressImage = pixmapFromFile(m_pressImgPath);
+        d->pressImage = pixmapFromFile(d->pressImgPath);
 }
 
 /** The first long press of a touch switches to the interval of the further ones, or to none. */
 void SpIconButton::longPressSlot()
 {
-    if (!m_longPressed && m_longPressTimer) {
-        if (m_timerInterval2 >= 1 && m_timerInterval2 != m_timerInterval)
-            m_longPressTimer->setInterval(m_timerInterval2);
-        else if (m_timerInterval2 < 0)
-            m_longPressTimer->stop();
+    if (!d->longPressed && d->longPressTimer) {
+        if (d->timerInterval2 >= 1 && d->timerInterval2 != d->timerInterval)
+            d->longPressTimer->setInterval(d->timerInterval2);
+        else if (d->timerInterval2 < 0)
+            d->longPressTimer->stop();
     }
-    m_longPressed = true;
-    emit btnLongPress(m_buttonID);
+    d->longPressed = true;
+    emit btnLongPress(d->buttonID);
 }
 
-bool SpIconButton::isDrawnEnabled() const
+bool SpIconButton::Private::isDrawnEnabled() const
 {
-    return !m_disableState && isEnabled();
+    return !disableState && q->isEnabled();
 }
 
-bool SpIconButton::isNearPress(const QPoint &pos) const
+bool SpIconButton::Private::isNearPress(const QPoint &pos) const
 {
-    return distance(pos.x(), m_pressPos.x()) < kClickSlop
-        && distance(pos.y(), m_pressPos.y()) < kClickSlop;
+    return distance(pos.x(), pressPos.x()) < kClickSlop
+        && distance(pos.y(), pressPos.y()) < kClickSlop;
 }
 
-QRect SpIconButton::imageRect() const
+QRect SpIconButton::Private::imageRect() const
 {
-    return centredTowardZero(m_imageSize, rect());
+    return centredTowardZero(imageSize, q->rect());
 }
 
 // A margin counts only together with the size on its axis; without one the caption spans the
 // widget, so that a caption needs no numbers at all to be centred.
-QRect SpIconButton::textRect() const
+QRect SpIconButton::Private::textRect() const
 {
-    const bool hasWidth = m_textWidth > 0;
-    const bool hasHeight = m_textHeight > 0;
-    return boundedRect(hasWidth ? m_textLeftMargin : 0, hasHeight ? m_textTopMargin : 0,
-                       hasWidth ? m_textWidth : width(), hasHeight ? m_textHeight : height());
+    const bool hasWidth = textWidth > 0;
+    const bool hasHeight = textHeight > 0;
+    return boundedRect(hasWidth ? textLeftMargin : 0, hasHeight ? textTopMargin : 0,
+                       hasWidth ? textWidth : q->width(), hasHeight ? textHeight : q->height());
 }
 
 // Being pressed goes before having the focus, and a picture that is missing falls back to the
 // normal one. In AlphaMode both look alike.
-SpIconButton::Look SpIconButton::enabledLook() const
+SpIconButton::Private::Look SpIconButton::Private::enabledLook() const
 {
-    switch (m_showMode) {
+    switch (showMode) {
     case HighlightMode:
-        if (m_isDown && !m_pressImage.isNull())
-            return {&m_pressImage};
-        if (!m_isDown && m_isFocus && !m_focusPixmap.isNull())
-            return {&m_focusPixmap};
-        return {&m_normalImage};
+        if (isDown && !pressImage.isNull())
+            return {&pressImage};
+        if (!isDown && isFocus && !focusPixmap.isNull())
+            return {&focusPixmap};
+        return {&normalImage};
     case AlphaMode:
-        if (m_isDown || m_isFocus)
-            return {&m_normalImage, m_imageAlpha};
-        return {&m_normalImage};
+        if (isDown || isFocus)
+            return {&normalImage, imageAlpha};
+        return {&normalImage};
     }
     return {};
 }
 
-SpIconButton::Look SpIconButton::disabledLook() const
+SpIconButton::Private::Look SpIconButton::Private::disabledLook() const
 {
-    switch (m_disableMode) {
+    switch (disableMode) {
     case Show_NormalImage:
-        return {&m_normalImage};
+        return {&normalImage};
     case Show_DisableImage:
-        return {&m_disableImage};
+        return {&disableImage};
     case Show_NormalImageAlpha:
-        return {&m_normalImage, m_disableAlpha};
+        return {&normalImage, disableAlpha};
     }
     return {};
 }
 
-QColor SpIconButton::captionColor() const
+QColor SpIconButton::Private::captionColor() const
 {
     if (!isDrawnEnabled())
-        return m_disableTextColor;
-    if (m_isDown)
-        return m_pressTextColor;
-    return m_isFocus ? m_focusTextColor : m_normalTextColor;
+        return disableTextColor;
+    if (isDown)
+        return pressTextColor;
+    return isFocus ? focusTextColor : normalTextColor;
 }
 
-void SpIconButton::drawPicture(QPainter &painter) const
+void SpIconButton::Private::drawPicture(QPainter &painter) const
 {
     const Look look = isDrawnEnabled() ? enabledLook() : disabledLook();
     if (!look.picture || look.picture->isNull())
         return;
     if (look.veil)
-        m_look->drawVeiled(painter, imageRect(), *look.picture, *look.veil);
+        imageLook.drawVeiled(painter, imageRect(), *look.picture, *look.veil);
     else
-        m_look->drawScaled(painter, imageRect(), *look.picture);
+        imageLook.drawScaled(painter, imageRect(), *look.picture);
 }
 
-void SpIconButton::drawCaption(QPainter &painter) const
+void SpIconButton::Private::drawCaption(QPainter &painter) const
 {
-    if (m_displayText.isEmpty())
+    if (displayText.isEmpty())
         return;
     painter.setPen(captionColor());
-    m_caption->draw(painter, textRect(), int(m_textAlign), m_displayText);
+    caption.draw(painter, textRect(), int(textAlign), displayText);
 }

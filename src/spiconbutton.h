@@ -5,20 +5,10 @@
 
 #include <QColor>
 #include <QPixmap>
-#include <QPoint>
-#include <QSize>
 #include <QString>
 #include <QWidget>
 
 #include <memory>
-
-class QTimer;
-
-namespace panelkit
-{
-class ImageLook;
-class KeptText;
-} // namespace panelkit
 
 /**
  * The basic touch button: one of several pictures centred in the widget, with a caption over it.
@@ -80,65 +70,65 @@ public:
     explicit SpIconButton(QWidget *parent = nullptr);
     ~SpIconButton() override;
 
-    ShowMode showMode() const { return m_showMode; }
+    ShowMode showMode() const;
     void setShowMode(const ShowMode &mode);
-    DisableMode disableMode() const { return m_disableMode; }
+    DisableMode disableMode() const;
     void setDisableMode(const DisableMode &mode);
-    QPixmap normalImage() const { return m_normalImage; }
+    QPixmap normalImage() const;
     void setNormalImage(const QPixmap &image);
-    QPixmap pressImage() const { return m_pressImage; }
+    QPixmap pressImage() const;
     void setPressImage(const QPixmap &image);
-    QPixmap disableImage() const { return m_disableImage; }
+    QPixmap disableImage() const;
     void setDisableImage(const QPixmap &image);
-    QPixmap focusPixmap() const { return m_focusPixmap; }
+    QPixmap focusPixmap() const;
     void setFocusPixmap(const QPixmap &pixmap);
-    int imageAlpha() const { return m_imageAlpha; }
+    int imageAlpha() const;
     void setImageAlpha(const int &alpha);
-    int disableAlpha() const { return m_disableAlpha; }
+    int disableAlpha() const;
     void setDisableAlpha(const int &alpha);
-    bool disableState() const { return m_disableState; }
+    bool disableState() const;
     void setDisableState(const bool &disabled);
-    bool isFocus() const { return m_isFocus; }
+    bool isFocus() const;
     void setFocus(const bool &focused);
-    bool supportLongPress() const { return m_supportLongPress; }
+    bool supportLongPress() const;
     void setSupportLongPress(bool supported);
     int timerInterval() const;
     void setTimerInterval(const int &interval);
-    int getTimerInt2() const { return m_timerInterval2; }
+    int getTimerInt2() const;
     void setTimerInt2(int interval);
-    QString buttonID() const { return m_buttonID; }
+    QString buttonID() const;
     void setButtonID(const QString &id);
-    QString displayText() const { return m_displayText; }
+    QString displayText() const;
     void setDisplayText(const QString &text);
-    QColor normalTextColor() const { return m_normalTextColor; }
+    QColor normalTextColor() const;
     void setNormalTextColor(const QColor &color);
-    QColor pressTextColor() const { return m_pressTextColor; }
+    QColor pressTextColor() const;
     void setPressTextColor(const QColor &color);
-    QColor disableTextColor() const { return m_disableTextColor; }
+    QColor disableTextColor() const;
     void setDisableTextColor(const QColor &color);
-    QColor focusTextColor() const { return m_focusTextColor; }
+    QColor focusTextColor() const;
     void setFocusTextColor(const QColor &color);
-    int textTopMargin() const { return m_textTopMargin; }
+    int textTopMargin() const;
     void setTextTopMargin(int margin);
-    int textHeight() const { return m_textHeight; }
+    int textHeight() const;
     void setTextHeight(int height);
-    int textLeftMargin() const { return m_textLeftMargin; }
+    int textLeftMargin() const;
     void setTextLeftMargin(int margin);
-    int textWidth() const { return m_textWidth; }
+    int textWidth() const;
     void setTextWidth(int width);
-    Qt::Alignment textAlign() const { return m_textAlign; }
+    Qt::Alignment textAlign() const;
     void setTextAlign(Qt::Alignment alignment);
-    bool isBeep() { return m_isBeep; }
+    bool isBeep();
     void setIsBeep(bool beep);
-    QString pressImgPath() const { return m_pressImgPath; }
+    QString pressImgPath() const;
     void setPressImgPath(QString path);
 
     static SpIconButton *GetInstance();
     static void ReleaseInstance(SpIconButton *p);
 
-    bool isDown() const { return m_isDown; }
+    bool isDown() const;
     void setIsDown(bool down);
-    bool isLock() const { return m_isLock; }
+    bool isLock() const;
     void setIsLock(bool lock);
     void setStartTimer(bool start);
     float getAlphaOpacity(int alpha);
@@ -162,53 +152,8 @@ private slots:
     void longPressSlot();
 
 private:
-    struct Look;
-
-    bool isDrawnEnabled() const;
-    bool isNearPress(const QPoint &pos) const;
-    QRect imageRect() const;
-    QRect textRect() const;
-    Look enabledLook() const;
-    Look disabledLook() const;
-    QColor captionColor() const;
-    void drawPicture(QPainter &painter) const;
-    void drawCaption(QPainter &painter) const;
-
-    QPixmap m_normalImage;
-    QPixmap m_pressImage;
-    QPixmap m_disableImage;
-    QPixmap m_focusPixmap;
-    QString m_pressImgPath;
-    ShowMode m_showMode = HighlightMode;
-    DisableMode m_disableMode = Show_NormalImageAlpha;
-    QSize m_imageSize{32, 32};
-    int m_imageAlpha = 154; // 0..255
-    int m_disableAlpha = 154; // 0..255
-    int m_timerInterval = 1000; // ms
-    int m_timerInterval2 = -1; // ms, negative: no repeat
-    bool m_isDown = false;
-    bool m_disableState = false;
-    bool m_isFocus = false;
-    bool m_isLock = false;
-    bool m_supportLongPress = false;
-    bool m_longPressed = false;
-    QString m_buttonID = QStringLiteral("SpIconButton_ID");
-    QPoint m_pressPos;
-    QString m_displayText;
-    QColor m_normalTextColor{255, 255, 255, 255};
-    QColor m_pressTextColor{255, 0, 0, 255};
-    QColor m_disableTextColor{255, 255, 255, 154};
-    QColor m_focusTextColor{Qt::white};
-    QTimer *m_longPressTimer = nullptr;
-    int m_textTopMargin = 0; // px
-    int m_textHeight = 0; // px, 0: the full height
-    int m_textLeftMargin = 0; // px
-    int m_textWidth = 0; // px, 0: the full width
-    Qt::Alignment m_textAlign = Qt::AlignCenter;
-    bool m_isBeep = true;
-
-    std::unique_ptr<panelkit::ImageLook> m_look;
-    std::unique_ptr<panelkit::KeptText> m_caption;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 #endif // SPICONBUTTON_H

@@ -17,10 +17,30 @@ constexpr qint64 kLargestCopy = qint64(16384) * 16384;
 
 } // namespace
 
+class Q_DECL_HIDDEN SpLabel::Private
+{
+public:
+    explicit Private(SpLabel *widget) : q(widget) { }
+
+    bool fitImage();
+
+    SpLabel *const q;
+    QPixmap image;
+    QSize cachedSize{32, 32}; // px, what the picture was last scaled to
+    int imageAlpha = 154; // 0..255
+
+    ImageLook look;
+};
+
 /** A label without a picture: it paints nothing. */
-SpLabel::SpLabel(QWidget *parent) : QWidget(parent), m_look(std::make_unique<ImageLook>()) { }
+SpLabel::SpLabel(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this)) { }
 
 SpLabel::~SpLabel() = default;
+
+QPixmap SpLabel::image() const
+{
+    return d->image;
+}
 
 /**
  * The picture. Its size becomes the minimum size of the label, which then repaints. A null picture
@@ -28,12 +48,17 @@ SpLabel::~SpLabel() = default;
  */
 void SpLabel::setImage(const QPixmap &image)
 {
-    m_image = image;
+    d->image = image;
     if (image.isNull())
         return;
-    m_cachedSize = image.size();
-    setMinimumSize(m_cachedSize);
+    d->cachedSize = image.size();
+    setMinimumSize(d->cachedSize);
     update();
+}
+
+int SpLabel::imageAlpha() const
+{
+    return d->imageAlpha;
 }
 
 /**
@@ -42,19 +67,19 @@ void SpLabel::setImage(const QPixmap &image)
  */
 void SpLabel::setImageAlpha(const int &alpha)
 {
-    m_imageAlpha = std::clamp(alpha, 0, 255);
+    d->imageAlpha = std::clamp(alpha, 0, 255);
 }
 
 void SpLabel::paintEvent(QPaintEvent *)
 {
-    const bool fits = fitImage();
-    if (m_image.isNull())
+    const bool fits = d->fitImage();
+    if (d->image.isNull())
         return;
     QPainter painter(this);
     if (fits)
-        m_look->drawVeiled(painter, rect(), m_image, m_imageAlpha);
+        d->look.drawVeiled(painter, rect(), d->image, d->imageAlpha);
     else
-        painter.drawImage(rect(), veiledImage(m_image, m_image.size(), m_imageAlpha));
+        painter.drawImage(rect(), veiledImage(d->image, d->image.size(), d->imageAlpha));
 }
 
 // Touches are left to the parent.
@@ -80,14 +105,14 @@ void SpLabel::mouseReleaseEvent(QMouseEvent *e)
 // image() tells what is shown. The price is that a picture does not get its details back when a
 // label that was small becomes large again. In a label that is too large for a copy the picture
 // stays as it is and is stretched in painting.
-bool SpLabel::fitImage()
+bool SpLabel::Private::fitImage()
 {
-    if (m_cachedSize == size())
+    if (cachedSize == q->size())
         return true;
-    if (qint64(width()) * height() > kLargestCopy)
+    if (qint64(q->width()) * q->height() > kLargestCopy)
         return false;
-    m_cachedSize = size();
-    if (!m_image.isNull())
-        m_image = m_image.scaled(m_cachedSize, Qt::IgnoreAspectRatio, Qt::FastTransformation);
+    cachedSize = q->size();
+    if (!image.isNull())
+        image = image.scaled(cachedSize, Qt::IgnoreAspectRatio, Qt::FastTransformation);
     return true;
 }

@@ -4,15 +4,9 @@
 #include "panelkitglobal.h"
 
 #include <QPixmap>
-#include <QSize>
 #include <QWidget>
 
 #include <memory>
-
-namespace panelkit
-{
-class ImageLook;
-} // namespace panelkit
 
 /**
  * Shows a picture stretched over the widget, darkened by a black veil over its opaque pixels: a
@@ -27,10 +21,10 @@ public:
     explicit SpLabel(QWidget *parent = nullptr);
     ~SpLabel() override;
 
-    QPixmap image() const { return m_image; }
+    QPixmap image() const;
     void setImage(const QPixmap &image);
 
-    int imageAlpha() { return m_imageAlpha; }
+    int imageAlpha() const;
     void setImageAlpha(const int &alpha);
 
 protected:
@@ -40,13 +34,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent *e) override;
 
 private:
-    bool fitImage();
-
-    QPixmap m_image;
-    QSize m_cachedSize{32, 32}; // px, what the picture was last scaled to
-    int m_imageAlpha = 154; // 0..255
-
-    std::unique_ptr<panelkit::ImageLook> m_look;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 #endif // SPLABEL_H

@@ -24,40 +24,82 @@ constexpr double kCircle = 6.28; // the circumference for a radius of 1
 
 } // namespace
 
+class Q_DECL_HIDDEN SpLoadingRound::Private
+{
+public:
+    explicit Private(SpLoadingRound *widget) : q(widget) { }
+
+    void drawSpoke(QPainter &painter, int number);
+
+    SpLoadingRound *const q;
+    DrawStyle drawStyle = EllipseStyle;
+    QColor painterColor = Qt::white;
+    int radius = 30; // px
+    int index = 0; // steps of 30 degrees
+    bool holdMouseEvent = false;
+    bool moved = false; // since the press
+    int timerId = 0; // 0: stopped
+};
+
 /** A ring that stands still until setTimer(). */
-SpLoadingRound::SpLoadingRound(QWidget *parent) : QWidget(parent) { }
+SpLoadingRound::SpLoadingRound(QWidget *parent)
+    : QWidget(parent), d(std::make_unique<Private>(this))
+{
+}
+
+QColor SpLoadingRound::painterColor() const
+{
+    return d->painterColor;
+}
 
 /** The colour of the spokes, white by default; its alpha does not count. Repaints. */
 void SpLoadingRound::setPainterColor(const QColor &color)
 {
-    m_painterColor = color;
+    d->painterColor = color;
     update();
+}
+
+SpLoadingRound::~SpLoadingRound() = default;
+
+int SpLoadingRound::radius() const
+{
+    return d->radius;
 }
 
 /** The outer radius in px, without its sign; 30 by default. Repaints. */
 void SpLoadingRound::setRadius(const int &radius)
 {
-    m_radius = saturated(std::abs(qint64(radius)));
+    d->radius = saturated(std::abs(qint64(radius)));
     update();
+}
+
+int SpLoadingRound::index() const
+{
+    return d->index;
 }
 
 /** The step of the rotation modulo 12; a negative one stays negative, on purpose. Repaints. */
 void SpLoadingRound::setIndex(const int &index)
 {
-    m_index = index % kSpokes;
+    d->index = index % kSpokes;
     update();
+}
+
+bool SpLoadingRound::holdMouseEvent() const
+{
+    return d->holdMouseEvent;
 }
 
 /** Whether touches end here instead of going on to the parent; off by default. Stored only. */
 void SpLoadingRound::setholdMouseEvent(const bool &hold)
 {
-    m_holdMouseEvent = hold;
+    d->holdMouseEvent = hold;
 }
 
 /** The shape of the spokes, EllipseStyle by default and for a value that is none. Stored only. */
 void SpLoadingRound::setDrawStyle(SpLoadingRound::DrawStyle style)
 {
-    m_drawStyle = style == RectStyle || style == GrayStyle ? style : EllipseStyle;
+    d->drawStyle = style == RectStyle || style == GrayStyle ? style : EllipseStyle;
 }
 
 /**
@@ -68,15 +110,15 @@ void SpLoadingRound::setTimer(int ms)
 {
     stopTimer();
     if (ms >= 0)
-        m_timerId = startTimer(ms);
+        d->timerId = startTimer(ms);
 }
 
 /** Stops turning; the ring stays at its step. */
 void SpLoadingRound::stopTimer()
 {
-    if (m_timerId != 0)
-        killTimer(m_timerId);
-    m_timerId = 0;
+    if (d->timerId != 0)
+        killTimer(d->timerId);
+    d->timerId = 0;
 }
 
 void SpLoadingRound::paintEvent(QPaintEvent *)
@@ -85,9 +127,9 @@ void SpLoadingRound::paintEvent(QPaintEvent *)
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     painter.translate(QPoint(width() / 2, height() / 2));
     painter.setPen(Qt::NoPen);
-    painter.rotate(qreal(m_index * kStep));
+    painter.rotate(qreal(d->index * kStep));
     for (int number = kSpokes; number > 0; --number) {
-        drawSpoke(painter, number);
+        d->drawSpoke(painter, number);
         painter.rotate(-kStep);
     }
 }
@@ -95,11 +137,11 @@ void SpLoadingRound::paintEvent(QPaintEvent *)
 /** A tick of the own timer goes on by a step; those of any other are dropped. */
 void SpLoadingRound::timerEvent(QTimerEvent *e)
 {
-    if (!e || e->timerId() != m_timerId)
+    if (!e || e->timerId() != d->timerId)
         return;
-    ++m_index;
-    if (m_index == kSpokes)
-        m_index = 0;
+    ++d->index;
+    if (d->index == kSpokes)
+        d->index = 0;
     update();
 }
 
@@ -107,9 +149,9 @@ void SpLoadingRound::mousePressEvent(QMouseEvent *e)
 {
     if (!e)
         return;
-    if (!m_holdMouseEvent)
+    if (!d->holdMouseEvent)
         QWidget::mousePressEvent(e);
-    m_moved = false;
+    d->moved = false;
     const QPointer<SpLoadingRound> guard(this);
     emit pressMask(e->pos());
     if (!guard)
@@ -118,9 +160,9 @@ void SpLoadingRound::mousePressEvent(QMouseEvent *e)
 
 void SpLoadingRound::mouseMoveEvent(QMouseEvent *e)
 {
-    if (e && !m_holdMouseEvent)
+    if (e && !d->holdMouseEvent)
         QWidget::mouseMoveEvent(e);
-    m_moved = true;
+    d->moved = true;
 }
 
 /** A release emits releaseMask and, without any move since the press, clicked. */
@@ -128,11 +170,11 @@ void SpLoadingRound::mouseReleaseEvent(QMouseEvent *e)
 {
     if (!e)
         return;
-    if (!m_holdMouseEvent)
+    if (!d->holdMouseEvent)
         QWidget::mouseReleaseEvent(e);
     const QPointer<SpLoadingRound> guard(this);
     emit releaseMask(e->pos());
-    if (guard && !m_moved)
+    if (guard && !d->moved)
         emit clicked();
     if (!guard)
         e->accept();
@@ -140,20 +182,20 @@ void SpLoadingRound::mouseReleaseEvent(QMouseEvent *e)
 
 // In GrayStyle the colour itself becomes that of the spoke, so that painterColor reads (231, 231,
 // 231), the grey of the last one, after a paint. That is meant: the other styles go on with it.
-void SpLoadingRound::drawSpoke(QPainter &painter, int number)
+void SpLoadingRound::Private::drawSpoke(QPainter &painter, int number)
 {
-    const int r = boundedPixel(m_radius);
-    if (m_drawStyle == GrayStyle) {
+    const int r = boundedPixel(radius);
+    if (drawStyle == GrayStyle) {
         const int grey = 252 - 21 * number;
-        m_painterColor = QColor(grey, grey, grey);
-        painter.setBrush(m_painterColor);
+        painterColor = QColor(grey, grey, grey);
+        painter.setBrush(painterColor);
         painter.drawRoundedRect(QRect(3 * r / 7, 0, r / 2, toInt(r * kCircle / 39)), kRoundness,
                                 kRoundness, Qt::RelativeSize);
         return;
     }
-    painter.setBrush(QColor(m_painterColor.red(), m_painterColor.green(), m_painterColor.blue(),
+    painter.setBrush(QColor(painterColor.red(), painterColor.green(), painterColor.blue(),
                             std::max(20 * number + 15, kLeastAlpha)));
-    if (m_drawStyle == RectStyle)
+    if (drawStyle == RectStyle)
         painter.drawRect(3 * r / 5, 0, 2 * r / 5, toInt(r * kCircle / 36));
     else
         painter.drawEllipse(4 * r / 5 - r / 5, -(r / 15), 2 * (r / 5), 2 * (r / 15));

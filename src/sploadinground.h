@@ -7,6 +7,8 @@
 #include <QPoint>
 #include <QWidget>
 
+#include <memory>
+
 /**
  * A busy ring: twelve spokes, brighter and darker around a circle, that a timer turns by one step
  * of 30 degrees. Laid over other content it is also a mask for touches, which it reports with
@@ -29,14 +31,15 @@ public:
     };
 
     explicit SpLoadingRound(QWidget *parent = nullptr);
+    ~SpLoadingRound() override;
 
-    QColor painterColor() const { return m_painterColor; }
+    QColor painterColor() const;
     void setPainterColor(const QColor &color);
-    int radius() const { return m_radius; }
+    int radius() const;
     void setRadius(const int &radius);
-    int index() const { return m_index; }
+    int index() const;
     void setIndex(const int &index);
-    bool holdMouseEvent() const { return m_holdMouseEvent; }
+    bool holdMouseEvent() const;
     void setholdMouseEvent(const bool &hold);
 
     void setDrawStyle(SpLoadingRound::DrawStyle style);
@@ -56,15 +59,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent *e) override;
 
 private:
-    void drawSpoke(QPainter &painter, int number);
-
-    DrawStyle m_drawStyle = EllipseStyle;
-    QColor m_painterColor = Qt::white;
-    int m_radius = 30; // px
-    int m_index = 0; // steps of 30 degrees
-    bool m_holdMouseEvent = false;
-    bool m_moved = false; // since the press
-    int m_timerId = 0; // 0: stopped
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 #endif // SPLOADINGROUND_H

@@ -9,17 +9,51 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QSize>
 
 using namespace panelkit;
 
+class Q_DECL_HIDDEN SpLockButton::Private
+{
+public:
+    explicit Private(SpLockButton *widget) : q(widget) { }
+
+    const QPixmap &currentImage() const;
+    QColor captionColor() const;
+    void drawPicture(QPainter &painter) const;
+    void drawCaption(QPainter &painter) const;
+
+    SpLockButton *const q;
+    QPixmap normalImage;
+    QPixmap pressImage;
+    QPixmap disableImage;
+    ShowMode showMode = AlphaMode;
+    DisableMode disableMode = Show_NormalImage;
+    QSize imageSize{32, 32}; // px, of the image rectangle
+    int imageAlpha = 154; // 0..255
+    int disableAlpha = 154; // 0..255
+    bool isDown = false;
+    bool disableState = false;
+    QString buttonID = QStringLiteral("SpLockButton_ID");
+    QString displayText;
+    QColor normalTextColor{255, 255, 255, 255};
+    QColor pressTextColor{255, 0, 0, 255};
+    QColor disableTextColor{100, 100, 100, 255};
+
+    mutable ImageLook look;
+    mutable KeptText caption;
+};
+
 /** A button that is up, without pictures and caption. */
 SpLockButton::SpLockButton(QWidget *parent)
-    : QWidget(parent), m_look(std::make_unique<ImageLook>()),
-      m_caption(std::make_unique<KeptText>())
-{
-}
+    : QWidget(parent), d(std::make_unique<Private>(this)) { }
 
 SpLockButton::~SpLockButton() = default;
+
+SpLockButton::ShowMode SpLockButton::showMode() const
+{
+    return d->showMode;
+}
 
 /**
  * Where the picture of the down state comes from; AlphaMode by default. Stored only: the picture
@@ -27,7 +61,12 @@ SpLockButton::~SpLockButton() = default;
  */
 void SpLockButton::setShowMode(const ShowMode &mode)
 {
-    m_showMode = mode;
+    d->showMode = mode;
+}
+
+SpLockButton::DisableMode SpLockButton::disableMode() const
+{
+    return d->disableMode;
 }
 
 /**
@@ -37,8 +76,13 @@ void SpLockButton::setShowMode(const ShowMode &mode)
  */
 void SpLockButton::setDisableMode(const DisableMode &mode)
 {
-    m_disableMode = mode;
-    setDisableImage(QPixmap(m_disableImage));
+    d->disableMode = mode;
+    setDisableImage(QPixmap(d->disableImage));
+}
+
+QPixmap SpLockButton::normalImage() const
+{
+    return d->normalImage;
 }
 
 /**
@@ -48,21 +92,31 @@ void SpLockButton::setDisableMode(const DisableMode &mode)
  */
 void SpLockButton::setNormalImage(const QPixmap &image)
 {
-    m_normalImage = image;
+    d->normalImage = image;
     if (image.isNull())
         return;
-    m_imageSize = image.size();
-    setMinimumSize(m_imageSize);
-    if (m_showMode == AlphaMode)
-        setPressImageAlpha(m_imageAlpha, m_normalImage, m_pressImage);
+    d->imageSize = image.size();
+    setMinimumSize(d->imageSize);
+    if (d->showMode == AlphaMode)
+        setPressImageAlpha(d->imageAlpha, d->normalImage, d->pressImage);
     update();
+}
+
+QPixmap SpLockButton::pressImage() const
+{
+    return d->pressImage;
 }
 
 /** The picture shown while down. Stored only, and ignored in AlphaMode, on purpose: it is made. */
 void SpLockButton::setPressImage(const QPixmap &image)
 {
-    if (m_showMode == HighlightMode)
-        m_pressImage = image;
+    if (d->showMode == HighlightMode)
+        d->pressImage = image;
+}
+
+QPixmap SpLockButton::disableImage() const
+{
+    return d->disableImage;
 }
 
 /**
@@ -71,12 +125,17 @@ void SpLockButton::setPressImage(const QPixmap &image)
  */
 void SpLockButton::setDisableImage(const QPixmap &image)
 {
-    m_disableImage = image;
-    if (m_disableMode == Show_NormalImage)
-        m_disableImage = m_normalImage;
-    else if (m_disableMode == Show_NormalImageAlpha)
-        setPressImageAlpha(m_disableAlpha, m_normalImage, m_disableImage);
+    d->disableImage = image;
+    if (d->disableMode == Show_NormalImage)
+        d->disableImage = d->normalImage;
+    else if (d->disableMode == Show_NormalImageAlpha)
+        setPressImageAlpha(d->disableAlpha, d->normalImage, d->disableImage);
     update();
+}
+
+int SpLockButton::imageAlpha() const
+{
+    return d->imageAlpha;
 }
 
 /**
@@ -85,9 +144,14 @@ void SpLockButton::setDisableImage(const QPixmap &image)
  */
 void SpLockButton::setImageAlpha(const int &alpha)
 {
-    m_imageAlpha = alpha;
-    if (m_showMode == AlphaMode)
-        setPressImageAlpha(m_imageAlpha, m_normalImage, m_pressImage);
+    d->imageAlpha = alpha;
+    if (d->showMode == AlphaMode)
+        setPressImageAlpha(d->imageAlpha, d->normalImage, d->pressImage);
+}
+
+int SpLockButton::disableAlpha() const
+{
+    return d->disableAlpha;
 }
 
 /**
@@ -96,8 +160,13 @@ void SpLockButton::setImageAlpha(const int &alpha)
  */
 void SpLockButton::setDisableAlpha(const int &alpha)
 {
-    m_disableAlpha = alpha;
-    setDisableImage(QPixmap(m_disableImage));
+    d->disableAlpha = alpha;
+    setDisableImage(QPixmap(d->disableImage));
+}
+
+bool SpLockButton::disableState() const
+{
+    return d->disableState;
 }
 
 /**
@@ -106,45 +175,75 @@ void SpLockButton::setDisableAlpha(const int &alpha)
  */
 void SpLockButton::setDisableState(const bool &disabled)
 {
-    m_disableState = disabled;
+    d->disableState = disabled;
     update();
+}
+
+bool SpLockButton::isDown() const
+{
+    return d->isDown;
 }
 
 /** Sets the latched state without a signal. Repaints. */
 void SpLockButton::setIsDown(bool down)
 {
-    m_isDown = down;
+    d->isDown = down;
     update();
+}
+
+QString SpLockButton::buttonID() const
+{
+    return d->buttonID;
 }
 
 /** The text that both signals carry; "SpLockButton_ID" by default. Stored only. */
 void SpLockButton::setButtonID(const QString &id)
 {
-    m_buttonID = id;
+    d->buttonID = id;
+}
+
+QString SpLockButton::displayText() const
+{
+    return d->displayText;
 }
 
 /** The caption in the middle of the widget, neither shortened nor wrapped. Stored only. */
 void SpLockButton::setDisplayText(const QString &text)
 {
-    m_displayText = text;
+    d->displayText = text;
+}
+
+QColor SpLockButton::normalTextColor() const
+{
+    return d->normalTextColor;
 }
 
 /** The colour of the caption while up; white by default. Stored only. */
 void SpLockButton::setNormalTextColor(const QColor &color)
 {
-    m_normalTextColor = color;
+    d->normalTextColor = color;
+}
+
+QColor SpLockButton::pressTextColor() const
+{
+    return d->pressTextColor;
 }
 
 /** The colour of the caption while down; red by default. Stored only. */
 void SpLockButton::setPressTextColor(const QColor &color)
 {
-    m_pressTextColor = color;
+    d->pressTextColor = color;
+}
+
+QColor SpLockButton::disableTextColor() const
+{
+    return d->disableTextColor;
 }
 
 /** The colour of the caption while disabled; grey (100, 100, 100) by default. Stored only. */
 void SpLockButton::setDisableTextColor(const QColor &color)
 {
-    m_disableTextColor = color;
+    d->disableTextColor = color;
 }
 
 /** Sets the size of the widget's font in px; sizes below 1 are ignored. */
@@ -162,14 +261,14 @@ void SpLockButton::setFontSize(int px)
  */
 void SpLockButton::setPressImageAlpha(int alpha, const QPixmap &source, QPixmap &target)
 {
-    target = QPixmap::fromImage(fadedImage(source, m_imageSize, alpha));
+    target = QPixmap::fromImage(fadedImage(source, d->imageSize, alpha));
 }
 
 void SpLockButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    drawPicture(painter);
-    drawCaption(painter);
+    d->drawPicture(painter);
+    d->drawCaption(painter);
 }
 
 /**
@@ -180,13 +279,13 @@ void SpLockButton::mousePressEvent(QMouseEvent *e)
 {
     if (e)
         QWidget::mousePressEvent(e);
-    if (m_disableState)
+    if (d->disableState)
         return;
     postKeyRequest(this, kBeepRequest);
-    m_isDown = !m_isDown;
+    d->isDown = !d->isDown;
     update();
     const QPointer<SpLockButton> guard(this);
-    emit btnPressed(m_buttonID);
+    emit btnPressed(d->buttonID);
     if (!guard && e)
         e->accept(); // there is no way to the parent any more
 }
@@ -202,39 +301,39 @@ void SpLockButton::mouseReleaseEvent(QMouseEvent *e)
 {
     if (e)
         QWidget::mouseReleaseEvent(e);
-    if (m_disableState)
+    if (d->disableState)
         return;
     const QPointer<SpLockButton> guard(this);
-    emit btnReleased(m_buttonID);
+    emit btnReleased(d->buttonID);
     if (!guard && e)
         e->accept();
 }
 
-const QPixmap &SpLockButton::currentImage() const
+const QPixmap &SpLockButton::Private::currentImage() const
 {
-    if (m_disableState)
-        return m_disableImage;
-    return m_isDown ? m_pressImage : m_normalImage;
+    if (disableState)
+        return disableImage;
+    return isDown ? pressImage : normalImage;
 }
 
-QColor SpLockButton::captionColor() const
+QColor SpLockButton::Private::captionColor() const
 {
-    if (m_disableState)
-        return m_disableTextColor;
-    return m_isDown ? m_pressTextColor : m_normalTextColor;
+    if (disableState)
+        return disableTextColor;
+    return isDown ? pressTextColor : normalTextColor;
 }
 
-void SpLockButton::drawPicture(QPainter &painter) const
+void SpLockButton::Private::drawPicture(QPainter &painter) const
 {
     const QPixmap &image = currentImage();
     if (!image.isNull())
-        m_look->drawScaled(painter, centredTowardZero(m_imageSize, rect()), image);
+        look.drawScaled(painter, centredTowardZero(imageSize, q->rect()), image);
 }
 
-void SpLockButton::drawCaption(QPainter &painter) const
+void SpLockButton::Private::drawCaption(QPainter &painter) const
 {
-    if (m_displayText.isEmpty())
+    if (displayText.isEmpty())
         return;
     painter.setPen(captionColor());
-    m_caption->draw(painter, QRectF(rect()), Qt::AlignCenter, m_displayText);
+    caption.draw(painter, QRectF(q->rect()), Qt::AlignCenter, displayText);
 }

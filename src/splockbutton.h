@@ -5,17 +5,10 @@
 
 #include <QColor>
 #include <QPixmap>
-#include <QSize>
 #include <QString>
 #include <QWidget>
 
 #include <memory>
-
-namespace panelkit
-{
-class ImageLook;
-class KeptText;
-} // namespace panelkit
 
 /**
  * A latching image button, such as a lock or a mute key: every press turns it over between up and
@@ -62,33 +55,33 @@ public:
     explicit SpLockButton(QWidget *parent = nullptr);
     ~SpLockButton() override;
 
-    ShowMode showMode() const { return m_showMode; }
+    ShowMode showMode() const;
     void setShowMode(const ShowMode &mode);
-    DisableMode disableMode() const { return m_disableMode; }
+    DisableMode disableMode() const;
     void setDisableMode(const DisableMode &mode);
-    QPixmap normalImage() const { return m_normalImage; }
+    QPixmap normalImage() const;
     void setNormalImage(const QPixmap &image);
-    QPixmap pressImage() const { return m_pressImage; }
+    QPixmap pressImage() const;
     void setPressImage(const QPixmap &image);
-    QPixmap disableImage() const { return m_disableImage; }
+    QPixmap disableImage() const;
     void setDisableImage(const QPixmap &image);
-    int imageAlpha() const { return m_imageAlpha; }
+    int imageAlpha() const;
     void setImageAlpha(const int &alpha);
-    int disableAlpha() const { return m_disableAlpha; }
+    int disableAlpha() const;
     void setDisableAlpha(const int &alpha);
-    bool disableState() const { return m_disableState; }
+    bool disableState() const;
     void setDisableState(const bool &disabled);
-    bool isDown() const { return m_isDown; }
+    bool isDown() const;
     void setIsDown(bool down);
-    QString buttonID() const { return m_buttonID; }
+    QString buttonID() const;
     void setButtonID(const QString &id);
-    QString displayText() const { return m_displayText; }
+    QString displayText() const;
     void setDisplayText(const QString &text);
-    QColor normalTextColor() const { return m_normalTextColor; }
+    QColor normalTextColor() const;
     void setNormalTextColor(const QColor &color);
-    QColor pressTextColor() const { return m_pressTextColor; }
+    QColor pressTextColor() const;
     void setPressTextColor(const QColor &color);
-    QColor disableTextColor() const { return m_disableTextColor; }
+    QColor disableTextColor() const;
     void setDisableTextColor(const QColor &color);
 
     void setFontSize(int px);
@@ -105,29 +98,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent *e) override;
 
 private:
-    const QPixmap &currentImage() const;
-    QColor captionColor() const;
-    void drawPicture(QPainter &painter) const;
-    void drawCaption(QPainter &painter) const;
-
-    QPixmap m_normalImage;
-    QPixmap m_pressImage;
-    QPixmap m_disableImage;
-    ShowMode m_showMode = AlphaMode;
-    DisableMode m_disableMode = Show_NormalImage;
-    QSize m_imageSize{32, 32}; // px, of the image rectangle
-    int m_imageAlpha = 154; // 0..255
-    int m_disableAlpha = 154; // 0..255
-    bool m_isDown = false;
-    bool m_disableState = false;
-    QString m_buttonID = QStringLiteral("SpLockButton_ID");
-    QString m_displayText;
-    QColor m_normalTextColor{255, 255, 255, 255};
-    QColor m_pressTextColor{255, 0, 0, 255};
-    QColor m_disableTextColor{100, 100, 100, 255};
-
-    std::unique_ptr<panelkit::ImageLook> m_look;
-    std::unique_ptr<panelkit::KeptText> m_caption;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 #endif // SPLOCKBUTTON_H

@@ -4,34 +4,68 @@
 #include <QPainter>
 #include <QPointer>
 
+class Q_DECL_HIDDEN SpMaskBackground::Private
+{
+public:
+    QColor painterColor = Qt::black;
+    int roundX = 0; // px
+    int roundY = 0; // px
+    bool holdMouseEvent = false;
+};
+
 /** A black mask with square corners. */
-SpMaskBackground::SpMaskBackground(QWidget *parent) : QWidget(parent) { }
+SpMaskBackground::SpMaskBackground(QWidget *parent)
+    : QWidget(parent), d(std::make_unique<Private>())
+{
+}
+
+QColor SpMaskBackground::painterColor() const
+{
+    return d->painterColor;
+}
 
 /** The colour of the mask, black by default; its alpha makes it translucent. Repaints. */
 void SpMaskBackground::setPainterColor(const QColor &color)
 {
-    m_painterColor = color;
+    d->painterColor = color;
     update();
+}
+
+SpMaskBackground::~SpMaskBackground() = default;
+
+int SpMaskBackground::roundX() const
+{
+    return d->roundX;
 }
 
 /** The radius of the corners to the sides, in px; 0 by default. Repaints. */
 void SpMaskBackground::setRoundX(const int &radius)
 {
-    m_roundX = radius;
+    d->roundX = radius;
     update();
+}
+
+int SpMaskBackground::roundY() const
+{
+    return d->roundY;
 }
 
 /** The radius of the corners up and down, in px; 0 by default. Repaints. */
 void SpMaskBackground::setRoundY(const int &radius)
 {
-    m_roundY = radius;
+    d->roundY = radius;
     update();
+}
+
+bool SpMaskBackground::holdMouseEvent() const
+{
+    return d->holdMouseEvent;
 }
 
 /** Whether touches end here instead of going on to the parent; off by default. Stored only. */
 void SpMaskBackground::setholdMouseEvent(const bool &hold)
 {
-    m_holdMouseEvent = hold;
+    d->holdMouseEvent = hold;
 }
 
 /** Corners are round only if both radii are above 0. */
@@ -40,15 +74,15 @@ void SpMaskBackground::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(m_painterColor);
-    painter.drawRoundedRect(QRectF(rect()), qreal(m_roundX), qreal(m_roundY));
+    painter.setBrush(d->painterColor);
+    painter.drawRoundedRect(QRectF(rect()), qreal(d->roundX), qreal(d->roundY));
 }
 
 void SpMaskBackground::mousePressEvent(QMouseEvent *e)
 {
     if (!e)
         return;
-    if (!m_holdMouseEvent)
+    if (!d->holdMouseEvent)
         QWidget::mousePressEvent(e);
     const QPointer<SpMaskBackground> guard(this);
     emit pressMask(e->pos());
@@ -58,7 +92,7 @@ void SpMaskBackground::mousePressEvent(QMouseEvent *e)
 
 void SpMaskBackground::mouseMoveEvent(QMouseEvent *e)
 {
-    if (e && !m_holdMouseEvent)
+    if (e && !d->holdMouseEvent)
         QWidget::mouseMoveEvent(e);
 }
 
@@ -67,7 +101,7 @@ void SpMaskBackground::mouseReleaseEvent(QMouseEvent *e)
 {
     if (!e)
         return;
-    if (!m_holdMouseEvent)
+    if (!d->holdMouseEvent)
         QWidget::mouseReleaseEvent(e);
     const QPointer<SpMaskBackground> guard(this);
     emit releaseMask(e->pos());

@@ -7,6 +7,8 @@
 #include <QPoint>
 #include <QWidget>
 
+#include <memory>
+
 /**
  * A mask in one colour, square or rounded, mostly translucent: lay it over a page and under a popup
  * to dim the page. It reports where it is touched with pressMask and releaseMask, and each touch
@@ -22,14 +24,15 @@ class PANELKIT_EXPORT SpMaskBackground : public QWidget
 
 public:
     explicit SpMaskBackground(QWidget *parent = nullptr);
+    ~SpMaskBackground() override;
 
-    QColor painterColor() const { return m_painterColor; }
+    QColor painterColor() const;
     void setPainterColor(const QColor &color);
-    int roundX() const { return m_roundX; }
+    int roundX() const;
     void setRoundX(const int &radius);
-    int roundY() const { return m_roundY; }
+    int roundY() const;
     void setRoundY(const int &radius);
-    bool holdMouseEvent() const { return m_holdMouseEvent; }
+    bool holdMouseEvent() const;
     void setholdMouseEvent(const bool &hold);
 
 signals:
@@ -44,10 +47,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent *e) override;
 
 private:
-    QColor m_painterColor = Qt::black;
-    int m_roundX = 0; // px
-    int m_roundY = 0; // px
-    bool m_holdMouseEvent = false;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 #endif // SPMASKBACKGROUND_H

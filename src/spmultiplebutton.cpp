@@ -7,6 +7,7 @@
 #include <QGraphicsOpacityEffect>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 
 #include <algorithm>
 
@@ -83,21 +84,61 @@ QList<QPixmap> fromFiles(const QList<QString> &paths)
 
 } // namespace
 
+class Q_DECL_HIDDEN SpMultipleButton::Private
+{
+public:
+    explicit Private(SpMultipleButton *widget) : q(widget) { }
+
+    void replaceNormalImage(int state, const QPixmap &image);
+    void replacePressImage(int state, const QPixmap &image);
+    void adoptPixmapLists(const QList<QPixmap> &normal, const QList<QPixmap> &press);
+    QPixmap stateImage() const;
+    void drawCentred(QPainter &painter, const QPixmap &image) const;
+    void dim();
+
+    SpMultipleButton *const q;
+    int buttonId = 0;
+    int currentValue = 0;
+    int totalValue = 20;
+    bool pressed = false;
+    bool disableState = false;
+    bool dataValid = false;
+    bool autoChange = true;
+    QList<QPixmap> normalImages; // one for each state
+    QList<QPixmap> pressImages; // one for each state
+    QPixmap backgroundImage;
+    QPointer<QGraphicsOpacityEffect> opacity; // the widget's own, until it is given another
+};
+
 /**
  * A button of 20 states without any picture: it paints nothing and ignores touches. Its opacity
  * effect has the opacity that Qt gives it, 0.7, until the first paint of a complete set.
  */
 SpMultipleButton::SpMultipleButton(QWidget *parent)
-    : QWidget(parent), m_normalImages(nullImages()), m_pressImages(nullImages()),
-      m_opacity(new Dimming(this))
+    : QWidget(parent), d(std::make_unique<Private>(this))
 {
-    setGraphicsEffect(m_opacity);
+    d->normalImages = nullImages();
+    d->pressImages = nullImages();
+    d->opacity = new Dimming(this);
+    setGraphicsEffect(d->opacity);
+}
+
+SpMultipleButton::~SpMultipleButton() = default;
+
+int SpMultipleButton::buttonId() const
+{
+    return d->buttonId;
 }
 
 /** The number that clicked carries; 0 by default. Stored only. */
 void SpMultipleButton::setButtonId(int id)
 {
-    m_buttonId = id;
+    d->buttonId = id;
+}
+
+int SpMultipleButton::totalValue() const
+{
+    return d->totalValue;
 }
 
 /**
@@ -108,17 +149,27 @@ void SpMultipleButton::setButtonId(int id)
  */
 void SpMultipleButton::setTotalValue(int v)
 {
-    if (v > 0 && v <= m_normalImages.size())
-        m_totalValue = v;
+    if (v > 0 && v <= d->normalImages.size())
+        d->totalValue = v;
     checkData();
+}
+
+int SpMultipleButton::currentValue() const
+{
+    return d->currentValue;
 }
 
 /** The state that is shown, from 0; others than there are, are ignored. Repaints in every case. */
 void SpMultipleButton::setCurrentValue(int v)
 {
-    if (v >= 0 && v < m_totalValue)
-        m_currentValue = v;
+    if (v >= 0 && v < d->totalValue)
+        d->currentValue = v;
     update();
+}
+
+bool SpMultipleButton::disableState() const
+{
+    return d->disableState;
 }
 
 /**
@@ -128,8 +179,13 @@ void SpMultipleButton::setCurrentValue(int v)
  */
 void SpMultipleButton::setDisableState(bool disabled)
 {
-    m_disableState = disabled;
+    d->disableState = disabled;
     checkData();
+}
+
+QPixmap SpMultipleButton::backgroundImage() const
+{
+    return d->backgroundImage;
 }
 
 /**
@@ -138,9 +194,14 @@ void SpMultipleButton::setDisableState(bool disabled)
  */
 void SpMultipleButton::setBackgroundImage(QPixmap image)
 {
-    m_backgroundImage = image;
+    d->backgroundImage = image;
     if (!image.isNull())
         setMinimumSize(image.size());
+}
+
+QPixmap SpMultipleButton::normalImage0() const
+{
+    return d->normalImages.value(0);
 }
 
 /**
@@ -149,42 +210,82 @@ void SpMultipleButton::setBackgroundImage(QPixmap image)
  */
 void SpMultipleButton::setNormalImage0(QPixmap image)
 {
-    replaceNormalImage(0, image);
+    d->replaceNormalImage(0, image);
+}
+
+QPixmap SpMultipleButton::normalImage1() const
+{
+    return d->normalImages.value(1);
 }
 
 void SpMultipleButton::setNormalImage1(QPixmap image)
 {
-    replaceNormalImage(1, image);
+    d->replaceNormalImage(1, image);
+}
+
+QPixmap SpMultipleButton::normalImage2() const
+{
+    return d->normalImages.value(2);
 }
 
 void SpMultipleButton::setNormalImage2(QPixmap image)
 {
-    replaceNormalImage(2, image);
+    d->replaceNormalImage(2, image);
+}
+
+QPixmap SpMultipleButton::normalImage3() const
+{
+    return d->normalImages.value(3);
 }
 
 void SpMultipleButton::setNormalImage3(QPixmap image)
 {
-    replaceNormalImage(3, image);
+    d->replaceNormalImage(3, image);
+}
+
+QPixmap SpMultipleButton::normalImage4() const
+{
+    return d->normalImages.value(4);
 }
 
 void SpMultipleButton::setNormalImage4(QPixmap image)
 {
-    replaceNormalImage(4, image);
+    d->replaceNormalImage(4, image);
+}
+
+QPixmap SpMultipleButton::normalImage5() const
+{
+    return d->normalImages.value(5);
 }
 
 void SpMultipleButton::setNormalImage5(QPixmap image)
 {
-    replaceNormalImage(5, image);
+    d->replaceNormalImage(5, image);
+}
+
+QPixmap SpMultipleButton::normalImage6() const
+{
+    return d->normalImages.value(6);
 }
 
 void SpMultipleButton::setNormalImage6(QPixmap image)
 {
-    replaceNormalImage(6, image);
+    d->replaceNormalImage(6, image);
+}
+
+QPixmap SpMultipleButton::normalImage7() const
+{
+    return d->normalImages.value(7);
 }
 
 void SpMultipleButton::setNormalImage7(QPixmap image)
 {
-    replaceNormalImage(7, image);
+    d->replaceNormalImage(7, image);
+}
+
+QPixmap SpMultipleButton::pressImage0() const
+{
+    return d->pressImages.value(0);
 }
 
 /**
@@ -194,46 +295,81 @@ void SpMultipleButton::setNormalImage7(QPixmap image)
  */
 void SpMultipleButton::setPressImage0(QPixmap image)
 {
-    if (!m_backgroundImage.isNull())
-        setMinimumSize(m_backgroundImage.size());
+    if (!d->backgroundImage.isNull())
+        setMinimumSize(d->backgroundImage.size());
     else if (!image.isNull())
         setMinimumSize(image.size());
-    replacePressImage(0, image);
+    d->replacePressImage(0, image);
+}
+
+QPixmap SpMultipleButton::pressImage1() const
+{
+    return d->pressImages.value(1);
 }
 
 void SpMultipleButton::setPressImage1(QPixmap image)
 {
-    replacePressImage(1, image);
+    d->replacePressImage(1, image);
+}
+
+QPixmap SpMultipleButton::pressImage2() const
+{
+    return d->pressImages.value(2);
 }
 
 void SpMultipleButton::setPressImage2(QPixmap image)
 {
-    replacePressImage(2, image);
+    d->replacePressImage(2, image);
+}
+
+QPixmap SpMultipleButton::pressImage3() const
+{
+    return d->pressImages.value(3);
 }
 
 void SpMultipleButton::setPressImage3(QPixmap image)
 {
-    replacePressImage(3, image);
+    d->replacePressImage(3, image);
+}
+
+QPixmap SpMultipleButton::pressImage4() const
+{
+    return d->pressImages.value(4);
 }
 
 void SpMultipleButton::setPressImage4(QPixmap image)
 {
-    replacePressImage(4, image);
+    d->replacePressImage(4, image);
+}
+
+QPixmap SpMultipleButton::pressImage5() const
+{
+    return d->pressImages.value(5);
 }
 
 void SpMultipleButton::setPressImage5(QPixmap image)
 {
-    replacePressImage(5, image);
+    d->replacePressImage(5, image);
+}
+
+QPixmap SpMultipleButton::pressImage6() const
+{
+    return d->pressImages.value(6);
 }
 
 void SpMultipleButton::setPressImage6(QPixmap image)
 {
-    replacePressImage(6, image);
+    d->replacePressImage(6, image);
+}
+
+QPixmap SpMultipleButton::pressImage7() const
+{
+    return d->pressImages.value(7);
 }
 
 void SpMultipleButton::setPressImage7(QPixmap image)
 {
-    replacePressImage(7, image);
+    d->replacePressImage(7, image);
 }
 
 /**
@@ -247,8 +383,8 @@ void SpMultipleButton::setPixmapList(const QList<QPixmap> &normal, const QList<Q
 {
     if (!canBeStates(normal.size(), press.size()))
         return;
-    adoptPixmapLists(normal, press);
-    const QPixmap second = m_normalImages.value(1);
+    d->adoptPixmapLists(normal, press);
+    const QPixmap second = d->normalImages.value(1);
     if (!second.isNull())
         setMinimumSize(second.size());
 }
@@ -262,13 +398,13 @@ void SpMultipleButton::setPixmapList(
     QList<QString> press) // NOLINT(performance-unnecessary-value-param)
 {
     if (canBeStates(normal.size(), press.size()))
-        adoptPixmapLists(fromFiles(normal), fromFiles(press));
+        d->adoptPixmapLists(fromFiles(normal), fromFiles(press));
 }
 
 /** Whether a click advances the state; on by default. Stored only. */
 void SpMultipleButton::setAutoChange(bool change)
 {
-    m_autoChange = change;
+    d->autoChange = change;
 }
 
 /**
@@ -277,29 +413,30 @@ void SpMultipleButton::setAutoChange(bool change)
  */
 void SpMultipleButton::checkData()
 {
-    m_dataValid = m_totalValue <= m_normalImages.size()
-        && m_normalImages.size() == m_pressImages.size()
-        && areAllThere(m_normalImages, m_totalValue) && areAllThere(m_pressImages, m_totalValue);
+    d->dataValid = d->totalValue <= d->normalImages.size()
+        && d->normalImages.size() == d->pressImages.size()
+        && areAllThere(d->normalImages, d->totalValue)
+        && areAllThere(d->pressImages, d->totalValue);
 }
 
 void SpMultipleButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    drawCentred(painter, m_backgroundImage);
-    if (!m_dataValid)
+    d->drawCentred(painter, d->backgroundImage);
+    if (!d->dataValid)
         return;
-    drawCentred(painter, stateImage());
+    d->drawCentred(painter, d->stateImage());
     painter.end();
-    dim();
+    d->dim();
 }
 
 /** A press asks for the click sound and shows the pressed picture. */
 void SpMultipleButton::mousePressEvent(QMouseEvent *)
 {
-    if (m_disableState || !m_dataValid)
+    if (d->disableState || !d->dataValid)
         return;
     postKeyRequest(this, kBeepRequest);
-    m_pressed = true;
+    d->pressed = true;
     update();
 }
 
@@ -309,53 +446,54 @@ void SpMultipleButton::mousePressEvent(QMouseEvent *)
  */
 void SpMultipleButton::mouseReleaseEvent(QMouseEvent *)
 {
-    if (m_disableState || !m_dataValid)
+    if (d->disableState || !d->dataValid)
         return;
-    m_pressed = false;
-    if (m_autoChange)
-        ++m_currentValue;
-    if (m_currentValue >= m_totalValue)
-        m_currentValue = 0;
+    d->pressed = false;
+    if (d->autoChange)
+        ++d->currentValue;
+    if (d->currentValue >= d->totalValue)
+        d->currentValue = 0;
     update();
-    emit clicked(m_buttonId, m_currentValue);
+    emit clicked(d->buttonId, d->currentValue);
 }
 
-void SpMultipleButton::replaceNormalImage(int state, const QPixmap &image)
+void SpMultipleButton::Private::replaceNormalImage(int state, const QPixmap &image)
 {
-    replaceEntry(m_normalImages, state, image);
-    checkData();
+    replaceEntry(normalImages, state, image);
+    q->checkData();
 }
 
-void SpMultipleButton::replacePressImage(int state, const QPixmap &image)
+void SpMultipleButton::Private::replacePressImage(int state, const QPixmap &image)
 {
-    replaceEntry(m_pressImages, state, image);
-    checkData();
+    replaceEntry(pressImages, state, image);
+    q->checkData();
 }
 
-void SpMultipleButton::adoptPixmapLists(const QList<QPixmap> &normal, const QList<QPixmap> &press)
+void SpMultipleButton::Private::adoptPixmapLists(const QList<QPixmap> &normal,
+                                                 const QList<QPixmap> &press)
 {
-    m_normalImages = normal;
-    m_pressImages = press;
-    m_totalValue = normal.size();
-    m_dataValid = true;
+    normalImages = normal;
+    pressImages = press;
+    totalValue = normal.size();
+    dataValid = true;
 }
 
-QPixmap SpMultipleButton::stateImage() const
+QPixmap SpMultipleButton::Private::stateImage() const
 {
-    const bool isPressed = m_pressed && !m_disableState;
-    return (isPressed ? m_pressImages : m_normalImages).value(m_currentValue);
+    const bool isPressed = pressed && !disableState;
+    return (isPressed ? pressImages : normalImages).value(currentValue);
 }
 
-void SpMultipleButton::drawCentred(QPainter &painter, const QPixmap &image) const
+void SpMultipleButton::Private::drawCentred(QPainter &painter, const QPixmap &image) const
 {
     if (!image.isNull())
-        painter.drawPixmap(centredTowardMinusInfinity(image.size(), rect()).topLeft(), image);
+        painter.drawPixmap(centredTowardMinusInfinity(image.size(), q->rect()).topLeft(), image);
 }
 
 // The effect already has this paint in hand: an opacity that changes shows in another one, which it
 // asks for itself.
-void SpMultipleButton::dim()
+void SpMultipleButton::Private::dim()
 {
-    if (m_opacity)
-        m_opacity->setOpacity(m_disableState ? kDimmed : qreal(1));
+    if (opacity)
+        opacity->setOpacity(disableState ? kDimmed : qreal(1));
 }

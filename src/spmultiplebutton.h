@@ -5,11 +5,10 @@
 
 #include <QList>
 #include <QPixmap>
-#include <QPointer>
 #include <QString>
 #include <QWidget>
 
-class QGraphicsOpacityEffect;
+#include <memory>
 
 /**
  * A touch button that goes through a number of states, each with a picture and a pressed picture,
@@ -47,48 +46,49 @@ class PANELKIT_EXPORT SpMultipleButton : public QWidget
 
 public:
     explicit SpMultipleButton(QWidget *parent = nullptr);
+    ~SpMultipleButton() override;
 
-    int buttonId() const { return m_buttonId; }
+    int buttonId() const;
     void setButtonId(int id);
-    int totalValue() const { return m_totalValue; }
+    int totalValue() const;
     void setTotalValue(int v);
-    int currentValue() const { return m_currentValue; }
+    int currentValue() const;
     void setCurrentValue(int v);
-    bool disableState() const { return m_disableState; }
+    bool disableState() const;
     void setDisableState(bool disabled);
-    QPixmap backgroundImage() const { return m_backgroundImage; }
+    QPixmap backgroundImage() const;
     void setBackgroundImage(QPixmap image);
-    QPixmap normalImage0() const { return m_normalImages.value(0); }
+    QPixmap normalImage0() const;
     void setNormalImage0(QPixmap image);
-    QPixmap normalImage1() const { return m_normalImages.value(1); }
+    QPixmap normalImage1() const;
     void setNormalImage1(QPixmap image);
-    QPixmap normalImage2() const { return m_normalImages.value(2); }
+    QPixmap normalImage2() const;
     void setNormalImage2(QPixmap image);
-    QPixmap normalImage3() const { return m_normalImages.value(3); }
+    QPixmap normalImage3() const;
     void setNormalImage3(QPixmap image);
-    QPixmap normalImage4() const { return m_normalImages.value(4); }
+    QPixmap normalImage4() const;
     void setNormalImage4(QPixmap image);
-    QPixmap normalImage5() const { return m_normalImages.value(5); }
+    QPixmap normalImage5() const;
     void setNormalImage5(QPixmap image);
-    QPixmap normalImage6() const { return m_normalImages.value(6); }
+    QPixmap normalImage6() const;
     void setNormalImage6(QPixmap image);
-    QPixmap normalImage7() const { return m_normalImages.value(7); }
+    QPixmap normalImage7() const;
     void setNormalImage7(QPixmap image);
-    QPixmap pressImage0() const { return m_pressImages.value(0); }
+    QPixmap pressImage0() const;
     void setPressImage0(QPixmap image);
-    QPixmap pressImage1() const { return m_pressImages.value(1); }
+    QPixmap pressImage1() const;
     void setPressImage1(QPixmap image);
-    QPixmap pressImage2() const { return m_pressImages.value(2); }
+    QPixmap pressImage2() const;
     void setPressImage2(QPixmap image);
-    QPixmap pressImage3() const { return m_pressImages.value(3); }
+    QPixmap pressImage3() const;
     void setPressImage3(QPixmap image);
-    QPixmap pressImage4() const { return m_pressImages.value(4); }
+    QPixmap pressImage4() const;
     void setPressImage4(QPixmap image);
-    QPixmap pressImage5() const { return m_pressImages.value(5); }
+    QPixmap pressImage5() const;
     void setPressImage5(QPixmap image);
-    QPixmap pressImage6() const { return m_pressImages.value(6); }
+    QPixmap pressImage6() const;
     void setPressImage6(QPixmap image);
-    QPixmap pressImage7() const { return m_pressImages.value(7); }
+    QPixmap pressImage7() const;
     void setPressImage7(QPixmap image);
 
     void setPixmapList(const QList<QPixmap> &normal, const QList<QPixmap> &press);
@@ -106,24 +106,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent *e) override;
 
 private:
-    void replaceNormalImage(int state, const QPixmap &image);
-    void replacePressImage(int state, const QPixmap &image);
-    void adoptPixmapLists(const QList<QPixmap> &normal, const QList<QPixmap> &press);
-    QPixmap stateImage() const;
-    void drawCentred(QPainter &painter, const QPixmap &image) const;
-    void dim();
-
-    int m_buttonId = 0;
-    int m_currentValue = 0;
-    int m_totalValue = 20;
-    bool m_pressed = false;
-    bool m_disableState = false;
-    bool m_dataValid = false;
-    bool m_autoChange = true;
-    QList<QPixmap> m_normalImages; // one for each state
-    QList<QPixmap> m_pressImages; // one for each state
-    QPixmap m_backgroundImage;
-    QPointer<QGraphicsOpacityEffect> m_opacity; // the widget's own, until it is given another
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 #endif // SPMULTIPLEBUTTON_H

@@ -46,18 +46,60 @@ bool isInReach(const QPointF &offset)
 
 } // namespace
 
-/** An empty line. */
-SpRollingText::SpRollingText(QWidget *parent)
-    : QWidget(parent), m_rollTimer(new QTimer(this)), m_resting(std::make_unique<KeptText>()),
-      m_rolling(std::make_unique<KeptLines>())
+class Q_DECL_HIDDEN SpRollingText::Private
 {
-    m_rollTimer->setInterval(kRollInterval);
-    connect(m_rollTimer, SIGNAL(timeout()), this, SLOT(updateIndex()));
+public:
+    explicit Private(SpRollingText *widget) : q(widget) { }
+
+    bool isWaiting() const { return waitCounter != waitTicks; }
+    bool isTooWide(const QString &line) const;
+    QString shortened() const;
+    void startRolling();
+    void drawResting(QPainter &painter);
+    void drawRolling(QPainter &painter);
+    int displayWidth();
+
+    SpRollingText *const q;
+    QTimer *rollTimer = nullptr;
+    QString rollSource; // the text, and when it is too wide the gap
+    QString displayText;
+    QString text;
+    QColor textColor = QColor(255, 255, 255);
+    Qt::Alignment textAlignment = Qt::AlignCenter;
+    int nextIndex = 0; // in the roll source
+    int pixelOffset = 0; // px, to the left
+    int firstWidth = 0; // px, of the first character that is displayed
+    int fontSize = 20; // px
+    bool isRolling = false;
+    bool autoRoll = true;
+    int waitTicks = 0;
+    int waitCounter = 0; // ticks waited so far
+    bool dropShadow = false;
+    QColor shadowColor = QColor(0, 0, 0);
+    QPointF shadowOffset = QPointF(2, 2); // px
+    QString measuredText; // what the kept width belongs to
+    QFont measuredFont;
+    int measuredWidth = 0; // px
+    KeptText resting;
+    KeptLines rolling;
+};
+
+/** An empty line. */
+SpRollingText::SpRollingText(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
+{
+    d->rollTimer = new QTimer(this);
+    d->rollTimer->setInterval(kRollInterval);
+    connect(d->rollTimer, SIGNAL(timeout()), this, SLOT(updateIndex()));
     // Queued, so that the step after a paint is not taken inside it.
     connect(this, SIGNAL(paintFinish()), this, SLOT(paintFinishSlot()), Qt::QueuedConnection);
 }
 
 SpRollingText::~SpRollingText() = default;
+
+QString SpRollingText::text() const
+{
+    return d->text;
+}
 
 /**
  * Shows a text, from its start: as it is if it fits, to the pixel; otherwise rolling or, with
@@ -65,22 +107,27 @@ SpRollingText::~SpRollingText() = default;
  */
 void SpRollingText::setText(QString text)
 {
-    m_rollTimer->stop();
-    m_isRolling = false;
-    m_rollSource = text;
-    m_text = std::move(text);
-    m_nextIndex = 0;
-    m_pixelOffset = 0;
-    if (!isTooWide(m_text)) {
-        m_displayText = m_text;
+    d->rollTimer->stop();
+    d->isRolling = false;
+    d->rollSource = text;
+    d->text = std::move(text);
+    d->nextIndex = 0;
+    d->pixelOffset = 0;
+    if (!d->isTooWide(d->text)) {
+        d->displayText = d->text;
     } else {
-        m_rollSource += QString(kGap, QLatin1Char(' '));
-        if (m_autoRoll)
-            startRolling();
+        d->rollSource += QString(kGap, QLatin1Char(' '));
+        if (d->autoRoll)
+            d->startRolling();
         else
-            m_displayText = shortened();
+            d->displayText = d->shortened();
     }
     update();
+}
+
+int SpRollingText::fontSize() const
+{
+    return d->fontSize;
 }
 
 /**
@@ -90,59 +137,89 @@ void SpRollingText::setText(QString text)
 void SpRollingText::setFontSize(int size)
 {
     setFont(resized(font(), size));
-    m_fontSize = size;
+    d->fontSize = size;
+}
+
+QColor SpRollingText::textColor() const
+{
+    return d->textColor;
 }
 
 /** The colour of the text; white by default. Stored only. */
 void SpRollingText::setTextColor(QColor color)
 {
-    m_textColor = color;
+    d->textColor = color;
+}
+
+Qt::Alignment SpRollingText::textAlignment() const
+{
+    return d->textAlignment;
 }
 
 /** Where the text stands; in the middle by default. Stored only. */
 void SpRollingText::setTextAlignment(Qt::Alignment alignment)
 {
-    m_textAlignment = alignment;
+    d->textAlignment = alignment;
+}
+
+bool SpRollingText::dropShodow() const
+{
+    return d->dropShadow;
 }
 
 /** Whether effectDropShadow() lays a shadow under the text; off by default. Calls it. */
 void SpRollingText::setDropShodow(bool on)
 {
-    m_dropShadow = on;
+    d->dropShadow = on;
     effectDropShadow();
+}
+
+QColor SpRollingText::shadowColor() const
+{
+    return d->shadowColor;
 }
 
 /** The colour of the shadow; black by default. Calls effectDropShadow(). */
 void SpRollingText::setShadowColor(QColor color)
 {
-    m_shadowColor = color;
+    d->shadowColor = color;
     effectDropShadow();
+}
+
+QPointF SpRollingText::shadowOffset() const
+{
+    return d->shadowOffset;
 }
 
 /** How far the shadow falls, in px; (2, 2) by default. Calls effectDropShadow(). */
 void SpRollingText::setShadowOffset(QPointF offset)
 {
-    m_shadowOffset = offset;
+    d->shadowOffset = offset;
     effectDropShadow();
+}
+
+bool SpRollingText::autoRoll() const
+{
+    return d->autoRoll;
 }
 
 /** Whether a text that is too wide rolls; on by default. Lays the text out again. */
 void SpRollingText::setAutoRoll(bool on)
 {
-    m_autoRoll = on;
+    d->autoRoll = on;
     setText(text());
 }
 
 /** Shows nothing; the property `text` keeps what was set, for the next time it is laid out. */
 void SpRollingText::clear()
 {
-    m_rollTimer->stop();
-    m_rollSource.clear();
-    m_displayText.clear();
-    m_nextIndex = 0;
-    m_pixelOffset = 0;
-    m_firstWidth = 0;
-    m_isRolling = false;
+    d->rollTimer->stop();
+    d->rollSource.clear();
+    d->displayText.clear();
+    d->nextIndex = 0;
+    d->pixelOffset = 0;
+    d->firstWidth = 0;
+    d->isRolling = false;
     update();
 }
 
@@ -152,8 +229,8 @@ void SpRollingText::clear()
  */
 void SpRollingText::setWaitRoll(int ms)
 {
-    m_waitTicks = ms > 0 ? ms / kRollInterval : 0;
-    m_waitCounter = 0;
+    d->waitTicks = ms > 0 ? ms / kRollInterval : 0;
+    d->waitCounter = 0;
 }
 
 /**
@@ -164,11 +241,11 @@ void SpRollingText::setWaitRoll(int ms)
  */
 void SpRollingText::effectDropShadow()
 {
-    if (m_dropShadow) {
+    if (d->dropShadow) {
         auto *shadow = new QGraphicsDropShadowEffect(this);
-        shadow->setOffset(m_shadowOffset);
-        shadow->setEnabled(isInReach(m_shadowOffset));
-        shadow->setColor(m_shadowColor);
+        shadow->setOffset(d->shadowOffset);
+        shadow->setEnabled(isInReach(d->shadowOffset));
+        shadow->setColor(d->shadowColor);
         shadow->setBlurRadius(kShadowBlur);
         setGraphicsEffect(shadow);
     }
@@ -178,12 +255,12 @@ void SpRollingText::effectDropShadow()
 void SpRollingText::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    if (m_autoRoll && m_isRolling)
-        drawRolling(painter);
+    if (d->autoRoll && d->isRolling)
+        d->drawRolling(painter);
     else
-        drawResting(painter);
+        d->drawResting(painter);
     painter.end();
-    if (m_autoRoll)
+    if (d->autoRoll)
         emit paintFinish();
 }
 
@@ -196,8 +273,8 @@ void SpRollingText::mouseReleaseEvent(QMouseEvent *e)
 /** A tick counts down the wait; after that it repaints, and the paint moves the text. */
 void SpRollingText::updateIndex()
 {
-    if (isWaiting())
-        ++m_waitCounter;
+    if (d->isWaiting())
+        ++d->waitCounter;
     else
         update();
 }
@@ -208,84 +285,84 @@ void SpRollingText::updateIndex()
  */
 void SpRollingText::paintFinishSlot()
 {
-    if (!m_autoRoll || !m_isRolling || isWaiting())
+    if (!d->autoRoll || !d->isRolling || d->isWaiting())
         return;
-    m_pixelOffset += kRollStep;
-    if (m_pixelOffset >= m_firstWidth) {
+    d->pixelOffset += kRollStep;
+    if (d->pixelOffset >= d->firstWidth) {
         // A text of few, wide characters is displayed whole, and the first one follows the last.
-        if (m_nextIndex >= m_rollSource.size())
-            m_nextIndex = 0;
-        m_displayText = m_displayText.mid(1) + m_rollSource.at(m_nextIndex);
-        ++m_nextIndex;
-        m_pixelOffset = 0;
-        m_firstWidth = QFontMetrics(font()).horizontalAdvance(m_displayText.at(0));
+        if (d->nextIndex >= d->rollSource.size())
+            d->nextIndex = 0;
+        d->displayText = d->displayText.mid(1) + d->rollSource.at(d->nextIndex);
+        ++d->nextIndex;
+        d->pixelOffset = 0;
+        d->firstWidth = QFontMetrics(font()).horizontalAdvance(d->displayText.at(0));
     }
-    if (m_nextIndex >= m_rollSource.size())
-        m_nextIndex = 0;
+    if (d->nextIndex >= d->rollSource.size())
+        d->nextIndex = 0;
 }
 
 // A text as wide as the widget fits. A very long one is not laid out to its end just to see that it
 // does not.
-bool SpRollingText::isTooWide(const QString &text) const
+bool SpRollingText::Private::isTooWide(const QString &line) const
 {
-    const QFontMetrics metrics(font());
-    if (text.size() > kMostInSight
-        && metrics.horizontalAdvance(text.left(kMostInSight)) / 2 > width())
+    const QFontMetrics metrics(q->font());
+    if (line.size() > kMostInSight
+        && metrics.horizontalAdvance(line.left(kMostInSight)) / 2 > q->width())
         return true;
-    return metrics.horizontalAdvance(text) > width();
+    return metrics.horizontalAdvance(line) > q->width();
 }
 
 // As many characters as leave room for the dots and for one pixel.
-QString SpRollingText::shortened() const
+QString SpRollingText::Private::shortened() const
 {
-    const QFontMetrics metrics(font());
-    const int room = width() - 1 - metrics.horizontalAdvance(kEllipsis);
-    const int count = firstThat(m_rollSource.size() - 1, kPrefixesTried, [&](int n) {
-        return metrics.horizontalAdvance(m_rollSource.left(n + 1)) > room;
+    const QFontMetrics metrics(q->font());
+    const int room = q->width() - 1 - metrics.horizontalAdvance(kEllipsis);
+    const int count = firstThat(rollSource.size() - 1, kPrefixesTried, [&](int n) {
+        return metrics.horizontalAdvance(rollSource.left(n + 1)) > room;
     });
-    return m_rollSource.left(count) + kEllipsis;
+    return rollSource.left(count) + kEllipsis;
 }
 
 // The text displayed is a few characters longer than what is seen of it, so that its end shows no
 // hole while it moves. The dot counts as a text, with the space that the font puts after letters.
-void SpRollingText::startRolling()
+void SpRollingText::Private::startRolling()
 {
-    const QFontMetrics metrics(font());
-    const int dots = quotient(width(), metrics.horizontalAdvance(QStringLiteral(".")));
+    const QFontMetrics metrics(q->font());
+    const int dots = quotient(q->width(), metrics.horizontalAdvance(QStringLiteral(".")));
     const int count = std::max(0, dots) + kSpareCharacters; // a font may space letters backwards
-    m_displayText = m_rollSource.left(count);
-    m_nextIndex = count;
-    m_firstWidth = metrics.horizontalAdvance(m_displayText.at(0));
-    m_isRolling = true;
-    m_rollTimer->start();
+    displayText = rollSource.left(count);
+    nextIndex = count;
+    firstWidth = metrics.horizontalAdvance(displayText.at(0));
+    isRolling = true;
+    rollTimer->start();
 }
 
-void SpRollingText::drawResting(QPainter &painter)
+void SpRollingText::Private::drawResting(QPainter &painter)
 {
-    painter.setPen(m_textColor);
-    m_resting->draw(painter, QRectF(rect()), int(m_textAlignment), m_displayText);
+    painter.setPen(textColor);
+    resting.draw(painter, QRectF(q->rect()), int(textAlignment), displayText);
 }
 
 // Both ends fade along the diagonal of the widget. A KeptText would place such a pen by the window.
-void SpRollingText::drawRolling(QPainter &painter)
+void SpRollingText::Private::drawRolling(QPainter &painter)
 {
-    QLinearGradient fade(rect().topLeft(), rect().bottomRight());
+    QLinearGradient fade(q->rect().topLeft(), q->rect().bottomRight());
     fade.setColorAt(0, Qt::transparent);
-    fade.setColorAt(kFadeIn, m_textColor);
-    fade.setColorAt(kFadeOut, m_textColor);
+    fade.setColorAt(kFadeIn, textColor);
+    fade.setColorAt(kFadeOut, textColor);
     fade.setColorAt(1, Qt::transparent);
-    painter.setPen(QPen(fade, qreal(width()), Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
-    const QRect place(-m_pixelOffset, 0, displayWidth(), height());
-    m_rolling->draw(painter, place, int(m_textAlignment), m_displayText, rect());
+    painter.setPen(QPen(fade, qreal(q->width()), Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+    const QRect place(-pixelOffset, 0, displayWidth(), q->height());
+    rolling.draw(painter, place, int(textAlignment), displayText, q->rect());
 }
 
 // The width of the text displayed, which stays the same for many a step.
-int SpRollingText::displayWidth()
+int SpRollingText::Private::displayWidth()
 {
-    if (m_measuredText != m_displayText || m_measuredFont != font()) {
-        m_measuredText = m_displayText;
-        m_measuredFont = font();
-        m_displayWidth = QFontMetrics(m_measuredFont).horizontalAdvance(m_measuredText);
+    if (measuredText != displayText || measuredFont != q->font()) {
+        measuredText = displayText;
+        measuredFont = q->font();
+        measuredWidth = QFontMetrics(measuredFont).horizontalAdvance(measuredText);
     }
-    return m_displayWidth;
+    return measuredWidth;
 }

@@ -4,20 +4,11 @@
 #include "panelkitglobal.h"
 
 #include <QColor>
-#include <QFont>
 #include <QPointF>
 #include <QString>
 #include <QWidget>
 
 #include <memory>
-
-class QTimer;
-
-namespace panelkit
-{
-class KeptLines;
-class KeptText;
-} // namespace panelkit
 
 /**
  * One line of text. A text that is too wide for the widget rolls from right to left, endlessly and
@@ -43,21 +34,21 @@ public:
     explicit SpRollingText(QWidget *parent = nullptr);
     ~SpRollingText() override;
 
-    QString text() const { return m_text; }
+    QString text() const;
     void setText(QString text);
-    int fontSize() const { return m_fontSize; }
+    int fontSize() const;
     void setFontSize(int size);
-    QColor textColor() const { return m_textColor; }
+    QColor textColor() const;
     void setTextColor(QColor color);
-    Qt::Alignment textAlignment() const { return m_textAlignment; }
+    Qt::Alignment textAlignment() const;
     void setTextAlignment(Qt::Alignment alignment);
-    bool dropShodow() const { return m_dropShadow; }
+    bool dropShodow() const;
     void setDropShodow(bool on);
-    QColor shadowColor() const { return m_shadowColor; }
+    QColor shadowColor() const;
     void setShadowColor(QColor color);
-    QPointF shadowOffset() const { return m_shadowOffset; }
+    QPointF shadowOffset() const;
     void setShadowOffset(QPointF offset);
-    bool autoRoll() const { return m_autoRoll; }
+    bool autoRoll() const;
     void setAutoRoll(bool on);
 
     void clear();
@@ -76,36 +67,8 @@ private slots:
     void paintFinishSlot();
 
 private:
-    bool isWaiting() const { return m_waitCounter != m_waitTicks; }
-    bool isTooWide(const QString &text) const;
-    QString shortened() const;
-    void startRolling();
-    void drawResting(QPainter &painter);
-    void drawRolling(QPainter &painter);
-    int displayWidth();
-
-    QTimer *m_rollTimer;
-    QString m_rollSource; // the text, and when it is too wide the gap
-    QString m_displayText;
-    QString m_text;
-    QColor m_textColor = QColor(255, 255, 255);
-    Qt::Alignment m_textAlignment = Qt::AlignCenter;
-    int m_nextIndex = 0; // in the roll source
-    int m_pixelOffset = 0; // px, to the left
-    int m_firstWidth = 0; // px, of the first character that is displayed
-    int m_fontSize = 20; // px
-    bool m_isRolling = false;
-    bool m_autoRoll = true;
-    int m_waitTicks = 0;
-    int m_waitCounter = 0; // ticks waited so far
-    bool m_dropShadow = false;
-    QColor m_shadowColor = QColor(0, 0, 0);
-    QPointF m_shadowOffset = QPointF(2, 2); // px
-    QString m_measuredText; // what the kept width belongs to
-    QFont m_measuredFont;
-    int m_displayWidth = 0; // px
-    std::unique_ptr<panelkit::KeptText> m_resting;
-    std::unique_ptr<panelkit::KeptLines> m_rolling;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 #endif // SPROLLINGTEXT_H

@@ -9,6 +9,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPalette>
+#include <QPointer>
+#include <QRect>
 
 #include <algorithm>
 #include <cstdlib>
@@ -30,35 +32,103 @@ const char kTopStyle[] = "QLabel{font-size:24px;color:rgb(255,255,255);}";
 
 } // namespace
 
-/** A slider for -5 to 5 at 0 that shows nothing before it has its pictures. */
-SpSetupSlider::SpSetupSlider(QWidget *parent)
-    : QWidget(parent), m_knob(new QLabel(this)), m_valueLabel(new QLabel(this)),
-      m_topLabel(new QLabel(this))
+class Q_DECL_HIDDEN SpSetupSlider::Private
 {
+public:
+    explicit Private(SpSetupSlider *widget) : q(widget) { }
+
+    void layOutTrack();
+    void layOutLabels();
+    SpIconButton *makeButton(const QPixmap &normal, const QPixmap &press, const QString &id, int y);
+    int knobTopAt(int y) const;
+    void drawTrack(QPainter &painter) const;
+    void drawFill(QPainter &painter) const;
+
+    SpSetupSlider *const q;
+    int topValue = 0;
+    QLabel *knob = nullptr;
+    QLabel *valueLabel = nullptr;
+    QLabel *topLabel = nullptr;
+    QPointer<SpIconButton> addButton; // none before the layout
+    QPointer<SpIconButton> decButton; // none before the layout
+    int itemID = 0;
+    int currentValue = 0;
+    int maxValue = 5;
+    int minValue = -5;
+    bool hasAddDecBtn = false;
+    QRect trackRect; // px
+    QRect fillTarget; // px, in the widget
+    QRect fillSource; // px, in the picture of the filled track
+    QRect labelRect; // px
+    QFont font;
+    QPoint pressPos; // px
+    QPixmap sliderNormalImage;
+    QPixmap sliderPressImage;
+    QPixmap pointNormalImage;
+    QPixmap pointPressImage;
+    QPixmap addBtnNormalImage;
+    QPixmap addBtnPressImage;
+    QPixmap decBtnNormalImage;
+    QPixmap decBtnPressImage;
+};
+
+/** A slider for -5 to 5 at 0 that shows nothing before it has its pictures. */
+SpSetupSlider::SpSetupSlider(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
+{
+    d->knob = new QLabel(this);
+    d->valueLabel = new QLabel(this);
+    d->topLabel = new QLabel(this);
+}
+
+SpSetupSlider::~SpSetupSlider() = default;
+
+bool SpSetupSlider::getHasAddDecBtn() const
+{
+    return d->hasAddDecBtn;
 }
 
 /** Whether there is a button at either end of the track. Stored only, so set it first. */
 void SpSetupSlider::setHasAddDecBtn(int has)
 {
-    m_hasAddDecBtn = has != 0;
+    d->hasAddDecBtn = has != 0;
+}
+
+QPixmap SpSetupSlider::sliderNormalImage() const
+{
+    return d->sliderNormalImage;
 }
 
 /** The track; it gives the slider its height. Stored only. */
 void SpSetupSlider::setSliderNormalImage(const QPixmap &image)
 {
-    m_sliderNormalImage = image;
+    d->sliderNormalImage = image;
+}
+
+QPixmap SpSetupSlider::sliderPressImage() const
+{
+    return d->sliderPressImage;
 }
 
 /** The filled track, of which the part below the middle of the knob shows. Stored only. */
 void SpSetupSlider::setSliderPressImage(const QPixmap &image)
 {
-    m_sliderPressImage = image;
+    d->sliderPressImage = image;
+}
+
+QPixmap SpSetupSlider::pointNormalImage() const
+{
+    return d->pointNormalImage;
 }
 
 /** The knob. Stored only. */
 void SpSetupSlider::setPointNormalImage(const QPixmap &image)
 {
-    m_pointNormalImage = image;
+    d->pointNormalImage = image;
+}
+
+QPixmap SpSetupSlider::pointPressImage() const
+{
+    return d->pointPressImage;
 }
 
 /**
@@ -67,29 +137,49 @@ void SpSetupSlider::setPointNormalImage(const QPixmap &image)
  */
 void SpSetupSlider::setPointPressImage(const QPixmap &image)
 {
-    m_pointPressImage = image;
-    if (m_hasAddDecBtn)
+    d->pointPressImage = image;
+    if (d->hasAddDecBtn)
         return;
     initWidget();
     update();
 }
 
+QPixmap SpSetupSlider::addBtnNormalImage() const
+{
+    return d->addBtnNormalImage;
+}
+
 /** The button that adds one, above the track. Stored only. */
 void SpSetupSlider::setAddBtnNormalImage(const QPixmap &image)
 {
-    m_addBtnNormalImage = image;
+    d->addBtnNormalImage = image;
+}
+
+QPixmap SpSetupSlider::addBtnPressImage() const
+{
+    return d->addBtnPressImage;
 }
 
 /** The button that adds one, pressed. Stored only. */
 void SpSetupSlider::setAddBtnPressImage(const QPixmap &image)
 {
-    m_addBtnPressImage = image;
+    d->addBtnPressImage = image;
+}
+
+QPixmap SpSetupSlider::decBtnNormalImage() const
+{
+    return d->decBtnNormalImage;
 }
 
 /** The button that takes one off, below the track. Stored only. */
 void SpSetupSlider::setDecBtnNormalImage(const QPixmap &image)
 {
-    m_decBtnNormalImage = image;
+    d->decBtnNormalImage = image;
+}
+
+QPixmap SpSetupSlider::decBtnPressImage() const
+{
+    return d->decBtnPressImage;
 }
 
 /**
@@ -98,29 +188,49 @@ void SpSetupSlider::setDecBtnNormalImage(const QPixmap &image)
  */
 void SpSetupSlider::setDecBtnPressImage(const QPixmap &image)
 {
-    m_decBtnPressImage = image;
-    if (!m_hasAddDecBtn)
+    d->decBtnPressImage = image;
+    if (!d->hasAddDecBtn)
         return;
     initWidget();
     update();
 }
 
+int SpSetupSlider::itemID() const
+{
+    return d->itemID;
+}
+
 /** The number that every signal carries. Stored only. */
 void SpSetupSlider::setItemID(int id)
 {
-    m_itemID = id;
+    d->itemID = id;
+}
+
+int SpSetupSlider::maxValue() const
+{
+    return d->maxValue;
 }
 
 /** The largest value, at the top; 5 by default. Stored only. */
 void SpSetupSlider::setMaxValue(int value)
 {
-    m_maxValue = value;
+    d->maxValue = value;
+}
+
+int SpSetupSlider::getMinValue() const
+{
+    return d->minValue;
 }
 
 /** The smallest value, at the bottom; -5 by default. Stored only. */
 void SpSetupSlider::setMinValue(int value)
 {
-    m_minValue = value;
+    d->minValue = value;
+}
+
+int SpSetupSlider::currentValue() const
+{
+    return d->currentValue;
 }
 
 /**
@@ -129,11 +239,16 @@ void SpSetupSlider::setMinValue(int value)
  */
 void SpSetupSlider::setCurrentValue(int value)
 {
-    if (std::abs(qint64(value)) > m_maxValue)
+    if (std::abs(qint64(value)) > d->maxValue)
         return;
-    m_currentValue = value;
-    m_valueLabel->setText(QString::number(m_currentValue));
-    setTouchPos(m_currentValue);
+    d->currentValue = value;
+    d->valueLabel->setText(QString::number(d->currentValue));
+    setTouchPos(d->currentValue);
+}
+
+int SpSetupSlider::topValue() const
+{
+    return d->topValue;
 }
 
 /**
@@ -142,19 +257,24 @@ void SpSetupSlider::setCurrentValue(int value)
  */
 void SpSetupSlider::setTopValue(int value)
 {
-    m_topValue = value;
-    m_labelRect = QRect(0, kTopValueTop, width(), kBand);
-    m_topLabel->setGeometry(m_labelRect);
-    m_topLabel->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
-    m_topLabel->setStyleSheet(QLatin1String(kTopStyle));
-    m_topLabel->setText(QString::number(m_topValue));
+    d->topValue = value;
+    d->labelRect = QRect(0, kTopValueTop, width(), kBand);
+    d->topLabel->setGeometry(d->labelRect);
+    d->topLabel->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
+    d->topLabel->setStyleSheet(QLatin1String(kTopStyle));
+    d->topLabel->setText(QString::number(d->topValue));
+}
+
+QFont SpSetupSlider::getFont() const
+{
+    return d->font;
 }
 
 /** The font of the value; the name hides that of the widget's own font, on purpose. */
 void SpSetupSlider::setFont(const QFont &font)
 {
-    m_font = font;
-    m_valueLabel->setFont(m_font);
+    d->font = font;
+    d->valueLabel->setFont(d->font);
 }
 
 /**
@@ -164,28 +284,28 @@ void SpSetupSlider::setFont(const QFont &font)
  */
 void SpSetupSlider::initWidget()
 {
-    if (m_sliderNormalImage.isNull() || m_pointNormalImage.isNull())
+    if (d->sliderNormalImage.isNull() || d->pointNormalImage.isNull())
         return;
-    layOutTrack();
-    layOutLabels();
-    setTouchPos(m_currentValue);
+    d->layOutTrack();
+    d->layOutLabels();
+    setTouchPos(d->currentValue);
 }
 
 /** Moves the knob to a value, and the fill with it. Ignored outside minValue to maxValue. */
 void SpSetupSlider::setTouchPos(int value)
 {
-    if (value < m_minValue || value > m_maxValue)
+    if (value < d->minValue || value > d->maxValue)
         return;
-    const int travel = m_trackRect.height() - m_pointNormalImage.height();
-    const qint64 range = qint64(m_maxValue) - m_minValue;
-    const qint64 offset = range == 0 ? 0 : travel * (qint64(value) - m_minValue) / range;
-    m_knob->move((width() - m_knob->width()) / 2, int(m_trackRect.top() + travel - offset));
+    const int travel = d->trackRect.height() - d->pointNormalImage.height();
+    const qint64 range = qint64(d->maxValue) - d->minValue;
+    const qint64 offset = range == 0 ? 0 : travel * (qint64(value) - d->minValue) / range;
+    d->knob->move((width() - d->knob->width()) / 2, int(d->trackRect.top() + travel - offset));
 
-    const int middle = m_knob->y() + m_knob->height() / 2;
-    m_fillTarget = QRect(QPoint(m_trackRect.left(), middle),
-                         QPoint(m_trackRect.right(), m_trackRect.bottom() - 1));
-    m_fillSource =
-        QRect(0, middle - m_trackRect.top(), m_sliderPressImage.width(), m_fillTarget.height());
+    const int middle = d->knob->y() + d->knob->height() / 2;
+    d->fillTarget = QRect(QPoint(d->trackRect.left(), middle),
+                          QPoint(d->trackRect.right(), d->trackRect.bottom() - 1));
+    d->fillSource =
+        QRect(0, middle - d->trackRect.top(), d->sliderPressImage.width(), d->fillTarget.height());
     update();
 }
 
@@ -195,13 +315,13 @@ void SpSetupSlider::setTouchPos(int value)
  */
 void SpSetupSlider::setTouchPos(QPoint pos)
 {
-    if (pos.y() <= m_trackRect.top() || pos.y() >= m_trackRect.bottom() + 1)
+    if (pos.y() <= d->trackRect.top() || pos.y() >= d->trackRect.bottom() + 1)
         return;
-    const qint64 range = qint64(m_maxValue) - m_minValue;
-    const qint64 way = knobTopAt(pos.y()) - m_trackRect.top();
-    const int travel = m_trackRect.height() - m_knob->height();
-    const int value = travel == 0 ? m_maxValue : saturated(m_maxValue - range * way / travel);
-    if (value == m_currentValue)
+    const qint64 range = qint64(d->maxValue) - d->minValue;
+    const qint64 way = d->knobTopAt(pos.y()) - d->trackRect.top();
+    const int travel = d->trackRect.height() - d->knob->height();
+    const int value = travel == 0 ? d->maxValue : saturated(d->maxValue - range * way / travel);
+    if (value == d->currentValue)
         return;
     setCurrentValue(value);
     emitValueChangedSgl();
@@ -210,13 +330,14 @@ void SpSetupSlider::setTouchPos(QPoint pos)
 /** The middle of the knob, in the widget. */
 QPoint SpSetupSlider::getTouchPos()
 {
-    return m_knob->pos() + QPoint(m_pointNormalImage.width() / 2, m_pointNormalImage.height() / 2);
+    return d->knob->pos()
+        + QPoint(d->pointNormalImage.width() / 2, d->pointNormalImage.height() / 2);
 }
 
 /** Emits valueChangeSig with the current value and the middle of the knob. */
 void SpSetupSlider::emitValueChangedSgl()
 {
-    emit valueChangeSig(m_itemID, m_currentValue, getTouchPos());
+    emit valueChangeSig(d->itemID, d->currentValue, getTouchPos());
 }
 
 /** Sets the size of the value's font in px; sizes below 1 are ignored. */
@@ -224,14 +345,14 @@ void SpSetupSlider::setFontSize(int px)
 {
     if (px < 1)
         return;
-    setFont(resized(m_valueLabel->font(), px));
+    setFont(resized(d->valueLabel->font(), px));
 }
 
 void SpSetupSlider::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    drawTrack(painter);
-    drawFill(painter);
+    d->drawTrack(painter);
+    d->drawFill(painter);
 }
 
 /**
@@ -241,12 +362,12 @@ void SpSetupSlider::paintEvent(QPaintEvent *)
 void SpSetupSlider::mousePressEvent(QMouseEvent *e)
 {
     postKeyRequest(this, kBeepRequest);
-    if (!m_pointPressImage.isNull())
-        m_knob->setPixmap(m_pointPressImage);
+    if (!d->pointPressImage.isNull())
+        d->knob->setPixmap(d->pointPressImage);
     update();
     if (!e)
         return;
-    m_pressPos = e->pos();
+    d->pressPos = e->pos();
     const QPointer<SpSetupSlider> guard(this);
     setTouchPos(e->pos());
     if (guard)
@@ -259,7 +380,7 @@ void SpSetupSlider::mouseMoveEvent(QMouseEvent *e)
     if (!e)
         return;
     const QPointer<SpSetupSlider> guard(this);
-    if (distance(e->pos().x(), m_pressPos.x()) <= kMostSideways)
+    if (distance(e->pos().x(), d->pressPos.x()) <= kMostSideways)
         setTouchPos(e->pos());
     if (guard)
         QWidget::mouseMoveEvent(e);
@@ -268,12 +389,12 @@ void SpSetupSlider::mouseMoveEvent(QMouseEvent *e)
 /** Every release emits saveDataSig, then sliderRelease, whether the value has changed or not. */
 void SpSetupSlider::mouseReleaseEvent(QMouseEvent *e)
 {
-    m_knob->setPixmap(m_pointNormalImage);
+    d->knob->setPixmap(d->pointNormalImage);
     update();
     const QPointer<SpSetupSlider> guard(this);
     emit saveDataSig();
     if (guard)
-        emit sliderRelease(m_itemID, m_currentValue);
+        emit sliderRelease(d->itemID, d->currentValue);
     if (guard && e)
         QWidget::mouseReleaseEvent(e);
 }
@@ -286,8 +407,8 @@ void SpSetupSlider::changeEvent(QEvent *e)
         return;
     if (e->type() == QEvent::EnabledChange) {
         for (QWidget *part :
-             {static_cast<QWidget *>(m_addButton), static_cast<QWidget *>(m_decButton),
-              static_cast<QWidget *>(m_valueLabel), static_cast<QWidget *>(m_knob)}) {
+             {static_cast<QWidget *>(d->addButton), static_cast<QWidget *>(d->decButton),
+              static_cast<QWidget *>(d->valueLabel), static_cast<QWidget *>(d->knob)}) {
             if (part)
                 part->setEnabled(isEnabled());
         }
@@ -299,87 +420,86 @@ void SpSetupSlider::changeEvent(QEvent *e)
 void SpSetupSlider::btnAddDecClickedSlot(QString btnId)
 {
     if (btnId == QLatin1String("Add"))
-        setCurrentValue(saturated(qint64(m_currentValue) + 1));
+        setCurrentValue(saturated(qint64(d->currentValue) + 1));
     else if (btnId == QLatin1String("Dec"))
-        setCurrentValue(saturated(qint64(m_currentValue) - 1));
+        setCurrentValue(saturated(qint64(d->currentValue) - 1));
     emitValueChangedSgl();
 }
 
 // Each width is halved by itself, so that pictures of odd and even width need not share a middle.
-void SpSetupSlider::layOutTrack()
+void SpSetupSlider::Private::layOutTrack()
 {
-    const QSize track = m_sliderNormalImage.size();
-    const int width = std::max({track.width(), m_pointNormalImage.width(), kLeastWidth});
+    const QSize track = sliderNormalImage.size();
+    const int width = std::max({track.width(), pointNormalImage.width(), kLeastWidth});
     const bool isWithButtons =
-        m_hasAddDecBtn && !m_addBtnNormalImage.isNull() && !m_decBtnNormalImage.isNull();
-    const int above = isWithButtons ? m_addBtnNormalImage.height() : 0;
-    const int below = isWithButtons ? m_decBtnNormalImage.height() : 0;
-    setFixedSize(width, track.height() + kBand + above + below);
-    m_trackRect = QRect(QPoint(width / 2 - track.width() / 2, kBand + above), track);
-    m_labelRect = QRect(0, 0, width, kBand);
+        hasAddDecBtn && !addBtnNormalImage.isNull() && !decBtnNormalImage.isNull();
+    const int above = isWithButtons ? addBtnNormalImage.height() : 0;
+    const int below = isWithButtons ? decBtnNormalImage.height() : 0;
+    q->setFixedSize(width, track.height() + kBand + above + below);
+    trackRect = QRect(QPoint(width / 2 - track.width() / 2, kBand + above), track);
+    labelRect = QRect(0, 0, width, kBand);
     if (!isWithButtons)
         return;
-    m_fillTarget = m_trackRect;
-    m_addButton =
-        makeButton(m_addBtnNormalImage, m_addBtnPressImage, QStringLiteral("Add"), kBand - 1);
-    m_decButton = makeButton(m_decBtnNormalImage, m_decBtnPressImage, QStringLiteral("Dec"),
-                             m_trackRect.bottom());
+    fillTarget = trackRect;
+    addButton = makeButton(addBtnNormalImage, addBtnPressImage, QStringLiteral("Add"), kBand - 1);
+    decButton =
+        makeButton(decBtnNormalImage, decBtnPressImage, QStringLiteral("Dec"), trackRect.bottom());
 }
 
-void SpSetupSlider::layOutLabels()
+void SpSetupSlider::Private::layOutLabels()
 {
     QPalette palette;
     palette.setBrush(QPalette::Light, QColor(255, 255, 255, 0));
-    m_knob->setPalette(palette);
-    m_valueLabel->setPalette(palette);
-    m_knob->setPixmap(m_pointNormalImage);
-    m_knob->setFixedSize(m_pointNormalImage.size());
-    m_valueLabel->setStyleSheet(QLatin1String(kValueStyle));
-    m_valueLabel->setFont(m_font);
-    m_valueLabel->setGeometry(m_labelRect);
-    m_valueLabel->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
-    m_valueLabel->setText(QString::number(m_currentValue));
+    knob->setPalette(palette);
+    valueLabel->setPalette(palette);
+    knob->setPixmap(pointNormalImage);
+    knob->setFixedSize(pointNormalImage.size());
+    valueLabel->setStyleSheet(QLatin1String(kValueStyle));
+    valueLabel->setFont(font);
+    valueLabel->setGeometry(labelRect);
+    valueLabel->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
+    valueLabel->setText(QString::number(currentValue));
 }
 
 // A child of a widget that is shown already stays hidden until it is shown itself.
-SpIconButton *SpSetupSlider::makeButton(const QPixmap &normal, const QPixmap &press,
-                                        const QString &id, int y)
+SpIconButton *SpSetupSlider::Private::makeButton(const QPixmap &normal, const QPixmap &press,
+                                                 const QString &id, int y)
 {
-    auto *button = new SpIconButton(this);
+    auto *button = new SpIconButton(q);
     button->setNormalImage(normal);
     button->setPressImage(press);
     button->setFixedSize(normal.size());
     button->setButtonID(id);
     button->setSupportLongPress(true);
     button->setTimerInt2(kRepeatInterval);
-    button->move(width() / 2 - normal.width() / 2, y);
-    button->setEnabled(isEnabled());
+    button->move(q->width() / 2 - normal.width() / 2, y);
+    button->setEnabled(q->isEnabled());
     button->show();
-    connect(button, SIGNAL(btnClicked(QString)), this, SLOT(btnAddDecClickedSlot(QString)));
-    connect(button, SIGNAL(btnLongPress(QString)), this, SLOT(btnAddDecClickedSlot(QString)));
+    connect(button, SIGNAL(btnClicked(QString)), q, SLOT(btnAddDecClickedSlot(QString)));
+    connect(button, SIGNAL(btnLongPress(QString)), q, SLOT(btnAddDecClickedSlot(QString)));
     return button;
 }
 
 // The knob stands with its middle under the finger, but within the track.
-int SpSetupSlider::knobTopAt(int y) const
+int SpSetupSlider::Private::knobTopAt(int y) const
 {
-    const int half = m_knob->height() / 2;
-    const int end = m_trackRect.bottom() + 1;
-    if (y < m_trackRect.top() + half)
-        return m_trackRect.top();
+    const int half = knob->height() / 2;
+    const int end = trackRect.bottom() + 1;
+    if (y < trackRect.top() + half)
+        return trackRect.top();
     if (y > end - half)
-        return end - m_knob->height();
+        return end - knob->height();
     return y - half;
 }
 
-void SpSetupSlider::drawTrack(QPainter &painter) const
+void SpSetupSlider::Private::drawTrack(QPainter &painter) const
 {
-    painter.drawPixmap(m_trackRect, m_sliderNormalImage);
+    painter.drawPixmap(trackRect, sliderNormalImage);
 }
 
-void SpSetupSlider::drawFill(QPainter &painter) const
+void SpSetupSlider::Private::drawFill(QPainter &painter) const
 {
     // To drawPixmap an empty part means the rest of the picture; here it means nothing.
-    if (!m_sliderPressImage.isNull() && !m_fillTarget.isEmpty())
-        painter.drawPixmap(m_fillTarget, m_sliderPressImage, m_fillSource);
+    if (!sliderPressImage.isNull() && !fillTarget.isEmpty())
+        painter.drawPixmap(fillTarget, sliderPressImage, fillSource);
 }

@@ -6,13 +6,10 @@
 #include <QFont>
 #include <QPixmap>
 #include <QPoint>
-#include <QPointer>
-#include <QRect>
 #include <QString>
 #include <QWidget>
 
-class QLabel;
-class SpIconButton;
+#include <memory>
 
 /**
  * A vertical slider for a setting, such as one band of an equaliser: a track with a knob to be
@@ -44,36 +41,37 @@ class PANELKIT_EXPORT SpSetupSlider : public QWidget
 
 public:
     explicit SpSetupSlider(QWidget *parent = nullptr);
+    ~SpSetupSlider() override;
 
-    bool getHasAddDecBtn() const { return m_hasAddDecBtn; }
+    bool getHasAddDecBtn() const;
     void setHasAddDecBtn(int has);
-    QPixmap sliderNormalImage() const { return m_sliderNormalImage; }
+    QPixmap sliderNormalImage() const;
     void setSliderNormalImage(const QPixmap &image);
-    QPixmap sliderPressImage() const { return m_sliderPressImage; }
+    QPixmap sliderPressImage() const;
     void setSliderPressImage(const QPixmap &image);
-    QPixmap pointNormalImage() const { return m_pointNormalImage; }
+    QPixmap pointNormalImage() const;
     void setPointNormalImage(const QPixmap &image);
-    QPixmap pointPressImage() const { return m_pointPressImage; }
+    QPixmap pointPressImage() const;
     void setPointPressImage(const QPixmap &image);
-    QPixmap addBtnNormalImage() const { return m_addBtnNormalImage; }
+    QPixmap addBtnNormalImage() const;
     void setAddBtnNormalImage(const QPixmap &image);
-    QPixmap addBtnPressImage() const { return m_addBtnPressImage; }
+    QPixmap addBtnPressImage() const;
     void setAddBtnPressImage(const QPixmap &image);
-    QPixmap decBtnNormalImage() const { return m_decBtnNormalImage; }
+    QPixmap decBtnNormalImage() const;
     void setDecBtnNormalImage(const QPixmap &image);
-    QPixmap decBtnPressImage() const { return m_decBtnPressImage; }
+    QPixmap decBtnPressImage() const;
     void setDecBtnPressImage(const QPixmap &image);
-    int itemID() const { return m_itemID; }
+    int itemID() const;
     void setItemID(int id);
-    int maxValue() const { return m_maxValue; }
+    int maxValue() const;
     void setMaxValue(int value);
-    int getMinValue() const { return m_minValue; }
+    int getMinValue() const;
     void setMinValue(int value);
-    int currentValue() const { return m_currentValue; }
+    int currentValue() const;
     void setCurrentValue(int value);
-    int topValue() const { return m_topValue; }
+    int topValue() const;
     void setTopValue(int value);
-    QFont getFont() const { return m_font; }
+    QFont getFont() const;
     void setFont(const QFont &font);
 
     void initWidget();
@@ -99,38 +97,8 @@ private slots:
     void btnAddDecClickedSlot(QString btnId);
 
 private:
-    void layOutTrack();
-    void layOutLabels();
-    SpIconButton *makeButton(const QPixmap &normal, const QPixmap &press, const QString &id, int y);
-    int knobTopAt(int y) const;
-    void drawTrack(QPainter &painter) const;
-    void drawFill(QPainter &painter) const;
-
-    int m_topValue = 0;
-    QLabel *m_knob;
-    QLabel *m_valueLabel;
-    QLabel *m_topLabel;
-    QPointer<SpIconButton> m_addButton; // none before the layout
-    QPointer<SpIconButton> m_decButton; // none before the layout
-    int m_itemID = 0;
-    int m_currentValue = 0;
-    int m_maxValue = 5;
-    int m_minValue = -5;
-    bool m_hasAddDecBtn = false;
-    QRect m_trackRect; // px
-    QRect m_fillTarget; // px, in the widget
-    QRect m_fillSource; // px, in the picture of the filled track
-    QRect m_labelRect; // px
-    QFont m_font;
-    QPoint m_pressPos; // px
-    QPixmap m_sliderNormalImage;
-    QPixmap m_sliderPressImage;
-    QPixmap m_pointNormalImage;
-    QPixmap m_pointPressImage;
-    QPixmap m_addBtnNormalImage;
-    QPixmap m_addBtnPressImage;
-    QPixmap m_decBtnNormalImage;
-    QPixmap m_decBtnPressImage;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 #endif // SPSETUPSLIDER_H

@@ -12,10 +12,27 @@ constexpr int kMostSliders = 1000000; // more than any page holds
 
 } // namespace
 
+class Q_DECL_HIDDEN SpSetupSliderContainer::Private
+{
+public:
+    QList<QPointF> pointList{{0, 0}, {1, 1}}; // one for each slider
+    QList<int> valueList{0, 0}; // one for each slider
+    QPoint pressPos; // px
+    int totalNumber = 2;
+};
+
 /** A page for two sliders. It paints nothing itself. */
-SpSetupSliderContainer::SpSetupSliderContainer(QWidget *parent) : QWidget(parent)
+SpSetupSliderContainer::SpSetupSliderContainer(QWidget *parent)
+    : QWidget(parent), d(std::make_unique<Private>())
 {
     qRegisterMetaType<QList<int>>("QList<int>");
+}
+
+SpSetupSliderContainer::~SpSetupSliderContainer() = default;
+
+int SpSetupSliderContainer::totalNumber() const
+{
+    return d->totalNumber;
 }
 
 /**
@@ -26,28 +43,38 @@ void SpSetupSliderContainer::setTotalNumber(int number)
 {
     if (number > kMostSliders)
         return;
-    m_totalNumber = number;
-    if (number == m_pointList.size())
+    d->totalNumber = number;
+    if (number == d->pointList.size())
         return;
-    m_pointList.clear();
-    m_valueList.clear();
+    d->pointList.clear();
+    d->valueList.clear();
     for (int i = 0; i < number; ++i) {
-        m_pointList += QPointF();
-        m_valueList += 0;
+        d->pointList += QPointF();
+        d->valueList += 0;
     }
+}
+
+QList<QPointF> SpSetupSliderContainer::getPointList() const
+{
+    return d->pointList;
 }
 
 /** Replaces the points, whatever their number is. Repaints. */
 void SpSetupSliderContainer::setPointList(QList<QPointF> list)
 {
-    m_pointList = std::move(list);
+    d->pointList = std::move(list);
     update();
+}
+
+QList<int> SpSetupSliderContainer::getValueList() const
+{
+    return d->valueList;
 }
 
 /** Replaces the values, whatever their number is. */
 void SpSetupSliderContainer::setValueList(QList<int> list)
 {
-    m_valueList = std::move(list);
+    d->valueList = std::move(list);
 }
 
 /** Hands a slider's valueChangeSig on as valueChangedSig, without the position of the knob. */
@@ -72,7 +99,7 @@ void SpSetupSliderContainer::mousePressEvent(QMouseEvent *e)
 {
     if (!e)
         return;
-    m_pressPos = e->pos();
+    d->pressPos = e->pos();
     QWidget::mousePressEvent(e);
 }
 
@@ -84,7 +111,7 @@ void SpSetupSliderContainer::mouseReleaseEvent(QMouseEvent *e)
 {
     if (!e)
         return;
-    const qint64 way = qint64(e->pos().x()) - m_pressPos.x();
+    const qint64 way = qint64(e->pos().x()) - d->pressPos.x();
     const QPointer<SpSetupSliderContainer> guard(this);
     if (way < -kSwipe)
         emit pageChanged(true);

@@ -8,6 +8,8 @@
 #include <QPointF>
 #include <QWidget>
 
+#include <memory>
+
 /**
  * The page on which an application places several SpSetupSlider, such as an equaliser. It hands
  * their signals on as its own, keeps a point and a value for each of them, and reports a long swipe
@@ -22,12 +24,13 @@ class PANELKIT_EXPORT SpSetupSliderContainer : public QWidget
 
 public:
     explicit SpSetupSliderContainer(QWidget *parent = nullptr);
+    ~SpSetupSliderContainer() override;
 
-    int totalNumber() const { return m_totalNumber; }
+    int totalNumber() const;
     void setTotalNumber(int number);
-    QList<QPointF> getPointList() const { return m_pointList; }
+    QList<QPointF> getPointList() const;
     void setPointList(QList<QPointF> list);
-    QList<int> getValueList() const { return m_valueList; }
+    QList<int> getValueList() const;
     void setValueList(QList<int> list);
 
 public slots:
@@ -46,10 +49,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent *e) override;
 
 private:
-    QList<QPointF> m_pointList{{0, 0}, {1, 1}}; // one for each slider
-    QList<int> m_valueList{0, 0}; // one for each slider
-    QPoint m_pressPos; // px
-    int m_totalNumber = 2;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 #endif // SPSETUPSLIDERCONTAINER_H

@@ -10,9 +10,13 @@
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QMouseEvent>
+#include <QPoint>
+#include <QPointer>
 #include <QScrollBar>
+#include <QTimer>
 #include <QTimerEvent>
 
+#include <optional>
 #include <utility>
 
 using namespace panelkit;
@@ -92,15 +96,75 @@ void roll(StringRollingData &record, const QFontMetrics &metrics)
 
 } // namespace
 
+class Q_DECL_HIDDEN SpTableList::Private
+{
+public:
+    explicit Private(SpTableList *widget) : q(widget) { }
+
+    // An index as it was: unlike a persistent one it stays at its row when the rows move.
+    struct PlainIndex {
+        void set(const QModelIndex &newIndex);
+
+        QModelIndex index;
+        QPointer<const QAbstractItemModel> model; // of the index, which cannot tell that it is gone
+    };
+
+    bool isThere(const PlainIndex &plain) const;
+    bool rollsTexts() const;
+    bool showsRowPressed() const;
+    void showRowPressed(bool pressed, const QPoint &pos);
+    bool isLeftOfTail() const;
+    void start(int &timer, int ms);
+    void stop(int &timer);
+    int boundedScrollValue(qint64 value) const;
+    void dragTo(qint64 value);
+    bool startClick(const QPoint &pos);
+    bool startFling(const QPoint &pos);
+    void highlight(const QPoint &pos);
+    void reportClick();
+    void reportClickPosition(int row, int x);
+    void startRolling();
+    void restartRollingLater();
+    void rollTexts();
+
+    SpTableList *const q;
+    QPointer<styleDelegate> delegate;
+    int itemHeight = 10; // px
+    int itemWidth = 10; // px
+    QPoint pressPos;
+    QPoint lastPos;
+    PlainIndex pressIndex;
+    PlainIndex selectedIndex;
+    unsigned int pressTime = 0; // ms within the minute
+    unsigned int releaseTime = 0; // ms within the minute
+    QTimer speedTimer;
+    int flingSteps = 0;
+    unsigned int moveStartTime = 0; // ms within the minute, 0: not moved yet
+    int rollRestartTimer = 0;
+    int clickTimer = 0;
+    int pressTimer = 0;
+    bool isDragging = false;
+    bool useDefaultStyle = true;
+    bool isMovingDown = false;
+    bool wasFlinging = false;
+    bool isBeep = true;
+    bool highlightFlag = false;
+    bool isFirstMove = true;
+    std::optional<int> scrollValue; // px, none before the first drag
+
+    int rollTimer = 0; // 0 as soon as it is killed; the delegate may still hold its id then
+};
+
 /**
  * A list without a model. Of the scroll bars only the vertical one shows, and only when it is
  * needed: the policy stays that of any view. It has the style sheet that the application has under
  * ":/qss/scrollbar.qss"; without that resource it looks as any other.
  */
-SpTableList::SpTableList(QWidget *parent) : QTableView(parent), m_delegate(new styleDelegate(this))
+SpTableList::SpTableList(QWidget *parent) : QTableView(parent), d(std::make_unique<Private>(this))
 {
+    d->delegate = new styleDelegate(this);
     verticalScrollBar()->setStyleSheet(scrollBarStyleSheet());
-    setItemDelegate(m_delegate);
+    setItemDelegate(d->delegate);
     horizontalHeader()->hide();
     verticalHeader()->hide();
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -108,10 +172,15 @@ SpTableList::SpTableList(QWidget *parent) : QTableView(parent), m_delegate(new s
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     setShowGrid(false);
-    connect(&m_speedTimer, SIGNAL(timeout()), this, SLOT(speedTimerSlot()));
+    connect(&d->speedTimer, SIGNAL(timeout()), this, SLOT(speedTimerSlot()));
 }
 
 SpTableList::~SpTableList() = default;
+
+int SpTableList::itemHeight() const
+{
+    return d->itemHeight;
+}
 
 /**
  * The height of every row in px; 10 by default, although the rows of a new list have the height
@@ -120,191 +189,206 @@ SpTableList::~SpTableList() = default;
  */
 void SpTableList::setItemHeight(const int &height)
 {
-    m_itemHeight = height;
+    d->itemHeight = height;
     verticalHeader()->setDefaultSectionSize(height);
+}
+
+int SpTableList::itemWidth() const
+{
+    return d->itemWidth;
 }
 
 /** The width of the rows in px, from which click positions count; else like itemHeight. */
 void SpTableList::setItemWidth(const int &width)
 {
-    m_itemWidth = width;
+    d->itemWidth = width;
     horizontalHeader()->setDefaultSectionSize(width);
 }
 
 int SpTableList::centerFontSize() const
 {
-    return m_delegate ? m_delegate->centerFont().pixelSize() : 20;
+    return d->delegate ? d->delegate->centerFont().pixelSize() : 20;
 }
 
 /** The size of the centre text in px; sizes below 1 are ignored. Stored only. */
 void SpTableList::setCenterFontSize(const int &px)
 {
-    if (m_delegate && px >= 1)
-        m_delegate->setCenterFont(resized(m_delegate->centerFont(), px));
+    if (d->delegate && px >= 1)
+        d->delegate->setCenterFont(resized(d->delegate->centerFont(), px));
 }
 
 int SpTableList::tailFontSize() const
 {
-    return m_delegate ? m_delegate->tailFont().pixelSize() : 20;
+    return d->delegate ? d->delegate->tailFont().pixelSize() : 20;
 }
 
 /** The size in px of tail text and header number; sizes below 1 are ignored. Stored only. */
 void SpTableList::setTailFontSize(const int &px)
 {
-    if (m_delegate && px >= 1)
-        m_delegate->setTailFont(resized(m_delegate->tailFont(), px));
+    if (d->delegate && px >= 1)
+        d->delegate->setTailFont(resized(d->delegate->tailFont(), px));
 }
 
 QColor SpTableList::hightColor() const
 {
-    return m_delegate ? m_delegate->hightColor() : QColor(255, 255, 255, 255);
+    return d->delegate ? d->delegate->hightColor() : QColor(255, 255, 255, 255);
 }
 
 /** The colour of the texts of rows that the model marks. Stored only. */
 void SpTableList::setHightColor(const QColor &color)
 {
-    if (m_delegate)
-        m_delegate->setHightColor(color);
+    if (d->delegate)
+        d->delegate->setHightColor(color);
 }
 
 QColor SpTableList::pressColor() const
 {
-    return m_delegate ? m_delegate->pressColor() : QColor(255, 255, 255, 255);
+    return d->delegate ? d->delegate->pressColor() : QColor(255, 255, 255, 255);
 }
 
 /** The colour of the texts of the pressed row; white by default. Stored only. */
 void SpTableList::setPressColor(const QColor &color)
 {
-    if (m_delegate)
-        m_delegate->setPressColor(color);
+    if (d->delegate)
+        d->delegate->setPressColor(color);
+}
+
+bool SpTableList::useDefaultStyle() const
+{
+    return d->useDefaultStyle;
 }
 
 /** With false the rows are not painted: they stay blank. True by default. Stored only. */
 void SpTableList::setUseDefaultStyle(bool use)
 {
-    m_useDefaultStyle = use;
-    if (m_delegate)
-        m_delegate->setUseIt(use);
+    d->useDefaultStyle = use;
+    if (d->delegate)
+        d->delegate->setUseIt(use);
 }
 
 QPixmap SpTableList::normalImage() const
 {
-    return m_delegate ? m_delegate->normalPix() : QPixmap();
+    return d->delegate ? d->delegate->normalPix() : QPixmap();
 }
 
 /** The background of every row; without one a separator line stands below it. Stored only. */
 void SpTableList::setNormalImage(QPixmap image)
 {
-    if (m_delegate)
-        m_delegate->setNormalPix(image);
+    if (d->delegate)
+        d->delegate->setNormalPix(image);
 }
 
 QPixmap SpTableList::pressImage() const
 {
-    return m_delegate ? m_delegate->pressPix() : QPixmap();
+    return d->delegate ? d->delegate->pressPix() : QPixmap();
 }
 
 /** The background of the pressed row; used only with a normal one. Stored only. */
 void SpTableList::setPressImage(QPixmap image)
 {
-    if (m_delegate)
-        m_delegate->setPressPix(image);
+    if (d->delegate)
+        d->delegate->setPressPix(image);
 }
 
 int SpTableList::headerIconGain() const
 {
-    return m_delegate ? m_delegate->headerIconGain() : 20;
+    return d->delegate ? d->delegate->headerIconGain() : 20;
 }
 
 /** The distance in px from the left of the row to the header icon. Stored only. */
 void SpTableList::setHeaderIconGain(const int &gain)
 {
-    if (m_delegate)
-        m_delegate->setHeaderIconGain(gain);
+    if (d->delegate)
+        d->delegate->setHeaderIconGain(gain);
 }
 
 int SpTableList::headerIconWidth() const
 {
-    return m_delegate ? m_delegate->headerIconWidth() : 0;
+    return d->delegate ? d->delegate->headerIconWidth() : 0;
 }
 
 /** The width of the header icon for touches in px, in LIST_STYLE_4. Stored only. */
 void SpTableList::setHeaderIconWidth(const int &width)
 {
-    if (m_delegate)
-        m_delegate->setHeaderIconWidth(width);
+    if (d->delegate)
+        d->delegate->setHeaderIconWidth(width);
 }
 
 int SpTableList::centerStrGain() const
 {
-    return m_delegate ? m_delegate->centerStrGain() : 15;
+    return d->delegate ? d->delegate->centerStrGain() : 15;
 }
 
 /** The distance in px from the header to the centre text. Stored only. */
 void SpTableList::setCenterStrGain(const int &gain)
 {
-    if (m_delegate)
-        m_delegate->setCenterStrGain(gain);
+    if (d->delegate)
+        d->delegate->setCenterStrGain(gain);
 }
 
 int SpTableList::tailIconGain() const
 {
-    return m_delegate ? m_delegate->tailIconGain() : 47;
+    return d->delegate ? d->delegate->tailIconGain() : 47;
 }
 
 /** The distance in px from the tail icon to the right of the row. Stored only. */
 void SpTableList::setTailIconGain(const int &gain)
 {
-    if (m_delegate)
-        m_delegate->setTailIconGain(gain);
+    if (d->delegate)
+        d->delegate->setTailIconGain(gain);
 }
 
 int SpTableList::tailIconWidth() const
 {
-    return m_delegate ? m_delegate->tailIconWidth() : 0;
+    return d->delegate ? d->delegate->tailIconWidth() : 0;
 }
 
 /** The width of the tail icon for touches in px, in LIST_STYLE_2 and LIST_STYLE_4. Stored only. */
 void SpTableList::setTailIconWidth(const int &width)
 {
-    if (m_delegate)
-        m_delegate->setTailIconWidth(width);
+    if (d->delegate)
+        d->delegate->setTailIconWidth(width);
 }
 
 int SpTableList::pixmapGain() const
 {
-    return m_delegate ? m_delegate->pixmapGain() : 0;
+    return d->delegate ? d->delegate->pixmapGain() : 0;
 }
 
 /** The x of the background in its row in px; LIST_STYLE_2 ignores it. Stored only. */
 void SpTableList::setPixmapGain(const int &gain)
 {
-    if (m_delegate)
-        m_delegate->setPixmapGain(gain);
+    if (d->delegate)
+        d->delegate->setPixmapGain(gain);
 }
 
 int SpTableList::tailStrWidth() const
 {
-    return m_delegate ? m_delegate->tailStrWidth() : 100;
+    return d->delegate ? d->delegate->tailStrWidth() : 100;
 }
 
 /** The width of the tail text in px, which ends at the right of the row. Stored only. */
 void SpTableList::setTailStrWidth(const int &width)
 {
-    if (m_delegate)
-        m_delegate->setTailStrWidth(width);
+    if (d->delegate)
+        d->delegate->setTailStrWidth(width);
 }
 
 SpTableList::LIST_STYLE SpTableList::UIStyle() const
 {
-    return m_delegate ? LIST_STYLE(m_delegate->style()) : LIST_STYLE_0;
+    return d->delegate ? LIST_STYLE(d->delegate->style()) : LIST_STYLE_0;
 }
 
 /** How rows look and what of them can be clicked; LIST_STYLE_0 by default. Stored only. */
 void SpTableList::setUIStyle(SpTableList::LIST_STYLE style)
 {
-    if (m_delegate)
-        m_delegate->setStyle(style);
+    if (d->delegate)
+        d->delegate->setStyle(style);
+}
+
+bool SpTableList::getHighlightFlag() const
+{
+    return d->highlightFlag;
 }
 
 /**
@@ -313,27 +397,32 @@ void SpTableList::setUIStyle(SpTableList::LIST_STYLE style)
  */
 void SpTableList::setHighlightFlag(bool highlight)
 {
-    m_highlightFlag = highlight;
+    d->highlightFlag = highlight;
+}
+
+bool SpTableList::getBIsBeep() const
+{
+    return d->isBeep;
 }
 
 /** Whether a press on a row asks the application for a click sound; on by default. */
 void SpTableList::setBIsBeep(bool beep)
 {
-    m_isBeep = beep;
+    d->isBeep = beep;
 }
 
 /** The largest x in px at which a press highlights a row in highlight mode; 512 by default. */
 void SpTableList::setTailRectX(int x)
 {
-    if (m_delegate)
-        m_delegate->setTailRectX(x);
+    if (d->delegate)
+        d->delegate->setTailRectX(x);
 }
 
 /** Alignment flags that the delegate keeps for callers; painting does not consult them. */
 void SpTableList::setCenterTextFlag(int flag)
 {
-    if (m_delegate)
-        m_delegate->setCenterTextFlag(flag);
+    if (d->delegate)
+        d->delegate->setCenterTextFlag(flag);
 }
 
 void SpTableList::setModel(QAbstractItemModel *model)
@@ -365,10 +454,10 @@ unsigned int SpTableList::getCurrentTime()
 /** Lets the texts of a new content roll at once. Connect it to the model's modelReset(). */
 void SpTableList::listModelReset()
 {
-    if (!rollsTexts())
+    if (!d->rollsTexts())
         return;
-    m_delegate->clearRollData();
-    startRolling();
+    d->delegate->clearRollData();
+    d->startRolling();
 }
 
 /** Every timer event goes on to QTableView, which has timers of its own. */
@@ -378,18 +467,18 @@ void SpTableList::timerEvent(QTimerEvent *e)
         return;
     const QPointer<SpTableList> guard(this);
     const int timer = e->timerId();
-    if (timer == m_clickTimer) {
-        stop(m_clickTimer);
-        reportClick();
-    } else if (timer == m_rollTimer) {
-        rollTexts();
-    } else if (timer == m_rollRestartTimer) {
-        stop(m_rollRestartTimer);
-        startRolling();
-    } else if (timer == m_pressTimer) {
-        stop(m_pressTimer);
-        if (!m_highlightFlag || isLeftOfTail())
-            showRowPressed(true, m_pressPos);
+    if (timer == d->clickTimer) {
+        d->stop(d->clickTimer);
+        d->reportClick();
+    } else if (timer == d->rollTimer) {
+        d->rollTexts();
+    } else if (timer == d->rollRestartTimer) {
+        d->stop(d->rollRestartTimer);
+        d->startRolling();
+    } else if (timer == d->pressTimer) {
+        d->stop(d->pressTimer);
+        if (!d->highlightFlag || d->isLeftOfTail())
+            d->showRowPressed(true, d->pressPos);
         viewport()->update();
     }
     if (guard)
@@ -404,21 +493,21 @@ void SpTableList::mousePressEvent(QMouseEvent *e)
 {
     if (!e)
         return;
-    m_isFirstMove = true;
-    stop(m_clickTimer);
+    d->isFirstMove = true;
+    d->stop(d->clickTimer);
     // The delegate keeps the number of the timer that is gone, on purpose: with it, long texts are
     // painted as they will start to roll. The number may soon be that of another timer.
-    if (rollsTexts()) {
-        m_delegate->clearRollData();
-        stop(m_rollTimer);
+    if (d->rollsTexts()) {
+        d->delegate->clearRollData();
+        d->stop(d->rollTimer);
     }
-    m_pressTime = getCurrentTime();
-    m_speedTimer.stop();
-    m_wasFlinging = m_flingSteps > 0;
-    m_flingSteps = 0;
-    m_moveStartTime = 0;
-    if (m_highlightFlag)
-        showRowPressed(false, m_pressPos);
+    d->pressTime = getCurrentTime();
+    d->speedTimer.stop();
+    d->wasFlinging = d->flingSteps > 0;
+    d->flingSteps = 0;
+    d->moveStartTime = 0;
+    if (d->highlightFlag)
+        d->showRowPressed(false, d->pressPos);
 
     const QPointer<SpTableList> guard(this);
     {
@@ -427,12 +516,12 @@ void SpTableList::mousePressEvent(QMouseEvent *e)
     }
     if (!guard)
         return;
-    m_pressPos = e->pos();
-    m_pressIndex.set(indexAt(m_pressPos));
-    if (m_isBeep && m_pressIndex.index.isValid())
+    d->pressPos = e->pos();
+    d->pressIndex.set(indexAt(d->pressPos));
+    if (d->isBeep && d->pressIndex.index.isValid())
         postKeyRequest(this, kBeepRequest);
     viewport()->update();
-    start(m_pressTimer, kPressDelay);
+    d->start(d->pressTimer, kPressDelay);
     emit listPressed();
 }
 
@@ -454,26 +543,26 @@ void SpTableList::mouseMoveEvent(QMouseEvent *e)
         return;
     const QPoint pos = e->pos();
     if (!isWithin(pos.y(), 0, height())) {
-        m_flingSteps = 0;
-        m_isDragging = false;
-        if (m_scrollValue)
-            dragTo(*m_scrollValue);
+        d->flingSteps = 0;
+        d->isDragging = false;
+        if (d->scrollValue)
+            d->dragTo(*d->scrollValue);
         return;
     }
-    if (m_moveStartTime == 0)
-        m_moveStartTime = getCurrentTime();
-    m_isMovingDown = pos.y() > m_pressPos.y();
-    if (distance(pos.y(), m_pressPos.y()) > kDragSlop) {
-        m_isDragging = true;
-        if (showsRowPressed())
-            showRowPressed(false, pos);
+    if (d->moveStartTime == 0)
+        d->moveStartTime = getCurrentTime();
+    d->isMovingDown = pos.y() > d->pressPos.y();
+    if (distance(pos.y(), d->pressPos.y()) > kDragSlop) {
+        d->isDragging = true;
+        if (d->showsRowPressed())
+            d->showRowPressed(false, pos);
     }
-    const int from = m_isFirstMove ? m_pressPos.y() : m_lastPos.y();
-    m_lastPos = pos;
-    if (m_isDragging) {
-        m_isFirstMove = false;
-        stop(m_pressTimer);
-        dragTo(qint64(verticalScrollBar()->value()) + from - pos.y());
+    const int from = d->isFirstMove ? d->pressPos.y() : d->lastPos.y();
+    d->lastPos = pos;
+    if (d->isDragging) {
+        d->isFirstMove = false;
+        d->stop(d->pressTimer);
+        d->dragTo(qint64(verticalScrollBar()->value()) + from - pos.y());
     }
 }
 
@@ -490,39 +579,39 @@ void SpTableList::mouseReleaseEvent(QMouseEvent *e)
     if (!guard)
         return;
     const QPoint pos = e->pos();
-    m_lastPos = pos;
-    m_releaseTime = getCurrentTime();
-    stop(m_pressTimer);
-    const bool isClick = startClick(pos);
+    d->lastPos = pos;
+    d->releaseTime = getCurrentTime();
+    d->stop(d->pressTimer);
+    const bool isClick = d->startClick(pos);
     emit currentShowIndex(currentIndex().row());
     if (!guard)
         return;
-    const bool isFling = startFling(pos);
-    m_isDragging = false;
-    m_isFirstMove = true;
+    const bool isFling = d->startFling(pos);
+    d->isDragging = false;
+    d->isFirstMove = true;
     if (!isClick)
-        showRowPressed(false, pos);
+        d->showRowPressed(false, pos);
     if (!isFling)
-        restartRollingLater();
+        d->restartRollingLater();
     viewport()->update();
-    if (m_highlightFlag) {
-        highlight(pos);
-        emit haveItemSelect(showsRowPressed());
+    if (d->highlightFlag) {
+        d->highlight(pos);
+        emit haveItemSelect(d->showsRowPressed());
     }
 }
 
 void SpTableList::showEvent(QShowEvent *e)
 {
     QWidget::showEvent(e);
-    restartRollingLater();
+    d->restartRollingLater();
 }
 
 /** Texts stop rolling. A wait for the restart goes on, and what it starts rolls out of sight. */
 void SpTableList::hideEvent(QHideEvent *e)
 {
-    if (rollsTexts()) {
-        stop(m_rollTimer);
-        m_delegate->setRollTimerId(0);
+    if (d->rollsTexts()) {
+        d->stop(d->rollTimer);
+        d->delegate->setRollTimerId(0);
     }
     QWidget::hideEvent(e);
 }
@@ -535,84 +624,84 @@ void SpTableList::hideEvent(QHideEvent *e)
 void SpTableList::speedTimerSlot()
 {
     const QPointer<SpTableList> guard(this);
-    if (m_flingSteps > 0) {
-        --m_flingSteps;
+    if (d->flingSteps > 0) {
+        --d->flingSteps;
         const QScrollBar *bar = verticalScrollBar();
-        const qint64 target = qint64(bar->value()) + (m_isMovingDown ? -kFlingStep : kFlingStep);
+        const qint64 target = qint64(bar->value()) + (d->isMovingDown ? -kFlingStep : kFlingStep);
         const bool goesOn = isWithin(target, bar->minimum(), bar->maximum());
         if (!goesOn) {
-            m_flingSteps = 0;
-            m_speedTimer.stop();
+            d->flingSteps = 0;
+            d->speedTimer.stop();
         }
-        verticalScrollBar()->setValue(boundedScrollValue(target));
+        verticalScrollBar()->setValue(d->boundedScrollValue(target));
         if (goesOn || !guard)
             return;
     }
-    m_speedTimer.stop();
+    d->speedTimer.stop();
     emit currentShowIndex(currentIndex().row());
     if (guard)
-        restartRollingLater();
+        d->restartRollingLater();
 }
 
-void SpTableList::PlainIndex::set(const QModelIndex &newIndex)
+void SpTableList::Private::PlainIndex::set(const QModelIndex &newIndex)
 {
     index = newIndex;
     model = newIndex.model();
 }
 
 // The model is asked, never the index: after a change its internal pointer may point nowhere.
-bool SpTableList::isThere(const PlainIndex &plain) const
+bool SpTableList::Private::isThere(const PlainIndex &plain) const
 {
-    return plain.model && plain.model == model()
-        && plain.model->hasIndex(plain.index.row(), plain.index.column(), rootIndex());
+    return plain.model && plain.model == q->model()
+        && plain.model->hasIndex(plain.index.row(), plain.index.column(), q->rootIndex());
 }
 
-bool SpTableList::rollsTexts() const
+bool SpTableList::Private::rollsTexts() const
 {
-    return UIStyle() == LIST_STYLE_3;
+    return q->UIStyle() == LIST_STYLE_3;
 }
 
-bool SpTableList::showsRowPressed() const
+bool SpTableList::Private::showsRowPressed() const
 {
-    return m_delegate && m_delegate->itemPressed();
+    return delegate && delegate->itemPressed();
 }
 
-void SpTableList::showRowPressed(bool pressed, const QPoint &pos)
+void SpTableList::Private::showRowPressed(bool pressed, const QPoint &pos)
 {
-    if (m_delegate)
-        m_delegate->setItemPressed(pressed, pos);
+    if (delegate)
+        delegate->setItemPressed(pressed, pos);
 }
 
 // In highlight mode a press farther right belongs to the tail and highlights nothing.
-bool SpTableList::isLeftOfTail() const
+bool SpTableList::Private::isLeftOfTail() const
 {
-    return m_delegate && m_delegate->tailRectX() >= m_pressPos.x();
+    return delegate && delegate->tailRectX() >= pressPos.x();
 }
 
-void SpTableList::start(int &timer, int ms)
+void SpTableList::Private::start(int &timer, int ms)
 {
     stop(timer);
-    timer = startTimer(ms);
+    timer = q->startTimer(ms);
 }
 
-void SpTableList::stop(int &timer)
+void SpTableList::Private::stop(int &timer)
 {
     if (timer != 0)
-        killTimer(std::exchange(timer, 0));
+        q->killTimer(std::exchange(timer, 0));
 }
 
-int SpTableList::boundedScrollValue(qint64 value) const
+int SpTableList::Private::boundedScrollValue(qint64 value) const
 {
-    const QScrollBar *bar = verticalScrollBar();
+    const QScrollBar *bar = q->verticalScrollBar();
     return int(qBound(qint64(bar->minimum()), value, qint64(bar->maximum())));
 }
 
 // The last to be done: whoever hears that the bar has moved may delete the list.
-void SpTableList::dragTo(qint64 value)
+void SpTableList::Private::dragTo(qint64 value)
 {
     const int bounded = boundedScrollValue(value);
-    m_scrollValue = bounded;
-    verticalScrollBar()->setValue(bounded);
+    scrollValue = bounded;
+    q->verticalScrollBar()->setValue(bounded);
 }
 
 /**
@@ -620,18 +709,17 @@ void SpTableList::dragTo(qint64 value)
  * touch that stopped a fling. A model that is reset or gets rows under the finger swallows no tap:
  * it goes to whatever stands in the row by then. A row that is gone meanwhile cannot be clicked.
  */
-bool SpTableList::startClick(const QPoint &pos)
+bool SpTableList::Private::startClick(const QPoint &pos)
 {
-    if (m_isDragging || m_wasFlinging || !isThere(m_pressIndex)
-        || m_pressIndex.index != indexAt(pos))
+    if (isDragging || wasFlinging || !isThere(pressIndex) || pressIndex.index != q->indexAt(pos))
         return false;
-    const int duration = int(m_releaseTime) - int(m_pressTime);
+    const int duration = int(releaseTime) - int(pressTime);
     if (duration <= kShortestTap
-        || distance(pos.y(), m_pressPos.y()) * 1000 / duration >= kClickSpeed)
+        || distance(pos.y(), pressPos.y()) * 1000 / duration >= kClickSpeed)
         return false;
-    if (!m_highlightFlag || isLeftOfTail())
+    if (!highlightFlag || isLeftOfTail())
         showRowPressed(true, pos);
-    start(m_clickTimer, kClickDelay);
+    start(clickTimer, kClickDelay);
     return true;
 }
 
@@ -639,28 +727,27 @@ bool SpTableList::startClick(const QPoint &pos)
  * Whether a release starts a fling. Its distance counts from the press and its time from the first
  * move: that is meant, so that a finger that rests before it flings is not thought slow.
  */
-bool SpTableList::startFling(const QPoint &pos)
+bool SpTableList::Private::startFling(const QPoint &pos)
 {
-    const int duration = int(m_releaseTime) - int(m_moveStartTime);
-    if (!m_isDragging || m_moveStartTime == 0 || duration < kShortestFling
-        || duration > kLongestFling)
+    const int duration = int(releaseTime) - int(moveStartTime);
+    if (!isDragging || moveStartTime == 0 || duration < kShortestFling || duration > kLongestFling)
         return false;
-    const long long steps = distance(pos.y(), m_pressPos.y()) * kStepsPerSpeed / duration;
-    m_flingSteps = int(qMin<long long>(steps, kMostFlingSteps));
-    m_speedTimer.start(kFlingInterval);
+    const long long steps = distance(pos.y(), pressPos.y()) * kStepsPerSpeed / duration;
+    flingSteps = int(qMin<long long>(steps, kMostFlingSteps));
+    speedTimer.start(kFlingInterval);
     return true;
 }
 
 // A second click on the highlighted row takes the highlight away; so does a touch beside the rows
 // or on the tail of any.
-void SpTableList::highlight(const QPoint &pos)
+void SpTableList::Private::highlight(const QPoint &pos)
 {
-    const QModelIndex index = indexAt(pos);
-    const bool isSelected = isThere(m_selectedIndex) && m_selectedIndex.index == index;
+    const QModelIndex index = q->indexAt(pos);
+    const bool isSelected = isThere(selectedIndex) && selectedIndex.index == index;
     const bool isNew = index.isValid() && !isSelected;
     if (!isNew)
         showRowPressed(false, pos);
-    m_selectedIndex.set(isNew && isLeftOfTail() ? index : QModelIndex());
+    selectedIndex.set(isNew && isLeftOfTail() ? index : QModelIndex());
 }
 
 /**
@@ -668,69 +755,69 @@ void SpTableList::highlight(const QPoint &pos)
  * with the row and the part of it. The index is that of the row as it is now, whatever has become
  * of the model; a row that went away in between is not reported.
  */
-void SpTableList::reportClick()
+void SpTableList::Private::reportClick()
 {
-    const QPointer<SpTableList> guard(this);
-    if (!m_highlightFlag)
-        showRowPressed(false, m_lastPos);
-    const int row = m_pressIndex.index.row();
-    const int x = m_pressPos.x();
-    if (isThere(m_pressIndex)) {
-        emit itemClicked(model()->index(row, m_pressIndex.index.column(), rootIndex()));
+    const QPointer<SpTableList> guard(q);
+    if (!highlightFlag)
+        showRowPressed(false, lastPos);
+    const int row = pressIndex.index.row();
+    const int x = pressPos.x();
+    if (isThere(pressIndex)) {
+        emit q->itemClicked(q->model()->index(row, pressIndex.index.column(), q->rootIndex()));
         if (guard)
-            emit itemClicked(row);
+            emit q->itemClicked(row);
         if (guard)
             reportClickPosition(row, x);
     }
     if (guard)
-        viewport()->update();
+        q->viewport()->update();
 }
 
-void SpTableList::reportClickPosition(int row, int x)
+void SpTableList::Private::reportClickPosition(int row, int x)
 {
-    const qint64 width = m_itemWidth;
-    const qint64 header = headerIconGain();
-    const qint64 tail = width - tailIconGain();
-    switch (UIStyle()) {
+    const qint64 width = itemWidth;
+    const qint64 header = q->headerIconGain();
+    const qint64 tail = width - q->tailIconGain();
+    switch (q->UIStyle()) {
     case LIST_STYLE_2: {
-        const bool isTail = isWithin(x, width - tailIconWidth(), width);
-        emit itemClicked(row, isTail ? TailIconClicked : CentreClicked);
+        const bool isTail = isWithin(x, width - q->tailIconWidth(), width);
+        emit q->itemClicked(row, isTail ? TailIconClicked : CentreClicked);
         break;
     }
     case LIST_STYLE_4:
-        if (isWithin(x, tail - tailIconWidth(), tail))
-            emit itemClicked(row, TailIconClicked);
-        else if (isWithin(x, header, header + headerIconWidth()))
-            emit itemClicked(row, HeaderIconClicked);
+        if (isWithin(x, tail - q->tailIconWidth(), tail))
+            emit q->itemClicked(row, TailIconClicked);
+        else if (isWithin(x, header, header + q->headerIconWidth()))
+            emit q->itemClicked(row, HeaderIconClicked);
         break;
     default:
         break;
     }
 }
 
-void SpTableList::startRolling()
+void SpTableList::Private::startRolling()
 {
-    start(m_rollTimer, kRollInterval);
-    if (m_delegate)
-        m_delegate->setRollTimerId(m_rollTimer);
+    start(rollTimer, kRollInterval);
+    if (delegate)
+        delegate->setRollTimerId(rollTimer);
 }
 
-void SpTableList::restartRollingLater()
+void SpTableList::Private::restartRollingLater()
 {
     if (rollsTexts())
-        start(m_rollRestartTimer, kRollPause);
+        start(rollRestartTimer, kRollPause);
 }
 
 /**
  * One step of the rolling texts. All rows are repainted with them: pictures of other rows may reach
  * into those that roll, and what the application has set meanwhile shows in all of them at once.
  */
-void SpTableList::rollTexts()
+void SpTableList::Private::rollTexts()
 {
-    if (!m_delegate || !m_delegate->rollData())
+    if (!delegate || !delegate->rollData())
         return;
-    const QFontMetrics metrics(m_delegate->centerFont());
-    for (StringRollingData *record = m_delegate->rollData(); record; record = record->next)
+    const QFontMetrics metrics(delegate->centerFont());
+    for (StringRollingData *record = delegate->rollData(); record; record = record->next)
         roll(*record, metrics);
-    viewport()->update();
+    q->viewport()->update();
 }

@@ -8,12 +8,9 @@
 #include <QColor>
 #include <QModelIndex>
 #include <QPixmap>
-#include <QPoint>
-#include <QPointer>
 #include <QTableView>
-#include <QTimer>
 
-#include <optional>
+#include <memory>
 
 /**
  * A list for fingers: it is dragged and flung, shows the touched row pressed, and reports clicks on
@@ -61,9 +58,9 @@ public:
     explicit SpTableList(QWidget *parent = nullptr);
     ~SpTableList() override;
 
-    int itemHeight() const { return m_itemHeight; }
+    int itemHeight() const;
     void setItemHeight(const int &height);
-    int itemWidth() const { return m_itemWidth; }
+    int itemWidth() const;
     void setItemWidth(const int &width);
     int centerFontSize() const;
     void setCenterFontSize(const int &px);
@@ -73,7 +70,7 @@ public:
     void setHightColor(const QColor &color);
     QColor pressColor() const;
     void setPressColor(const QColor &color);
-    bool useDefaultStyle() const { return m_useDefaultStyle; }
+    bool useDefaultStyle() const;
     void setUseDefaultStyle(bool use);
     QPixmap normalImage() const;
     void setNormalImage(QPixmap image);
@@ -96,9 +93,9 @@ public:
     LIST_STYLE UIStyle() const;
     void setUIStyle(SpTableList::LIST_STYLE style);
 
-    bool getHighlightFlag() const { return m_highlightFlag; }
+    bool getHighlightFlag() const;
     void setHighlightFlag(bool highlight);
-    bool getBIsBeep() const { return m_isBeep; }
+    bool getBIsBeep() const;
     void setBIsBeep(bool beep);
     void setTailRectX(int x);
     void setCenterTextFlag(int flag);
@@ -130,57 +127,8 @@ private slots:
     void speedTimerSlot();
 
 private:
-    // An index as it was: unlike a persistent one it stays at its row when the rows move.
-    struct PlainIndex {
-        void set(const QModelIndex &newIndex);
-
-        QModelIndex index;
-        QPointer<const QAbstractItemModel> model; // of the index, which cannot tell that it is gone
-    };
-
-    bool isThere(const PlainIndex &plain) const;
-    bool rollsTexts() const;
-    bool showsRowPressed() const;
-    void showRowPressed(bool pressed, const QPoint &pos);
-    bool isLeftOfTail() const;
-    void start(int &timer, int ms);
-    void stop(int &timer);
-    int boundedScrollValue(qint64 value) const;
-    void dragTo(qint64 value);
-    bool startClick(const QPoint &pos);
-    bool startFling(const QPoint &pos);
-    void highlight(const QPoint &pos);
-    void reportClick();
-    void reportClickPosition(int row, int x);
-    void startRolling();
-    void restartRollingLater();
-    void rollTexts();
-
-    QPointer<styleDelegate> m_delegate;
-    int m_itemHeight = 10; // px
-    int m_itemWidth = 10; // px
-    QPoint m_pressPos;
-    QPoint m_lastPos;
-    PlainIndex m_pressIndex;
-    PlainIndex m_selectedIndex;
-    unsigned int m_pressTime = 0; // ms within the minute
-    unsigned int m_releaseTime = 0; // ms within the minute
-    QTimer m_speedTimer;
-    int m_flingSteps = 0;
-    unsigned int m_moveStartTime = 0; // ms within the minute, 0: not moved yet
-    int m_rollRestartTimer = 0;
-    int m_clickTimer = 0;
-    int m_pressTimer = 0;
-    bool m_isDragging = false;
-    bool m_useDefaultStyle = true;
-    bool m_isMovingDown = false;
-    bool m_wasFlinging = false;
-    bool m_isBeep = true;
-    bool m_highlightFlag = false;
-    bool m_isFirstMove = true;
-    std::optional<int> m_scrollValue; // px, none before the first drag
-
-    int m_rollTimer = 0; // 0 as soon as it is killed; the delegate may still hold its id then
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 #endif // SPTABLELIST_H

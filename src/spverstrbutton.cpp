@@ -9,23 +9,64 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QSize>
 
 using namespace panelkit;
 
+class Q_DECL_HIDDEN SpVerStrButton::Private
+{
+public:
+    explicit Private(SpVerStrButton *widget) : q(widget) { }
+
+    struct Look;
+
+    Look look() const;
+    QRect iconRect() const;
+    QRect captionRect() const;
+    void drawIcon(QPainter &painter) const;
+    void drawCaption(QPainter &painter) const;
+
+    SpVerStrButton *const q;
+    QPixmap normalPixmap;
+    QPixmap pressPixmap;
+    QPixmap disablePixmap;
+    QPixmap focusPixmap;
+    QString displayString = QStringLiteral("Text");
+    QColor normalColor{Qt::black};
+    QColor pressColor{Qt::red};
+    QColor focusTextColor{Qt::white};
+    int buttonId = -1;
+    int widgetGain = 5; // px, negative: the string overlaps the icon
+    int stringHeight = 16; // px
+    bool disable = false;
+    bool isDown = false;
+    bool isLock = false;
+    bool isFocus = false;
+    QSize iconSize{32, 32};
+    int fontSize = 20; // px
+
+    mutable ImageLook imageLook;
+    mutable KeptText caption;
+};
+
 // The icon and the colour of the string that one state shows.
-struct SpVerStrButton::Look {
+struct SpVerStrButton::Private::Look {
     const QPixmap *icon;
     QColor caption;
 };
 
 /** A button without icon, with the string "Text" in black. */
 SpVerStrButton::SpVerStrButton(QWidget *parent)
-    : QWidget(parent), m_look(std::make_unique<ImageLook>()),
-      m_caption(std::make_unique<KeptText>())
+    : QWidget(parent), d(std::make_unique<Private>(this))
 {
 }
 
 SpVerStrButton::~SpVerStrButton() = default;
+
+QPixmap SpVerStrButton::normalPixmap() const
+{
+    return d->normalPixmap;
+}
 
 /**
  * The icon shown normally. Its size becomes that of the icon rectangle, into which the pressed and
@@ -34,19 +75,29 @@ SpVerStrButton::~SpVerStrButton() = default;
  */
 void SpVerStrButton::setNormalPixmap(const QPixmap &pixmap)
 {
-    m_normalPixmap = pixmap;
+    d->normalPixmap = pixmap;
     if (pixmap.isNull())
         return;
-    m_iconSize = pixmap.size();
-    setMinimumSize(m_iconSize);
+    d->iconSize = pixmap.size();
+    setMinimumSize(d->iconSize);
     update();
+}
+
+QPixmap SpVerStrButton::pressPixmap() const
+{
+    return d->pressPixmap;
 }
 
 /** The icon shown while down; without it there is none then. Repaints. */
 void SpVerStrButton::setPressPixmap(const QPixmap &pixmap)
 {
-    m_pressPixmap = pixmap;
+    d->pressPixmap = pixmap;
     update();
+}
+
+QPixmap SpVerStrButton::disablePixmap() const
+{
+    return d->disablePixmap;
 }
 
 /**
@@ -55,44 +106,79 @@ void SpVerStrButton::setPressPixmap(const QPixmap &pixmap)
  */
 void SpVerStrButton::setDisablePixmap(const QPixmap &pixmap)
 {
-    m_disablePixmap = pixmap;
+    d->disablePixmap = pixmap;
+}
+
+QPixmap SpVerStrButton::focusPixmap() const
+{
+    return d->focusPixmap;
 }
 
 /** The icon shown while focused; without it there is none then. Stored only. */
 void SpVerStrButton::setFocusPixmap(const QPixmap &pixmap)
 {
-    m_focusPixmap = pixmap;
+    d->focusPixmap = pixmap;
+}
+
+QString SpVerStrButton::displayString() const
+{
+    return d->displayString;
 }
 
 /** The string; "Text" by default. It is not shortened, only clipped. Repaints. */
 void SpVerStrButton::setDisplayString(const QString &text)
 {
-    m_displayString = text;
+    d->displayString = text;
     update();
+}
+
+QColor SpVerStrButton::normalColor() const
+{
+    return d->normalColor;
 }
 
 /** The colour of the string; black by default. Stored only. */
 void SpVerStrButton::setNormalColor(const QColor &color)
 {
-    m_normalColor = color;
+    d->normalColor = color;
+}
+
+QColor SpVerStrButton::pressColor() const
+{
+    return d->pressColor;
 }
 
 /** The colour of the string while down; red by default. Stored only. */
 void SpVerStrButton::setPressColor(const QColor &color)
 {
-    m_pressColor = color;
+    d->pressColor = color;
+}
+
+QColor SpVerStrButton::focusTextColor() const
+{
+    return d->focusTextColor;
 }
 
 /** The colour of the string while focused; white by default. Stored only. */
 void SpVerStrButton::setFocusTextColor(const QColor &color)
 {
-    m_focusTextColor = color;
+    d->focusTextColor = color;
+}
+
+int SpVerStrButton::buttonId() const
+{
+    return d->buttonId;
 }
 
 /** The number that the signals carry; -1 by default. Stored only. */
 void SpVerStrButton::setButtonId(int id)
 {
-    m_buttonId = id;
+    d->buttonId = id;
+}
+
+int SpVerStrButton::widgetGain() const
+{
+    return d->widgetGain;
 }
 
 /**
@@ -102,13 +188,23 @@ void SpVerStrButton::setButtonId(int id)
  */
 void SpVerStrButton::setWidgetGain(int gap)
 {
-    m_widgetGain = gap;
+    d->widgetGain = gap;
+}
+
+int SpVerStrButton::stringHeight() const
+{
+    return d->stringHeight;
 }
 
 /** The height in px that is reserved for the string; 16 by default. Stored only. */
 void SpVerStrButton::setStringHeight(int height)
 {
-    m_stringHeight = height;
+    d->stringHeight = height;
+}
+
+bool SpVerStrButton::disable() const
+{
+    return d->disable;
 }
 
 /**
@@ -117,20 +213,35 @@ void SpVerStrButton::setStringHeight(int height)
  */
 void SpVerStrButton::setDisable(bool disabled)
 {
-    m_disable = disabled;
+    d->disable = disabled;
+}
+
+bool SpVerStrButton::isDown() const
+{
+    return d->isDown;
 }
 
 /** Sets the pressed look, without a signal; this is how a latched button is let go. Repaints. */
 void SpVerStrButton::setIsDown(bool down)
 {
-    m_isDown = down;
+    d->isDown = down;
     update();
+}
+
+bool SpVerStrButton::isLock() const
+{
+    return d->isLock;
 }
 
 /** Makes the button latch: it keeps its pressed look after the release. Stored only. */
 void SpVerStrButton::setIsLock(bool lock)
 {
-    m_isLock = lock;
+    d->isLock = lock;
+}
+
+bool SpVerStrButton::isFocus() const
+{
+    return d->isFocus;
 }
 
 /**
@@ -139,8 +250,13 @@ void SpVerStrButton::setIsLock(bool lock)
  */
 void SpVerStrButton::setFocus(bool focused)
 {
-    m_isFocus = focused;
+    d->isFocus = focused;
     update();
+}
+
+int SpVerStrButton::fontSize() const
+{
+    return d->fontSize;
 }
 
 /**
@@ -149,14 +265,14 @@ void SpVerStrButton::setFocus(bool focused)
  */
 void SpVerStrButton::setFontSize(int px)
 {
-    m_fontSize = px;
+    d->fontSize = px;
 }
 
 void SpVerStrButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    drawIcon(painter);
-    drawCaption(painter);
+    d->drawIcon(painter);
+    d->drawCaption(painter);
 }
 
 /**
@@ -165,12 +281,12 @@ void SpVerStrButton::paintEvent(QPaintEvent *)
  */
 void SpVerStrButton::mousePressEvent(QMouseEvent *)
 {
-    if (m_disable)
+    if (d->disable)
         return;
     postKeyRequest(this, kBeepRequest);
-    m_isDown = true;
+    d->isDown = true;
     update();
-    emit pressed(m_buttonId);
+    emit pressed(d->buttonId);
 }
 
 /** Moving means nothing to this button, nor to its parent. */
@@ -179,65 +295,65 @@ void SpVerStrButton::mouseMoveEvent(QMouseEvent *) { }
 /** Any release emits clicked, wherever the finger was lifted. */
 void SpVerStrButton::mouseReleaseEvent(QMouseEvent *)
 {
-    if (m_disable)
+    if (d->disable)
         return;
-    if (!m_isLock)
-        m_isDown = false;
+    if (!d->isLock)
+        d->isDown = false;
     update();
-    emit clicked(m_buttonId);
+    emit clicked(d->buttonId);
 }
 
 // An icon that is missing is not replaced by the normal one.
-SpVerStrButton::Look SpVerStrButton::look() const
+SpVerStrButton::Private::Look SpVerStrButton::Private::look() const
 {
-    if (m_disable)
-        return {&m_disablePixmap, Qt::darkGray};
-    if (m_isDown)
-        return {&m_pressPixmap, m_pressColor};
-    if (m_isFocus)
-        return {&m_focusPixmap, m_focusTextColor};
-    return {&m_normalPixmap, m_normalColor};
+    if (disable)
+        return {&disablePixmap, Qt::darkGray};
+    if (isDown)
+        return {&pressPixmap, pressColor};
+    if (isFocus)
+        return {&focusPixmap, focusTextColor};
+    return {&normalPixmap, normalColor};
 }
 
 // With a gap, the icon is the upper part of a centred block; with an overlap it is centred alone.
-QRect SpVerStrButton::iconRect() const
+QRect SpVerStrButton::Private::iconRect() const
 {
-    QSize block = m_iconSize;
-    if (m_widgetGain >= 0) {
-        block.setHeight(boundedPixel(saturated(static_cast<long long>(m_iconSize.height())
-                                               + m_widgetGain + m_stringHeight)));
+    QSize block = iconSize;
+    if (widgetGain >= 0) {
+        block.setHeight(boundedPixel(
+            saturated(static_cast<long long>(iconSize.height()) + widgetGain + stringHeight)));
     }
-    return {centredTowardMinusInfinity(block, rect()).topLeft(), m_iconSize};
+    return {centredTowardMinusInfinity(block, q->rect()).topLeft(), iconSize};
 }
 
 // With a gap, the string has everything below it. An overlap is measured from the top of the
 // button, not from the icon, on purpose: strings of icons of one size stand on one line, whatever
 // the height of their buttons.
-QRect SpVerStrButton::captionRect() const
+QRect SpVerStrButton::Private::captionRect() const
 {
-    const long long below = static_cast<long long>(m_iconSize.height()) + m_widgetGain;
-    if (m_widgetGain < 0)
-        return boundedRect(0, saturated(below), width(), m_stringHeight);
+    const long long below = static_cast<long long>(iconSize.height()) + widgetGain;
+    if (widgetGain < 0)
+        return boundedRect(0, saturated(below), q->width(), stringHeight);
     const int top = boundedPixel(saturated(iconRect().top() + below));
-    return {0, top, width(), height() - top};
+    return {0, top, q->width(), q->height() - top};
 }
 
 // The disabled icon alone is not put into the icon rectangle, on purpose: it is a picture of the
 // whole button.
-void SpVerStrButton::drawIcon(QPainter &painter) const
+void SpVerStrButton::Private::drawIcon(QPainter &painter) const
 {
     const QPixmap &icon = *look().icon;
     if (icon.isNull())
         return;
-    if (m_disable)
-        painter.drawPixmap(centredTowardMinusInfinity(icon.size(), rect()).left(), 0, icon);
+    if (disable)
+        painter.drawPixmap(centredTowardMinusInfinity(icon.size(), q->rect()).left(), 0, icon);
     else
-        m_look->drawScaled(painter, iconRect(), icon);
+        imageLook.drawScaled(painter, iconRect(), icon);
 }
 
-void SpVerStrButton::drawCaption(QPainter &painter) const
+void SpVerStrButton::Private::drawCaption(QPainter &painter) const
 {
-    painter.setFont(applicationFont(m_fontSize));
+    painter.setFont(applicationFont(fontSize));
     painter.setPen(look().caption);
-    m_caption->draw(painter, captionRect(), Qt::AlignHCenter | Qt::AlignTop, m_displayString);
+    caption.draw(painter, captionRect(), Qt::AlignHCenter | Qt::AlignTop, displayString);
 }

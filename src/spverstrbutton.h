@@ -4,19 +4,11 @@
 #include "panelkitglobal.h"
 
 #include <QColor>
-#include <QFont>
 #include <QPixmap>
-#include <QSize>
 #include <QString>
 #include <QWidget>
 
 #include <memory>
-
-namespace panelkit
-{
-class ImageLook;
-class KeptText;
-} // namespace panelkit
 
 /**
  * A touch button with an icon above a string, both centred across; the two with the gap between
@@ -51,37 +43,37 @@ public:
     explicit SpVerStrButton(QWidget *parent = nullptr);
     ~SpVerStrButton() override;
 
-    QPixmap normalPixmap() const { return m_normalPixmap; }
+    QPixmap normalPixmap() const;
     void setNormalPixmap(const QPixmap &pixmap);
-    QPixmap pressPixmap() const { return m_pressPixmap; }
+    QPixmap pressPixmap() const;
     void setPressPixmap(const QPixmap &pixmap);
-    QPixmap disablePixmap() const { return m_disablePixmap; }
+    QPixmap disablePixmap() const;
     void setDisablePixmap(const QPixmap &pixmap);
-    QPixmap focusPixmap() const { return m_focusPixmap; }
+    QPixmap focusPixmap() const;
     void setFocusPixmap(const QPixmap &pixmap);
-    QString displayString() const { return m_displayString; }
+    QString displayString() const;
     void setDisplayString(const QString &text);
-    QColor normalColor() const { return m_normalColor; }
+    QColor normalColor() const;
     void setNormalColor(const QColor &color);
-    QColor pressColor() const { return m_pressColor; }
+    QColor pressColor() const;
     void setPressColor(const QColor &color);
-    QColor focusTextColor() const { return m_focusTextColor; }
+    QColor focusTextColor() const;
     void setFocusTextColor(const QColor &color);
-    int buttonId() const { return m_buttonId; }
+    int buttonId() const;
     void setButtonId(int id);
-    int widgetGain() const { return m_widgetGain; }
+    int widgetGain() const;
     void setWidgetGain(int gap);
-    int stringHeight() const { return m_stringHeight; }
+    int stringHeight() const;
     void setStringHeight(int height);
-    bool disable() const { return m_disable; }
+    bool disable() const;
     void setDisable(bool disabled);
-    bool isDown() const { return m_isDown; }
+    bool isDown() const;
     void setIsDown(bool down);
-    bool isLock() const { return m_isLock; }
+    bool isLock() const;
     void setIsLock(bool lock);
-    bool isFocus() const { return m_isFocus; }
+    bool isFocus() const;
     void setFocus(bool focused);
-    int fontSize() const { return m_fontSize; }
+    int fontSize() const;
     void setFontSize(int px);
 
 signals:
@@ -95,34 +87,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent *e) override;
 
 private:
-    struct Look;
-
-    Look look() const;
-    QRect iconRect() const;
-    QRect captionRect() const;
-    void drawIcon(QPainter &painter) const;
-    void drawCaption(QPainter &painter) const;
-
-    QPixmap m_normalPixmap;
-    QPixmap m_pressPixmap;
-    QPixmap m_disablePixmap;
-    QPixmap m_focusPixmap;
-    QString m_displayString = QStringLiteral("Text");
-    QColor m_normalColor{Qt::black};
-    QColor m_pressColor{Qt::red};
-    QColor m_focusTextColor{Qt::white};
-    int m_buttonId = -1;
-    int m_widgetGain = 5; // px, negative: the string overlaps the icon
-    int m_stringHeight = 16; // px
-    bool m_disable = false;
-    bool m_isDown = false;
-    bool m_isLock = false;
-    bool m_isFocus = false;
-    QSize m_iconSize{32, 32};
-    int m_fontSize = 20; // px
-
-    std::unique_ptr<panelkit::ImageLook> m_look;
-    std::unique_ptr<panelkit::KeptText> m_caption;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 #endif // SPVERSTRBUTTON_H

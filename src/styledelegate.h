@@ -12,12 +12,6 @@
 
 #include <memory>
 
-namespace panelkit
-{
-class ImageLook;
-class KeptTexts;
-} // namespace panelkit
-
 /// A centre text that rolls sideways, one of a singly linked list.
 struct StringRollingData {
     QString visibleText; ///< The characters now shown.
@@ -44,44 +38,44 @@ public:
     explicit styleDelegate(QObject *parent = nullptr);
     ~styleDelegate() override;
 
-    QFont centerFont() const { return m_centerFont; }
+    QFont centerFont() const;
     void setCenterFont(const QFont &font);
-    QFont tailFont() const { return m_tailFont; }
+    QFont tailFont() const;
     void setTailFont(const QFont &font);
-    QColor hightColor() const { return m_hightColor; }
+    QColor hightColor() const;
     void setHightColor(const QColor &color);
-    QColor pressColor() const { return m_pressColor; }
+    QColor pressColor() const;
     void setPressColor(const QColor &color);
-    QPixmap normalPix() const { return m_normalPix; }
+    QPixmap normalPix() const;
     void setNormalPix(const QPixmap &pixmap);
-    QPixmap pressPix() const { return m_pressPix; }
+    QPixmap pressPix() const;
     void setPressPix(const QPixmap &pixmap);
-    int style() const { return m_style; }
+    int style() const;
     void setStyle(int style);
-    int tailRectX() const { return m_tailRectX; }
+    int tailRectX() const;
     void setTailRectX(int x);
-    int rollTimerId() const { return m_rollTimerId; }
+    int rollTimerId() const;
     void setRollTimerId(int id);
-    int headerIconGain() const { return m_headerIconGain; }
+    int headerIconGain() const;
     void setHeaderIconGain(const int &gain);
-    int headerIconWidth() const { return m_headerIconWidth; }
+    int headerIconWidth() const;
     void setHeaderIconWidth(const int &width);
-    int centerStrGain() const { return m_centerStrGain; }
+    int centerStrGain() const;
     void setCenterStrGain(const int &gain);
-    int tailIconGain() const { return m_tailIconGain; }
+    int tailIconGain() const;
     void setTailIconGain(const int &gain);
-    int tailIconWidth() const { return m_tailIconWidth; }
+    int tailIconWidth() const;
     void setTailIconWidth(const int &width);
-    int pixmapGain() const { return m_pixmapGain; }
+    int pixmapGain() const;
     void setPixmapGain(const int &gain);
-    int tailStrWidth() const { return m_tailStrWidth; }
+    int tailStrWidth() const;
     void setTailStrWidth(const int &width);
-    int getCenterTextFlag() const { return m_centerTextFlag; }
+    int getCenterTextFlag() const;
     void setCenterTextFlag(int flag);
-    QPoint pressedPoint() const { return m_pressedPoint; }
-    bool itemPressed() const { return m_itemPressed; }
+    QPoint pressedPoint() const;
+    bool itemPressed() const;
     void setItemPressed(bool pressed, QPoint point);
-    bool useIt() const { return m_useIt; }
+    bool useIt() const;
     void setUseIt(bool use);
 
     StringRollingData *rollData() const; ///< The first record, or null.
@@ -95,59 +89,8 @@ public:
                const QModelIndex &index) const override;
 
 private:
-    struct Row;
-    class RollRecords;
-
-    bool showsPressPix(const Row &row) const;
-    bool showsPressedHeaderIcon(const Row &row) const;
-    bool showsPressedTailIcon(const Row &row) const;
-    QRect centreRect(const Row &row) const;
-    void applyTextColor(const Row &row) const;
-    void drawSeparator(const Row &row) const;
-    void drawBackground(const Row &row) const;
-    void drawSplitRow(Row &row) const;
-    void drawSplitBackground(Row &row) const;
-    void drawHeader(Row &row) const;
-    void drawHeaderNumber(Row &row) const;
-    void drawTail(Row &row) const;
-    void drawTailText(const Row &row) const;
-    void drawCentre(const Row &row) const;
-    void drawPlainCentre(const Row &row, const QString &text) const;
-    void drawTwoLineCentre(const Row &row, const QString &text) const;
-    void drawThreePartCentre(const Row &row, const QString &text) const;
-    void drawRollingCentre(const Row &row, const QString &text) const;
-    const StringRollingData &rollingRecord(const Row &row, const QString &text, int width) const;
-    void drawText(const Row &row, const QRect &rect, int flags, const QFont &font,
-                  const QString &text) const;
-
-    QFont m_centerFont;
-    QFont m_tailFont;
-    QColor m_hightColor;
-    QColor m_pressColor{255, 255, 255, 255};
-    QPixmap m_normalPix;
-    QPixmap m_pressPix;
-    int m_style = 0; // an SpTableList::LIST_STYLE
-    int m_tailRectX = 512; // px
-    std::unique_ptr<RollRecords> m_records;
-    int m_rollTimerId = 0; // 0: texts stand still
-    int m_headerIconGain = 20; // px
-    int m_headerIconWidth = 0; // px
-    int m_centerStrGain = 15; // px
-    int m_tailIconGain = 47; // px
-    int m_tailIconWidth = 0; // px
-    int m_pixmapGain = 0; // px
-    int m_tailStrWidth = 100; // px
-    int m_centerTextFlag = Qt::AlignLeft | Qt::AlignVCenter;
-    QPoint m_pressedPoint; // in the view
-    bool m_itemPressed = false;
-    bool m_useIt = true;
-
-    QFont m_lowerLineFont; // of LIST_STYLE_5, made from the centre font
-    QFont m_smallFont; // of LIST_STYLE_6, made from the centre font
-    QFont m_grayTailFont; // of LIST_STYLE_5, made from the tail font
-    std::unique_ptr<panelkit::KeptTexts> m_texts;
-    std::unique_ptr<panelkit::ImageLook> m_normalLook;
-    std::unique_ptr<panelkit::ImageLook> m_pressLook;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 #endif // STYLEDELEGATE_H

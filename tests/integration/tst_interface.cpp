@@ -1,17 +1,45 @@
-// Compares the meta-object of every listed class with its written interface,
-// tests/interface/<class>.txt: enumerations, properties with their flags and order, signals, slots.
+// Compares every listed class with its written interface, tests/interface/<class>.txt: what its
+// meta-object has (enumerations, properties with their flags and order, signals, slots), and every
+// function that the library exports for it. And holds the installed headers to being nothing else.
 
 #include "panelkitclasses.h"
 
 #include "widgettest.h"
 
+#include <QDir>
 #include <QFile>
 #include <QMetaEnum>
 #include <QMetaMethod>
 #include <QMetaProperty>
 
+#include <algorithm>
+#include <cstdio>
+#include <type_traits>
+
 namespace
 {
+
+// The class of Qt, or of this library, that a class derives from directly.
+template <class Class, class Base, class... Others> constexpr std::size_t sizeOfBase()
+{
+    if constexpr (std::is_base_of_v<Base, Class> && !std::is_same_v<Base, Class>)
+        return sizeof(Base);
+    else
+        return sizeOfBase<Class, Others...>();
+}
+
+// All that a class has of its own is a pointer, so that what it keeps may change within 1.x.
+#define HOLDS_ONE_POINTER(Class)                                                         \
+    static_assert(sizeof(Class)                                                          \
+                      == sizeOfBase<Class, QScrollBar, QTableView, QLabel, QRadioButton, \
+                                    QCheckBox, QStyledItemDelegate, QWidget>()           \
+                          + sizeof(void *),                                              \
+                  #Class " has more than its private pointer");
+#define CLASS_HOLDS_ONE_POINTER(Class, create) HOLDS_ONE_POINTER(Class)
+PANELKIT_FOR_EACH_CLASS(CLASS_HOLDS_ONE_POINTER)
+HOLDS_ONE_POINTER(ScaleBkg)
+HOLDS_ONE_POINTER(MovePoint)
+static_assert(sizeof(FmMovePoint) == sizeof(MovePoint), "the needle adds nothing to its base");
 
 QString latin(const char *text)
 {
@@ -83,6 +111,51 @@ QStringList described(const QMetaObject &type, const QString &className)
     return lines;
 }
 
+// The functions that the library defines, as a linker sees them; those of moc are not written down.
+QStringList exportedFunctions()
+{
+    std::FILE *const nm = popen("nm -DC --defined-only " LIBRARY, "r");
+    QFile output;
+    if (!nm || !output.open(nm, QIODevice::ReadOnly))
+        qFatal("nm cannot be run");
+    const QString symbols = latin(output.readAll());
+    if (pclose(nm) != 0)
+        qFatal("nm cannot read " LIBRARY);
+    static const QRegularExpression line(QStringLiteral("^[0-9a-f]+ T (.*)$"),
+                                         QRegularExpression::MultilineOption);
+    static const QRegularExpression ofMoc(
+        QStringLiteral("::(metaObject\\(\\) "
+                       "const|qt_metacast|qt_metacall|qt_static_metacall)|^non-virtual thunk"));
+    QStringList functions;
+    for (auto match = line.globalMatch(symbols); match.hasNext();) {
+        const QString name = match.next().captured(1);
+        if (!name.contains(ofMoc))
+            functions += name;
+    }
+    functions.sort();
+    functions.removeDuplicates(); // constructors and destructors have several entries
+    return functions;
+}
+
+QStringList exportedBy(const QString &className)
+{
+    static const QStringList functions = exportedFunctions();
+    QStringList lines;
+    for (const QString &function : functions) {
+        if (function.startsWith(className + latin("::")))
+            lines += latin("function ") + function;
+    }
+    return lines;
+}
+
+QString headerText(const QString &name)
+{
+    QFile file(QDir(latin(HEADER_DIR)).filePath(name));
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        qFatal("cannot read %s", qPrintable(file.fileName()));
+    return QString::fromUtf8(file.readAll());
+}
+
 QStringList written(const QString &className)
 {
     QFile file(QStringLiteral(INTERFACE_DIR "/%1.txt").arg(className.toLower()));
@@ -105,7 +178,7 @@ class tst_Interface : public WidgetTest
     Q_OBJECT
 
 private slots:
-    void theMetaObjectIsTheWrittenOne_data()
+    void theInterfaceIsTheWrittenOne_data()
     {
         QTest::addColumn<const QMetaObject *>("type");
 #define PART_ROW(Class) QTest::newRow(#Class) << &Class::staticMetaObject;
@@ -116,15 +189,67 @@ private slots:
 #undef PART_ROW
     }
 
-    void theMetaObjectIsTheWrittenOne()
+    void theInterfaceIsTheWrittenOne()
     {
         QFETCH(const QMetaObject *, type);
         const QString className = latin(QTest::currentDataTag());
-        const QStringList actual = described(*type, className);
+        const QStringList actual = described(*type, className) + exportedBy(className);
         const QStringList expected = written(className);
         for (int i = 0; i < qMin(actual.size(), expected.size()); ++i)
             QCOMPARE(actual[i], expected[i]);
         QCOMPARE(actual.size(), expected.size());
+    }
+
+    void nothingElseIsExported()
+    {
+        QStringList classes;
+#define PART_NAME(Class) classes += latin(#Class "::");
+#define CLASS_NAME(Class, create) PART_NAME(Class)
+        PANELKIT_FOR_EACH_CLASS(CLASS_NAME)
+        PANELKIT_FOR_EACH_PART(PART_NAME)
+#undef CLASS_NAME
+#undef PART_NAME
+        QStringList others;
+        for (const QString &function : exportedFunctions()) {
+            const bool isOfAClass =
+                std::any_of(classes.cbegin(), classes.cend(),
+                            [&](const QString &name) { return function.startsWith(name); });
+            if (!isOfAClass)
+                others += function;
+        }
+        QCOMPARE(others, QStringList{latin("transFormTime(long long, QString&)")});
+    }
+
+    void headersShowTheInterfaceAlone_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const QString &name : QDir(latin(HEADER_DIR)).entryList({latin("*.h")}))
+            QTest::newRow(qPrintable(name)) << name;
+    }
+
+    // No function body, no name of the shared rooms, and no class longer than a few screens.
+    void headersShowTheInterfaceAlone()
+    {
+        QFETCH(QString, name);
+        const QString text = headerText(name);
+        QVERIFY(!text.contains(latin("panelkit::")));
+        QVERIFY(
+            !text.contains(QRegularExpression(QStringLiteral("\\)( const)?( override)?\\s*\\{"))));
+        static const QRegularExpression oneClass(
+            QStringLiteral("^class PANELKIT_EXPORT .*?^\\};"),
+            QRegularExpression::MultilineOption | QRegularExpression::DotMatchesEverythingOption);
+        for (auto match = oneClass.globalMatch(text); match.hasNext();)
+            QVERIFY(match.next().captured().count(QLatin1Char('\n')) < 160);
+    }
+
+    void halfOfTheHeadersFitOnTwoScreens()
+    {
+        QVector<int> lines;
+        for (const QString &name : QDir(latin(HEADER_DIR)).entryList({latin("*.h")}))
+            lines += headerText(name).count(QLatin1Char('\n'));
+        std::sort(lines.begin(), lines.end());
+        QVERIFY2(lines[lines.size() / 2] <= 95,
+                 qPrintable(QString::number(lines[lines.size() / 2])));
     }
 };
 

@@ -128,8 +128,8 @@ class tst_ImageFile : public WidgetTest
 
 private slots:
     // Of a BMP file that ends early Qt leaves the missing lines as the memory was, which has to be
-    // the same each time to be compared.
-    void initTestCase() { QVERIFY(mallopt(M_PERTURB, 1)); }
+    // the same each time to be compared. The address sanitizer fills memory by itself.
+    void initTestCase() { mallopt(M_PERTURB, 1); }
 
     void thePictureIsThatOfQPixmap_data() { addCorpus(); }
 

@@ -14,22 +14,6 @@
 #include <cmath>
 #include <limits>
 #include <memory>
-#include <type_traits>
-
-// The accessors that are part of the interface exactly as they are written.
-static_assert(
-    std::is_same_v<decltype(&MArcList::setPressColor), void (MArcList::*)(const QColor &)>);
-static_assert(
-    std::is_same_v<decltype(&MArcList::setPointPixmap), void (MArcList::*)(const QPixmap &)>);
-static_assert(std::is_same_v<decltype(&MArcList::setAcrListStyle),
-                             void (MArcList::*)(MArcList::ARCLIST_STYLE)>);
-static_assert(std::is_same_v<decltype(&MArcList::setTextXOffset), void (MArcList::*)(int)>);
-static_assert(std::is_same_v<decltype(&MArcList::addAlpha), void (MArcList::*)(QChar)>);
-static_assert(std::is_same_v<decltype(&MArcList::setCurrentIndex), void (MArcList::*)(QChar)>);
-static_assert(std::is_same_v<decltype(&MArcList::moveList), void (MArcList::*)(QPoint)>);
-static_assert(std::is_same_v<decltype(&MArcList::getCurrentTime), int (MArcList::*)()>);
-static_assert(std::is_same_v<decltype(&MArcList::calcCurValue), void (MArcList::*)(QPoint, bool)>);
-static_assert(std::is_same_v<decltype(&MArcList::drawTicks), void (MArcList::*)(QPainter *)>);
 
 namespace
 {

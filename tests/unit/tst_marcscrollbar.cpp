@@ -14,21 +14,6 @@
 #include <cmath>
 #include <limits>
 #include <memory>
-#include <type_traits>
-
-// The accessors that are part of the interface exactly as they are written.
-static_assert(
-    std::is_same_v<decltype(&MArcScrollBar::setLineColor), void (MArcScrollBar::*)(QColor)>);
-static_assert(
-    std::is_same_v<decltype(&MArcScrollBar::setPointColor), void (MArcScrollBar::*)(QColor)>);
-static_assert(std::is_same_v<decltype(&MArcScrollBar::setPointPixmap),
-                             void (MArcScrollBar::*)(const QPixmap &)>);
-static_assert(std::is_same_v<decltype(&MArcScrollBar::setCenterPoint),
-                             void (MArcScrollBar::*)(const QPointF &)>);
-static_assert(
-    std::is_same_v<decltype(&MArcScrollBar::calcCurValue), void (MArcScrollBar::*)(QPoint, bool)>);
-static_assert(std::is_same_v<decltype(&MArcScrollBar::calcCurValueVert),
-                             void (MArcScrollBar::*)(QPoint, bool)>);
 
 namespace
 {

@@ -14,21 +14,6 @@
 
 #include <climits>
 #include <memory>
-#include <type_traits>
-
-// The accessors that are part of the interface exactly as they are written.
-static_assert(std::is_same_v<decltype(&MFocusButton::setNormalImage),
-                             void (MFocusButton::*)(const QPixmap &)>);
-static_assert(std::is_same_v<decltype(&MFocusButton::setdisplayTextRect),
-                             void (MFocusButton::*)(const QRect &)>);
-static_assert(
-    std::is_same_v<decltype(&MFocusButton::setButtonID), void (MFocusButton::*)(const QString &)>);
-static_assert(
-    std::is_same_v<decltype(&MFocusButton::setLongPressIntal), void (MFocusButton::*)(int)>);
-static_assert(
-    std::is_same_v<decltype(&MFocusButton::getLongPressIntal), int (MFocusButton::*)() const>);
-static_assert(std::is_same_v<decltype(&MFocusButton::hitButton),
-                             bool (MFocusButton::*)(const QPoint &) const>);
 
 namespace
 {

@@ -15,13 +15,6 @@
 
 #include <climits>
 #include <memory>
-#include <type_traits>
-
-// The accessors that are part of the interface exactly as they are written.
-static_assert(std::is_same_v<decltype(&MGifPlay::setGifImage), void (MGifPlay::*)(QString)>);
-static_assert(std::is_same_v<decltype(&MGifPlay::setGifSpeed), void (MGifPlay::*)(int)>);
-static_assert(std::is_same_v<decltype(&MGifPlay::getGifState), int (MGifPlay::*)()>);
-static_assert(std::is_same_v<decltype(&MGifPlay::setGifState), void (MGifPlay::*)(int)>);
 
 namespace
 {

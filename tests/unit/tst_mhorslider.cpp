@@ -12,12 +12,6 @@
 
 #include <climits>
 #include <memory>
-#include <type_traits>
-
-// The accessors that are part of the interface exactly as they are written.
-static_assert(std::is_same_v<decltype(&MHorSlider::getTouchPos), QPoint (MHorSlider::*)()>);
-static_assert(std::is_same_v<decltype(&MHorSlider::setAlignment),
-                             void (MHorSlider::*)(const Qt::Alignment &)>);
 
 namespace
 {

@@ -19,12 +19,6 @@
 #include <climits>
 #include <cmath>
 #include <limits>
-#include <type_traits>
-
-static_assert(std::is_same_v<decltype(&MKARVOSlider::setLineGap), void (MKARVOSlider::*)(int)>);
-static_assert(std::is_same_v<decltype(&MKARVOSlider::getCurFreq), float (MKARVOSlider::*)() const>);
-static_assert(std::is_same_v<decltype(&MKARVOSlider::isValidFreq), bool (MKARVOSlider::*)(float)>);
-static_assert(std::is_same_v<decltype(&MKARVOSlider::calFreqRule), float (MKARVOSlider::*)(float)>);
 
 namespace
 {

@@ -14,11 +14,6 @@
 // The accessors that are part of the interface exactly as they are written.
 static_assert(std::is_constructible_v<MListView, QWidget *, SpTableList *, QRect>);
 static_assert(std::is_constructible_v<MListView, QWidget *, QRect>);
-static_assert(
-    std::is_same_v<decltype(&MListView::setPositionList), void (MListView::*)(QList<QPoint> &)>);
-static_assert(
-    std::is_same_v<decltype(&MListView::setPixmapList), void (MListView::*)(QList<QPixmap> &)>);
-
 namespace
 {
 

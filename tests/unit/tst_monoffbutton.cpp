@@ -17,7 +17,6 @@
 #include <climits>
 #include <dlfcn.h>
 #include <memory>
-#include <type_traits>
 
 // The last timer that anything outside Qt has asked for. This function stands before Qt's own: to
 // the event dispatcher a coarse timer of 20 ms is a precise one.
@@ -31,18 +30,6 @@ int QObject::startTimer(int interval, Qt::TimerType timerType)
     lastTimerType = timerType;
     return start(this, interval, timerType);
 }
-
-// The accessors that are part of the interface exactly as they are written.
-static_assert(
-    std::is_same_v<decltype(&MOnOffButton::setOnColor), void (MOnOffButton::*)(const QColor &)>);
-static_assert(
-    std::is_same_v<decltype(&MOnOffButton::setOnoffStatus), void (MOnOffButton::*)(const bool &)>);
-static_assert(
-    std::is_same_v<decltype(&MOnOffButton::setBtnDisable), void (MOnOffButton::*)(const bool &)>);
-static_assert(std::is_same_v<decltype(&MOnOffButton::setReverse), void (MOnOffButton::*)(bool)>);
-static_assert(std::is_same_v<decltype(&MOnOffButton::setUIStyle),
-                             void (MOnOffButton::*)(MOnOffButton::OnOff_STYLE)>);
-static_assert(std::is_same_v<decltype(&MOnOffButton::changeStatus), void (MOnOffButton::*)(bool)>);
 
 namespace
 {
@@ -74,11 +61,6 @@ protected:
         MOnOffButton::timerEvent(e);
     }
 };
-
-static_assert(std::is_same_v<decltype(&Switch::createRectPath),
-                             void (MOnOffButton::*)(QPainterPath &, QRectF, int)>);
-static_assert(std::is_same_v<decltype(&Switch::drawDisableImage),
-                             void (MOnOffButton::*)(QRect, QPixmap, QPainter &)>);
 
 // 90 x 44: the knob's middle goes from 22 to 68, and a drag of 23 px switches.
 std::unique_ptr<Switch> makeSwitch(QWidget *parent = nullptr)

@@ -10,16 +10,6 @@
 
 #include <climits>
 #include <cstdlib>
-#include <type_traits>
-
-// None of its functions is const.
-static_assert(std::is_same_v<decltype(&MovePoint::cacPosMapFreq), int (MovePoint::*)(int pos)>);
-static_assert(std::is_same_v<decltype(&MovePoint::cacFreqMapPos), int (MovePoint::*)(int freq)>);
-static_assert(std::is_same_v<decltype(&MovePoint::getPosValid), int (MovePoint::*)(int pos)>);
-static_assert(std::is_same_v<decltype(&MovePoint::isAm), bool (MovePoint::*)()>);
-static_assert(std::is_same_v<decltype(&MovePoint::moveByPos), void (MovePoint::*)(int pos)>);
-static_assert(std::is_same_v<decltype(&MovePoint::moveByFreq), void (MovePoint::*)(int freq)>);
-static_assert(std::is_same_v<decltype(&MovePoint::emitFreq), void (MovePoint::*)()>);
 
 namespace
 {

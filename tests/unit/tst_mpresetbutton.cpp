@@ -15,19 +15,6 @@
 
 #include <climits>
 #include <memory>
-#include <type_traits>
-
-// The accessors that are part of the interface exactly as they are written.
-static_assert(std::is_same_v<decltype(&MPresetButton::setPresetIconPos),
-                             void (MPresetButton::*)(const QPoint &)>);
-static_assert(std::is_same_v<decltype(&MPresetButton::setdisplayTextRect),
-                             void (MPresetButton::*)(const QRect &)>);
-static_assert(std::is_same_v<decltype(&MPresetButton::setdisplayTextRect2),
-                             void (MPresetButton::*)(const QRect &)>);
-static_assert(
-    std::is_same_v<decltype(&MPresetButton::setFontSize2), void (MPresetButton::*)(const int &)>);
-static_assert(std::is_same_v<decltype(&MPresetButton::hitButton),
-                             bool (MPresetButton::*)(const QPoint &) const>);
 
 namespace
 {

@@ -14,10 +14,6 @@
 #include <climits>
 #include <cmath>
 #include <limits>
-#include <type_traits>
-
-static_assert(std::is_same_v<decltype(&MRadioMovePoint::setBandType),
-                             void (MRadioMovePoint::*)(const MRadioMovePoint::BNADTYPE &)>);
 
 namespace
 {

@@ -17,14 +17,6 @@
 #include <climits>
 #include <cmath>
 #include <limits>
-#include <type_traits>
-
-static_assert(
-    std::is_same_v<decltype(&MRadioSlider::getFreqStart), float (MRadioSlider::*)() const>);
-static_assert(std::is_same_v<decltype(&MRadioSlider::setCurFreq), void (MRadioSlider::*)(float)>);
-static_assert(std::is_same_v<decltype(&MRadioSlider::isValidFreq), bool (MRadioSlider::*)(float)>);
-static_assert(std::is_same_v<decltype(&MRadioSlider::setScaleAlign),
-                             void (MRadioSlider::*)(const MRadioSlider::ScaleAlignmentMode &)>);
 
 namespace
 {

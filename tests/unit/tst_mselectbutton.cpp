@@ -14,19 +14,6 @@
 
 #include <climits>
 #include <memory>
-#include <type_traits>
-
-// The accessors that are part of the interface exactly as they are written.
-static_assert(std::is_same_v<decltype(&MSelectButton::setSelectState),
-                             void (MSelectButton::*)(const bool &)>);
-static_assert(std::is_same_v<decltype(&MSelectButton::setDisableState),
-                             void (MSelectButton::*)(const bool &)>);
-static_assert(
-    std::is_same_v<decltype(&MSelectButton::selectState), bool (MSelectButton::*)() const>);
-static_assert(
-    std::is_same_v<decltype(&MSelectButton::disableState), bool (MSelectButton::*)() const>);
-static_assert(std::is_same_v<decltype(&MSelectButton::setdisplayTextRect),
-                             void (MSelectButton::*)(const QRect &)>);
 
 namespace
 {

@@ -14,11 +14,6 @@
 
 #include <climits>
 #include <memory>
-#include <type_traits>
-
-// The accessors that are part of the interface exactly as they are written.
-static_assert(std::is_same_v<decltype(&MVScrollLabel::isScroll), bool (MVScrollLabel::*)()>);
-static_assert(std::is_same_v<decltype(&MVScrollLabel::getHeight), int (MVScrollLabel::*)()>);
 
 namespace
 {

@@ -11,21 +11,6 @@
 #include <QPainter>
 
 #include <climits>
-#include <type_traits>
-
-// None of its functions is const.
-static_assert(std::is_same_v<decltype(&ScaleBkg::getValidStartFreq),
-                             int (ScaleBkg::*)(int freq, int step, bool isStart)>);
-static_assert(std::is_same_v<decltype(&ScaleBkg::getPosByCount), int (ScaleBkg::*)(int count)>);
-static_assert(std::is_same_v<decltype(&ScaleBkg::getValueByPos), int (ScaleBkg::*)(int pos)>);
-static_assert(std::is_same_v<decltype(&ScaleBkg::getBeishu), int (ScaleBkg::*)(int freq)>);
-static_assert(std::is_same_v<decltype(&ScaleBkg::getHeightByCount), int (ScaleBkg::*)(int count)>);
-static_assert(std::is_same_v<decltype(&ScaleBkg::getRectBYCertalXpos), QRect (ScaleBkg::*)(int x)>);
-static_assert(std::is_same_v<decltype(&ScaleBkg::getPointStart), int (ScaleBkg::*)()>);
-static_assert(std::is_same_v<decltype(&ScaleBkg::getPointEnd), int (ScaleBkg::*)()>);
-static_assert(std::is_same_v<decltype(&ScaleBkg::getEnd), int (ScaleBkg::*)()>);
-static_assert(std::is_same_v<decltype(&ScaleBkg::getLine_start), int (ScaleBkg::*)()>);
-static_assert(std::is_same_v<decltype(&ScaleBkg::getLine_end), int (ScaleBkg::*)()>);
 
 namespace
 {

@@ -10,17 +10,9 @@
 
 #include <climits>
 #include <memory>
-#include <type_traits>
 
 // The accessors that are part of the interface exactly as they are written.
 template <typename T> using Setter = void (SpBackgroundImage::*)(T);
-static_assert(std::is_same_v<decltype(&SpBackgroundImage::setPixmap), Setter<const QPixmap &>>);
-static_assert(
-    std::is_same_v<decltype(&SpBackgroundImage::setholdMouseEvent), Setter<const bool &>>);
-static_assert(std::is_same_v<decltype(&SpBackgroundImage::setFitPixmapSize), Setter<const bool &>>);
-static_assert(std::is_same_v<decltype(&SpBackgroundImage::setPaintInCenter), Setter<bool>>);
-static_assert(std::is_same_v<decltype(&SpBackgroundImage::setRotateAngle), Setter<const int &>>);
-
 namespace
 {
 

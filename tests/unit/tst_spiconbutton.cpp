@@ -18,22 +18,6 @@
 
 #include <climits>
 #include <memory>
-#include <type_traits>
-
-// The accessors that are part of the interface exactly as they are written.
-static_assert(std::is_same_v<decltype(&SpIconButton::setShowMode),
-                             void (SpIconButton::*)(const SpIconButton::ShowMode &)>);
-static_assert(std::is_same_v<decltype(&SpIconButton::setDisableMode),
-                             void (SpIconButton::*)(const SpIconButton::DisableMode &)>);
-static_assert(
-    std::is_same_v<decltype(&SpIconButton::setFocus), void (SpIconButton::*)(const bool &)>);
-static_assert(
-    std::is_same_v<decltype(&SpIconButton::setTimerInterval), void (SpIconButton::*)(const int &)>);
-static_assert(
-    std::is_same_v<decltype(&SpIconButton::setPressImgPath), void (SpIconButton::*)(QString)>);
-static_assert(std::is_same_v<decltype(&SpIconButton::isBeep), bool (SpIconButton::*)()>);
-static_assert(
-    std::is_same_v<decltype(&SpIconButton::getAlphaOpacity), float (SpIconButton::*)(int)>);
 
 namespace
 {

@@ -11,12 +11,6 @@
 
 #include <climits>
 #include <memory>
-#include <type_traits>
-
-// The accessors that are part of the interface exactly as they are written.
-static_assert(std::is_same_v<decltype(&SpLabel::setImage), void (SpLabel::*)(const QPixmap &)>);
-static_assert(std::is_same_v<decltype(&SpLabel::imageAlpha), int (SpLabel::*)()>);
-static_assert(std::is_same_v<decltype(&SpLabel::setImageAlpha), void (SpLabel::*)(const int &)>);
 
 namespace
 {

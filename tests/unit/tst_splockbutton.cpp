@@ -12,19 +12,6 @@
 
 #include <climits>
 #include <memory>
-#include <type_traits>
-
-// The accessors that are part of the interface exactly as they are written.
-static_assert(std::is_same_v<decltype(&SpLockButton::setShowMode),
-                             void (SpLockButton::*)(const SpLockButton::ShowMode &)>);
-static_assert(std::is_same_v<decltype(&SpLockButton::setDisableMode),
-                             void (SpLockButton::*)(const SpLockButton::DisableMode &)>);
-static_assert(
-    std::is_same_v<decltype(&SpLockButton::setImageAlpha), void (SpLockButton::*)(const int &)>);
-static_assert(
-    std::is_same_v<decltype(&SpLockButton::setDisableState), void (SpLockButton::*)(const bool &)>);
-static_assert(std::is_same_v<decltype(&SpLockButton::setPressImageAlpha),
-                             void (SpLockButton::*)(int, const QPixmap &, QPixmap &)>);
 
 namespace
 {

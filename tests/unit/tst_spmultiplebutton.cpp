@@ -18,15 +18,6 @@
 
 #include <climits>
 #include <memory>
-#include <type_traits>
-
-// The accessors that are part of the interface exactly as they are written.
-static_assert(std::is_same_v<decltype(&SpMultipleButton::setBackgroundImage),
-                             void (SpMultipleButton::*)(QPixmap)>);
-static_assert(std::is_same_v<decltype(&SpMultipleButton::setNormalImage7),
-                             void (SpMultipleButton::*)(QPixmap)>);
-static_assert(std::is_same_v<decltype(&SpMultipleButton::setPressImage0),
-                             void (SpMultipleButton::*)(QPixmap)>);
 
 namespace
 {

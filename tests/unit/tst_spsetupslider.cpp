@@ -15,12 +15,6 @@
 
 #include <climits>
 #include <memory>
-#include <type_traits>
-
-// The accessors that are part of the interface exactly as they are written.
-static_assert(std::is_same_v<decltype(&SpSetupSlider::getTouchPos), QPoint (SpSetupSlider::*)()>);
-static_assert(
-    std::is_same_v<decltype(&SpSetupSlider::setHasAddDecBtn), void (SpSetupSlider::*)(int)>);
 
 namespace
 {

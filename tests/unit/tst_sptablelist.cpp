@@ -26,23 +26,6 @@
 static_assert(std::is_base_of_v<QStyledItemDelegate, styleDelegate>);
 static_assert(std::is_same_v<decltype(StringRollingData::row), int>);
 
-// The accessors that are part of the interface exactly as they are written.
-static_assert(
-    std::is_same_v<decltype(&SpTableList::setItemHeight), void (SpTableList::*)(const int &)>);
-static_assert(
-    std::is_same_v<decltype(&SpTableList::setTailStrWidth), void (SpTableList::*)(const int &)>);
-static_assert(
-    std::is_same_v<decltype(&SpTableList::setNormalImage), void (SpTableList::*)(QPixmap)>);
-static_assert(
-    std::is_same_v<decltype(&SpTableList::setUseDefaultStyle), void (SpTableList::*)(bool)>);
-static_assert(std::is_same_v<decltype(&SpTableList::setUIStyle),
-                             void (SpTableList::*)(SpTableList::LIST_STYLE)>);
-static_assert(
-    std::is_same_v<decltype(&SpTableList::getCurrentTime), unsigned int (SpTableList::*)()>);
-static_assert(
-    std::is_same_v<decltype(&SpTableList::getHighlightFlag), bool (SpTableList::*)() const>);
-static_assert(std::is_same_v<decltype(&SpTableList::getBIsBeep), bool (SpTableList::*)() const>);
-
 // What the resource compiler's output calls.
 Q_CORE_EXPORT bool qRegisterResourceData(int, const uchar *, const uchar *, const uchar *);
 Q_CORE_EXPORT bool qUnregisterResourceData(int, const uchar *, const uchar *, const uchar *);

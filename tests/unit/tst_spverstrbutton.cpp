@@ -14,16 +14,6 @@
 
 #include <climits>
 #include <memory>
-#include <type_traits>
-
-// The accessors that are part of the interface exactly as they are written.
-static_assert(std::is_same_v<decltype(&SpVerStrButton::setFocus), void (SpVerStrButton::*)(bool)>);
-static_assert(std::is_same_v<decltype(&SpVerStrButton::setNormalPixmap),
-                             void (SpVerStrButton::*)(const QPixmap &)>);
-static_assert(std::is_same_v<decltype(&SpVerStrButton::setDisplayString),
-                             void (SpVerStrButton::*)(const QString &)>);
-static_assert(std::is_same_v<decltype(&SpVerStrButton::setNormalColor),
-                             void (SpVerStrButton::*)(const QColor &)>);
 
 namespace
 {

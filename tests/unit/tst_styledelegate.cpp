@@ -12,19 +12,6 @@
 #include <climits>
 #include <cstddef>
 #include <memory>
-#include <type_traits>
-
-// The accessors that are part of the interface exactly as they are written.
-static_assert(std::is_same_v<decltype(&styleDelegate::setHeaderIconGain),
-                             void (styleDelegate::*)(const int &)>);
-static_assert(std::is_same_v<decltype(&styleDelegate::setTailStrWidth),
-                             void (styleDelegate::*)(const int &)>);
-static_assert(std::is_same_v<decltype(&styleDelegate::setItemPressed),
-                             void (styleDelegate::*)(bool, QPoint)>);
-static_assert(std::is_same_v<decltype(&styleDelegate::getRollData),
-                             StringRollingData *(styleDelegate::*)(int)>);
-static_assert(std::is_same_v<decltype(&styleDelegate::getAddRollData),
-                             StringRollingData *(styleDelegate::*)(StringRollingData *)>);
 
 extern "C" __attribute__((weak)) std::size_t __sanitizer_get_current_allocated_bytes();
 
