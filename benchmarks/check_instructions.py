@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 """Holds the rows of panelkit-bench to their limits by counting instructions.
 
 usage: check_instructions.py VALGRIND PANELKIT_BENCH

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef PANELKIT_BENCHMARKS_REPORT_H
 #define PANELKIT_BENCHMARKS_REPORT_H
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # Reads cmake/classes.cmake into global properties and a generated header, panelkitclasses.h.
 
 define_property(GLOBAL PROPERTY PANELKIT_CLASSES BRIEF_DOCS "Class names, in the order of the list"

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # Compiles files into a target: each is found at :/panelkit/<prefix>/<name of the file>.
 function(panelkit_resources target prefix)
     set(entries "")

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # How this project compiles: the warnings of its targets, and the second compilation of the library
 # with the single-precision coordinates of the device; and what its tests run under.
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # The one list of classes. Everything that treats the classes alike is driven from it: the library's
 # sources and headers, the unit and interface tests, the robustness drive, the Designer plugin, the
 # catalogue, the benchmarks and the documentation. A row says only what the class cannot say itself:

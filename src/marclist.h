@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef MARCLIST_H
 #define MARCLIST_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef MARCSCROLLBAR_H
 #define MARCSCROLLBAR_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef MCIRCULARDIAL_H
 #define MCIRCULARDIAL_H
 

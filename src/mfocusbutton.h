@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef MFOCUSBUTTON_H
 #define MFOCUSBUTTON_H
 

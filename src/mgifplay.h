@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef MGIFPLAY_H
 #define MGIFPLAY_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef MKARVOSLIDER_H
 #define MKARVOSLIDER_H
 

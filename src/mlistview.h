@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef MLISTVIEW_H
 #define MLISTVIEW_H
 

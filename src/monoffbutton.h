@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef MONOFFBUTTON_H
 #define MONOFFBUTTON_H
 

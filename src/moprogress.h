@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef MOPROGRESS_H
 #define MOPROGRESS_H
 

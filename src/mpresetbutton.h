@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef MPRESETBUTTON_H
 #define MPRESETBUTTON_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef MPROGRESSBAR_H
 #define MPROGRESSBAR_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef MRADIOMOVEPOINT_H
 #define MRADIOMOVEPOINT_H
 

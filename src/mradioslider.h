@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef MRADIOSLIDER_H
 #define MRADIOSLIDER_H
 

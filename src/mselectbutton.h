@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef MSELECTBUTTON_H
 #define MSELECTBUTTON_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef MULTIPLESTATEBUTTON_H
 #define MULTIPLESTATEBUTTON_H
 

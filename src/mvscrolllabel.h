@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef MVSCROLLLABEL_H
 #define MVSCROLLLABEL_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef PLAYBUTTON_H
 #define PLAYBUTTON_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef SPBACKGROUNDIMAGE_H
 #define SPBACKGROUNDIMAGE_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef SPDISLABEL_H
 #define SPDISLABEL_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef SPHOMEICON_H
 #define SPHOMEICON_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "sphorstrbutton.h"
 
 #include "detail/fonts.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef SPHORSTRBUTTON_H
 #define SPHORSTRBUTTON_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef SPICONBUTTON_H
 #define SPICONBUTTON_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef SPLABEL_H
 #define SPLABEL_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef SPLOADINGROUND_H
 #define SPLOADINGROUND_H
 

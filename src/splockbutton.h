@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef SPLOCKBUTTON_H
 #define SPLOCKBUTTON_H
 

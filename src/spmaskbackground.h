@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef SPMASKBACKGROUND_H
 #define SPMASKBACKGROUND_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef SPMULTIPLEBUTTON_H
 #define SPMULTIPLEBUTTON_H
 

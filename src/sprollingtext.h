@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef SPROLLINGTEXT_H
 #define SPROLLINGTEXT_H
 

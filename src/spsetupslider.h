@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef SPSETUPSLIDER_H
 #define SPSETUPSLIDER_H
 

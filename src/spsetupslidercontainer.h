@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef SPSETUPSLIDERCONTAINER_H
 #define SPSETUPSLIDERCONTAINER_H
 

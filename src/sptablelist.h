@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef SPTABLELIST_H
 #define SPTABLELIST_H
 

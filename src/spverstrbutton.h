@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef SPVERSTRBUTTON_H
 #define SPVERSTRBUTTON_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef STYLEDELEGATE_H
 #define STYLEDELEGATE_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef CATALOGUE_BANDS_H
 #define CATALOGUE_BANDS_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef CATALOGUE_CATALOGUE_H
 #define CATALOGUE_CATALOGUE_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef CATALOGUE_COLOREDITOR_H
 #define CATALOGUE_COLOREDITOR_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef CATALOGUE_CONTACTS_H
 #define CATALOGUE_CONTACTS_H
 

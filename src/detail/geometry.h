@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef PANELKIT_DETAIL_GEOMETRY_H
 #define PANELKIT_DETAIL_GEOMETRY_H
 

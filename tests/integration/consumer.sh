@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: Apache-2.0
 # What a customer does with PanelKit: installs a build, looks at what came, builds the smallest
 # application against it with CMake and with pkg-config, runs both and touches their button.
 #

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Loaded into an application from outside: waits for its SpIconButton to be shown, touches it once
 // in the middle, and ends the application. What the application then did is for the caller to see.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Linked into each program that stands in the documentation: lets it show its window, looks whether
 // it did, and ends it. The program is right if it comes here and returns from its event loop.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // What every button of the library does on every kind of touch, in one table. They look alike and
 // are not: how far a finger may slide, what a long hold means, which flag disables what, who asks
 // for a click sound and when. Applications rely on these differences.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The Designer plugin as Designer and QUiLoader use it: what it says of each class, and forms.
 
 #include "panelkitclasses.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Compares the property tables of docs/classes/*.md with the classes: names, order, types,
 // defaults, and whether a write repaints.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Compares every listed class with its written interface, tests/interface/<class>.txt: what its
 // meta-object has (enumerations, properties with their flags and order, signals, slots), and every
 // function that the library exports for it. And holds the installed headers to being nothing else.

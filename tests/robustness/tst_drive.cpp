@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The robustness drive: every listed class, thousands of random steps with hostile values (property
 // writes, sizes, touches, keys, change events, time, deletion inside its own signals). Nothing may
 // crash, warn or trip a sanitizer. Each run is repeatable: its seed is the name of its row.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The robustness drive of lists with rows: random touches, property writes and changes of a model
 // that answers anything. Each run is repeatable: its seed is the name of its row.
 

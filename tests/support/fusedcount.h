@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef FUSEDCOUNT_H
 #define FUSEDCOUNT_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef LOGRECORD_H
 #define LOGRECORD_H
 

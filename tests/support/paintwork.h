@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef PAINTWORK_H
 #define PAINTWORK_H
 

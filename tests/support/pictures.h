@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef PICTURES_H
 #define PICTURES_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef RADIOBANDS_H
 #define RADIOBANDS_H
 

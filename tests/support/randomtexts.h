@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef RANDOMTEXTS_H
 #define RANDOMTEXTS_H
 

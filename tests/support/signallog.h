@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef SIGNALLOG_H
 #define SIGNALLOG_H
 

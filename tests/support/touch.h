@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef TOUCH_H
 #define TOUCH_H
 

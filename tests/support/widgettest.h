@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #ifndef WIDGETTEST_H
 #define WIDGETTEST_H
 

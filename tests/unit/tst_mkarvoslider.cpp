@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Frequencies are float, single multiplications and divisions are rounded one by one, and what is
 // named so is a fused multiply-add: all of it whatever the width of qreal and the processor. Only
 // the comparisons with the tolerance are double. What is expected is computed here once more in

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Pixels and frequencies are found with the arithmetic of int alone, so that neither the width of
 // qreal nor the processor changes a station. What is expected is computed here with plain int.
 

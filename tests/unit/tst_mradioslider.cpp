@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Frequencies are float, single multiplications and divisions are rounded one by one, and the tick
 // frequencies are fused multiply-adds: all of it whatever the width of qreal and the processor.
 // What is expected is computed here with float once more, or with whole numbers of hundredths.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The arithmetic of the scale is that of int, and of float for the numbers of an FM scale: it is
 // the same whatever the width of qreal and whatever the processor. What is expected here is
 // computed with plain int, which for these numbers neither overflows nor divides by zero.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The support of the tests is itself tested: a log that misses a line, a comparison that always
 // agrees or a clock that stands still would turn every other test into decoration.
 
