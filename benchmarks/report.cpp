@@ -26,7 +26,6 @@ double costOf(const Costs &costs, const std::string &name)
 
 // One line of the table: a row beside one of its peers.
 struct Line {
-    const Row *row = nullptr;
     std::string peer; // empty for a row without peers
     double ours = kNotMeasured; // ns
     double floor = kNotMeasured; // ns
@@ -37,7 +36,6 @@ std::vector<Line> linesOf(const Row &row, const Costs &costs)
 {
     std::vector<Line> lines;
     Line line;
-    line.row = &row;
     line.ours = costOf(costs, row.nameOf("ours"));
     line.floor = costOf(costs, row.nameOf("floor"));
     if (std::isnan(line.ours))
@@ -101,8 +99,8 @@ bool writeJson(const QString &path, const std::vector<Row> &rows, const Costs &c
     for (const Row &row : rows) {
         for (const Line &line : linesOf(row, costs)) {
             records.append(QJsonObject{
-                {QStringLiteral("class"), json(line.row->className)},
-                {QStringLiteral("state"), json(line.row->state)},
+                {QStringLiteral("class"), json(row.className)},
+                {QStringLiteral("state"), json(row.state)},
                 {QStringLiteral("ns"), json(line.ours)},
                 {QStringLiteral("floor_ns"), json(line.floor)},
                 {QStringLiteral("ratio_floor"), json(line.ours / line.floor)},

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <MFocusButton>
 
+#include "hostile.h"
 #include "pictures.h"
 #include "signallog.h"
 #include "touch.h"
@@ -333,23 +334,7 @@ private slots:
                          }));
     }
 
-    // A rectangle counts as far as a widget can reach; one that is not valid is the whole widget.
-    void hostileCaptionRectangles_data()
-    {
-        constexpr int kFarthest = QWIDGETSIZE_MAX;
-        QTest::addColumn<QRect>("rect");
-        QTest::addColumn<QRect>("expected");
-        QTest::newRow("everywhere")
-            << QRect(QPoint(INT_MIN, INT_MIN), QPoint(INT_MAX, INT_MAX))
-            << QRect(QPoint(-kFarthest, -kFarthest), QPoint(kFarthest, kFarthest));
-        QTest::newRow("far right") << QRect(QPoint(0, 0), QPoint(INT_MAX, 79))
-                                   << QRect(QPoint(0, 0), QPoint(kFarthest, 79));
-        QTest::newRow("beyond everything")
-            << QRect(QPoint(INT_MAX, INT_MAX), QPoint(INT_MAX, INT_MAX))
-            << QRect(QPoint(kFarthest, kFarthest), QPoint(kFarthest, kFarthest));
-        QTest::newRow("inside out")
-            << QRect(QPoint(INT_MAX, INT_MAX), QPoint(INT_MIN, INT_MIN)) << QRect(0, 0, 100, 80);
-    }
+    void hostileCaptionRectangles_data() { addHostileRectangles(QRect(0, 0, 100, 80)); }
 
     void hostileCaptionRectangles()
     {

@@ -2,6 +2,7 @@
 #include <SpHorStrButton>
 
 #include "baseorder.h"
+#include "hostile.h"
 #include "logrecord.h"
 #include "parent.h"
 #include "pictures.h"
@@ -1000,14 +1001,7 @@ private slots:
         }
     }
 
-    void hostileStringsAreShown_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::newRow("long") << QString(100000, QLatin1Char('W'));
-        QTest::newRow("many lines") << QString(1000, QLatin1Char('\n'));
-        QTest::newRow("half a character") << QString(QChar(0xD800));
-        QTest::newRow("zero character") << QString(QChar(0));
-    }
+    void hostileStringsAreShown_data() { addHostileStrings(); }
 
     void hostileStringsAreShown()
     {

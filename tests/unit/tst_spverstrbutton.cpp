@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <SpVerStrButton>
 
+#include "hostile.h"
 #include "parent.h"
 #include "pictures.h"
 #include "signallog.h"
@@ -796,14 +797,7 @@ private slots:
         }
     }
 
-    void hostileStringsAreShown_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::newRow("long") << QString(100000, QLatin1Char('W'));
-        QTest::newRow("many lines") << QString(1000, QLatin1Char('\n'));
-        QTest::newRow("half a character") << QString(QChar(0xD800));
-        QTest::newRow("zero character") << QString(QChar(0));
-    }
+    void hostileStringsAreShown_data() { addHostileStrings(); }
 
     void hostileStringsAreShown()
     {
