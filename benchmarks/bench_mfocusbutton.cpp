@@ -129,11 +129,8 @@ template <class Widget> StepMaker makeAndDelete()
 void defineRows(Rows &rows, Tag<MFocusButton>)
 {
     const Artwork &art = artwork();
-    const auto asItIs = [](auto &) {
-    };
-    const auto disable = [](QPushButton &peer) {
-        peer.setEnabled(false);
-    };
+    const auto asItIs = [](auto &) {};
+    const auto disable = [](QPushButton &peer) { peer.setEnabled(false); };
     addLook(rows, "normal", asItIs, floorOf(art.normal), art.normal, {}, asItIs);
     addLook(
         rows, "checked", [](MFocusButton &b) { b.setChecked(true); }, floorOf(art.pressed),

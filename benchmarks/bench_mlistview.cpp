@@ -80,11 +80,7 @@ std::shared_ptr<Peer> makePeer()
 
 StepMaker creation()
 {
-    return [] {
-        return [] {
-            makeView();
-        };
-    };
+    return [] { return [] { makeView(); }; };
 }
 
 StepMaker creationByHand()
@@ -99,11 +95,7 @@ StepMaker creationByHand()
 
 StepMaker peerCreation()
 {
-    return [] {
-        return [] {
-            makePeer();
-        };
-    };
+    return [] { return [] { makePeer(); }; };
 }
 
 StepMaker switching()

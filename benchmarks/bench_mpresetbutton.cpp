@@ -162,14 +162,9 @@ template <class Widget> StepMaker makeAndDelete()
 void defineRows(Rows &rows, Tag<MPresetButton>)
 {
     const Artwork &art = artwork();
-    const auto asItIs = [](auto &) {
-    };
-    const auto disable = [](auto &b) {
-        b.setEnabled(false);
-    };
-    const auto check = [](MPresetButton &b) {
-        b.setChecked(true);
-    };
+    const auto asItIs = [](auto &) {};
+    const auto disable = [](auto &b) { b.setEnabled(false); };
+    const auto check = [](MPresetButton &b) { b.setChecked(true); };
     addLook(rows, "normal", asItIs, floorOf(art.normal, art.icon, Qt::white, Qt::cyan), art.normal,
             asItIs);
     addLook(rows, "checked", check, floorOf(art.pressed, art.icon, Qt::yellow, Qt::blue),

@@ -139,11 +139,8 @@ template <class Widget> StepMaker makeAndDelete()
 void defineRows(Rows &rows, Tag<MSelectButton>)
 {
     const Artwork &art = artwork();
-    const auto asItIs = [](auto &) {
-    };
-    const auto disable = [](QPushButton &peer) {
-        peer.setEnabled(false);
-    };
+    const auto asItIs = [](auto &) {};
+    const auto disable = [](QPushButton &peer) { peer.setEnabled(false); };
     addLook(rows, "normal", asItIs, floorOf(art.normal), art.normal, {}, asItIs);
     addLook(rows, "pressed", press, floorOf(art.pressed), art.pressed, {}, asItIs);
     addLook(

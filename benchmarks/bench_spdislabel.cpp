@@ -25,15 +25,9 @@ constexpr double kStartUpLimit = 2;
 const QColor kGround(40, 60, 90);
 const QColor kTranslucent(90, 160, 255, 70);
 
-QString shortText()
-{
-    return QStringLiteral("Radio One");
-}
+QString shortText() { return QStringLiteral("Radio One"); }
 
-QString longText()
-{
-    return QStringLiteral("A station with a very long name");
-}
+QString longText() { return QStringLiteral("A station with a very long name"); }
 
 const QPixmap &icon()
 {

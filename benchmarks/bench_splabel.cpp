@@ -13,10 +13,7 @@ constexpr QSize kSize(200, 160);
 constexpr int kVeil = 154; // alpha
 constexpr double kFloorLimit = 1.15;
 
-QPixmap picture(const QSize &size)
-{
-    return keyPicture(QColor(40, 90, 160), size);
-}
+QPixmap picture(const QSize &size) { return keyPicture(QColor(40, 90, 160), size); }
 
 QPixmap veiled(QPixmap result)
 {

@@ -26,10 +26,7 @@ template <class Draw> PaintingMaker floorOf(Draw draw)
     });
 }
 
-QColor faded(int i)
-{
-    return {255, 255, 255, i < 6 ? 120 : 20 * i + 15};
-}
+QColor faded(int i) { return {255, 255, 255, i < 6 ? 120 : 20 * i + 15}; }
 
 PaintingMaker ring(SpLoadingRound::DrawStyle style)
 {

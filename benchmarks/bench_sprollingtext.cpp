@@ -20,15 +20,9 @@ constexpr int kRollStep = 2; // px
 constexpr double kFloorLimit = 1.2;
 constexpr double kPeerLimit = 1;
 
-QString shortText()
-{
-    return QStringLiteral("Radio One");
-}
+QString shortText() { return QStringLiteral("Radio One"); }
 
-QString longText()
-{
-    return QStringLiteral("Midnight Lanterns, from the album Maps for Sundays");
-}
+QString longText() { return QStringLiteral("Midnight Lanterns, from the album Maps for Sundays"); }
 
 QFont textFont()
 {

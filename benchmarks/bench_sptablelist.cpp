@@ -141,10 +141,7 @@ StepMaker dragSteps(int count)
     };
 }
 
-void tick(SpTableList &list)
-{
-    QMetaObject::invokeMethod(&list, "speedTimerSlot");
-}
+void tick(SpTableList &list) { QMetaObject::invokeMethod(&list, "speedTimerSlot"); }
 
 // Flings the list from its start. A finger that took too long, or that moved while a minute ended,
 // has flung nothing: it tries again.
@@ -181,9 +178,7 @@ StepMaker flingTicks(int count)
 
 StepMaker stepsOf(const PaintingMaker &make)
 {
-    return [make] {
-        return make().step;
-    };
+    return [make] { return make().step; };
 }
 
 StepMaker tenOf(const StepMaker &make)

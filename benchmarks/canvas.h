@@ -25,10 +25,7 @@
 // all, and adding it to each number would only bring the ratios closer to one. A widget made of
 // several widgets is painted in this way with its own step around QWidget::render().
 
-inline void clear(QImage &canvas)
-{
-    canvas.fill(QColor(24, 28, 36));
-}
+inline void clear(QImage &canvas) { canvas.fill(QColor(24, 28, 36)); }
 
 // Lines start where a vector register's worth of pixels does, as in the memory of a window: how
 // many instructions a line takes depends on it.
@@ -74,9 +71,7 @@ template <class Widget, class Prepare> PaintingMaker widgetOf(const QSize &size,
         widget->resize(size);
         widget->setAttribute(Qt::WA_DontShowOnScreen);
         widget->show(); // visible to itself: with style, layout and size
-        return {canvas, [widget] {
-                    widget->paint();
-                }};
+        return {canvas, [widget] { widget->paint(); }};
     };
 }
 

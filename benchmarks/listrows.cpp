@@ -53,20 +53,11 @@ const QPixmap &tailIcon()
     return icon;
 }
 
-QString upperText(int row)
-{
-    return QStringLiteral("The title of row number %1").arg(row);
-}
+QString upperText(int row) { return QStringLiteral("The title of row number %1").arg(row); }
 
-QString lowerText(int row)
-{
-    return QStringLiteral("An artist, %1").arg(row % 100);
-}
+QString lowerText(int row) { return QStringLiteral("An artist, %1").arg(row % 100); }
 
-int ListRows::rowCount(const QModelIndex &parent) const
-{
-    return parent.isValid() ? 0 : m_count;
-}
+int ListRows::rowCount(const QModelIndex &parent) const { return parent.isValid() ? 0 : m_count; }
 
 QVariant ListRows::data(const QModelIndex &index, int role) const
 {

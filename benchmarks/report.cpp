@@ -57,10 +57,7 @@ std::string text(double number, int decimals)
     return QString::number(number, 'f', decimals).toStdString();
 }
 
-QJsonValue json(double number)
-{
-    return std::isnan(number) ? QJsonValue() : QJsonValue(number);
-}
+QJsonValue json(double number) { return std::isnan(number) ? QJsonValue() : QJsonValue(number); }
 
 QJsonValue json(const std::string &string)
 {

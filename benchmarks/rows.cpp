@@ -11,11 +11,7 @@ namespace
 // Whoever paints may only point into the canvas: it stays as long as the step.
 StepMaker stepOf(const PaintingMaker &make)
 {
-    return [make]() -> Step {
-        return [painting = make()] {
-            painting.step();
-        };
-    };
+    return [make]() -> Step { return [painting = make()] { painting.step(); }; };
 }
 
 // What differs between two canvases of one size; empty if they are the same picture.

@@ -50,30 +50,18 @@ DesignerWidget::DesignerWidget(WidgetRow row, QObject *parent)
 {
 }
 
-QString DesignerWidget::name() const
-{
-    return m_row.className;
-}
+QString DesignerWidget::name() const { return m_row.className; }
 
-QString DesignerWidget::group() const
-{
-    return QStringLiteral("PanelKit");
-}
+QString DesignerWidget::group() const { return QStringLiteral("PanelKit"); }
 
-QString DesignerWidget::toolTip() const
-{
-    return m_row.toolTip;
-}
+QString DesignerWidget::toolTip() const { return m_row.toolTip; }
 
 QString DesignerWidget::whatsThis() const
 {
     return m_row.className + QStringLiteral(": ") + m_row.toolTip;
 }
 
-QString DesignerWidget::includeFile() const
-{
-    return m_row.header;
-}
+QString DesignerWidget::includeFile() const { return m_row.header; }
 
 /** Rendered here, so that the picture needs no icon plug-in of Qt. */
 QIcon DesignerWidget::icon() const
@@ -91,15 +79,9 @@ QIcon DesignerWidget::icon() const
     return icon;
 }
 
-bool DesignerWidget::isContainer() const
-{
-    return false;
-}
+bool DesignerWidget::isContainer() const { return false; }
 
-QWidget *DesignerWidget::createWidget(QWidget *parent)
-{
-    return m_row.create(parent);
-}
+QWidget *DesignerWidget::createWidget(QWidget *parent) { return m_row.create(parent); }
 
 /** What a new one looks like: its size, then its initial properties in the order of the list. */
 QString DesignerWidget::domXml() const

@@ -49,9 +49,7 @@ double bounded(double low, double value, double high)
 // The root of a sum of squares that is exact for every pair of ints.
 double length(int x, qint64 y)
 {
-    const auto square = [](qint64 value) {
-        return quint64(value) * quint64(value);
-    };
+    const auto square = [](qint64 value) { return quint64(value) * quint64(value); };
     return std::sqrt(double(square(x) + square(y)));
 }
 
@@ -138,21 +136,12 @@ MArcList::MArcList(QWidget *parent) : QWidget(parent), d(std::make_unique<Privat
 
 MArcList::~MArcList() = default;
 
-double MArcList::radius() const
-{
-    return d->radius;
-}
+double MArcList::radius() const { return d->radius; }
 
 /** The radius of the arc in px; 470 by default. Stored only. A column has no use for it. */
-void MArcList::setRadius(double radius)
-{
-    d->radius = radius;
-}
+void MArcList::setRadius(double radius) { d->radius = radius; }
 
-QPixmap MArcList::pointPixmap() const
-{
-    return d->pointPixmap;
-}
+QPixmap MArcList::pointPixmap() const { return d->pointPixmap; }
 
 /** The marker at the pressed and the current character; none by default. Repaints. */
 void MArcList::setPointPixmap(const QPixmap &pixmap)
@@ -161,95 +150,53 @@ void MArcList::setPointPixmap(const QPixmap &pixmap)
     update();
 }
 
-double MArcList::startAngle() const
-{
-    return d->startAngle;
-}
+double MArcList::startAngle() const { return d->startAngle; }
 
 /**
  * Where the first character stands, in degrees clockwise from the right; in a column, the index of
  * the first row. 0 by default; scrolling changes it. Stored only, without bounds: the next touch
  * brings it within them.
  */
-void MArcList::setStartAngle(double angle)
-{
-    d->startAngle = angle;
-}
+void MArcList::setStartAngle(double angle) { d->startAngle = angle; }
 
-double MArcList::itemHight() const
-{
-    return d->itemHight;
-}
+double MArcList::itemHight() const { return d->itemHight; }
 
 /** From one character to the next: degrees, or in a column px. 8 by default. Stored only. */
-void MArcList::setItemHight(double height)
-{
-    d->itemHight = height;
-}
+void MArcList::setItemHight(double height) { d->itemHight = height; }
 
-QColor MArcList::pressColor() const
-{
-    return d->pressColor;
-}
+QColor MArcList::pressColor() const { return d->pressColor; }
 
 /** The colour of the pressed character; white by default. Stored only. */
-void MArcList::setPressColor(const QColor &color)
-{
-    d->pressColor = color;
-}
+void MArcList::setPressColor(const QColor &color) { d->pressColor = color; }
 
-MArcList::ARCLIST_STYLE MArcList::acrListStyle() const
-{
-    return d->style;
-}
+MArcList::ARCLIST_STYLE MArcList::acrListStyle() const { return d->style; }
 
 /**
  * Where the characters stand; ARCLIST_STYLE_0 by default. Stored only. A list of any other style
  * shows nothing and takes no touches.
  */
-void MArcList::setAcrListStyle(ARCLIST_STYLE style)
-{
-    d->style = style;
-}
+void MArcList::setAcrListStyle(ARCLIST_STYLE style) { d->style = style; }
 
-int MArcList::showItem() const
-{
-    return d->showItem;
-}
+int MArcList::showItem() const { return d->showItem; }
 
 /**
  * How many places from the first visible character others are drawn; in a column, how many rows
  * there are. 15 by default. Stored only.
  */
-void MArcList::setShowItem(int count)
-{
-    d->showItem = count;
-}
+void MArcList::setShowItem(int count) { d->showItem = count; }
 
-double MArcList::pixXOffset() const
-{
-    return d->pixXOffset;
-}
+double MArcList::pixXOffset() const { return d->pixXOffset; }
 
 /**
  * How much farther than its character the marker is turned, in degrees; in a column, where it
  * begins, in px. 2.5 by default. Stored only.
  */
-void MArcList::setPixXOffset(double offset)
-{
-    d->pixXOffset = offset;
-}
+void MArcList::setPixXOffset(double offset) { d->pixXOffset = offset; }
 
-int MArcList::getTextXOffset() const
-{
-    return d->textXOffset;
-}
+int MArcList::getTextXOffset() const { return d->textXOffset; }
 
 /** Where the characters of a column begin, in px; 0 by default. Stored only. */
-void MArcList::setTextXOffset(int offset)
-{
-    d->textXOffset = offset;
-}
+void MArcList::setTextXOffset(int offset) { d->textXOffset = offset; }
 
 /** Appends a character and repaints; one that the list already has is ignored. */
 void MArcList::addAlpha(QChar c)
@@ -400,10 +347,7 @@ void MArcList::drawPointer1(QPainter *painter)
  * The time within the minute in ms. It begins anew with each minute, on purpose: a flick across
  * that moment has a negative duration and simply does not fling.
  */
-int MArcList::getCurrentTime()
-{
-    return minuteClock();
-}
+int MArcList::getCurrentTime() { return minuteClock(); }
 
 void MArcList::paintEvent(QPaintEvent *e)
 {
@@ -483,16 +427,10 @@ bool MArcList::Private::isItem(qint64 index) const
 }
 
 // The start angle at which the list lies just before the start.
-double MArcList::Private::arcEnd() const
-{
-    return -(itemHight * characters.size());
-}
+double MArcList::Private::arcEnd() const { return -(itemHight * characters.size()); }
 
 // The first row at which the last one still is shown; negative for a list that fits.
-double MArcList::Private::lastFirstRow() const
-{
-    return double(characters.size()) - showItem;
-}
+double MArcList::Private::lastFirstRow() const { return double(characters.size()) - showItem; }
 
 // Only touches near the arc count. Those exactly beside or above the centre have no angle; they are
 // reported as movement but touch nothing.

@@ -33,10 +33,7 @@ constexpr double kFullTurn = 360.0; // degrees
 constexpr qint64 kMostTicks = 100000; // a range of more values has no tick for each
 constexpr double kRadian = 0.017453292519943295; // radians a degree
 
-bool differs(double a, double b)
-{
-    return std::abs(a - b) >= kFinestAngle;
-}
+bool differs(double a, double b) { return std::abs(a - b) >= kFinestAngle; }
 
 // Whether a horizontal line one pixel high is a filled rectangle of the same pixels.
 bool drawsRows(const QPainter &painter)
@@ -93,21 +90,12 @@ MArcScrollBar::MArcScrollBar(QWidget *parent)
 
 MArcScrollBar::~MArcScrollBar() = default;
 
-double MArcScrollBar::radius() const
-{
-    return d->radius;
-}
+double MArcScrollBar::radius() const { return d->radius; }
 
 /** The radius of the arc in px; 570 by default, below 1 for a straight bar. Stored only. */
-void MArcScrollBar::setRadius(double radius)
-{
-    d->radius = radius;
-}
+void MArcScrollBar::setRadius(double radius) { d->radius = radius; }
 
-QColor MArcScrollBar::lineColor() const
-{
-    return d->lineColor;
-}
+QColor MArcScrollBar::lineColor() const { return d->lineColor; }
 
 /**
  * The colour that the ticks are filled with; rgb(173, 173, 173) by default. Repaints. Ticks are
@@ -120,10 +108,7 @@ void MArcScrollBar::setLineColor(QColor color)
     update();
 }
 
-QColor MArcScrollBar::pointColor() const
-{
-    return d->pointColor;
-}
+QColor MArcScrollBar::pointColor() const { return d->pointColor; }
 
 /** The colour of the triangle at the value; rgb(94, 94, 94) by default. Repaints. */
 void MArcScrollBar::setPointColor(QColor color)
@@ -132,10 +117,7 @@ void MArcScrollBar::setPointColor(QColor color)
     update();
 }
 
-double MArcScrollBar::rotateAngle() const
-{
-    return d->rotateAngle;
-}
+double MArcScrollBar::rotateAngle() const { return d->rotateAngle; }
 
 /**
  * How far the arc is turned, 0 to 360 degrees; 90 by default. Other angles, and changes of less
@@ -149,10 +131,7 @@ void MArcScrollBar::setRotateAngle(double angle)
     update();
 }
 
-double MArcScrollBar::startAngle() const
-{
-    return d->startAngle;
-}
+double MArcScrollBar::startAngle() const { return d->startAngle; }
 
 /**
  * Half of what the arc leaves out of a full turn, in degrees: it spans 360 - 2 x startAngle. 162 by
@@ -166,10 +145,7 @@ void MArcScrollBar::setStartAngle(double angle)
     update();
 }
 
-QPixmap MArcScrollBar::pointPixmap() const
-{
-    return d->pointPixmap;
-}
+QPixmap MArcScrollBar::pointPixmap() const { return d->pointPixmap; }
 
 /**
  * The pointer instead of the triangle; none by default. The straight bar has only this one.
@@ -181,10 +157,7 @@ void MArcScrollBar::setPointPixmap(const QPixmap &pixmap)
     update();
 }
 
-bool MArcScrollBar::showTicks() const
-{
-    return d->showTicks;
-}
+bool MArcScrollBar::showTicks() const { return d->showTicks; }
 
 /** Whether there are ticks; true by default. Repaints. */
 void MArcScrollBar::setShowTicks(bool shown)
@@ -193,10 +166,7 @@ void MArcScrollBar::setShowTicks(bool shown)
     update();
 }
 
-QPointF MArcScrollBar::centerPoint() const
-{
-    return d->centerPoint;
-}
+QPointF MArcScrollBar::centerPoint() const { return d->centerPoint; }
 
 /** The centre of the arc in px of the bar, usually outside of it; (-460, 200) by default. Repaints.
  */
@@ -215,9 +185,7 @@ void MArcScrollBar::drawTicks(QPainter *painter)
 {
     if (!painter)
         return;
-    const auto draw = [this](QPainter &p) {
-        d->drawTicksOneByOne(p);
-    };
+    const auto draw = [this](QPainter &p) { d->drawTicksOneByOne(p); };
     const auto reach = qreal(std::abs(d->radius)) + 1;
     const QRectF area(-reach, -reach, 2 * reach, 2 * reach);
     QTransform turned = painter->worldTransform();
@@ -388,22 +356,13 @@ void MArcScrollBar::mouseReleaseEvent(QMouseEvent *e)
         emit sliderReleased();
 }
 
-bool MArcScrollBar::Private::isStraight() const
-{
-    return radius < kStraightBelow;
-}
+bool MArcScrollBar::Private::isStraight() const { return radius < kStraightBelow; }
 
 // Of values; 64 bits hold the distance of any two ints.
-qint64 MArcScrollBar::Private::range() const
-{
-    return qint64(q->maximum()) - q->minimum();
-}
+qint64 MArcScrollBar::Private::range() const { return qint64(q->maximum()) - q->minimum(); }
 
 // Of degrees.
-double MArcScrollBar::Private::span() const
-{
-    return kFullTurn - 2 * startAngle;
-}
+double MArcScrollBar::Private::span() const { return kFullTurn - 2 * startAngle; }
 
 // From the first tick. A range without extent has the pointer at its only tick. The value is above
 // the maximum while a slot is told of a smaller range.

@@ -52,16 +52,10 @@ qint64 tickStride(int count)
     return stride;
 }
 
-bool isSameAngle(double a, double b)
-{
-    return !(std::abs(a - b) >= kFinestAngle);
-}
+bool isSameAngle(double a, double b) { return !(std::abs(a - b) >= kFinestAngle); }
 
 // No number is the same as any: it changes nothing.
-bool isSameValue(double a, double b)
-{
-    return std::isnan(a) || std::abs(a - b) < kFinestValue;
-}
+bool isSameValue(double a, double b) { return std::isnan(a) || std::abs(a - b) < kFinestValue; }
 
 // What texts are laid out by.
 struct Lettering {
@@ -184,21 +178,12 @@ MCircularDial::MCircularDial(QWidget *parent) : QWidget(parent), d(std::make_uni
 
 MCircularDial::~MCircularDial() = default;
 
-double MCircularDial::radius() const
-{
-    return d->radius;
-}
+double MCircularDial::radius() const { return d->radius; }
 
 /** The radius in px; 250 by default. Stored only: it shows at the next paint. */
-void MCircularDial::setRadius(double radius)
-{
-    d->radius = radius;
-}
+void MCircularDial::setRadius(double radius) { d->radius = radius; }
 
-double MCircularDial::minValue() const
-{
-    return d->minValue;
-}
+double MCircularDial::minValue() const { return d->minValue; }
 
 /**
  * The lowest value; 87.5 by default. A change of less than 0.05 is ignored, and so is a minimum
@@ -217,10 +202,7 @@ void MCircularDial::setMinValue(double minimum)
         update();
 }
 
-double MCircularDial::maxValue() const
-{
-    return d->maxValue;
-}
+double MCircularDial::maxValue() const { return d->maxValue; }
 
 /** The highest value; 108 by default. The mirror image of setMinValue(). */
 void MCircularDial::setMaxValue(double maximum)
@@ -234,10 +216,7 @@ void MCircularDial::setMaxValue(double maximum)
         update();
 }
 
-double MCircularDial::value() const
-{
-    return d->value;
-}
+double MCircularDial::value() const { return d->value; }
 
 /**
  * The value; 87.5 by default. A change of less than 0.05 is ignored; any other is limited to the
@@ -251,10 +230,7 @@ void MCircularDial::setValue(double value)
     update();
 }
 
-QString MCircularDial::unit() const
-{
-    return d->unit;
-}
+QString MCircularDial::unit() const { return d->unit; }
 
 /** The text that follows the value at once; empty by default. Repaints. */
 void MCircularDial::setUnit(QString unit)
@@ -263,10 +239,7 @@ void MCircularDial::setUnit(QString unit)
     update();
 }
 
-QColor MCircularDial::textColor() const
-{
-    return d->textColor;
-}
+QColor MCircularDial::textColor() const { return d->textColor; }
 
 /** The colour of the ticks, their labels and the value; white by default. Repaints. */
 void MCircularDial::setTextColor(QColor color)
@@ -275,10 +248,7 @@ void MCircularDial::setTextColor(QColor color)
     update();
 }
 
-QColor MCircularDial::bgColor() const
-{
-    return d->bgColor;
-}
+QColor MCircularDial::bgColor() const { return d->bgColor; }
 
 /** The colour of the ground; rgb(173, 173, 173) by default. Repaints. */
 void MCircularDial::setBgColor(QColor color)
@@ -287,10 +257,7 @@ void MCircularDial::setBgColor(QColor color)
     update();
 }
 
-QColor MCircularDial::centerColor() const
-{
-    return d->centerColor;
-}
+QColor MCircularDial::centerColor() const { return d->centerColor; }
 
 /** The colour of the pointer and its hub; rgb(94, 94, 94) by default. Repaints. */
 void MCircularDial::setCenterColor(QColor color)
@@ -299,10 +266,7 @@ void MCircularDial::setCenterColor(QColor color)
     update();
 }
 
-double MCircularDial::rotateAngle() const
-{
-    return d->rotateAngle;
-}
+double MCircularDial::rotateAngle() const { return d->rotateAngle; }
 
 /**
  * How far the whole dial is turned, 0 to 360 degrees; 90 by default. Other angles, and changes of
@@ -316,10 +280,7 @@ void MCircularDial::setRotateAngle(double angle)
     update();
 }
 
-double MCircularDial::scale() const
-{
-    return d->scale;
-}
+double MCircularDial::scale() const { return d->scale; }
 
 /** How much of the value there is from tick to tick; 0.1 by default. Scales of 0.01 and below are
  * ignored. Repaints. */
@@ -331,10 +292,7 @@ void MCircularDial::setScale(double scale)
     update();
 }
 
-int MCircularDial::scaleLong() const
-{
-    return d->scaleLong;
-}
+int MCircularDial::scaleLong() const { return d->scaleLong; }
 
 /** Every how many whole values a tick is long and labelled; 1 by default. Numbers below 1 are
  * ignored. Repaints on a change. */
@@ -346,10 +304,7 @@ void MCircularDial::setScaleLong(int wholes)
     update();
 }
 
-double MCircularDial::startAngle() const
-{
-    return d->startAngle;
-}
+double MCircularDial::startAngle() const { return d->startAngle; }
 
 /**
  * The angle left free at each end of the arc, in degrees: it spans 360 - 2 x startAngle. 120 by
@@ -417,16 +372,10 @@ double MCircularDial::Private::paintedRadius() const
     return std::isnan(radius) ? 0 : std::clamp(radius, -kLargestRadius, kLargestRadius);
 }
 
-int MCircularDial::Private::tickCount() const
-{
-    return toInt((maxValue - minValue) / scale);
-}
+int MCircularDial::Private::tickCount() const { return toInt((maxValue - minValue) / scale); }
 
 // Of degrees.
-double MCircularDial::Private::span() const
-{
-    return kFullTurn - 2 * startAngle;
-}
+double MCircularDial::Private::span() const { return kFullTurn - 2 * startAngle; }
 
 // From the first tick. It goes by the whole number of ticks, so that it stays with them where the
 // range is not a multiple of the scale. A value above the maximum, which a change too small to be

@@ -57,10 +57,7 @@ MFocusButton::MFocusButton(QWidget *parent)
 
 MFocusButton::~MFocusButton() = default;
 
-QPixmap MFocusButton::normalImage() const
-{
-    return d->normalImage;
-}
+QPixmap MFocusButton::normalImage() const { return d->normalImage; }
 
 /**
  * The picture shown normally. Its size becomes the size into which every picture is stretched, and
@@ -77,21 +74,12 @@ void MFocusButton::setNormalImage(const QPixmap &image)
     update();
 }
 
-QPixmap MFocusButton::pressImage() const
-{
-    return d->pressImage;
-}
+QPixmap MFocusButton::pressImage() const { return d->pressImage; }
 
 /** The picture shown while pressed or checked; without it there is none. Stored only. */
-void MFocusButton::setPressImage(const QPixmap &image)
-{
-    d->pressImage = image;
-}
+void MFocusButton::setPressImage(const QPixmap &image) { d->pressImage = image; }
 
-QPixmap MFocusButton::disableImage() const
-{
-    return d->disableImage;
-}
+QPixmap MFocusButton::disableImage() const { return d->disableImage; }
 
 /** The picture shown while disabled; without it the normal one stays. Repaints. */
 void MFocusButton::setDisableImage(const QPixmap &image)
@@ -100,10 +88,7 @@ void MFocusButton::setDisableImage(const QPixmap &image)
     update();
 }
 
-QString MFocusButton::displayText() const
-{
-    return d->displayText;
-}
+QString MFocusButton::displayText() const { return d->displayText; }
 
 /** The caption. It is neither shortened nor wrapped. Repaints. */
 void MFocusButton::setDisplayText(const QString &text)
@@ -112,75 +97,39 @@ void MFocusButton::setDisplayText(const QString &text)
     update();
 }
 
-QColor MFocusButton::normalTextColor() const
-{
-    return d->normalTextColor;
-}
+QColor MFocusButton::normalTextColor() const { return d->normalTextColor; }
 
 /** The colour of the caption normally. Stored only. */
-void MFocusButton::setNormalTextColor(const QColor &color)
-{
-    d->normalTextColor = color;
-}
+void MFocusButton::setNormalTextColor(const QColor &color) { d->normalTextColor = color; }
 
-QColor MFocusButton::pressTextColor() const
-{
-    return d->pressTextColor;
-}
+QColor MFocusButton::pressTextColor() const { return d->pressTextColor; }
 
 /** The colour of the caption while pressed or checked. Stored only. */
-void MFocusButton::setPressTextColor(const QColor &color)
-{
-    d->pressTextColor = color;
-}
+void MFocusButton::setPressTextColor(const QColor &color) { d->pressTextColor = color; }
 
-QColor MFocusButton::disableTextColor() const
-{
-    return d->disableTextColor;
-}
+QColor MFocusButton::disableTextColor() const { return d->disableTextColor; }
 
 /** The colour of the caption while disabled. Stored only. */
-void MFocusButton::setDisableTextColor(const QColor &color)
-{
-    d->disableTextColor = color;
-}
+void MFocusButton::setDisableTextColor(const QColor &color) { d->disableTextColor = color; }
 
-QRect MFocusButton::displayTextRect() const
-{
-    return d->displayTextRect;
-}
+QRect MFocusButton::displayTextRect() const { return d->displayTextRect; }
 
 /** Where the caption is centred; one that is not valid is the whole widget. Stored only. */
-void MFocusButton::setdisplayTextRect(const QRect &rect)
-{
-    d->displayTextRect = rect;
-}
+void MFocusButton::setdisplayTextRect(const QRect &rect) { d->displayTextRect = rect; }
 
-QString MFocusButton::buttonID() const
-{
-    return d->buttonID;
-}
+QString MFocusButton::buttonID() const { return d->buttonID; }
 
 /** The text that either signal carries; "MFocusButton_ID" by default. Stored only. */
-void MFocusButton::setButtonID(const QString &id)
-{
-    d->buttonID = id;
-}
+void MFocusButton::setButtonID(const QString &id) { d->buttonID = id; }
 
-int MFocusButton::getLongPressIntal() const
-{
-    return d->longPressIntal;
-}
+int MFocusButton::getLongPressIntal() const { return d->longPressIntal; }
 
 /**
  * How long a press is held to be a long one, in ms (2500 by default), from the next press on. A
  * negative time never passes. The timer is one of Qt's coarse ones: it may be 5 % early or late in
  * exchange for fewer wake-ups of the processor.
  */
-void MFocusButton::setLongPressIntal(int interval)
-{
-    d->longPressIntal = interval;
-}
+void MFocusButton::setLongPressIntal(int interval) { d->longPressIntal = interval; }
 
 /** Sets the size of the widget's font in px; sizes below 1 are ignored. */
 void MFocusButton::setFontSize(int px)
@@ -190,10 +139,7 @@ void MFocusButton::setFontSize(int px)
     setFont(resized(font(), px));
 }
 
-bool MFocusButton::hitButton(const QPoint &) const
-{
-    return true;
-}
+bool MFocusButton::hitButton(const QPoint &) const { return true; }
 
 void MFocusButton::paintEvent(QPaintEvent *e)
 {
@@ -258,10 +204,7 @@ void MFocusButton::Private::endTiming()
     timerId = 0;
 }
 
-bool MFocusButton::Private::isHighlighted() const
-{
-    return q->isDown() || q->isChecked();
-}
+bool MFocusButton::Private::isHighlighted() const { return q->isDown() || q->isChecked(); }
 
 const QPixmap &MFocusButton::Private::shownImage() const
 {

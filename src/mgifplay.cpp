@@ -43,15 +43,9 @@ MGifPlay::MGifPlay(QWidget *parent) : QWidget(parent), d(std::make_unique<Privat
     raise();
 }
 
-MGifPlay::~MGifPlay()
-{
-    d->discardMovie();
-}
+MGifPlay::~MGifPlay() { d->discardMovie(); }
 
-QString MGifPlay::gifImage() const
-{
-    return d->gifImage;
-}
+QString MGifPlay::gifImage() const { return d->gifImage; }
 
 /**
  * The file of the animation, which plays from here on, from its first frame and as often as it says
@@ -72,10 +66,7 @@ void MGifPlay::setGifImage(QString path)
     connect(d->movie, SIGNAL(frameChanged(int)), this, SLOT(update()));
 }
 
-int MGifPlay::gifSpeed() const
-{
-    return d->gifSpeed;
-}
+int MGifPlay::gifSpeed() const { return d->gifSpeed; }
 
 /**
  * The speed in percent; 100 by default. It counts from the next frame on. 0 keeps the frame that is

@@ -70,10 +70,7 @@ MHorSlider::MHorSlider(QWidget *parent) : QWidget(parent), d(std::make_unique<Pr
 
 MHorSlider::~MHorSlider() = default;
 
-QFont MHorSlider::getFont() const
-{
-    return d->font;
-}
+QFont MHorSlider::getFont() const { return d->font; }
 
 /** The font of the value; the name hides that of the widget's own font, on purpose. */
 void MHorSlider::setFont(const QFont &font)
@@ -82,57 +79,30 @@ void MHorSlider::setFont(const QFont &font)
     d->valueLabel->setFont(d->font);
 }
 
-int MHorSlider::getTextWidth() const
-{
-    return d->textWidth;
-}
+int MHorSlider::getTextWidth() const { return d->textWidth; }
 
 /**
  * The width in px for the value to the right of the groove; 0 by default. A negative one takes that
  * much off the groove's right end and leaves no room for the value. Stored only.
  */
-void MHorSlider::setTextWidth(int width)
-{
-    d->textWidth = width;
-}
+void MHorSlider::setTextWidth(int width) { d->textWidth = width; }
 
-Qt::Alignment MHorSlider::getAlignment() const
-{
-    return d->alignment;
-}
+Qt::Alignment MHorSlider::getAlignment() const { return d->alignment; }
 
 /** How the value stands in its place; nothing by default. Stored only. */
-void MHorSlider::setAlignment(const Qt::Alignment &alignment)
-{
-    d->alignment = alignment;
-}
+void MHorSlider::setAlignment(const Qt::Alignment &alignment) { d->alignment = alignment; }
 
-QPixmap MHorSlider::sliderNormalImage() const
-{
-    return d->sliderNormalImage;
-}
+QPixmap MHorSlider::sliderNormalImage() const { return d->sliderNormalImage; }
 
 /** The groove; its size is that of the slider. Stored only. */
-void MHorSlider::setSliderNormalImage(const QPixmap &image)
-{
-    d->sliderNormalImage = image;
-}
+void MHorSlider::setSliderNormalImage(const QPixmap &image) { d->sliderNormalImage = image; }
 
-QPixmap MHorSlider::sliderPressImage() const
-{
-    return d->sliderPressImage;
-}
+QPixmap MHorSlider::sliderPressImage() const { return d->sliderPressImage; }
 
 /** The filled groove, of which a part is shown, cut and not scaled. Stored only. */
-void MHorSlider::setSliderPressImage(const QPixmap &image)
-{
-    d->sliderPressImage = image;
-}
+void MHorSlider::setSliderPressImage(const QPixmap &image) { d->sliderPressImage = image; }
 
-QPixmap MHorSlider::sliderNormalDisablePix() const
-{
-    return d->sliderNormalDisableImage;
-}
+QPixmap MHorSlider::sliderNormalDisablePix() const { return d->sliderNormalDisableImage; }
 
 /** The groove of a disabled slider; counts together with the filled one only. Stored only. */
 void MHorSlider::setSliderNormalDisablePix(const QPixmap &image)
@@ -140,10 +110,7 @@ void MHorSlider::setSliderNormalDisablePix(const QPixmap &image)
     d->sliderNormalDisableImage = image;
 }
 
-QPixmap MHorSlider::sliderPressDisablePix() const
-{
-    return d->sliderPressDisableImage;
-}
+QPixmap MHorSlider::sliderPressDisablePix() const { return d->sliderPressDisableImage; }
 
 /** The filled groove of a disabled slider; counts together with the other one only. Stored only. */
 void MHorSlider::setSliderPressDisablePix(const QPixmap &image)
@@ -151,21 +118,12 @@ void MHorSlider::setSliderPressDisablePix(const QPixmap &image)
     d->sliderPressDisableImage = image;
 }
 
-QPixmap MHorSlider::pointNormalImage() const
-{
-    return d->pointNormalImage;
-}
+QPixmap MHorSlider::pointNormalImage() const { return d->pointNormalImage; }
 
 /** The knob. Stored only. */
-void MHorSlider::setPointNormalImage(const QPixmap &image)
-{
-    d->pointNormalImage = image;
-}
+void MHorSlider::setPointNormalImage(const QPixmap &image) { d->pointNormalImage = image; }
 
-QPixmap MHorSlider::pointPressImage() const
-{
-    return d->pointPressImage;
-}
+QPixmap MHorSlider::pointPressImage() const { return d->pointPressImage; }
 
 /**
  * The knob while touched; without it the other one stays. The last picture, on purpose: with it the
@@ -178,54 +136,27 @@ void MHorSlider::setPointPressImage(const QPixmap &image)
     update();
 }
 
-QPixmap MHorSlider::pointDisableImage() const
-{
-    return d->pointDisableImage;
-}
+QPixmap MHorSlider::pointDisableImage() const { return d->pointDisableImage; }
 
 /** The knob of a disabled slider, shown when it is disabled the next time. Stored only. */
-void MHorSlider::setPointDisableImage(const QPixmap &image)
-{
-    d->pointDisableImage = image;
-}
+void MHorSlider::setPointDisableImage(const QPixmap &image) { d->pointDisableImage = image; }
 
-int MHorSlider::itemID() const
-{
-    return d->itemID;
-}
+int MHorSlider::itemID() const { return d->itemID; }
 
 /** The number that both signals carry. Stored only. */
-void MHorSlider::setItemID(int id)
-{
-    d->itemID = id;
-}
+void MHorSlider::setItemID(int id) { d->itemID = id; }
 
-int MHorSlider::maxValue() const
-{
-    return d->maxValue;
-}
+int MHorSlider::maxValue() const { return d->maxValue; }
 
 /** The largest value, at the right; 5 by default. Stored only. */
-void MHorSlider::setMaxValue(int value)
-{
-    d->maxValue = value;
-}
+void MHorSlider::setMaxValue(int value) { d->maxValue = value; }
 
-int MHorSlider::getMinValue() const
-{
-    return d->minValue;
-}
+int MHorSlider::getMinValue() const { return d->minValue; }
 
 /** The smallest value, at the left; -5 by default. Stored only. */
-void MHorSlider::setMinValue(int value)
-{
-    d->minValue = value;
-}
+void MHorSlider::setMinValue(int value) { d->minValue = value; }
 
-int MHorSlider::currentValue() const
-{
-    return d->currentValue;
-}
+int MHorSlider::currentValue() const { return d->currentValue; }
 
 /**
  * Sets and shows the value, without a signal. Accepted from -maxValue to maxValue whatever minValue
@@ -240,16 +171,10 @@ void MHorSlider::setCurrentValue(int value)
     setTouchPos(d->currentValue);
 }
 
-bool MHorSlider::getIsNormal() const
-{
-    return d->isNormal;
-}
+bool MHorSlider::getIsNormal() const { return d->isNormal; }
 
 /** Whether the fill grows from the left end, the default, or from the middle. Stored only. */
-void MHorSlider::setIsNormal(bool isNormal)
-{
-    d->isNormal = isNormal;
-}
+void MHorSlider::setIsNormal(bool isNormal) { d->isNormal = isNormal; }
 
 /**
  * Lays the slider out: its fixed size, the groove and the labels. Nothing happens before both the
@@ -298,10 +223,7 @@ void MHorSlider::setTouchPos(QPoint pos)
 }
 
 /** Shows or hides the value. */
-void MHorSlider::setIsShowValue(bool isShown)
-{
-    d->valueLabel->setVisible(isShown);
-}
+void MHorSlider::setIsShowValue(bool isShown) { d->valueLabel->setVisible(isShown); }
 
 /** The middle of the knob, in the widget. */
 QPoint MHorSlider::getTouchPos()
@@ -311,10 +233,7 @@ QPoint MHorSlider::getTouchPos()
 }
 
 /** Emits valueChangeSig with the current value. */
-void MHorSlider::emitValueChangedSgl()
-{
-    emit valueChangeSig(d->itemID, d->currentValue);
-}
+void MHorSlider::emitValueChangedSgl() { emit valueChangeSig(d->itemID, d->currentValue); }
 
 void MHorSlider::paintEvent(QPaintEvent *)
 {

@@ -67,16 +67,10 @@ Shape shapeOf(MKARVOSlider::ScaleAlignmentMode mode)
 }
 
 // The column of pixels in which Qt draws a line at x, which it takes in 64ths of a pixel.
-int lineColumn(float x)
-{
-    return toInt(double(x) * 64) >> 6;
-}
+int lineColumn(float x) { return toInt(double(x) * 64) >> 6; }
 
 // The column of a line without length, which Qt draws as a point.
-int pointColumn(float x)
-{
-    return toInt(std::floor(double(x) + 0.5));
-}
+int pointColumn(float x) { return toInt(std::floor(double(x) + 0.5)); }
 
 // How many steps to go at once. A scale with more steps than anyone can tell apart is seen to be
 // full of ticks of every kind: any stride that meets all last two digits in turn shows that.
@@ -93,10 +87,7 @@ template <typename KindAt> int strideOf(int stepCount, KindAt kindAt)
     return stride % 5 == 0 ? stride + 2 : stride;
 }
 
-QString written(double freq)
-{
-    return QStringLiteral("%1").arg(freq);
-}
+QString written(double freq) { return QStringLiteral("%1").arg(freq); }
 
 } // namespace
 
@@ -173,105 +164,54 @@ MKARVOSlider::MKARVOSlider(QWidget *parent) : QWidget(parent), d(std::make_uniqu
 
 MKARVOSlider::~MKARVOSlider() = default;
 
-QPixmap MKARVOSlider::getIndicatePix() const
-{
-    return d->indicatePix;
-}
+QPixmap MKARVOSlider::getIndicatePix() const { return d->indicatePix; }
 
 /** The picture at the tuned frequency, at its own size; none by default. Stored only. */
-void MKARVOSlider::setIndicatePix(const QPixmap &pixmap)
-{
-    d->indicatePix = pixmap;
-}
+void MKARVOSlider::setIndicatePix(const QPixmap &pixmap) { d->indicatePix = pixmap; }
 
-QColor MKARVOSlider::getLineColor() const
-{
-    return d->lineColor;
-}
+QColor MKARVOSlider::getLineColor() const { return d->lineColor; }
 
 /** The colour of ticks and labels, white by default; an invalid one is drawn in black. Stored only.
  */
-void MKARVOSlider::setLineColor(const QColor &color)
-{
-    d->lineColor = color;
-}
+void MKARVOSlider::setLineColor(const QColor &color) { d->lineColor = color; }
 
-QFont MKARVOSlider::getFont() const
-{
-    return d->font;
-}
+QFont MKARVOSlider::getFont() const { return d->font; }
 
 /** The font of the labels, of 20 px by default; the name hides that of the widget's own font, on
  * purpose. Stored only. */
-void MKARVOSlider::setFont(const QFont &font)
-{
-    d->font = font;
-}
+void MKARVOSlider::setFont(const QFont &font) { d->font = font; }
 
-int MKARVOSlider::getLineH() const
-{
-    return d->lineH;
-}
+int MKARVOSlider::getLineH() const { return d->lineH; }
 
 /** A third of the length of a major tick in px, 30 by default. Stored only. */
-void MKARVOSlider::setLineH(int height)
-{
-    d->lineH = height;
-}
+void MKARVOSlider::setLineH(int height) { d->lineH = height; }
 
-int MKARVOSlider::getLineW() const
-{
-    return d->lineW;
-}
+int MKARVOSlider::getLineW() const { return d->lineW; }
 
 /** Stored only, and without effect: ticks are one pixel wide, because the colour makes a new pen.
  */
-void MKARVOSlider::setLineW(int width)
-{
-    d->lineW = width;
-}
+void MKARVOSlider::setLineW(int width) { d->lineW = width; }
 
 /** The distance from step to step, truncated to px. */
-int MKARVOSlider::getLineGap() const
-{
-    return toInt(double(d->lineGap));
-}
+int MKARVOSlider::getLineGap() const { return toInt(double(d->lineGap)); }
 
 /** Sets the distance from step to step in px until the scale is laid out the next time. Stored
  * only. */
-void MKARVOSlider::setLineGap(int gap)
-{
-    d->lineGap = float(gap);
-}
+void MKARVOSlider::setLineGap(int gap) { d->lineGap = float(gap); }
 
-float MKARVOSlider::getFreqStart() const
-{
-    return d->freqStart;
-}
+float MKARVOSlider::getFreqStart() const { return d->freqStart; }
 
 /** The first frequency of the scale, 500 by default. Stored only: the number of steps stays until
  * the scale is laid out the next time. */
-void MKARVOSlider::setFreqStart(float freq)
-{
-    d->freqStart = freq;
-}
+void MKARVOSlider::setFreqStart(float freq) { d->freqStart = freq; }
 
-float MKARVOSlider::getFreqEnd() const
-{
-    return d->freqEnd;
-}
+float MKARVOSlider::getFreqEnd() const { return d->freqEnd; }
 
 /** The last frequency of the scale, 1720 by default. Stored only, in the manner of setFreqStart().
  */
-void MKARVOSlider::setFreqEnd(float freq)
-{
-    d->freqEnd = freq;
-}
+void MKARVOSlider::setFreqEnd(float freq) { d->freqEnd = freq; }
 
-float MKARVOSlider::getFreqStep() const
-{
-    return d->freqStep;
-}
+float MKARVOSlider::getFreqStep() const { return d->freqStep; }
 
 /** The frequency from step to step, 20 by default. Lays the scale out and repaints. */
 void MKARVOSlider::setFreqStep(float step)
@@ -281,10 +221,7 @@ void MKARVOSlider::setFreqStep(float step)
     update();
 }
 
-float MKARVOSlider::getCurFreq() const
-{
-    return d->curFreq;
-}
+float MKARVOSlider::getCurFreq() const { return d->curFreq; }
 
 /** Tunes, in display units, without a signal, and repaints. Ignored outside the scale; not snapped.
  */
@@ -296,10 +233,7 @@ void MKARVOSlider::setCurFreq(float freq)
     update();
 }
 
-bool MKARVOSlider::getIsFM() const
-{
-    return d->isFM;
-}
+bool MKARVOSlider::getIsFM() const { return d->isFM; }
 
 /** Whether ticks and labels are those of FM and the outer frequencies hundredths; false by default.
  * Lays the scale out and repaints. */
@@ -310,10 +244,7 @@ void MKARVOSlider::setIsFM(bool isFM)
     update();
 }
 
-int MKARVOSlider::marginY() const
-{
-    return d->marginY;
-}
+int MKARVOSlider::marginY() const { return d->marginY; }
 
 /** Repaints, but has no effect on the picture. */
 void MKARVOSlider::setMarginY(int margin)
@@ -322,10 +253,7 @@ void MKARVOSlider::setMarginY(int margin)
     update();
 }
 
-int MKARVOSlider::marginX() const
-{
-    return d->marginX;
-}
+int MKARVOSlider::marginX() const { return d->marginX; }
 
 /** The margin left and right of the scale in px, 35 by default. Lays the scale out and repaints. */
 void MKARVOSlider::setMarginX(int margin)
@@ -335,95 +263,47 @@ void MKARVOSlider::setMarginX(int margin)
     update();
 }
 
-MKARVOSlider::ScaleAlignmentMode MKARVOSlider::scaleAlign() const
-{
-    return d->scaleMode;
-}
+MKARVOSlider::ScaleAlignmentMode MKARVOSlider::scaleAlign() const { return d->scaleMode; }
 
 /** Where the ticks stand, AlignCenter by default; a value that is none stands for AlignBottom.
  * Stored only. */
-void MKARVOSlider::setScaleAlign(const ScaleAlignmentMode &mode)
-{
-    d->scaleMode = mode;
-}
+void MKARVOSlider::setScaleAlign(const ScaleAlignmentMode &mode) { d->scaleMode = mode; }
 
-MKARVOSlider::TextPosition MKARVOSlider::getTextPosition() const
-{
-    return d->textPosition;
-}
+MKARVOSlider::TextPosition MKARVOSlider::getTextPosition() const { return d->textPosition; }
 
 /** Where the labels stand, TextTop by default; a value that is none stands for TextBottom. Stored
  * only. */
-void MKARVOSlider::setTextPosition(const TextPosition &position)
-{
-    d->textPosition = position;
-}
+void MKARVOSlider::setTextPosition(const TextPosition &position) { d->textPosition = position; }
 
-int MKARVOSlider::getTextMarginY() const
-{
-    return d->textMarginY;
-}
+int MKARVOSlider::getTextMarginY() const { return d->textMarginY; }
 
 /** How far down the labels are moved, 5 px by default. Ticks beside them move too. Stored only. */
-void MKARVOSlider::setTextMarginY(int margin)
-{
-    d->textMarginY = margin;
-}
+void MKARVOSlider::setTextMarginY(int margin) { d->textMarginY = margin; }
 
-int MKARVOSlider::getScaleMarginY() const
-{
-    return d->scaleMarginY;
-}
+int MKARVOSlider::getScaleMarginY() const { return d->scaleMarginY; }
 
 /** How far down the ticks are moved, 40 px by default. Stored only. */
-void MKARVOSlider::setScaleMarginY(int margin)
-{
-    d->scaleMarginY = margin;
-}
+void MKARVOSlider::setScaleMarginY(int margin) { d->scaleMarginY = margin; }
 
-int MKARVOSlider::getPointMarginY() const
-{
-    return d->pointMarginY;
-}
+int MKARVOSlider::getPointMarginY() const { return d->pointMarginY; }
 
 /** How far down the indicator is moved, 46 px by default. Stored only. */
-void MKARVOSlider::setPointMarginY(int margin)
-{
-    d->pointMarginY = margin;
-}
+void MKARVOSlider::setPointMarginY(int margin) { d->pointMarginY = margin; }
 
-float MKARVOSlider::getRealMinFreq() const
-{
-    return d->realMinFreq;
-}
+float MKARVOSlider::getRealMinFreq() const { return d->realMinFreq; }
 
 /** The lower end of the band that drags snap to, 1620 by default. Stored only. */
-void MKARVOSlider::setRealMinFreq(float freq)
-{
-    d->realMinFreq = freq;
-}
+void MKARVOSlider::setRealMinFreq(float freq) { d->realMinFreq = freq; }
 
-float MKARVOSlider::getRealMaxFreq() const
-{
-    return d->realMaxFreq;
-}
+float MKARVOSlider::getRealMaxFreq() const { return d->realMaxFreq; }
 
 /** The upper end of the band that drags snap to, 522 by default. Stored only. */
-void MKARVOSlider::setRealMaxFreq(float freq)
-{
-    d->realMaxFreq = freq;
-}
+void MKARVOSlider::setRealMaxFreq(float freq) { d->realMaxFreq = freq; }
 
-float MKARVOSlider::getRealFreqStep() const
-{
-    return d->realFreqStep;
-}
+float MKARVOSlider::getRealFreqStep() const { return d->realFreqStep; }
 
 /** The step that drags snap to, 9 by default. Stored only. */
-void MKARVOSlider::setRealFreqStep(float step)
-{
-    d->realFreqStep = step;
-}
+void MKARVOSlider::setRealFreqStep(float step) { d->realFreqStep = step; }
 
 /**
  * Lays the scale out: the steps from freqStart to freqEnd, counted in hundredths, share the width
@@ -458,10 +338,7 @@ float MKARVOSlider::calFreqRule(float freq)
 }
 
 /** Whether the drawn scale reaches this frequency, in display units. */
-bool MKARVOSlider::isValidFreq(float freq)
-{
-    return d->freqStart <= freq && freq <= d->freqEnd;
-}
+bool MKARVOSlider::isValidFreq(float freq) { return d->freqStart <= freq && freq <= d->freqEnd; }
 
 void MKARVOSlider::paintEvent(QPaintEvent *e)
 {
@@ -527,50 +404,23 @@ void MKARVOSlider::freqParamChangedSlot(bool isFM, float freqMin, float freqMax,
 }
 
 /** Tunes from outside: for FM in hundredths, for AM in display units. */
-void MKARVOSlider::curFreqChangedSlot(float freq)
-{
-    setCurFreq(d->isFM ? freq / 100.0F : freq);
-}
+void MKARVOSlider::curFreqChangedSlot(float freq) { setCurFreq(d->isFM ? freq / 100.0F : freq); }
 
-int MKARVOSlider::wholeFreqStart() const
-{
-    return toInt(double(d->freqStart));
-}
+int MKARVOSlider::wholeFreqStart() const { return toInt(double(d->freqStart)); }
 
-void MKARVOSlider::setWholeFreqStart(int freq)
-{
-    setFreqStart(float(freq));
-}
+void MKARVOSlider::setWholeFreqStart(int freq) { setFreqStart(float(freq)); }
 
-int MKARVOSlider::wholeFreqEnd() const
-{
-    return toInt(double(d->freqEnd));
-}
+int MKARVOSlider::wholeFreqEnd() const { return toInt(double(d->freqEnd)); }
 
-void MKARVOSlider::setWholeFreqEnd(int freq)
-{
-    setFreqEnd(float(freq));
-}
+void MKARVOSlider::setWholeFreqEnd(int freq) { setFreqEnd(float(freq)); }
 
-int MKARVOSlider::wholeFreqStep() const
-{
-    return toInt(double(d->freqStep));
-}
+int MKARVOSlider::wholeFreqStep() const { return toInt(double(d->freqStep)); }
 
-void MKARVOSlider::setWholeFreqStep(int step)
-{
-    setFreqStep(float(step));
-}
+void MKARVOSlider::setWholeFreqStep(int step) { setFreqStep(float(step)); }
 
-int MKARVOSlider::wholeCurFreq() const
-{
-    return toInt(double(d->curFreq));
-}
+int MKARVOSlider::wholeCurFreq() const { return toInt(double(d->curFreq)); }
 
-void MKARVOSlider::setWholeCurFreq(int freq)
-{
-    setCurFreq(float(freq));
-}
+void MKARVOSlider::setWholeCurFreq(int freq) { setCurFreq(float(freq)); }
 
 float MKARVOSlider::Private::freqAt(int x)
 {
@@ -600,9 +450,7 @@ void MKARVOSlider::Private::layOut(const Look &look)
 {
     drawnLook = std::make_unique<Look>(look);
     picture.clear(q->size());
-    const auto freqAt = [this](int step) {
-        return std::fma(float(step), freqStep, freqStart);
-    };
+    const auto freqAt = [this](int step) { return std::fma(float(step), freqStep, freqStart); };
     const int stride = strideOf(stepCount, [&](int step) { return kindOf(freqAt(step), isFM); });
     const float gap = lineGap * float(stride);
     float x = leftX;

@@ -49,10 +49,7 @@ MListView::~MListView() = default;
  * What the second picture of each pair is: that of the pressed look, or, with false, that of the
  * focused look. True by default. Stored only: it counts for the next setPixmapList().
  */
-void MListView::setIsNormalUse(bool normal)
-{
-    d->isNormalUse = normal;
-}
+void MListView::setIsNormalUse(bool normal) { d->isNormalUse = normal; }
 
 /**
  * Where the buttons stand: their top left corners, in px of the view. An empty list is ignored.
@@ -114,10 +111,7 @@ void MListView::sltButtonClicked(QString id)
 }
 
 /** Remembers the index. Nothing else depends on it. */
-void MListView::sltItemClicked(int index)
-{
-    d->currentIndex = index;
-}
+void MListView::sltItemClicked(int index) { d->currentIndex = index; }
 
 /** With true, takes the focused look from all buttons. */
 void MListView::sltRowCountChange(bool change)

@@ -31,9 +31,7 @@ constexpr QColor kOutline(70, 70, 70);
 // A colour with its components, but not its alpha, at a fraction.
 QColor fraction(const QColor &color, int numerator, int denominator, int alpha = 255)
 {
-    const auto part = [&](int component) {
-        return component * numerator / denominator;
-    };
+    const auto part = [&](int component) { return component * numerator / denominator; };
     return {part(color.red()), part(color.green()), part(color.blue()), alpha};
 }
 
@@ -142,10 +140,7 @@ MOnOffButton::MOnOffButton(QWidget *parent) : QWidget(parent), d(std::make_uniqu
 
 MOnOffButton::~MOnOffButton() = default;
 
-QColor MOnOffButton::onColor() const
-{
-    return d->onColor;
-}
+QColor MOnOffButton::onColor() const { return d->onColor; }
 
 /** The colour of the painted looks while on; orange by default. Repaints. */
 void MOnOffButton::setOnColor(const QColor &color)
@@ -154,10 +149,7 @@ void MOnOffButton::setOnColor(const QColor &color)
     update();
 }
 
-QColor MOnOffButton::offColor() const
-{
-    return d->offColor;
-}
+QColor MOnOffButton::offColor() const { return d->offColor; }
 
 /** The colour of the painted looks while off; grey by default. Repaints. */
 void MOnOffButton::setOffColor(const QColor &color)
@@ -166,21 +158,12 @@ void MOnOffButton::setOffColor(const QColor &color)
     update();
 }
 
-QString MOnOffButton::btnID() const
-{
-    return d->btnID;
-}
+QString MOnOffButton::btnID() const { return d->btnID; }
 
 /** The text that onoffStatusChanged carries; "ID_MOnOffButton" by default. Stored only. */
-void MOnOffButton::setBtnID(const QString &id)
-{
-    d->btnID = id;
-}
+void MOnOffButton::setBtnID(const QString &id) { d->btnID = id; }
 
-bool MOnOffButton::onoffStatus() const
-{
-    return d->onoffStatus;
-}
+bool MOnOffButton::onoffStatus() const { return d->onoffStatus; }
 
 /** Switches without a signal and without a glide. Repaints. */
 void MOnOffButton::setOnoffStatus(const bool &on)
@@ -189,10 +172,7 @@ void MOnOffButton::setOnoffStatus(const bool &on)
     update();
 }
 
-bool MOnOffButton::btnDisable() const
-{
-    return d->btnDisable;
-}
+bool MOnOffButton::btnDisable() const { return d->btnDisable; }
 
 /**
  * Disables the switch in software: it looks dimmed and ignores touches and changeStatus(), but
@@ -205,10 +185,7 @@ void MOnOffButton::setBtnDisable(const bool &disabled)
     update();
 }
 
-QPixmap MOnOffButton::normalBkgPix() const
-{
-    return d->normalBkgPix;
-}
+QPixmap MOnOffButton::normalBkgPix() const { return d->normalBkgPix; }
 
 /**
  * The track of a switch that is on. Together with normalChunkPix it turns the pictured look on. Its
@@ -222,10 +199,7 @@ void MOnOffButton::setNormalBkgPix(const QPixmap &pixmap)
     update();
 }
 
-QPixmap MOnOffButton::pressBkgPix() const
-{
-    return d->pressBkgPix;
-}
+QPixmap MOnOffButton::pressBkgPix() const { return d->pressBkgPix; }
 
 /** The track of a switch that is off; "press" is its name on purpose. Repaints. */
 void MOnOffButton::setPressBkgPix(const QPixmap &pixmap)
@@ -234,10 +208,7 @@ void MOnOffButton::setPressBkgPix(const QPixmap &pixmap)
     update();
 }
 
-QPixmap MOnOffButton::normalChunkPix() const
-{
-    return d->normalChunkPix;
-}
+QPixmap MOnOffButton::normalChunkPix() const { return d->normalChunkPix; }
 
 /** The knob at rest. Repaints. */
 void MOnOffButton::setNormalChunkPix(const QPixmap &pixmap)
@@ -246,10 +217,7 @@ void MOnOffButton::setNormalChunkPix(const QPixmap &pixmap)
     update();
 }
 
-QPixmap MOnOffButton::pressChunkPix() const
-{
-    return d->pressChunkPix;
-}
+QPixmap MOnOffButton::pressChunkPix() const { return d->pressChunkPix; }
 
 /** The knob while it is dragged or glides. Repaints. */
 void MOnOffButton::setPressChunkPix(const QPixmap &pixmap)
@@ -258,10 +226,7 @@ void MOnOffButton::setPressChunkPix(const QPixmap &pixmap)
     update();
 }
 
-bool MOnOffButton::reverse() const
-{
-    return d->reverse;
-}
+bool MOnOffButton::reverse() const { return d->reverse; }
 
 /**
  * Puts on at the left and off at the right, for the pictured look and for drags. The painted looks
@@ -273,16 +238,10 @@ void MOnOffButton::setReverse(bool reversed)
     update();
 }
 
-MOnOffButton::OnOff_STYLE MOnOffButton::UIStyle() const
-{
-    return d->style;
-}
+MOnOffButton::OnOff_STYLE MOnOffButton::UIStyle() const { return d->style; }
 
 /** The look without pictures. Stored only, on purpose; a value that is no style is style 0. */
-void MOnOffButton::setUIStyle(OnOff_STYLE style)
-{
-    d->style = style;
-}
+void MOnOffButton::setUIStyle(OnOff_STYLE style) { d->style = style; }
 
 /**
  * Switches and reports, also when the status is the one there was, and lets the knob glide there
@@ -512,9 +471,7 @@ void MOnOffButton::Private::drawMovingChunk(QPainter &painter) const
 
 void MOnOffButton::Private::drawStyle0(QPainter &painter)
 {
-    const auto dark = [](const QColor &color) {
-        return fraction(color, 2, 3);
-    };
+    const auto dark = [](const QColor &color) { return fraction(color, 2, 3); };
     const QColor color = statusColor();
     const int restingLeft = onoffStatus ? q->width() - 1 - q->height() : 0;
     const int right = q->width() - 2;

@@ -76,129 +76,66 @@ MOProgress::MOProgress(QWidget *parent) : QWidget(parent), d(std::make_unique<Pr
 
 MOProgress::~MOProgress() = default;
 
-int MOProgress::itemID() const
-{
-    return d->itemID;
-}
+int MOProgress::itemID() const { return d->itemID; }
 
 /** The number that btnClicked carries. Stored only. */
-void MOProgress::setItemID(int id)
-{
-    d->itemID = id;
-}
+void MOProgress::setItemID(int id) { d->itemID = id; }
 
-int MOProgress::currentValue() const
-{
-    return d->currentValue;
-}
+int MOProgress::currentValue() const { return d->currentValue; }
 
 /**
  * The progress in percent; 50 by default. Repaints on a change. A value outside 0 to 100 is kept
  * until the next paint, which limits it.
  */
-void MOProgress::setCurrentValue(int percent)
-{
-    d->change(d->currentValue, percent);
-}
+void MOProgress::setCurrentValue(int percent) { d->change(d->currentValue, percent); }
 
-int MOProgress::radius() const
-{
-    return d->radius;
-}
+int MOProgress::radius() const { return d->radius; }
 
 /** The outer radius in px; 100 by default. Repaints on a change. */
-void MOProgress::setRadius(int radius)
-{
-    d->change(d->radius, radius);
-}
+void MOProgress::setRadius(int radius) { d->change(d->radius, radius); }
 
-QColor MOProgress::normalColor() const
-{
-    return d->normalColor;
-}
+QColor MOProgress::normalColor() const { return d->normalColor; }
 
 /** The colour of the ring; a translucent grey by default. Repaints on a change. */
-void MOProgress::setNormalColor(QColor color)
-{
-    d->change(d->normalColor, color);
-}
+void MOProgress::setNormalColor(QColor color) { d->change(d->normalColor, color); }
 
-QColor MOProgress::pressColor() const
-{
-    return d->pressColor;
-}
+QColor MOProgress::pressColor() const { return d->pressColor; }
 
 /** The colour of the part of the ring that is done; orange by default. Repaints on a change. */
-void MOProgress::setPressColor(QColor color)
-{
-    d->change(d->pressColor, color);
-}
+void MOProgress::setPressColor(QColor color) { d->change(d->pressColor, color); }
 
-bool MOProgress::boundary() const
-{
-    return d->boundary;
-}
+bool MOProgress::boundary() const { return d->boundary; }
 
 /** Whether the ring and its part that is done have an outline; they do by default. Repaints on a
  * change. */
-void MOProgress::setBoundary(bool boundary)
-{
-    d->change(d->boundary, boundary);
-}
+void MOProgress::setBoundary(bool boundary) { d->change(d->boundary, boundary); }
 
-QColor MOProgress::boundaryColor() const
-{
-    return d->boundaryColor;
-}
+QColor MOProgress::boundaryColor() const { return d->boundaryColor; }
 
 /** The colour of the outlines; white by default. Repaints on a change. */
-void MOProgress::setBoundaryColor(QColor color)
-{
-    d->change(d->boundaryColor, color);
-}
+void MOProgress::setBoundaryColor(QColor color) { d->change(d->boundaryColor, color); }
 
-int MOProgress::arcHeight() const
-{
-    return d->arcHeight;
-}
+int MOProgress::arcHeight() const { return d->arcHeight; }
 
 /** The thickness of the ring in px, 20 by default; from the radius on nothing is drawn at all.
  * Repaints on a change. */
-void MOProgress::setArcHeight(int height)
-{
-    d->change(d->arcHeight, height);
-}
+void MOProgress::setArcHeight(int height) { d->change(d->arcHeight, height); }
 
-QColor MOProgress::insideColor() const
-{
-    return d->insideColor;
-}
+QColor MOProgress::insideColor() const { return d->insideColor; }
 
 /** The colour of the middle, which shines through the ring; translucent black by default. Repaints
  * on a change. */
-void MOProgress::setInsideColor(QColor color)
-{
-    d->change(d->insideColor, color);
-}
+void MOProgress::setInsideColor(QColor color) { d->change(d->insideColor, color); }
 
-int MOProgress::fontSize() const
-{
-    return d->fontSize;
-}
+int MOProgress::fontSize() const { return d->fontSize; }
 
 /**
  * The size of the caption in px, 25 by default. Below 1 the caption has the size of the
  * application's font. Repaints on a change.
  */
-void MOProgress::setFontSize(int px)
-{
-    d->change(d->fontSize, px);
-}
+void MOProgress::setFontSize(int px) { d->change(d->fontSize, px); }
 
-QString MOProgress::dispalyText() const
-{
-    return d->dispalyText;
-}
+QString MOProgress::dispalyText() const { return d->dispalyText; }
 
 /** The caption below the percentage, which has the widget's own font. Repaints. */
 void MOProgress::setDispalyText(QString text)
@@ -207,16 +144,10 @@ void MOProgress::setDispalyText(QString text)
     update();
 }
 
-QColor MOProgress::displayTextColor() const
-{
-    return d->displayTextColor;
-}
+QColor MOProgress::displayTextColor() const { return d->displayTextColor; }
 
 /** The colour of both texts; white by default. Repaints on a change. */
-void MOProgress::setDisplayTextColor(QColor color)
-{
-    d->change(d->displayTextColor, color);
-}
+void MOProgress::setDisplayTextColor(QColor color) { d->change(d->displayTextColor, color); }
 
 /** The paint limits the value to 0..100 and writes it back, on purpose. */
 void MOProgress::paintEvent(QPaintEvent *)

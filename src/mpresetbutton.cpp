@@ -80,10 +80,7 @@ MPresetButton::MPresetButton(QWidget *parent)
 
 MPresetButton::~MPresetButton() = default;
 
-QPixmap MPresetButton::normalImage() const
-{
-    return d->normalImage;
-}
+QPixmap MPresetButton::normalImage() const { return d->normalImage; }
 
 /**
  * The picture shown normally. Its size becomes the size into which every picture is stretched, and
@@ -100,10 +97,7 @@ void MPresetButton::setNormalImage(const QPixmap &image)
     update();
 }
 
-QPixmap MPresetButton::pressImage() const
-{
-    return d->pressImage;
-}
+QPixmap MPresetButton::pressImage() const { return d->pressImage; }
 
 /** The picture shown while down or checked; without it there is none. Repaints. */
 void MPresetButton::setPressImage(const QPixmap &image)
@@ -112,10 +106,7 @@ void MPresetButton::setPressImage(const QPixmap &image)
     update();
 }
 
-QPixmap MPresetButton::disableImage() const
-{
-    return d->disableImage;
-}
+QPixmap MPresetButton::disableImage() const { return d->disableImage; }
 
 /** The picture shown while disabled; without it the normal one stays. Repaints. */
 void MPresetButton::setDisableImage(const QPixmap &image)
@@ -124,10 +115,7 @@ void MPresetButton::setDisableImage(const QPixmap &image)
     update();
 }
 
-QPixmap MPresetButton::presetIcon() const
-{
-    return d->presetIcon;
-}
+QPixmap MPresetButton::presetIcon() const { return d->presetIcon; }
 
 /** A small picture over the other, in its own size; a disabled key has none. Repaints. */
 void MPresetButton::setPresetIcon(const QPixmap &icon)
@@ -136,21 +124,12 @@ void MPresetButton::setPresetIcon(const QPixmap &icon)
     update();
 }
 
-QPoint MPresetButton::presetIconPos() const
-{
-    return d->presetIconPos;
-}
+QPoint MPresetButton::presetIconPos() const { return d->presetIconPos; }
 
 /** Where the icon's top left stands on the widget. Stored only. */
-void MPresetButton::setPresetIconPos(const QPoint &pos)
-{
-    d->presetIconPos = pos;
-}
+void MPresetButton::setPresetIconPos(const QPoint &pos) { d->presetIconPos = pos; }
 
-QString MPresetButton::displayText() const
-{
-    return d->displayText;
-}
+QString MPresetButton::displayText() const { return d->displayText; }
 
 /** The first line, in the widget's font. It is neither shortened nor wrapped. Repaints. */
 void MPresetButton::setDisplayText(const QString &text)
@@ -159,10 +138,7 @@ void MPresetButton::setDisplayText(const QString &text)
     update();
 }
 
-QString MPresetButton::displayText2() const
-{
-    return d->displayText2;
-}
+QString MPresetButton::displayText2() const { return d->displayText2; }
 
 /** The second line, in the application's font at fontSize2. Repaints. */
 void MPresetButton::setDisplayText2(const QString &text)
@@ -171,10 +147,7 @@ void MPresetButton::setDisplayText2(const QString &text)
     update();
 }
 
-QColor MPresetButton::normalTextColor() const
-{
-    return d->textColors.normal;
-}
+QColor MPresetButton::normalTextColor() const { return d->textColors.normal; }
 
 /** The colour of the first line normally. Repaints. */
 void MPresetButton::setNormalTextColor(const QColor &color)
@@ -183,10 +156,7 @@ void MPresetButton::setNormalTextColor(const QColor &color)
     update();
 }
 
-QColor MPresetButton::pressTextColor() const
-{
-    return d->textColors.press;
-}
+QColor MPresetButton::pressTextColor() const { return d->textColors.press; }
 
 /** The colour of the first line while down or checked. Repaints. */
 void MPresetButton::setPressTextColor(const QColor &color)
@@ -195,10 +165,7 @@ void MPresetButton::setPressTextColor(const QColor &color)
     update();
 }
 
-QColor MPresetButton::disableTextColor() const
-{
-    return d->textColors.disable;
-}
+QColor MPresetButton::disableTextColor() const { return d->textColors.disable; }
 
 /** The colour of the first line while disabled. Repaints. */
 void MPresetButton::setDisableTextColor(const QColor &color)
@@ -207,10 +174,7 @@ void MPresetButton::setDisableTextColor(const QColor &color)
     update();
 }
 
-QColor MPresetButton::normalTextColor2() const
-{
-    return d->textColors2.normal;
-}
+QColor MPresetButton::normalTextColor2() const { return d->textColors2.normal; }
 
 /** The colour of the second line normally. Repaints. */
 void MPresetButton::setNormalTextColor2(const QColor &color)
@@ -219,10 +183,7 @@ void MPresetButton::setNormalTextColor2(const QColor &color)
     update();
 }
 
-QColor MPresetButton::pressTextColor2() const
-{
-    return d->textColors2.press;
-}
+QColor MPresetButton::pressTextColor2() const { return d->textColors2.press; }
 
 /** The colour of the second line while down or checked. Repaints. */
 void MPresetButton::setPressTextColor2(const QColor &color)
@@ -231,10 +192,7 @@ void MPresetButton::setPressTextColor2(const QColor &color)
     update();
 }
 
-QColor MPresetButton::disableTextColor2() const
-{
-    return d->textColors2.disable;
-}
+QColor MPresetButton::disableTextColor2() const { return d->textColors2.disable; }
 
 /** The colour of the second line while disabled. Repaints. */
 void MPresetButton::setDisableTextColor2(const QColor &color)
@@ -243,32 +201,17 @@ void MPresetButton::setDisableTextColor2(const QColor &color)
     update();
 }
 
-QRect MPresetButton::displayTextRect() const
-{
-    return d->displayTextRect;
-}
+QRect MPresetButton::displayTextRect() const { return d->displayTextRect; }
 
 /** Where the first line is centred; one that is not valid is the whole widget. Stored only. */
-void MPresetButton::setdisplayTextRect(const QRect &rect)
-{
-    d->displayTextRect = rect;
-}
+void MPresetButton::setdisplayTextRect(const QRect &rect) { d->displayTextRect = rect; }
 
-QRect MPresetButton::displayTextRect2() const
-{
-    return d->displayTextRect2;
-}
+QRect MPresetButton::displayTextRect2() const { return d->displayTextRect2; }
 
 /** Where the second line is centred; one that is not valid is the whole widget. Stored only. */
-void MPresetButton::setdisplayTextRect2(const QRect &rect)
-{
-    d->displayTextRect2 = rect;
-}
+void MPresetButton::setdisplayTextRect2(const QRect &rect) { d->displayTextRect2 = rect; }
 
-int MPresetButton::fontSize2() const
-{
-    return d->fontSize2;
-}
+int MPresetButton::fontSize2() const { return d->fontSize2; }
 
 /**
  * The size of the second line in px; 24 by default. Below 1 the line has the size of the
@@ -280,21 +223,12 @@ void MPresetButton::setFontSize2(const int &px)
     update();
 }
 
-QString MPresetButton::buttonID() const
-{
-    return d->buttonID;
-}
+QString MPresetButton::buttonID() const { return d->buttonID; }
 
 /** The text that either signal carries; "MPresetButton_ID" by default. Stored only. */
-void MPresetButton::setButtonID(const QString &id)
-{
-    d->buttonID = id;
-}
+void MPresetButton::setButtonID(const QString &id) { d->buttonID = id; }
 
-bool MPresetButton::hitButton(const QPoint &) const
-{
-    return true;
-}
+bool MPresetButton::hitButton(const QPoint &) const { return true; }
 
 void MPresetButton::paintEvent(QPaintEvent *e)
 {
@@ -381,10 +315,7 @@ void MPresetButton::Private::endTiming()
     timerId = 0;
 }
 
-bool MPresetButton::Private::isHighlighted() const
-{
-    return q->isDown() || q->isChecked();
-}
+bool MPresetButton::Private::isHighlighted() const { return q->isDown() || q->isChecked(); }
 
 const QPixmap &MPresetButton::Private::shownImage() const
 {

@@ -18,10 +18,7 @@ using namespace panelkit;
 namespace
 {
 
-QChar digit(qint64 number)
-{
-    return QChar(ushort('0' + number));
-}
+QChar digit(qint64 number) { return QChar(ushort('0' + number)); }
 
 } // namespace
 
@@ -87,10 +84,7 @@ MProgressBar::MProgressBar(QWidget *parent)
 
 MProgressBar::~MProgressBar() = default;
 
-QPixmap MProgressBar::sliderNormalImage() const
-{
-    return d->sliderNormalImage;
-}
+QPixmap MProgressBar::sliderNormalImage() const { return d->sliderNormalImage; }
 
 /** The played part, cut from its left. Repaints. */
 void MProgressBar::setSliderNormalImage(const QPixmap &image)
@@ -99,10 +93,7 @@ void MProgressBar::setSliderNormalImage(const QPixmap &image)
     update();
 }
 
-QPixmap MProgressBar::sliderPressImage() const
-{
-    return d->sliderPressImage;
-}
+QPixmap MProgressBar::sliderPressImage() const { return d->sliderPressImage; }
 
 /** The whole groove; its size is that of the bar's drawing. Repaints. */
 void MProgressBar::setSliderPressImage(const QPixmap &image)
@@ -111,10 +102,7 @@ void MProgressBar::setSliderPressImage(const QPixmap &image)
     update();
 }
 
-QPixmap MProgressBar::sliderDisableImage() const
-{
-    return d->sliderDisableImage;
-}
+QPixmap MProgressBar::sliderDisableImage() const { return d->sliderDisableImage; }
 
 /** The played part of a disabled bar, squeezed into its place, not cut. Repaints. */
 void MProgressBar::setSliderDisableImage(const QPixmap &image)
@@ -123,10 +111,7 @@ void MProgressBar::setSliderDisableImage(const QPixmap &image)
     update();
 }
 
-QPixmap MProgressBar::pointNormalImage() const
-{
-    return d->pointNormalImage;
-}
+QPixmap MProgressBar::pointNormalImage() const { return d->pointNormalImage; }
 
 /** The knob. Repaints. */
 void MProgressBar::setPointNormalImage(const QPixmap &image)
@@ -135,10 +120,7 @@ void MProgressBar::setPointNormalImage(const QPixmap &image)
     update();
 }
 
-QPixmap MProgressBar::pointPressImage() const
-{
-    return d->pointPressImage;
-}
+QPixmap MProgressBar::pointPressImage() const { return d->pointPressImage; }
 
 /**
  * The knob while touched; its size is that of every knob, and without it none is drawn. Repaints.
@@ -149,10 +131,7 @@ void MProgressBar::setPointPressImage(const QPixmap &image)
     update();
 }
 
-QPixmap MProgressBar::pointDisableImage() const
-{
-    return d->pointDisableImage;
-}
+QPixmap MProgressBar::pointDisableImage() const { return d->pointDisableImage; }
 
 /** The knob of a disabled bar; without it the others serve. Repaints. */
 void MProgressBar::setPointDisableImage(const QPixmap &image)
@@ -161,21 +140,12 @@ void MProgressBar::setPointDisableImage(const QPixmap &image)
     update();
 }
 
-int MProgressBar::itemID() const
-{
-    return d->itemID;
-}
+int MProgressBar::itemID() const { return d->itemID; }
 
 /** The number that both signals carry. Stored only. */
-void MProgressBar::setItemID(int id)
-{
-    d->itemID = id;
-}
+void MProgressBar::setItemID(int id) { d->itemID = id; }
 
-int MProgressBar::maxValue() const
-{
-    return d->maxValue;
-}
+int MProgressBar::maxValue() const { return d->maxValue; }
 
 /** The value at the right end; 100 by default. Repaints. */
 void MProgressBar::setMaxValue(int value)
@@ -184,10 +154,7 @@ void MProgressBar::setMaxValue(int value)
     update();
 }
 
-int MProgressBar::getMinValue() const
-{
-    return d->minValue;
-}
+int MProgressBar::getMinValue() const { return d->minValue; }
 
 /** The value at the left end; 0 by default. Repaints. */
 void MProgressBar::setMinValue(int value)
@@ -196,10 +163,7 @@ void MProgressBar::setMinValue(int value)
     update();
 }
 
-int MProgressBar::currentValue() const
-{
-    return d->currentValue;
-}
+int MProgressBar::currentValue() const { return d->currentValue; }
 
 /** Shows a value, without a signal. Repaints. Ignored outside minValue to maxValue. */
 void MProgressBar::setCurrentValue(int value)
@@ -210,10 +174,7 @@ void MProgressBar::setCurrentValue(int value)
     update();
 }
 
-int MProgressBar::ponitRadius() const
-{
-    return d->ponitRadius;
-}
+int MProgressBar::ponitRadius() const { return d->ponitRadius; }
 
 /**
  * In plain colours the width of the knob in px, and none is drawn at 0, the default. With pictures
@@ -225,10 +186,7 @@ void MProgressBar::setPonitRadius(int radius)
     update();
 }
 
-QColor MProgressBar::normalColor() const
-{
-    return d->normalColor;
-}
+QColor MProgressBar::normalColor() const { return d->normalColor; }
 
 /** The colour of the groove; grey by default. Repaints. */
 void MProgressBar::setNormalColor(QColor color)
@@ -237,10 +195,7 @@ void MProgressBar::setNormalColor(QColor color)
     update();
 }
 
-QColor MProgressBar::pointNormalColor() const
-{
-    return d->pointNormalColor;
-}
+QColor MProgressBar::pointNormalColor() const { return d->pointNormalColor; }
 
 /** The colour of the knob; light grey by default. Repaints. */
 void MProgressBar::setPointNormalColor(QColor color)
@@ -249,10 +204,7 @@ void MProgressBar::setPointNormalColor(QColor color)
     update();
 }
 
-QColor MProgressBar::pointPressColor() const
-{
-    return d->pointPressColor;
-}
+QColor MProgressBar::pointPressColor() const { return d->pointPressColor; }
 
 /** The colour of the knob while touched; orange by default. Repaints. */
 void MProgressBar::setPointPressColor(QColor color)
@@ -261,21 +213,12 @@ void MProgressBar::setPointPressColor(QColor color)
     update();
 }
 
-QColor MProgressBar::pressColor() const
-{
-    return d->pressColor;
-}
+QColor MProgressBar::pressColor() const { return d->pressColor; }
 
 /** The colour of the played part; orange by default. Stored only. */
-void MProgressBar::setPressColor(QColor color)
-{
-    d->pressColor = color;
-}
+void MProgressBar::setPressColor(QColor color) { d->pressColor = color; }
 
-bool MProgressBar::showValue() const
-{
-    return d->showValue;
-}
+bool MProgressBar::showValue() const { return d->showValue; }
 
 /** Whether realValue stands on the knob as a time; only with pictures. Repaints. */
 void MProgressBar::setShowValue(bool show)
@@ -284,32 +227,17 @@ void MProgressBar::setShowValue(bool show)
     update();
 }
 
-bool MProgressBar::boundary() const
-{
-    return d->boundary;
-}
+bool MProgressBar::boundary() const { return d->boundary; }
 
 /** Whether groove and knob have an outline; only in plain colours. Stored only. */
-void MProgressBar::setBoundary(bool boundary)
-{
-    d->boundary = boundary;
-}
+void MProgressBar::setBoundary(bool boundary) { d->boundary = boundary; }
 
-QColor MProgressBar::boundaryColor() const
-{
-    return d->boundaryColor;
-}
+QColor MProgressBar::boundaryColor() const { return d->boundaryColor; }
 
 /** The colour of the outlines; light grey by default. Stored only. */
-void MProgressBar::setBoundaryColor(QColor color)
-{
-    d->boundaryColor = color;
-}
+void MProgressBar::setBoundaryColor(QColor color) { d->boundaryColor = color; }
 
-int MProgressBar::realValue() const
-{
-    return d->realValue;
-}
+int MProgressBar::realValue() const { return d->realValue; }
 
 /**
  * Feeds the position: it is kept, limited to the range, and shown unless a finger is on the bar.

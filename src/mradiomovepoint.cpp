@@ -63,16 +63,10 @@ void forEachNear(const Counts &counts, int start, int pix, int left, int right, 
         use(int(counts.first + i * counts.stride));
 }
 
-QString written(double value)
-{
-    return QString::number(value, 'g', 6);
-}
+QString written(double value) { return QString::number(value, 'g', 6); }
 
 // Qt adds the size of a widget to its place: a place at the limits of int would overflow.
-QPoint boundedPoint(int x, int y)
-{
-    return boundedRect(x, y, 0, 0).topLeft();
-}
+QPoint boundedPoint(int x, int y) { return boundedRect(x, y, 0, 0).topLeft(); }
 
 // The log names the file and the function in every build; Qt would leave them out of a release.
 void log(int line, const char *function, const char *name)
@@ -267,15 +261,9 @@ int ScaleBkg::getPointEnd()
 }
 
 /** For scales that know a further end; this one has none and says 0. */
-int ScaleBkg::getEnd()
-{
-    return 0;
-}
+int ScaleBkg::getEnd() { return 0; }
 
-int ScaleBkg::getLine_start() const
-{
-    return d->lineStart;
-}
+int ScaleBkg::getLine_start() const { return d->lineStart; }
 
 /** Moves the scale count 0 to this x, in px. Stored only; ticks and labels move at the next paint.
  */
@@ -285,16 +273,10 @@ void ScaleBkg::setLine_start(int start)
     d->drawnLook.reset();
 }
 
-int ScaleBkg::getLine_end() const
-{
-    return d->lineEnd;
-}
+int ScaleBkg::getLine_end() const { return d->lineEnd; }
 
 /** Stored only; the next init() computes it anew. */
-void ScaleBkg::setLine_end(int end)
-{
-    d->lineEnd = end;
-}
+void ScaleBkg::setLine_end(int end) { d->lineEnd = end; }
 
 /** Labels first and ticks over them. */
 void ScaleBkg::paintEvent(QPaintEvent *e)
@@ -438,16 +420,10 @@ int MovePoint::cacFreqMapPos(int freq)
 }
 
 /** The x of the valid frequency that an x stands for. */
-int MovePoint::getPosValid(int pos)
-{
-    return cacFreqMapPos(cacPosMapFreq(pos));
-}
+int MovePoint::getPosValid(int pos) { return cacFreqMapPos(cacPosMapFreq(pos)); }
 
 /** Whether this is a needle for AM; a plain one is. The library does not ask. */
-bool MovePoint::isAm()
-{
-    return true;
-}
+bool MovePoint::isAm() { return true; }
 
 /** Moves the needle's middle to the valid frequency at this x of the owner, in px. */
 void MovePoint::moveByPos(int pos)
@@ -457,10 +433,7 @@ void MovePoint::moveByPos(int pos)
 }
 
 /** Moves the needle to a frequency, or to the end of the band that is nearer. */
-void MovePoint::moveByFreq(int freq)
-{
-    moveByPos(cacFreqMapPos(freq));
-}
+void MovePoint::moveByFreq(int freq) { moveByPos(cacFreqMapPos(freq)); }
 
 /** Emits freqChanged() with the frequency under the needle's middle. */
 void MovePoint::emitFreq()
@@ -478,10 +451,7 @@ FmMovePoint::FmMovePoint(int lineStart, int firstTick, int minFreq, int step, in
 FmMovePoint::~FmMovePoint() = default;
 
 /** Never for AM; what band it serves is a matter of its scale. */
-bool FmMovePoint::isAm()
-{
-    return false;
-}
+bool FmMovePoint::isAm() { return false; }
 
 class Q_DECL_HIDDEN MRadioMovePoint::Private
 {
@@ -537,150 +507,75 @@ MRadioMovePoint::MRadioMovePoint(QWidget *parent) : QWidget(parent), d(std::make
 
 MRadioMovePoint::~MRadioMovePoint() = default;
 
-int MRadioMovePoint::getFreqStep() const
-{
-    return d->freqStep;
-}
+int MRadioMovePoint::getFreqStep() const { return d->freqStep; }
 
 /** The tuning step, 10 by default. Stored only, like all others up to initByCustomeValue. */
-void MRadioMovePoint::setFreqStep(int step)
-{
-    d->freqStep = step;
-}
+void MRadioMovePoint::setFreqStep(int step) { d->freqStep = step; }
 
-int MRadioMovePoint::getFreqStart() const
-{
-    return d->freqStart;
-}
+int MRadioMovePoint::getFreqStart() const { return d->freqStart; }
 
 /** The lower end of the band, 8500 by default. Stored only. */
-void MRadioMovePoint::setFreqStart(int freq)
-{
-    d->freqStart = freq;
-}
+void MRadioMovePoint::setFreqStart(int freq) { d->freqStart = freq; }
 
-int MRadioMovePoint::getSuggestFreqStart() const
-{
-    return d->suggestFreqStart;
-}
+int MRadioMovePoint::getSuggestFreqStart() const { return d->suggestFreqStart; }
 
 /**
  * The lower end of the range that is spread over lineStart to lineEnd; -1, the default, for either
  * end takes the band, rounded down to hundreds. Stored only.
  */
-void MRadioMovePoint::setSuggestFreqStart(int freq)
-{
-    d->suggestFreqStart = freq;
-}
+void MRadioMovePoint::setSuggestFreqStart(int freq) { d->suggestFreqStart = freq; }
 
-int MRadioMovePoint::getSuggestFreqEnd() const
-{
-    return d->suggestFreqEnd;
-}
+int MRadioMovePoint::getSuggestFreqEnd() const { return d->suggestFreqEnd; }
 
 /** The upper end of the range that is spread over lineStart to lineEnd. Stored only. */
-void MRadioMovePoint::setSuggestFreqEnd(int freq)
-{
-    d->suggestFreqEnd = freq;
-}
+void MRadioMovePoint::setSuggestFreqEnd(int freq) { d->suggestFreqEnd = freq; }
 
-int MRadioMovePoint::getFreqEnd() const
-{
-    return d->freqEnd;
-}
+int MRadioMovePoint::getFreqEnd() const { return d->freqEnd; }
 
 /** The upper end of the band, 10800 by default. Stored only. */
-void MRadioMovePoint::setFreqEnd(int freq)
-{
-    d->freqEnd = freq;
-}
+void MRadioMovePoint::setFreqEnd(int freq) { d->freqEnd = freq; }
 
-int MRadioMovePoint::getLineStart() const
-{
-    return d->lineStart;
-}
+int MRadioMovePoint::getLineStart() const { return d->lineStart; }
 
 /** The x where the scale begins, in px, 10 by default. Stored only. */
-void MRadioMovePoint::setLineStart(int x)
-{
-    d->lineStart = x;
-}
+void MRadioMovePoint::setLineStart(int x) { d->lineStart = x; }
 
-int MRadioMovePoint::getLineEnd() const
-{
-    return d->lineEnd;
-}
+int MRadioMovePoint::getLineEnd() const { return d->lineEnd; }
 
 /**
  * The x, in px, 500 by default, that with lineStart gives the size of a scale unit. Stored only.
  * The scale itself is drawn on until its right margin equals the left one.
  */
-void MRadioMovePoint::setLineEnd(int x)
-{
-    d->lineEnd = x;
-}
+void MRadioMovePoint::setLineEnd(int x) { d->lineEnd = x; }
 
-int MRadioMovePoint::getPixCountMeta() const
-{
-    return d->pixCountMeta;
-}
+int MRadioMovePoint::getPixCountMeta() const { return d->pixCountMeta; }
 
 /** How many scale units there are from tick to tick, 10 by default. Stored only. */
-void MRadioMovePoint::setPixCountMeta(int count)
-{
-    d->pixCountMeta = count;
-}
+void MRadioMovePoint::setPixCountMeta(int count) { d->pixCountMeta = count; }
 
-int MRadioMovePoint::getBMid() const
-{
-    return d->bMid;
-}
+int MRadioMovePoint::getBMid() const { return d->bMid; }
 
 /** How many units there are from label to label, and ticks from middle to middle; 5 by default.
  * Stored only. */
-void MRadioMovePoint::setBMid(int count)
-{
-    d->bMid = count;
-}
+void MRadioMovePoint::setBMid(int count) { d->bMid = count; }
 
-int MRadioMovePoint::getBLarge() const
-{
-    return d->bLarge;
-}
+int MRadioMovePoint::getBLarge() const { return d->bLarge; }
 
 /** How many middle ticks there are from long to long, 2 by default. Stored only. */
-void MRadioMovePoint::setBLarge(int factor)
-{
-    d->bLarge = factor;
-}
+void MRadioMovePoint::setBLarge(int factor) { d->bLarge = factor; }
 
-int MRadioMovePoint::getTotalCountMeta() const
-{
-    return d->totalCountMeta;
-}
+int MRadioMovePoint::getTotalCountMeta() const { return d->totalCountMeta; }
 
 /** How many scale units there are between lineStart and lineEnd, 100 by default. Stored only. */
-void MRadioMovePoint::setTotalCountMeta(int count)
-{
-    d->totalCountMeta = count;
-}
+void MRadioMovePoint::setTotalCountMeta(int count) { d->totalCountMeta = count; }
 
-MRadioMovePoint::BNADTYPE MRadioMovePoint::getBandType() const
-{
-    return d->bandType;
-}
+MRadioMovePoint::BNADTYPE MRadioMovePoint::getBandType() const { return d->bandType; }
 
 /** Whether labels show a hundredth of the frequency (FM) or the frequency (AM, the default). Stored
  * only. */
-void MRadioMovePoint::setBandType(const BNADTYPE &type)
-{
-    d->bandType = type;
-}
+void MRadioMovePoint::setBandType(const BNADTYPE &type) { d->bandType = type; }
 
-QPixmap MRadioMovePoint::getPointPix() const
-{
-    return d->pointPix;
-}
+QPixmap MRadioMovePoint::getPointPix() const { return d->pointPix; }
 
 /** The picture of the needle; blue, 10 x 30 px by default. Shown at once, in the size of the first
  * one. */
@@ -690,54 +585,27 @@ void MRadioMovePoint::setPointPix(const QPixmap &pixmap)
     d->needle->setPixmap(d->pointPix);
 }
 
-QColor MRadioMovePoint::getLineColor() const
-{
-    return d->lineColor;
-}
+QColor MRadioMovePoint::getLineColor() const { return d->lineColor; }
 
 /** The colour of ticks and labels; an invalid one, the default, is drawn in black. Stored only. */
-void MRadioMovePoint::setLineColor(const QColor &color)
-{
-    d->lineColor = color;
-}
+void MRadioMovePoint::setLineColor(const QColor &color) { d->lineColor = color; }
 
-int MRadioMovePoint::getTxtYpos() const
-{
-    return d->txtYpos;
-}
+int MRadioMovePoint::getTxtYpos() const { return d->txtYpos; }
 
 /** The top of the labels, in px below the top of the scale, 30 by default. Stored only. */
-void MRadioMovePoint::setTxtYpos(int y)
-{
-    d->txtYpos = y;
-}
+void MRadioMovePoint::setTxtYpos(int y) { d->txtYpos = y; }
 
-int MRadioMovePoint::getLineYpos() const
-{
-    return d->lineYpos;
-}
+int MRadioMovePoint::getLineYpos() const { return d->lineYpos; }
 
 /** The feet of the ticks, in px below the top of the scale, 40 by default. Stored only. */
-void MRadioMovePoint::setLineYpos(int y)
-{
-    d->lineYpos = y;
-}
+void MRadioMovePoint::setLineYpos(int y) { d->lineYpos = y; }
 
-int MRadioMovePoint::getPointYpos() const
-{
-    return d->pointYpos;
-}
+int MRadioMovePoint::getPointYpos() const { return d->pointYpos; }
 
 /** The top of the needle, in px, 40 by default. Stored only. */
-void MRadioMovePoint::setPointYpos(int y)
-{
-    d->pointYpos = y;
-}
+void MRadioMovePoint::setPointYpos(int y) { d->pointYpos = y; }
 
-bool MRadioMovePoint::getInitByCustomeValue() const
-{
-    return d->initByCustomeValue;
-}
+bool MRadioMovePoint::getInitByCustomeValue() const { return d->initByCustomeValue; }
 
 /**
  * Applies all properties, whatever the value is, moves the needle to freqStart and repaints. The
@@ -810,10 +678,7 @@ void MRadioMovePoint::freqParamChangedSlot(bool isFM, float freqMin, float freqM
 }
 
 /** Moves the needle to a frequency, truncated and not scaled, and says nothing. */
-void MRadioMovePoint::curFreqChangedSlot(float freq)
-{
-    d->needle->moveByFreq(toInt(double(freq)));
-}
+void MRadioMovePoint::curFreqChangedSlot(float freq) { d->needle->moveByFreq(toInt(double(freq))); }
 
 /** The needle follows the finger. A press alone does not move it. */
 void MRadioMovePoint::mouseMoveEvent(QMouseEvent *e)

@@ -39,10 +39,7 @@ TickKind kindOf(float freq, bool isFM)
     return number % (major / 2) == 0 ? Middle : Minor;
 }
 
-QString written(double freq)
-{
-    return QStringLiteral("%1").arg(freq);
-}
+QString written(double freq) { return QStringLiteral("%1").arg(freq); }
 
 struct Counts {
     qint64 first;
@@ -119,113 +116,56 @@ MRadioSlider::MRadioSlider(QWidget *parent) : QWidget(parent), d(std::make_uniqu
 
 MRadioSlider::~MRadioSlider() = default;
 
-QPixmap MRadioSlider::getIndicatePix() const
-{
-    return d->indicatePix;
-}
+QPixmap MRadioSlider::getIndicatePix() const { return d->indicatePix; }
 
 /** The picture in the middle of the widget, at its own size; none by default. Stored only. */
-void MRadioSlider::setIndicatePix(const QPixmap &pixmap)
-{
-    d->indicatePix = pixmap;
-}
+void MRadioSlider::setIndicatePix(const QPixmap &pixmap) { d->indicatePix = pixmap; }
 
-QColor MRadioSlider::getLineColor() const
-{
-    return d->lineColor;
-}
+QColor MRadioSlider::getLineColor() const { return d->lineColor; }
 
 /** The colour of ticks and labels; an invalid one, the default, is drawn in black. Stored only. */
-void MRadioSlider::setLineColor(const QColor &color)
-{
-    d->lineColor = color;
-}
+void MRadioSlider::setLineColor(const QColor &color) { d->lineColor = color; }
 
-QFont MRadioSlider::getFont() const
-{
-    return d->font;
-}
+QFont MRadioSlider::getFont() const { return d->font; }
 
 /** The font of the labels; the name hides that of the widget's own font, on purpose. Stored only.
  */
-void MRadioSlider::setFont(const QFont &font)
-{
-    d->font = font;
-}
+void MRadioSlider::setFont(const QFont &font) { d->font = font; }
 
-int MRadioSlider::getLineH() const
-{
-    return d->lineH;
-}
+int MRadioSlider::getLineH() const { return d->lineH; }
 
 /** The length of a minor tick in px, 8 by default; middle ones are twice and major ones three times
  * as long. Stored only. */
-void MRadioSlider::setLineH(int height)
-{
-    d->lineH = height;
-}
+void MRadioSlider::setLineH(int height) { d->lineH = height; }
 
-int MRadioSlider::getLineW() const
-{
-    return d->lineW;
-}
+int MRadioSlider::getLineW() const { return d->lineW; }
 
 /** Stored only, and without effect: ticks are one pixel wide, because the colour makes a new pen.
  */
-void MRadioSlider::setLineW(int width)
-{
-    d->lineW = width;
-}
+void MRadioSlider::setLineW(int width) { d->lineW = width; }
 
-int MRadioSlider::getLineGap() const
-{
-    return d->lineGap;
-}
+int MRadioSlider::getLineGap() const { return d->lineGap; }
 
 /** The distance from tick to tick in px, 5 by default. Stored only; how far the scale can be
  * dragged stays. */
-void MRadioSlider::setLineGap(int gap)
-{
-    d->lineGap = gap;
-}
+void MRadioSlider::setLineGap(int gap) { d->lineGap = gap; }
 
-float MRadioSlider::getFreqStart() const
-{
-    return d->freqStart;
-}
+float MRadioSlider::getFreqStart() const { return d->freqStart; }
 
 /** The first frequency of the scale, 87.5 by default. Stored only. */
-void MRadioSlider::setFreqStart(float freq)
-{
-    d->freqStart = freq;
-}
+void MRadioSlider::setFreqStart(float freq) { d->freqStart = freq; }
 
-float MRadioSlider::getFreqEnd() const
-{
-    return d->freqEnd;
-}
+float MRadioSlider::getFreqEnd() const { return d->freqEnd; }
 
 /** The last frequency of the scale, 108.0 by default. Stored only. */
-void MRadioSlider::setFreqEnd(float freq)
-{
-    d->freqEnd = freq;
-}
+void MRadioSlider::setFreqEnd(float freq) { d->freqEnd = freq; }
 
-float MRadioSlider::getFreqStep() const
-{
-    return d->freqStep;
-}
+float MRadioSlider::getFreqStep() const { return d->freqStep; }
 
 /** The frequency from tick to tick, 0.1 by default. Stored only. */
-void MRadioSlider::setFreqStep(float step)
-{
-    d->freqStep = step;
-}
+void MRadioSlider::setFreqStep(float step) { d->freqStep = step; }
 
-float MRadioSlider::getCurFreq() const
-{
-    return d->curFreq;
-}
+float MRadioSlider::getCurFreq() const { return d->curFreq; }
 
 /**
  * Tunes: the frequency, in display units, comes under the middle, and the scale repaints. Ignored
@@ -242,22 +182,13 @@ void MRadioSlider::setCurFreq(float freq)
     update();
 }
 
-bool MRadioSlider::getIsFM() const
-{
-    return d->isFM;
-}
+bool MRadioSlider::getIsFM() const { return d->isFM; }
 
 /** Whether ticks and labels are those of FM, the default, and the outer frequencies hundredths.
  * Stored only. */
-void MRadioSlider::setIsFM(bool isFM)
-{
-    d->isFM = isFM;
-}
+void MRadioSlider::setIsFM(bool isFM) { d->isFM = isFM; }
 
-int MRadioSlider::marginY() const
-{
-    return d->marginY;
-}
+int MRadioSlider::marginY() const { return d->marginY; }
 
 /** Repaints, but has no effect on the picture. */
 void MRadioSlider::setMarginY(int margin)
@@ -266,60 +197,30 @@ void MRadioSlider::setMarginY(int margin)
     update();
 }
 
-MRadioSlider::ScaleAlignmentMode MRadioSlider::scaleAlign() const
-{
-    return d->scaleMode;
-}
+MRadioSlider::ScaleAlignmentMode MRadioSlider::scaleAlign() const { return d->scaleMode; }
 
 /** Where the ticks stand, AlignBottom by default and for a value that is none. Stored only. */
-void MRadioSlider::setScaleAlign(const ScaleAlignmentMode &mode)
-{
-    d->scaleMode = mode;
-}
+void MRadioSlider::setScaleAlign(const ScaleAlignmentMode &mode) { d->scaleMode = mode; }
 
-MRadioSlider::TextPosition MRadioSlider::getTextPosition() const
-{
-    return d->textPosition;
-}
+MRadioSlider::TextPosition MRadioSlider::getTextPosition() const { return d->textPosition; }
 
 /** Where the labels stand, TextBottom by default and for a value that is none. Stored only. */
-void MRadioSlider::setTextPosition(const TextPosition &position)
-{
-    d->textPosition = position;
-}
+void MRadioSlider::setTextPosition(const TextPosition &position) { d->textPosition = position; }
 
-int MRadioSlider::getTextMarginY() const
-{
-    return d->textMarginY;
-}
+int MRadioSlider::getTextMarginY() const { return d->textMarginY; }
 
 /** How far down the labels are moved, in px. Ticks beside them move too. Stored only. */
-void MRadioSlider::setTextMarginY(int margin)
-{
-    d->textMarginY = margin;
-}
+void MRadioSlider::setTextMarginY(int margin) { d->textMarginY = margin; }
 
-int MRadioSlider::getScaleMarginY() const
-{
-    return d->scaleMarginY;
-}
+int MRadioSlider::getScaleMarginY() const { return d->scaleMarginY; }
 
 /** How far down the ticks are moved, in px. Stored only. */
-void MRadioSlider::setScaleMarginY(int margin)
-{
-    d->scaleMarginY = margin;
-}
+void MRadioSlider::setScaleMarginY(int margin) { d->scaleMarginY = margin; }
 
-int MRadioSlider::getPointMarginY() const
-{
-    return d->pointMarginY;
-}
+int MRadioSlider::getPointMarginY() const { return d->pointMarginY; }
 
 /** How far down the indicator is moved, in px. Stored only. */
-void MRadioSlider::setPointMarginY(int margin)
-{
-    d->pointMarginY = margin;
-}
+void MRadioSlider::setPointMarginY(int margin) { d->pointMarginY = margin; }
 
 /**
  * Works out how many steps the scale has, in hundredths, and how far it can be dragged: until
@@ -334,10 +235,7 @@ void MRadioSlider::initSliderRange()
 }
 
 /** Whether the scale reaches this frequency, in display units. */
-bool MRadioSlider::isValidFreq(float freq)
-{
-    return d->freqStart <= freq && freq <= d->freqEnd;
-}
+bool MRadioSlider::isValidFreq(float freq) { return d->freqStart <= freq && freq <= d->freqEnd; }
 
 void MRadioSlider::paintEvent(QPaintEvent *e)
 {
@@ -401,50 +299,23 @@ void MRadioSlider::freqParamChangedSlot(bool isFM, float freqMin, float freqMax,
 }
 
 /** Tunes from outside: for FM in hundredths, for AM in display units. */
-void MRadioSlider::curFreqChangedSlot(float freq)
-{
-    setCurFreq(d->isFM ? freq / 100.0F : freq);
-}
+void MRadioSlider::curFreqChangedSlot(float freq) { setCurFreq(d->isFM ? freq / 100.0F : freq); }
 
-int MRadioSlider::wholeFreqStart() const
-{
-    return toInt(double(d->freqStart));
-}
+int MRadioSlider::wholeFreqStart() const { return toInt(double(d->freqStart)); }
 
-void MRadioSlider::setWholeFreqStart(int freq)
-{
-    setFreqStart(float(freq));
-}
+void MRadioSlider::setWholeFreqStart(int freq) { setFreqStart(float(freq)); }
 
-int MRadioSlider::wholeFreqEnd() const
-{
-    return toInt(double(d->freqEnd));
-}
+int MRadioSlider::wholeFreqEnd() const { return toInt(double(d->freqEnd)); }
 
-void MRadioSlider::setWholeFreqEnd(int freq)
-{
-    setFreqEnd(float(freq));
-}
+void MRadioSlider::setWholeFreqEnd(int freq) { setFreqEnd(float(freq)); }
 
-int MRadioSlider::wholeFreqStep() const
-{
-    return toInt(double(d->freqStep));
-}
+int MRadioSlider::wholeFreqStep() const { return toInt(double(d->freqStep)); }
 
-void MRadioSlider::setWholeFreqStep(int step)
-{
-    setFreqStep(float(step));
-}
+void MRadioSlider::setWholeFreqStep(int step) { setFreqStep(float(step)); }
 
-int MRadioSlider::wholeCurFreq() const
-{
-    return toInt(double(d->curFreq));
-}
+int MRadioSlider::wholeCurFreq() const { return toInt(double(d->curFreq)); }
 
-void MRadioSlider::setWholeCurFreq(int freq)
-{
-    setCurFreq(float(freq));
-}
+void MRadioSlider::setWholeCurFreq(int freq) { setCurFreq(float(freq)); }
 
 MRadioSlider::Private::Look MRadioSlider::Private::look() const
 {

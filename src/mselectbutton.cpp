@@ -68,10 +68,7 @@ MSelectButton::MSelectButton(QWidget *parent) : QWidget(parent), d(std::make_uni
 
 MSelectButton::~MSelectButton() = default;
 
-QPixmap MSelectButton::normalImage() const
-{
-    return d->normalImage;
-}
+QPixmap MSelectButton::normalImage() const { return d->normalImage; }
 
 /**
  * The picture shown normally. Its size becomes the size into which every picture is stretched, and
@@ -89,10 +86,7 @@ void MSelectButton::setNormalImage(const QPixmap &image)
     update();
 }
 
-QPixmap MSelectButton::pressImage() const
-{
-    return d->pressImage;
-}
+QPixmap MSelectButton::pressImage() const { return d->pressImage; }
 
 /** The picture shown while pressed; without it there is none. Repaints. */
 void MSelectButton::setPressImage(const QPixmap &image)
@@ -101,10 +95,7 @@ void MSelectButton::setPressImage(const QPixmap &image)
     update();
 }
 
-QPixmap MSelectButton::selectImage() const
-{
-    return d->selectImage;
-}
+QPixmap MSelectButton::selectImage() const { return d->selectImage; }
 
 /** The picture shown while selected; without it there is none. Repaints. */
 void MSelectButton::setSelectImage(const QPixmap &image)
@@ -113,10 +104,7 @@ void MSelectButton::setSelectImage(const QPixmap &image)
     update();
 }
 
-QPixmap MSelectButton::disableImage() const
-{
-    return d->disableImage;
-}
+QPixmap MSelectButton::disableImage() const { return d->disableImage; }
 
 /** The picture shown while disabled; without it the normal one stays. Repaints. */
 void MSelectButton::setDisableImage(const QPixmap &image)
@@ -125,10 +113,7 @@ void MSelectButton::setDisableImage(const QPixmap &image)
     update();
 }
 
-QString MSelectButton::displayText() const
-{
-    return d->displayText;
-}
+QString MSelectButton::displayText() const { return d->displayText; }
 
 /** The caption. It is neither shortened nor wrapped. Repaints. */
 void MSelectButton::setDisplayText(const QString &text)
@@ -137,10 +122,7 @@ void MSelectButton::setDisplayText(const QString &text)
     update();
 }
 
-QColor MSelectButton::normalTextColor() const
-{
-    return d->normalTextColor;
-}
+QColor MSelectButton::normalTextColor() const { return d->normalTextColor; }
 
 /** The colour of the caption normally; white by default. Repaints. */
 void MSelectButton::setNormalTextColor(const QColor &color)
@@ -149,10 +131,7 @@ void MSelectButton::setNormalTextColor(const QColor &color)
     update();
 }
 
-QColor MSelectButton::pressTextColor() const
-{
-    return d->pressTextColor;
-}
+QColor MSelectButton::pressTextColor() const { return d->pressTextColor; }
 
 /** The colour of the caption while pressed and not selected; white by default. Repaints. */
 void MSelectButton::setPressTextColor(const QColor &color)
@@ -161,10 +140,7 @@ void MSelectButton::setPressTextColor(const QColor &color)
     update();
 }
 
-QColor MSelectButton::selectTextColor() const
-{
-    return d->selectTextColor;
-}
+QColor MSelectButton::selectTextColor() const { return d->selectTextColor; }
 
 /** The colour of the caption while selected, pressed or not; white by default. Repaints. */
 void MSelectButton::setSelectTextColor(const QColor &color)
@@ -173,10 +149,7 @@ void MSelectButton::setSelectTextColor(const QColor &color)
     update();
 }
 
-QColor MSelectButton::disableTextColor() const
-{
-    return d->disableTextColor;
-}
+QColor MSelectButton::disableTextColor() const { return d->disableTextColor; }
 
 /** The colour of the caption while disabled; white by default. Repaints. */
 void MSelectButton::setDisableTextColor(const QColor &color)
@@ -185,10 +158,7 @@ void MSelectButton::setDisableTextColor(const QColor &color)
     update();
 }
 
-QRect MSelectButton::displayTextRect() const
-{
-    return d->displayTextRect;
-}
+QRect MSelectButton::displayTextRect() const { return d->displayTextRect; }
 
 /** Where the caption is centred; one that is not valid is the whole widget. Repaints. */
 void MSelectButton::setdisplayTextRect(const QRect &rect)
@@ -197,21 +167,12 @@ void MSelectButton::setdisplayTextRect(const QRect &rect)
     update();
 }
 
-QString MSelectButton::buttonID() const
-{
-    return d->buttonID;
-}
+QString MSelectButton::buttonID() const { return d->buttonID; }
 
 /** The text that either signal carries; "MSelectButton_ID" by default. Stored only. */
-void MSelectButton::setButtonID(const QString &id)
-{
-    d->buttonID = id;
-}
+void MSelectButton::setButtonID(const QString &id) { d->buttonID = id; }
 
-bool MSelectButton::selectState() const
-{
-    return d->selectState;
-}
+bool MSelectButton::selectState() const { return d->selectState; }
 
 /** Sets the selected look, without a signal. Repaints. */
 void MSelectButton::setSelectState(const bool &selected)
@@ -220,10 +181,7 @@ void MSelectButton::setSelectState(const bool &selected)
     update();
 }
 
-bool MSelectButton::disableState() const
-{
-    return d->disableState;
-}
+bool MSelectButton::disableState() const { return d->disableState; }
 
 /**
  * Disables the button in software: it looks disabled and ignores touches, but its enabled state as
@@ -325,10 +283,7 @@ void MSelectButton::timerEvent(QTimerEvent *e)
         emit btnLongClicked(d->buttonID);
 }
 
-bool MSelectButton::Private::isActive() const
-{
-    return !disableState && q->isEnabled();
-}
+bool MSelectButton::Private::isActive() const { return !disableState && q->isEnabled(); }
 
 void MSelectButton::Private::endTiming()
 {

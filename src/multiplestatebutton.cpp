@@ -64,15 +64,9 @@ MultipleStateButton::MultipleStateButton(int x, int y, int id, QStringList norma
 
 MultipleStateButton::~MultipleStateButton() = default;
 
-int MultipleStateButton::getButtonId() const
-{
-    return d->buttonId;
-}
+int MultipleStateButton::getButtonId() const { return d->buttonId; }
 
-int MultipleStateButton::getButtonValue() const
-{
-    return d->buttonValue;
-}
+int MultipleStateButton::getButtonValue() const { return d->buttonValue; }
 
 /**
  * Enters a state, which shows at the next paint. Returns 0, or -1 for a value that is refused: one

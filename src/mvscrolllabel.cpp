@@ -88,32 +88,17 @@ MVScrollLabel::MVScrollLabel(QWidget *parent, Qt::WindowFlags flags)
 
 MVScrollLabel::~MVScrollLabel() = default;
 
-QString MVScrollLabel::buttonID() const
-{
-    return d->buttonID;
-}
+QString MVScrollLabel::buttonID() const { return d->buttonID; }
 
 /** A text for the application's own use; "ID_MVScrollLabel" by default. Stored only. */
-void MVScrollLabel::setButtonID(const QString &id)
-{
-    d->buttonID = id;
-}
+void MVScrollLabel::setButtonID(const QString &id) { d->buttonID = id; }
 
-int MVScrollLabel::scrollSpeed() const
-{
-    return d->scrollSpeed;
-}
+int MVScrollLabel::scrollSpeed() const { return d->scrollSpeed; }
 
 /** How many ms the text takes for a pixel; 50 by default. It counts when scrolling next starts. */
-void MVScrollLabel::setScrollSpeed(const int &ms)
-{
-    d->scrollSpeed = ms;
-}
+void MVScrollLabel::setScrollSpeed(const int &ms) { d->scrollSpeed = ms; }
 
-bool MVScrollLabel::isScroll() const
-{
-    return d->isScrolling;
-}
+bool MVScrollLabel::isScroll() const { return d->isScrolling; }
 
 /**
  * Wraps the text to the width, so that text() has its line feeds from then on, and is what it is
@@ -173,10 +158,7 @@ void MVScrollLabel::paintEvent(QPaintEvent *e)
     }
 }
 
-void MVScrollLabel::showEvent(QShowEvent *)
-{
-    metrics();
-}
+void MVScrollLabel::showEvent(QShowEvent *) { metrics(); }
 
 /**
  * Nothing moves in a hidden label. It is still said to scroll, without a signal, and that is meant:

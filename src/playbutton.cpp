@@ -47,19 +47,13 @@ PlayButton::PlayButton(int x, int y, int id, QString normalPath, QString pressPa
 
 PlayButton::~PlayButton() = default;
 
-int PlayButton::getButtonId() const
-{
-    return d->buttonId;
-}
+int PlayButton::getButtonId() const { return d->buttonId; }
 
 /**
  * Disables the button, or enables one that was disabled for want of a picture. Stored only: its
  * look follows at the next paint.
  */
-void PlayButton::setButtonDisable(bool disabled)
-{
-    d->disabled = disabled;
-}
+void PlayButton::setButtonDisable(bool disabled) { d->disabled = disabled; }
 
 /** The picture, and its opacity, which takes one more paint when it changes. */
 void PlayButton::paintEvent(QPaintEvent *)

@@ -34,10 +34,7 @@ SpBackgroundImage::SpBackgroundImage(QWidget *parent)
 
 SpBackgroundImage::~SpBackgroundImage() = default;
 
-QPixmap SpBackgroundImage::pixmap() const
-{
-    return d->pixmap;
-}
+QPixmap SpBackgroundImage::pixmap() const { return d->pixmap; }
 
 /** The picture. The size of the widget stays, also with fitPixmapSize. Repaints. */
 void SpBackgroundImage::setPixmap(const QPixmap &pixmap)
@@ -46,21 +43,12 @@ void SpBackgroundImage::setPixmap(const QPixmap &pixmap)
     update();
 }
 
-bool SpBackgroundImage::holdMouseEvent() const
-{
-    return d->holdMouseEvent;
-}
+bool SpBackgroundImage::holdMouseEvent() const { return d->holdMouseEvent; }
 
 /** Whether touches end here instead of going on to the parent; off by default. Stored only. */
-void SpBackgroundImage::setholdMouseEvent(const bool &hold)
-{
-    d->holdMouseEvent = hold;
-}
+void SpBackgroundImage::setholdMouseEvent(const bool &hold) { d->holdMouseEvent = hold; }
 
-bool SpBackgroundImage::fitPixmapSize() const
-{
-    return d->fitPixmapSize;
-}
+bool SpBackgroundImage::fitPixmapSize() const { return d->fitPixmapSize; }
 
 /**
  * Set to true, gives the widget the size of the picture it has at this moment as a fixed one, and
@@ -78,10 +66,7 @@ void SpBackgroundImage::setFitPixmapSize(const bool &fit)
 /** Has no part in the picture, on purpose: it fills the widget either way. */
 void SpBackgroundImage::setPaintInCenter(bool) { }
 
-int SpBackgroundImage::rotateAngle() const
-{
-    return d->rotateAngle;
-}
+int SpBackgroundImage::rotateAngle() const { return d->rotateAngle; }
 
 /** The angle in degrees, clockwise, by which the picture is turned; 0 by default. Repaints. */
 void SpBackgroundImage::setRotateAngle(const int &degrees)

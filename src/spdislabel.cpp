@@ -78,21 +78,12 @@ SpDisLabel::SpDisLabel(QWidget *parent) : QWidget(parent), d(std::make_unique<Pr
 
 SpDisLabel::~SpDisLabel() = default;
 
-SpDisLabel::DispalyMode SpDisLabel::displayMode() const
-{
-    return d->displayMode;
-}
+SpDisLabel::DispalyMode SpDisLabel::displayMode() const { return d->displayMode; }
 
 /** What the label shows; String by default. Stored only. With any other value it shows nothing. */
-void SpDisLabel::setDisplayMode(const DispalyMode &mode)
-{
-    d->displayMode = mode;
-}
+void SpDisLabel::setDisplayMode(const DispalyMode &mode) { d->displayMode = mode; }
 
-QColor SpDisLabel::fontColor() const
-{
-    return d->fontColor;
-}
+QColor SpDisLabel::fontColor() const { return d->fontColor; }
 
 /** The colour of the text; white by default. Repaints. */
 void SpDisLabel::setFontColor(const QColor &color)
@@ -101,43 +92,22 @@ void SpDisLabel::setFontColor(const QColor &color)
     update();
 }
 
-QColor SpDisLabel::pressFontColor() const
-{
-    return d->pressFontColor;
-}
+QColor SpDisLabel::pressFontColor() const { return d->pressFontColor; }
 
 /** The colour of the text while down; white by default. Stored only. */
-void SpDisLabel::setPressFontColor(const QColor &color)
-{
-    d->pressFontColor = color;
-}
+void SpDisLabel::setPressFontColor(const QColor &color) { d->pressFontColor = color; }
 
-QColor SpDisLabel::normalBackgroundColor() const
-{
-    return d->normalBackgroundColor;
-}
+QColor SpDisLabel::normalBackgroundColor() const { return d->normalBackgroundColor; }
 
 /** The colour of the ground; transparent by default. Stored only. */
-void SpDisLabel::setNormalBackgroundColor(const QColor &color)
-{
-    d->normalBackgroundColor = color;
-}
+void SpDisLabel::setNormalBackgroundColor(const QColor &color) { d->normalBackgroundColor = color; }
 
-QColor SpDisLabel::pressBackgroundColor() const
-{
-    return d->pressBackgroundColor;
-}
+QColor SpDisLabel::pressBackgroundColor() const { return d->pressBackgroundColor; }
 
 /** The colour of the ground while down; transparent by default. Stored only. */
-void SpDisLabel::setPressBackgroundColor(const QColor &color)
-{
-    d->pressBackgroundColor = color;
-}
+void SpDisLabel::setPressBackgroundColor(const QColor &color) { d->pressBackgroundColor = color; }
 
-QString SpDisLabel::text() const
-{
-    return d->text;
-}
+QString SpDisLabel::text() const { return d->text; }
 
 /**
  * The text. Where it is wider than the label is now, in the font it has now, its end is replaced by
@@ -150,10 +120,7 @@ void SpDisLabel::setText(const QString &text)
     update();
 }
 
-QPixmap SpDisLabel::icon() const
-{
-    return d->icon;
-}
+QPixmap SpDisLabel::icon() const { return d->icon; }
 
 /**
  * The picture of Picture mode. Its size becomes the icon size and the minimum size of the widget,
@@ -169,10 +136,7 @@ void SpDisLabel::setIcon(const QPixmap &icon)
     update();
 }
 
-QSize SpDisLabel::iconSize() const
-{
-    return d->iconSize;
-}
+QSize SpDisLabel::iconSize() const { return d->iconSize; }
 
 /**
  * A size that the label is given for good: it becomes its fixed size, as far as widgets can have
@@ -185,10 +149,7 @@ void SpDisLabel::setIconSize(const QSize &size)
     update();
 }
 
-int SpDisLabel::fontSize() const
-{
-    return d->fontSize;
-}
+int SpDisLabel::fontSize() const { return d->fontSize; }
 
 /**
  * The size of the widget's font in px; below 1 it is stored and the font stays. It reads 30 until
@@ -202,10 +163,7 @@ void SpDisLabel::setFontSize(int px)
     setFont(resized(font(), px));
 }
 
-bool SpDisLabel::isDown() const
-{
-    return d->isDown;
-}
+bool SpDisLabel::isDown() const { return d->isDown; }
 
 /** Sets the pressed look, without a signal; this is how a latched label is let go. Repaints. */
 void SpDisLabel::setIsDown(const bool &down)
@@ -214,83 +172,41 @@ void SpDisLabel::setIsDown(const bool &down)
     update();
 }
 
-bool SpDisLabel::isLock() const
-{
-    return d->isLock;
-}
+bool SpDisLabel::isLock() const { return d->isLock; }
 
 /** Makes the label latch: it keeps its pressed look after the release. Stored only. */
-void SpDisLabel::setIsLock(const bool &lock)
-{
-    d->isLock = lock;
-}
+void SpDisLabel::setIsLock(const bool &lock) { d->isLock = lock; }
 
-bool SpDisLabel::holdMouseEvent() const
-{
-    return d->holdMouseEvent;
-}
+bool SpDisLabel::holdMouseEvent() const { return d->holdMouseEvent; }
 
 /** Whether mouse events end here; on by default. Off, they go on to the parent. Stored only. */
-void SpDisLabel::setholdMouseEvent(const bool &hold)
-{
-    d->holdMouseEvent = hold;
-}
+void SpDisLabel::setholdMouseEvent(const bool &hold) { d->holdMouseEvent = hold; }
 
-Qt::Alignment SpDisLabel::getAlignment() const
-{
-    return d->alignment;
-}
+Qt::Alignment SpDisLabel::getAlignment() const { return d->alignment; }
 
 /** How the text stands in the label; Qt::AlignCenter by default. Stored only. */
-void SpDisLabel::setAlignment(const Qt::Alignment &alignment)
-{
-    d->alignment = alignment;
-}
+void SpDisLabel::setAlignment(const Qt::Alignment &alignment) { d->alignment = alignment; }
 
-bool SpDisLabel::isBeep() const
-{
-    return d->isBeep;
-}
+bool SpDisLabel::isBeep() const { return d->isBeep; }
 
 /** Whether a press asks the application for a click sound; on by default. Stored only. */
-void SpDisLabel::setIsBeep(const bool &beep)
-{
-    d->isBeep = beep;
-}
+void SpDisLabel::setIsBeep(const bool &beep) { d->isBeep = beep; }
 
-int SpDisLabel::btnID() const
-{
-    return d->btnID;
-}
+int SpDisLabel::btnID() const { return d->btnID; }
 
 /** The number that the signals carry; 0 by default. Stored only. */
-void SpDisLabel::setBtnID(int id)
-{
-    d->btnID = id;
-}
+void SpDisLabel::setBtnID(int id) { d->btnID = id; }
 
-int SpDisLabel::roundXY() const
-{
-    return d->roundXY;
-}
+int SpDisLabel::roundXY() const { return d->roundXY; }
 
 /** The radius of the ground's corners in px; 0, the default, or less: square. Stored only. */
-void SpDisLabel::setRoundXY(int radius)
-{
-    d->roundXY = radius;
-}
+void SpDisLabel::setRoundXY(int radius) { d->roundXY = radius; }
 
 /** A new label without a parent, for loaders that only know this name. */
-SpDisLabel *SpDisLabel::GetInstance()
-{
-    return new SpDisLabel(nullptr);
-}
+SpDisLabel *SpDisLabel::GetInstance() { return new SpDisLabel(nullptr); }
 
 /** Deletes a label; a null pointer is fine. */
-void SpDisLabel::ReleaseInstance(SpDisLabel *p)
-{
-    delete p;
-}
+void SpDisLabel::ReleaseInstance(SpDisLabel *p) { delete p; }
 
 void SpDisLabel::setNormalText(const QString &text)
 {

@@ -30,10 +30,7 @@ constexpr int kCaptionRoom = 10; // px, in height beside its size and margin
 
 enum LayerNumber { FrameLayer, BaseLayer, StateLayer, PressLayer, LayerCount };
 
-int widgetLength(qint64 px)
-{
-    return int(qBound<qint64>(0, px, QWIDGETSIZE_MAX));
-}
+int widgetLength(qint64 px) { return int(qBound<qint64>(0, px, QWIDGETSIZE_MAX)); }
 
 bool isAnyTileAnimated = false; // ever, in this process
 
@@ -136,10 +133,7 @@ SpHomeIcon::SpHomeIcon(QWidget *parent) : QWidget(parent), d(std::make_unique<Pr
 /** The animation ends with its tile. */
 SpHomeIcon::~SpHomeIcon() = default;
 
-QPixmap SpHomeIcon::normalImage() const
-{
-    return d->normalImage;
-}
+QPixmap SpHomeIcon::normalImage() const { return d->normalImage; }
 
 /**
  * The picture of the tile at rest, as a copy of its own. The tile takes its size from it, makes its
@@ -151,57 +145,30 @@ void SpHomeIcon::setNormalImage(const QPixmap &image)
     resizeHomeIcon();
 }
 
-QPixmap SpHomeIcon::pressImage() const
-{
-    return d->pressImage;
-}
+QPixmap SpHomeIcon::pressImage() const { return d->pressImage; }
 
 /**
  * The picture while pressed, as a copy of its own. Stored only. The next normal picture or
  * imageAlpha replaces it, on purpose: only with an imageAlpha above 254 it is there to stay.
  */
-void SpHomeIcon::setPressImage(const QPixmap &image)
-{
-    d->pressImage = image.copy();
-}
+void SpHomeIcon::setPressImage(const QPixmap &image) { d->pressImage = image.copy(); }
 
-QPixmap SpHomeIcon::runningImage() const
-{
-    return d->runningImage;
-}
+QPixmap SpHomeIcon::runningImage() const { return d->runningImage; }
 
 /** The picture over the normal one while the application runs, as a copy. Stored only. */
-void SpHomeIcon::setRunningImage(const QPixmap &image)
-{
-    d->runningImage = image.copy();
-}
+void SpHomeIcon::setRunningImage(const QPixmap &image) { d->runningImage = image.copy(); }
 
-QPixmap SpHomeIcon::grayImage() const
-{
-    return d->grayImage;
-}
+QPixmap SpHomeIcon::grayImage() const { return d->grayImage; }
 
 /** The picture while the application is not ready, as a copy. Stored only. */
-void SpHomeIcon::setGrayImage(const QPixmap &image)
-{
-    d->grayImage = image.copy();
-}
+void SpHomeIcon::setGrayImage(const QPixmap &image) { d->grayImage = image.copy(); }
 
-QPixmap SpHomeIcon::switchImage() const
-{
-    return d->switchImage;
-}
+QPixmap SpHomeIcon::switchImage() const { return d->switchImage; }
 
 /** The picture over the normal one of the current source, as a copy. Stored only. */
-void SpHomeIcon::setSwitchImage(const QPixmap &image)
-{
-    d->switchImage = image.copy();
-}
+void SpHomeIcon::setSwitchImage(const QPixmap &image) { d->switchImage = image.copy(); }
 
-int SpHomeIcon::imageAlpha() const
-{
-    return d->imageAlpha;
-}
+int SpHomeIcon::imageAlpha() const { return d->imageAlpha; }
 
 /**
  * The alpha (0..255, 154 by default) of the black veil that makes the pressed picture from the
@@ -214,10 +181,7 @@ void SpHomeIcon::setImageAlpha(const int &alpha)
     d->renewPressImage();
 }
 
-QString SpHomeIcon::iconText() const
-{
-    return d->iconText;
-}
+QString SpHomeIcon::iconText() const { return d->iconText; }
 
 /** The caption; "Text" by default. Repaints. */
 void SpHomeIcon::setIconText(const QString &text)
@@ -226,21 +190,12 @@ void SpHomeIcon::setIconText(const QString &text)
     update();
 }
 
-QString SpHomeIcon::iconName() const
-{
-    return d->iconName;
-}
+QString SpHomeIcon::iconName() const { return d->iconName; }
 
 /** A name for the application's own use; "defaultName" by default. Stored only. */
-void SpHomeIcon::setIconName(const QString &name)
-{
-    d->iconName = name;
-}
+void SpHomeIcon::setIconName(const QString &name) { d->iconName = name; }
 
-QSize SpHomeIcon::iconSize() const
-{
-    return d->iconSize;
-}
+QSize SpHomeIcon::iconSize() const { return d->iconSize; }
 
 /**
  * The size into which all pictures are scaled; 122 x 122 by default. Repaints, but the tile keeps
@@ -252,10 +207,7 @@ void SpHomeIcon::setIconSize(const QSize &size)
     update();
 }
 
-QColor SpHomeIcon::fontColor() const
-{
-    return d->fontColor;
-}
+QColor SpHomeIcon::fontColor() const { return d->fontColor; }
 
 /** The colour of the caption; white by default. Repaints. */
 void SpHomeIcon::setFontColor(const QColor &color)
@@ -264,54 +216,27 @@ void SpHomeIcon::setFontColor(const QColor &color)
     update();
 }
 
-QColor SpHomeIcon::pressTextColor() const
-{
-    return d->pressTextColor;
-}
+QColor SpHomeIcon::pressTextColor() const { return d->pressTextColor; }
 
 /** The colour of the caption while pressed; white by default. Stored only. */
-void SpHomeIcon::setPressTextColor(const QColor &color)
-{
-    d->pressTextColor = color;
-}
+void SpHomeIcon::setPressTextColor(const QColor &color) { d->pressTextColor = color; }
 
-QColor SpHomeIcon::grayTextColor() const
-{
-    return d->grayTextColor;
-}
+QColor SpHomeIcon::grayTextColor() const { return d->grayTextColor; }
 
 /** The colour of the caption while not ready; white by default. Stored only. */
-void SpHomeIcon::setGrayTextColor(const QColor &color)
-{
-    d->grayTextColor = color;
-}
+void SpHomeIcon::setGrayTextColor(const QColor &color) { d->grayTextColor = color; }
 
-QColor SpHomeIcon::runningTextColor() const
-{
-    return d->runningTextColor;
-}
+QColor SpHomeIcon::runningTextColor() const { return d->runningTextColor; }
 
 /** The colour of the caption while running; white by default. Stored only. */
-void SpHomeIcon::setRunningTextColor(const QColor &color)
-{
-    d->runningTextColor = color;
-}
+void SpHomeIcon::setRunningTextColor(const QColor &color) { d->runningTextColor = color; }
 
-int SpHomeIcon::itemIndex() const
-{
-    return d->itemIndex;
-}
+int SpHomeIcon::itemIndex() const { return d->itemIndex; }
 
 /** The number that the signals carry; 0 by default. Stored only. */
-void SpHomeIcon::setItemIndex(const int &index)
-{
-    d->itemIndex = index;
-}
+void SpHomeIcon::setItemIndex(const int &index) { d->itemIndex = index; }
 
-bool SpHomeIcon::hideText() const
-{
-    return d->hideText;
-}
+bool SpHomeIcon::hideText() const { return d->hideText; }
 
 /**
  * Dims the normal picture of a still tile that has a pressed picture of its own and no running one.
@@ -323,10 +248,7 @@ void SpHomeIcon::setHideText(const bool &hide)
     update();
 }
 
-int SpHomeIcon::fontSize() const
-{
-    return d->fontSize;
-}
+int SpHomeIcon::fontSize() const { return d->fontSize; }
 
 /** The size of the caption in px; 22 by default. Resizes the tile. */
 void SpHomeIcon::setFontSize(const int &px)
@@ -335,10 +257,7 @@ void SpHomeIcon::setFontSize(const int &px)
     resizeHomeIcon();
 }
 
-int SpHomeIcon::textMargin() const
-{
-    return d->textMargin;
-}
+int SpHomeIcon::textMargin() const { return d->textMargin; }
 
 /** More height for the caption, in px; 10 by default. Resizes the tile. */
 void SpHomeIcon::setTextMargin(const int &margin)
@@ -347,24 +266,15 @@ void SpHomeIcon::setTextMargin(const int &margin)
     resizeHomeIcon();
 }
 
-int SpHomeIcon::textMarginH() const
-{
-    return d->textMarginH;
-}
+int SpHomeIcon::textMarginH() const { return d->textMarginH; }
 
 /**
  * How far, in px, the left edge of the caption's rectangle moves to the right or, negative, its
  * right edge to the left. Stored only.
  */
-void SpHomeIcon::setTextMarginH(const int &margin)
-{
-    d->textMarginH = margin;
-}
+void SpHomeIcon::setTextMarginH(const int &margin) { d->textMarginH = margin; }
 
-bool SpHomeIcon::textInPic() const
-{
-    return d->textInPic;
-}
+bool SpHomeIcon::textInPic() const { return d->textInPic; }
 
 /** Whether the caption is over the picture, without height of its own. Resizes the tile. */
 void SpHomeIcon::setTextInPic(const bool &inPicture)
@@ -373,21 +283,12 @@ void SpHomeIcon::setTextInPic(const bool &inPicture)
     resizeHomeIcon();
 }
 
-Qt::Alignment SpHomeIcon::textAlignment() const
-{
-    return d->textAlignment;
-}
+Qt::Alignment SpHomeIcon::textAlignment() const { return d->textAlignment; }
 
 /** How the caption stands in its rectangle; Qt::AlignCenter by default. Stored only. */
-void SpHomeIcon::setTextAlignment(Qt::Alignment alignment)
-{
-    d->textAlignment = alignment;
-}
+void SpHomeIcon::setTextAlignment(Qt::Alignment alignment) { d->textAlignment = alignment; }
 
-int SpHomeIcon::imageMarginH() const
-{
-    return d->imageMarginH;
-}
+int SpHomeIcon::imageMarginH() const { return d->imageMarginH; }
 
 /** Room left and right of the picture, in px. Resizes the tile. */
 void SpHomeIcon::setImageMarginH(const int &margin)
@@ -396,10 +297,7 @@ void SpHomeIcon::setImageMarginH(const int &margin)
     resizeHomeIcon();
 }
 
-QString SpHomeIcon::gifImage() const
-{
-    return d->gifImage;
-}
+QString SpHomeIcon::gifImage() const { return d->gifImage; }
 
 /**
  * The file of an animation, which starts at once, in the place of any before it; a path of less
@@ -421,10 +319,7 @@ void SpHomeIcon::setGifImage(QString path)
     isAnyTileAnimated = true;
 }
 
-int SpHomeIcon::gifSpeed() const
-{
-    return d->gifSpeed;
-}
+int SpHomeIcon::gifSpeed() const { return d->gifSpeed; }
 
 /** The speed of the animation in percent; 100 by default, 0 stands still. */
 void SpHomeIcon::setGifSpeed(int percent)
@@ -434,10 +329,7 @@ void SpHomeIcon::setGifSpeed(int percent)
         d->movie->setSpeed(percent);
 }
 
-QString SpHomeIcon::pressImgPath() const
-{
-    return d->pressImgPath;
-}
+QString SpHomeIcon::pressImgPath() const { return d->pressImgPath; }
 
 /**
  * The file of the pressed picture. It is loaded in the event loop after this call, without a
@@ -450,10 +342,7 @@ void SpHomeIcon::setPressImgPath(QString path)
         postKeyRequest(this, kPressIconRequest);
 }
 
-QString SpHomeIcon::grayImgPath() const
-{
-    return d->grayImgPath;
-}
+QString SpHomeIcon::grayImgPath() const { return d->grayImgPath; }
 
 /**
  * The file of the gray picture, loaded as the pressed one is. Whether it is depends on the path of
@@ -466,15 +355,9 @@ void SpHomeIcon::setGrayImgPath(QString path)
         postKeyRequest(this, kGrayIconRequest);
 }
 
-bool SpHomeIcon::getIsPressing() const
-{
-    return d->isPressing;
-}
+bool SpHomeIcon::getIsPressing() const { return d->isPressing; }
 
-bool SpHomeIcon::getIsReady() const
-{
-    return d->isReady;
-}
+bool SpHomeIcon::getIsReady() const { return d->isReady; }
 
 /** Whether the application behind the tile is ready; it is by default. Repaints. */
 void SpHomeIcon::setIsReady(bool ready)
@@ -483,10 +366,7 @@ void SpHomeIcon::setIsReady(bool ready)
     update();
 }
 
-bool SpHomeIcon::getIsRunning() const
-{
-    return d->isRunning;
-}
+bool SpHomeIcon::getIsRunning() const { return d->isRunning; }
 
 /** Whether the application behind the tile runs. Repaints. */
 void SpHomeIcon::setIsRunning(bool running)
@@ -495,10 +375,7 @@ void SpHomeIcon::setIsRunning(bool running)
     update();
 }
 
-bool SpHomeIcon::getIsSwitchSrc() const
-{
-    return d->isSwitchSrc;
-}
+bool SpHomeIcon::getIsSwitchSrc() const { return d->isSwitchSrc; }
 
 /** Whether the tile is the current source. Repaints. */
 void SpHomeIcon::setIsSwitchSrc(bool current)
@@ -507,10 +384,7 @@ void SpHomeIcon::setIsSwitchSrc(bool current)
     update();
 }
 
-bool SpHomeIcon::isDynamicUI()
-{
-    return isAnyTileAnimated;
-}
+bool SpHomeIcon::isDynamicUI() { return isAnyTileAnimated; }
 
 /**
  * Scales the source into an area of the size of iconSize at its own top left, and lays black of
@@ -614,10 +488,7 @@ void SpHomeIcon::hideEvent(QHideEvent *e)
 
 // Whether the pressed picture is the application's own and may look quite different, or is the
 // normal one, darker. In the second case there is no need for anything under it.
-bool SpHomeIcon::Private::hasOwnPressLook() const
-{
-    return imageAlpha > kStrongestVeil;
-}
+bool SpHomeIcon::Private::hasOwnPressLook() const { return imageAlpha > kStrongestVeil; }
 
 void SpHomeIcon::Private::renewPressImage()
 {

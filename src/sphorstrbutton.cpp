@@ -105,10 +105,7 @@ SpHorStrButton::SpHorStrButton(StrPosition pos, QString id, QString text, QStrin
 
 SpHorStrButton::~SpHorStrButton() = default;
 
-SpHorStrButton::StrPosition SpHorStrButton::stringPosition() const
-{
-    return d->stringPosition;
-}
+SpHorStrButton::StrPosition SpHorStrButton::stringPosition() const { return d->stringPosition; }
 
 /**
  * Where icon and string stand; StrLeft by default. Stored only. A value that is no StrPosition
@@ -119,21 +116,12 @@ void SpHorStrButton::setStringPosition(const StrPosition &position)
     d->stringPosition = position;
 }
 
-QString SpHorStrButton::buttonId() const
-{
-    return d->buttonId;
-}
+QString SpHorStrButton::buttonId() const { return d->buttonId; }
 
 /** The text that clicked carries; "0" by default. Stored only. */
-void SpHorStrButton::setButtonId(const QString &id)
-{
-    d->buttonId = id;
-}
+void SpHorStrButton::setButtonId(const QString &id) { d->buttonId = id; }
 
-QString SpHorStrButton::displayString() const
-{
-    return d->displayString;
-}
+QString SpHorStrButton::displayString() const { return d->displayString; }
 
 /** The string; "default" by default. It is not shortened, only clipped. Repaints. */
 void SpHorStrButton::setDisplayString(const QString &text)
@@ -142,10 +130,7 @@ void SpHorStrButton::setDisplayString(const QString &text)
     update();
 }
 
-QPixmap SpHorStrButton::normalPixmap() const
-{
-    return d->normalPixmap;
-}
+QPixmap SpHorStrButton::normalPixmap() const { return d->normalPixmap; }
 
 /**
  * The icon shown normally. Its size becomes that of the icon rectangle, into which the other icons
@@ -161,32 +146,17 @@ void SpHorStrButton::setNormalPixmap(const QPixmap &pixmap)
     update();
 }
 
-QPixmap SpHorStrButton::pressPixmap() const
-{
-    return d->pressPixmap;
-}
+QPixmap SpHorStrButton::pressPixmap() const { return d->pressPixmap; }
 
 /** The icon shown while pressed; without it there is none then. Stored only. */
-void SpHorStrButton::setPressPixmap(const QPixmap &pixmap)
-{
-    d->pressPixmap = pixmap;
-}
+void SpHorStrButton::setPressPixmap(const QPixmap &pixmap) { d->pressPixmap = pixmap; }
 
-QPixmap SpHorStrButton::disablePixmap() const
-{
-    return d->disablePixmap;
-}
+QPixmap SpHorStrButton::disablePixmap() const { return d->disablePixmap; }
 
 /** The icon shown while disabled; without it the normal one is darkened. Stored only. */
-void SpHorStrButton::setDisablePixmap(const QPixmap &pixmap)
-{
-    d->disablePixmap = pixmap;
-}
+void SpHorStrButton::setDisablePixmap(const QPixmap &pixmap) { d->disablePixmap = pixmap; }
 
-QColor SpHorStrButton::normalTextColor() const
-{
-    return d->normalTextColor;
-}
+QColor SpHorStrButton::normalTextColor() const { return d->normalTextColor; }
 
 /** The colour of the string; white by default. Repaints. */
 void SpHorStrButton::setNormalTextColor(const QColor &color)
@@ -195,10 +165,7 @@ void SpHorStrButton::setNormalTextColor(const QColor &color)
     update();
 }
 
-QColor SpHorStrButton::pressTextColor() const
-{
-    return d->pressTextColor;
-}
+QColor SpHorStrButton::pressTextColor() const { return d->pressTextColor; }
 
 /** The colour of the string while pressed; red by default. Repaints. */
 void SpHorStrButton::setPressTextColor(const QColor &color)
@@ -207,66 +174,39 @@ void SpHorStrButton::setPressTextColor(const QColor &color)
     update();
 }
 
-int SpHorStrButton::textTopMargin() const
-{
-    return d->textTopMargin;
-}
+int SpHorStrButton::textTopMargin() const { return d->textTopMargin; }
 
 /**
  * A distance in px by which the layout moves down; it counts only with a textHeight. In StrLeft it
  * moves the icon, in every other layout the string, on purpose: forms rely on it. Stored only.
  */
-void SpHorStrButton::setTextTopMargin(int margin)
-{
-    d->textTopMargin = margin;
-}
+void SpHorStrButton::setTextTopMargin(int margin) { d->textTopMargin = margin; }
 
-int SpHorStrButton::textHeight() const
-{
-    return d->textHeight;
-}
+int SpHorStrButton::textHeight() const { return d->textHeight; }
 
 /**
  * The height of the string's rectangle in px; 0 (the default) or less: that of the button, or in
  * StrCenter that of the icon. Stored only.
  */
-void SpHorStrButton::setTextHeight(int height)
-{
-    d->textHeight = height;
-}
+void SpHorStrButton::setTextHeight(int height) { d->textHeight = height; }
 
-int SpHorStrButton::textLeftMargin() const
-{
-    return d->textLeftMargin;
-}
+int SpHorStrButton::textLeftMargin() const { return d->textLeftMargin; }
 
 /**
  * The distance in px by which the string's rectangle moves to the right; it counts only with a
  * textWidth. Stored only.
  */
-void SpHorStrButton::setTextLeftMargin(int margin)
-{
-    d->textLeftMargin = margin;
-}
+void SpHorStrButton::setTextLeftMargin(int margin) { d->textLeftMargin = margin; }
 
-int SpHorStrButton::textWidth() const
-{
-    return d->textWidth;
-}
+int SpHorStrButton::textWidth() const { return d->textWidth; }
 
 /**
  * The width of the string's rectangle in px; 0 (the default) or less: what the icon and a gap of
  * 10 px leave of the button, or in StrCenter the width of the icon. Stored only.
  */
-void SpHorStrButton::setTextWidth(int width)
-{
-    d->textWidth = width;
-}
+void SpHorStrButton::setTextWidth(int width) { d->textWidth = width; }
 
-QString SpHorStrButton::getButtonId()
-{
-    return d->buttonId;
-}
+QString SpHorStrButton::getButtonId() { return d->buttonId; }
 
 /**
  * Disables the button in software: it looks disabled and a press neither shows nor sounds, but a

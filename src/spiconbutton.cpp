@@ -98,24 +98,15 @@ SpIconButton::SpIconButton(QWidget *parent)
 
 SpIconButton::~SpIconButton() = default;
 
-SpIconButton::ShowMode SpIconButton::showMode() const
-{
-    return d->showMode;
-}
+SpIconButton::ShowMode SpIconButton::showMode() const { return d->showMode; }
 
 /**
  * How the pressed and focused looks are made; HighlightMode by default. Stored only: it shows at
  * the next paint. Set it before pressImage, which AlphaMode ignores.
  */
-void SpIconButton::setShowMode(const ShowMode &mode)
-{
-    d->showMode = mode;
-}
+void SpIconButton::setShowMode(const ShowMode &mode) { d->showMode = mode; }
 
-SpIconButton::DisableMode SpIconButton::disableMode() const
-{
-    return d->disableMode;
-}
+SpIconButton::DisableMode SpIconButton::disableMode() const { return d->disableMode; }
 
 /**
  * How the disabled look is made; Show_NormalImageAlpha by default. Repaints. A value that is no
@@ -127,10 +118,7 @@ void SpIconButton::setDisableMode(const DisableMode &mode)
     setDisableImage(d->disableImage);
 }
 
-QPixmap SpIconButton::normalImage() const
-{
-    return d->normalImage;
-}
+QPixmap SpIconButton::normalImage() const { return d->normalImage; }
 
 /**
  * The picture shown normally. Its size becomes the size of the image rectangle, into which every
@@ -147,10 +135,7 @@ void SpIconButton::setNormalImage(const QPixmap &image)
     update();
 }
 
-QPixmap SpIconButton::pressImage() const
-{
-    return d->pressImage;
-}
+QPixmap SpIconButton::pressImage() const { return d->pressImage; }
 
 /**
  * The picture shown while pressed, in HighlightMode; without it the normal picture stays. Stored
@@ -162,10 +147,7 @@ void SpIconButton::setPressImage(const QPixmap &image)
         d->pressImage = image;
 }
 
-QPixmap SpIconButton::disableImage() const
-{
-    return d->disableImage;
-}
+QPixmap SpIconButton::disableImage() const { return d->disableImage; }
 
 /** The picture of the disabled look in Show_DisableImage. Repaints. */
 void SpIconButton::setDisableImage(const QPixmap &image)
@@ -174,52 +156,31 @@ void SpIconButton::setDisableImage(const QPixmap &image)
     update();
 }
 
-QPixmap SpIconButton::focusPixmap() const
-{
-    return d->focusPixmap;
-}
+QPixmap SpIconButton::focusPixmap() const { return d->focusPixmap; }
 
 /**
  * The picture shown while isFocus is set and the button is not pressed, in HighlightMode; without
  * it the normal picture stays. Stored only.
  */
-void SpIconButton::setFocusPixmap(const QPixmap &pixmap)
-{
-    d->focusPixmap = pixmap;
-}
+void SpIconButton::setFocusPixmap(const QPixmap &pixmap) { d->focusPixmap = pixmap; }
 
-int SpIconButton::imageAlpha() const
-{
-    return d->imageAlpha;
-}
+int SpIconButton::imageAlpha() const { return d->imageAlpha; }
 
 /**
  * The alpha (0..255, 154 by default) of the black veil over the pressed and focused looks in
  * AlphaMode. Stored only. A value out of range leaves the picture without veil.
  */
-void SpIconButton::setImageAlpha(const int &alpha)
-{
-    d->imageAlpha = alpha;
-}
+void SpIconButton::setImageAlpha(const int &alpha) { d->imageAlpha = alpha; }
 
-int SpIconButton::disableAlpha() const
-{
-    return d->disableAlpha;
-}
+int SpIconButton::disableAlpha() const { return d->disableAlpha; }
 
 /**
  * The alpha (0..255, 154 by default) of the black veil over the disabled look in
  * Show_NormalImageAlpha. Stored only. A value out of range leaves the picture without veil.
  */
-void SpIconButton::setDisableAlpha(const int &alpha)
-{
-    d->disableAlpha = alpha;
-}
+void SpIconButton::setDisableAlpha(const int &alpha) { d->disableAlpha = alpha; }
 
-bool SpIconButton::disableState() const
-{
-    return d->disableState;
-}
+bool SpIconButton::disableState() const { return d->disableState; }
 
 /**
  * Disables the button in software: it looks disabled and ignores touches, but its enabled state as
@@ -232,10 +193,7 @@ void SpIconButton::setDisableState(const bool &disabled)
     update();
 }
 
-bool SpIconButton::isFocus() const
-{
-    return d->isFocus;
-}
+bool SpIconButton::isFocus() const { return d->isFocus; }
 
 /**
  * Sets the focused look. Repaints. The name is that of QWidget::setFocus() on purpose, whose
@@ -247,25 +205,16 @@ void SpIconButton::setFocus(const bool &focused)
     update();
 }
 
-bool SpIconButton::supportLongPress() const
-{
-    return d->supportLongPress;
-}
+bool SpIconButton::supportLongPress() const { return d->supportLongPress; }
 
 /**
  * Switches long presses on; off by default. Stored only. Switch it on before timerInterval is set,
  * which is ignored without it; the order of the properties does so by itself.
  */
-void SpIconButton::setSupportLongPress(bool supported)
-{
-    d->supportLongPress = supported;
-}
+void SpIconButton::setSupportLongPress(bool supported) { d->supportLongPress = supported; }
 
 /** The delay to the first long press in ms (1000 by default), or -1 without supportLongPress. */
-int SpIconButton::timerInterval() const
-{
-    return d->supportLongPress ? d->timerInterval : -1;
-}
+int SpIconButton::timerInterval() const { return d->supportLongPress ? d->timerInterval : -1; }
 
 /**
  * The delay in ms from the press to the first btnLongPress. Stored only, and ignored while
@@ -277,35 +226,20 @@ void SpIconButton::setTimerInterval(const int &interval)
         d->timerInterval = interval;
 }
 
-int SpIconButton::getTimerInt2() const
-{
-    return d->timerInterval2;
-}
+int SpIconButton::getTimerInt2() const { return d->timerInterval2; }
 
 /**
  * The interval in ms between further long presses of one touch: negative (-1 by default) for none,
  * 0 to go on with timerInterval. Stored only.
  */
-void SpIconButton::setTimerInt2(int interval)
-{
-    d->timerInterval2 = interval;
-}
+void SpIconButton::setTimerInt2(int interval) { d->timerInterval2 = interval; }
 
-QString SpIconButton::buttonID() const
-{
-    return d->buttonID;
-}
+QString SpIconButton::buttonID() const { return d->buttonID; }
 
 /** The text that every signal carries; "SpIconButton_ID" by default. Stored only. */
-void SpIconButton::setButtonID(const QString &id)
-{
-    d->buttonID = id;
-}
+void SpIconButton::setButtonID(const QString &id) { d->buttonID = id; }
 
-QString SpIconButton::displayText() const
-{
-    return d->displayText;
-}
+QString SpIconButton::displayText() const { return d->displayText; }
 
 /** The caption. It is neither shortened nor wrapped, and clipped to its rectangle. Repaints. */
 void SpIconButton::setDisplayText(const QString &text)
@@ -314,10 +248,7 @@ void SpIconButton::setDisplayText(const QString &text)
     update();
 }
 
-QColor SpIconButton::normalTextColor() const
-{
-    return d->normalTextColor;
-}
+QColor SpIconButton::normalTextColor() const { return d->normalTextColor; }
 
 /** The colour of the caption of an enabled button; white by default. Repaints. */
 void SpIconButton::setNormalTextColor(const QColor &color)
@@ -326,87 +257,42 @@ void SpIconButton::setNormalTextColor(const QColor &color)
     update();
 }
 
-QColor SpIconButton::pressTextColor() const
-{
-    return d->pressTextColor;
-}
+QColor SpIconButton::pressTextColor() const { return d->pressTextColor; }
 
 /** The colour of the caption while pressed; red by default. Stored only. */
-void SpIconButton::setPressTextColor(const QColor &color)
-{
-    d->pressTextColor = color;
-}
+void SpIconButton::setPressTextColor(const QColor &color) { d->pressTextColor = color; }
 
-QColor SpIconButton::disableTextColor() const
-{
-    return d->disableTextColor;
-}
+QColor SpIconButton::disableTextColor() const { return d->disableTextColor; }
 
 /** The colour of the caption while disabled; white of alpha 154 by default. Stored only. */
-void SpIconButton::setDisableTextColor(const QColor &color)
-{
-    d->disableTextColor = color;
-}
+void SpIconButton::setDisableTextColor(const QColor &color) { d->disableTextColor = color; }
 
-QColor SpIconButton::focusTextColor() const
-{
-    return d->focusTextColor;
-}
+QColor SpIconButton::focusTextColor() const { return d->focusTextColor; }
 
 /** The colour of the caption while isFocus is set; white by default. Stored only. */
-void SpIconButton::setFocusTextColor(const QColor &color)
-{
-    d->focusTextColor = color;
-}
+void SpIconButton::setFocusTextColor(const QColor &color) { d->focusTextColor = color; }
 
-int SpIconButton::textTopMargin() const
-{
-    return d->textTopMargin;
-}
+int SpIconButton::textTopMargin() const { return d->textTopMargin; }
 
 /** The distance in px from the top to the caption; counts only with a textHeight. Stored only. */
-void SpIconButton::setTextTopMargin(int margin)
-{
-    d->textTopMargin = margin;
-}
+void SpIconButton::setTextTopMargin(int margin) { d->textTopMargin = margin; }
 
-int SpIconButton::textHeight() const
-{
-    return d->textHeight;
-}
+int SpIconButton::textHeight() const { return d->textHeight; }
 
 /** The height of the caption in px; 0 (the default) or less: the whole height. Stored only. */
-void SpIconButton::setTextHeight(int height)
-{
-    d->textHeight = height;
-}
+void SpIconButton::setTextHeight(int height) { d->textHeight = height; }
 
-int SpIconButton::textLeftMargin() const
-{
-    return d->textLeftMargin;
-}
+int SpIconButton::textLeftMargin() const { return d->textLeftMargin; }
 
 /** The distance in px from the left to the caption; counts only with a textWidth. Stored only. */
-void SpIconButton::setTextLeftMargin(int margin)
-{
-    d->textLeftMargin = margin;
-}
+void SpIconButton::setTextLeftMargin(int margin) { d->textLeftMargin = margin; }
 
-int SpIconButton::textWidth() const
-{
-    return d->textWidth;
-}
+int SpIconButton::textWidth() const { return d->textWidth; }
 
 /** The width of the caption in px; 0 (the default) or less: the whole width. Stored only. */
-void SpIconButton::setTextWidth(int width)
-{
-    d->textWidth = width;
-}
+void SpIconButton::setTextWidth(int width) { d->textWidth = width; }
 
-Qt::Alignment SpIconButton::textAlign() const
-{
-    return d->textAlign;
-}
+Qt::Alignment SpIconButton::textAlign() const { return d->textAlign; }
 
 /** How the caption stands in its rectangle; Qt::AlignCenter by default. Repaints. */
 void SpIconButton::setTextAlign(Qt::Alignment alignment)
@@ -415,21 +301,12 @@ void SpIconButton::setTextAlign(Qt::Alignment alignment)
     update();
 }
 
-bool SpIconButton::isBeep()
-{
-    return d->isBeep;
-}
+bool SpIconButton::isBeep() { return d->isBeep; }
 
 /** Whether a press asks the application for a click sound; on by default. Stored only. */
-void SpIconButton::setIsBeep(bool beep)
-{
-    d->isBeep = beep;
-}
+void SpIconButton::setIsBeep(bool beep) { d->isBeep = beep; }
 
-QString SpIconButton::pressImgPath() const
-{
-    return d->pressImgPath;
-}
+QString SpIconButton::pressImgPath() const { return d->pressImgPath; }
 
 /**
  * The file of the pressed picture. It is read when the event loop runs again, not in this call, and
@@ -444,21 +321,12 @@ void SpIconButton::setPressImgPath(QString path)
 }
 
 /** A new button without a parent, for loaders that only know this name. */
-SpIconButton *SpIconButton::GetInstance()
-{
-    return new SpIconButton(nullptr);
-}
+SpIconButton *SpIconButton::GetInstance() { return new SpIconButton(nullptr); }
 
 /** Deletes a button; a null pointer is fine. */
-void SpIconButton::ReleaseInstance(SpIconButton *p)
-{
-    delete p;
-}
+void SpIconButton::ReleaseInstance(SpIconButton *p) { delete p; }
 
-bool SpIconButton::isDown() const
-{
-    return d->isDown;
-}
+bool SpIconButton::isDown() const { return d->isDown; }
 
 /** Sets the pressed look, without signals; this is how a latched button is let go. Repaints. */
 void SpIconButton::setIsDown(bool down)
@@ -467,16 +335,10 @@ void SpIconButton::setIsDown(bool down)
     update();
 }
 
-bool SpIconButton::isLock() const
-{
-    return d->isLock;
-}
+bool SpIconButton::isLock() const { return d->isLock; }
 
 /** Makes the button latch: it keeps its pressed look after the release. Stored only. */
-void SpIconButton::setIsLock(bool lock)
-{
-    d->isLock = lock;
-}
+void SpIconButton::setIsLock(bool lock) { d->isLock = lock; }
 
 /**
  * Starts the wait for a long press, anew from timerInterval, if supportLongPress is on; otherwise,
@@ -545,10 +407,7 @@ void SpIconButton::mousePressEvent(QMouseEvent *e)
 }
 
 /** Moving never ends a press: where the finger is lifted decides. */
-void SpIconButton::mouseMoveEvent(QMouseEvent *e)
-{
-    QWidget::mouseMoveEvent(e);
-}
+void SpIconButton::mouseMoveEvent(QMouseEvent *e) { QWidget::mouseMoveEvent(e); }
 
 /**
  * A release near the press emits btnClicked, or btnLongRelease once a long press has fired; then
@@ -605,10 +464,7 @@ void SpIconButton::longPressSlot()
     emit btnLongPress(d->buttonID);
 }
 
-bool SpIconButton::Private::isDrawnEnabled() const
-{
-    return !disableState && q->isEnabled();
-}
+bool SpIconButton::Private::isDrawnEnabled() const { return !disableState && q->isEnabled(); }
 
 bool SpIconButton::Private::isNearPress(const QPoint &pos) const
 {
@@ -616,10 +472,7 @@ bool SpIconButton::Private::isNearPress(const QPoint &pos) const
         && distance(pos.y(), pressPos.y()) < kClickSlop;
 }
 
-QRect SpIconButton::Private::imageRect() const
-{
-    return centredTowardZero(imageSize, q->rect());
-}
+QRect SpIconButton::Private::imageRect() const { return centredTowardZero(imageSize, q->rect()); }
 
 // A margin counts only together with the size on its axis; without one the caption spans the
 // widget, so that a caption needs no numbers at all to be centred.

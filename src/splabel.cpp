@@ -38,10 +38,7 @@ SpLabel::SpLabel(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>
 
 SpLabel::~SpLabel() = default;
 
-QPixmap SpLabel::image() const
-{
-    return d->image;
-}
+QPixmap SpLabel::image() const { return d->image; }
 
 /**
  * The picture. Its size becomes the minimum size of the label, which then repaints. A null picture
@@ -57,19 +54,13 @@ void SpLabel::setImage(const QPixmap &image)
     update();
 }
 
-int SpLabel::imageAlpha() const
-{
-    return d->imageAlpha;
-}
+int SpLabel::imageAlpha() const { return d->imageAlpha; }
 
 /**
  * The alpha of the black veil: 154 by default, 0 for the picture as it is, 255 for black. A value
  * out of range becomes the nearest of these. Stored only: it shows at the next paint.
  */
-void SpLabel::setImageAlpha(const int &alpha)
-{
-    d->imageAlpha = std::clamp(alpha, 0, 255);
-}
+void SpLabel::setImageAlpha(const int &alpha) { d->imageAlpha = std::clamp(alpha, 0, 255); }
 
 void SpLabel::paintEvent(QPaintEvent *)
 {

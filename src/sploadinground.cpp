@@ -48,10 +48,7 @@ SpLoadingRound::SpLoadingRound(QWidget *parent)
 {
 }
 
-QColor SpLoadingRound::painterColor() const
-{
-    return d->painterColor;
-}
+QColor SpLoadingRound::painterColor() const { return d->painterColor; }
 
 /** The colour of the spokes, white by default; its alpha does not count. Repaints. */
 void SpLoadingRound::setPainterColor(const QColor &color)
@@ -62,10 +59,7 @@ void SpLoadingRound::setPainterColor(const QColor &color)
 
 SpLoadingRound::~SpLoadingRound() = default;
 
-int SpLoadingRound::radius() const
-{
-    return d->radius;
-}
+int SpLoadingRound::radius() const { return d->radius; }
 
 /** The outer radius in px, without its sign; 30 by default. Repaints. */
 void SpLoadingRound::setRadius(const int &radius)
@@ -74,10 +68,7 @@ void SpLoadingRound::setRadius(const int &radius)
     update();
 }
 
-int SpLoadingRound::index() const
-{
-    return d->index;
-}
+int SpLoadingRound::index() const { return d->index; }
 
 /** The step of the rotation modulo 12; a negative one stays negative, on purpose. Repaints. */
 void SpLoadingRound::setIndex(const int &index)
@@ -86,16 +77,10 @@ void SpLoadingRound::setIndex(const int &index)
     update();
 }
 
-bool SpLoadingRound::holdMouseEvent() const
-{
-    return d->holdMouseEvent;
-}
+bool SpLoadingRound::holdMouseEvent() const { return d->holdMouseEvent; }
 
 /** Whether touches end here instead of going on to the parent; off by default. Stored only. */
-void SpLoadingRound::setholdMouseEvent(const bool &hold)
-{
-    d->holdMouseEvent = hold;
-}
+void SpLoadingRound::setholdMouseEvent(const bool &hold) { d->holdMouseEvent = hold; }
 
 /** The shape of the spokes, EllipseStyle by default and for a value that is none. Stored only. */
 void SpLoadingRound::setDrawStyle(SpLoadingRound::DrawStyle style)

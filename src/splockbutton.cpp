@@ -51,24 +51,15 @@ SpLockButton::SpLockButton(QWidget *parent)
 
 SpLockButton::~SpLockButton() = default;
 
-SpLockButton::ShowMode SpLockButton::showMode() const
-{
-    return d->showMode;
-}
+SpLockButton::ShowMode SpLockButton::showMode() const { return d->showMode; }
 
 /**
  * Where the picture of the down state comes from; AlphaMode by default. Stored only: the picture
  * stays the one that is there. Set it before normalImage and pressImage.
  */
-void SpLockButton::setShowMode(const ShowMode &mode)
-{
-    d->showMode = mode;
-}
+void SpLockButton::setShowMode(const ShowMode &mode) { d->showMode = mode; }
 
-SpLockButton::DisableMode SpLockButton::disableMode() const
-{
-    return d->disableMode;
-}
+SpLockButton::DisableMode SpLockButton::disableMode() const { return d->disableMode; }
 
 /**
  * Where the picture of the disabled look comes from; Show_NormalImage by default. Works that
@@ -81,10 +72,7 @@ void SpLockButton::setDisableMode(const DisableMode &mode)
     setDisableImage(QPixmap(d->disableImage));
 }
 
-QPixmap SpLockButton::normalImage() const
-{
-    return d->normalImage;
-}
+QPixmap SpLockButton::normalImage() const { return d->normalImage; }
 
 /**
  * The picture shown while up. Its size becomes that of the image rectangle and the minimum size of
@@ -103,10 +91,7 @@ void SpLockButton::setNormalImage(const QPixmap &image)
     update();
 }
 
-QPixmap SpLockButton::pressImage() const
-{
-    return d->pressImage;
-}
+QPixmap SpLockButton::pressImage() const { return d->pressImage; }
 
 /** The picture shown while down. Stored only, and ignored in AlphaMode, on purpose: it is made. */
 void SpLockButton::setPressImage(const QPixmap &image)
@@ -115,10 +100,7 @@ void SpLockButton::setPressImage(const QPixmap &image)
         d->pressImage = image;
 }
 
-QPixmap SpLockButton::disableImage() const
-{
-    return d->disableImage;
-}
+QPixmap SpLockButton::disableImage() const { return d->disableImage; }
 
 /**
  * The picture of the disabled look, unless disableMode has another one: then the normal picture of
@@ -134,10 +116,7 @@ void SpLockButton::setDisableImage(const QPixmap &image)
     update();
 }
 
-int SpLockButton::imageAlpha() const
-{
-    return d->imageAlpha;
-}
+int SpLockButton::imageAlpha() const { return d->imageAlpha; }
 
 /**
  * The alpha (0..255, 154 by default) that AlphaMode leaves of the normal picture while down. The
@@ -150,10 +129,7 @@ void SpLockButton::setImageAlpha(const int &alpha)
         setPressImageAlpha(d->imageAlpha, d->normalImage, d->pressImage);
 }
 
-int SpLockButton::disableAlpha() const
-{
-    return d->disableAlpha;
-}
+int SpLockButton::disableAlpha() const { return d->disableAlpha; }
 
 /**
  * The alpha (0..255, 154 by default) that Show_NormalImageAlpha leaves of the normal picture. Works
@@ -165,10 +141,7 @@ void SpLockButton::setDisableAlpha(const int &alpha)
     setDisableImage(QPixmap(d->disableImage));
 }
 
-bool SpLockButton::disableState() const
-{
-    return d->disableState;
-}
+bool SpLockButton::disableState() const { return d->disableState; }
 
 /**
  * Disables the button in software: it looks disabled and keeps its state whatever touches it. Its
@@ -180,10 +153,7 @@ void SpLockButton::setDisableState(const bool &disabled)
     update();
 }
 
-bool SpLockButton::isDown() const
-{
-    return d->isDown;
-}
+bool SpLockButton::isDown() const { return d->isDown; }
 
 /** Sets the latched state without a signal. Repaints. */
 void SpLockButton::setIsDown(bool down)
@@ -192,60 +162,30 @@ void SpLockButton::setIsDown(bool down)
     update();
 }
 
-QString SpLockButton::buttonID() const
-{
-    return d->buttonID;
-}
+QString SpLockButton::buttonID() const { return d->buttonID; }
 
 /** The text that both signals carry; "SpLockButton_ID" by default. Stored only. */
-void SpLockButton::setButtonID(const QString &id)
-{
-    d->buttonID = id;
-}
+void SpLockButton::setButtonID(const QString &id) { d->buttonID = id; }
 
-QString SpLockButton::displayText() const
-{
-    return d->displayText;
-}
+QString SpLockButton::displayText() const { return d->displayText; }
 
 /** The caption in the middle of the widget, neither shortened nor wrapped. Stored only. */
-void SpLockButton::setDisplayText(const QString &text)
-{
-    d->displayText = text;
-}
+void SpLockButton::setDisplayText(const QString &text) { d->displayText = text; }
 
-QColor SpLockButton::normalTextColor() const
-{
-    return d->normalTextColor;
-}
+QColor SpLockButton::normalTextColor() const { return d->normalTextColor; }
 
 /** The colour of the caption while up; white by default. Stored only. */
-void SpLockButton::setNormalTextColor(const QColor &color)
-{
-    d->normalTextColor = color;
-}
+void SpLockButton::setNormalTextColor(const QColor &color) { d->normalTextColor = color; }
 
-QColor SpLockButton::pressTextColor() const
-{
-    return d->pressTextColor;
-}
+QColor SpLockButton::pressTextColor() const { return d->pressTextColor; }
 
 /** The colour of the caption while down; red by default. Stored only. */
-void SpLockButton::setPressTextColor(const QColor &color)
-{
-    d->pressTextColor = color;
-}
+void SpLockButton::setPressTextColor(const QColor &color) { d->pressTextColor = color; }
 
-QColor SpLockButton::disableTextColor() const
-{
-    return d->disableTextColor;
-}
+QColor SpLockButton::disableTextColor() const { return d->disableTextColor; }
 
 /** The colour of the caption while disabled; grey (100, 100, 100) by default. Stored only. */
-void SpLockButton::setDisableTextColor(const QColor &color)
-{
-    d->disableTextColor = color;
-}
+void SpLockButton::setDisableTextColor(const QColor &color) { d->disableTextColor = color; }
 
 /** Sets the size of the widget's font in px; sizes below 1 are ignored. */
 void SpLockButton::setFontSize(int px)

@@ -20,10 +20,7 @@ SpMaskBackground::SpMaskBackground(QWidget *parent)
 {
 }
 
-QColor SpMaskBackground::painterColor() const
-{
-    return d->painterColor;
-}
+QColor SpMaskBackground::painterColor() const { return d->painterColor; }
 
 /** The colour of the mask, black by default; its alpha makes it translucent. Repaints. */
 void SpMaskBackground::setPainterColor(const QColor &color)
@@ -34,10 +31,7 @@ void SpMaskBackground::setPainterColor(const QColor &color)
 
 SpMaskBackground::~SpMaskBackground() = default;
 
-int SpMaskBackground::roundX() const
-{
-    return d->roundX;
-}
+int SpMaskBackground::roundX() const { return d->roundX; }
 
 /** The radius of the corners to the sides, in px; 0 by default. Repaints. */
 void SpMaskBackground::setRoundX(const int &radius)
@@ -46,10 +40,7 @@ void SpMaskBackground::setRoundX(const int &radius)
     update();
 }
 
-int SpMaskBackground::roundY() const
-{
-    return d->roundY;
-}
+int SpMaskBackground::roundY() const { return d->roundY; }
 
 /** The radius of the corners up and down, in px; 0 by default. Repaints. */
 void SpMaskBackground::setRoundY(const int &radius)
@@ -58,16 +49,10 @@ void SpMaskBackground::setRoundY(const int &radius)
     update();
 }
 
-bool SpMaskBackground::holdMouseEvent() const
-{
-    return d->holdMouseEvent;
-}
+bool SpMaskBackground::holdMouseEvent() const { return d->holdMouseEvent; }
 
 /** Whether touches end here instead of going on to the parent; off by default. Stored only. */
-void SpMaskBackground::setholdMouseEvent(const bool &hold)
-{
-    d->holdMouseEvent = hold;
-}
+void SpMaskBackground::setholdMouseEvent(const bool &hold) { d->holdMouseEvent = hold; }
 
 /** Corners are round only if both radii are above 0. */
 void SpMaskBackground::paintEvent(QPaintEvent *)

@@ -70,10 +70,7 @@ void replaceEntry(QList<QPixmap> &images, int state, const QPixmap &image)
         images.append(image);
 }
 
-bool canBeStates(int normal, int press)
-{
-    return normal == press && normal <= kMostStates;
-}
+bool canBeStates(int normal, int press) { return normal == press && normal <= kMostStates; }
 
 QList<QPixmap> fromFiles(const QList<QString> &paths)
 {
@@ -126,21 +123,12 @@ SpMultipleButton::SpMultipleButton(QWidget *parent)
 
 SpMultipleButton::~SpMultipleButton() = default;
 
-int SpMultipleButton::buttonId() const
-{
-    return d->buttonId;
-}
+int SpMultipleButton::buttonId() const { return d->buttonId; }
 
 /** The number that clicked carries; 0 by default. Stored only. */
-void SpMultipleButton::setButtonId(int id)
-{
-    d->buttonId = id;
-}
+void SpMultipleButton::setButtonId(int id) { d->buttonId = id; }
 
-int SpMultipleButton::totalValue() const
-{
-    return d->totalValue;
-}
+int SpMultipleButton::totalValue() const { return d->totalValue; }
 
 /**
  * The number of states; 20 by default. Stored if it is above 0 and there are as many normal
@@ -155,10 +143,7 @@ void SpMultipleButton::setTotalValue(int v)
     checkData();
 }
 
-int SpMultipleButton::currentValue() const
-{
-    return d->currentValue;
-}
+int SpMultipleButton::currentValue() const { return d->currentValue; }
 
 /** The state that is shown, from 0; others than there are, are ignored. Repaints in every case. */
 void SpMultipleButton::setCurrentValue(int v)
@@ -168,10 +153,7 @@ void SpMultipleButton::setCurrentValue(int v)
     update();
 }
 
-bool SpMultipleButton::disableState() const
-{
-    return d->disableState;
-}
+bool SpMultipleButton::disableState() const { return d->disableState; }
 
 /**
  * Disables the button in software: it is dimmed to half its opacity and ignores touches, which
@@ -184,10 +166,7 @@ void SpMultipleButton::setDisableState(bool disabled)
     checkData();
 }
 
-QPixmap SpMultipleButton::backgroundImage() const
-{
-    return d->backgroundImage;
-}
+QPixmap SpMultipleButton::backgroundImage() const { return d->backgroundImage; }
 
 /**
  * The picture under every state, shown even while the set is incomplete. Its size becomes the
@@ -200,94 +179,43 @@ void SpMultipleButton::setBackgroundImage(QPixmap image)
         setMinimumSize(image.size());
 }
 
-QPixmap SpMultipleButton::normalImage0() const
-{
-    return d->normalImages.value(0);
-}
+QPixmap SpMultipleButton::normalImage0() const { return d->normalImages.value(0); }
 
 /**
  * The pictures of the first eight states; the digit is the state. The set is checked anew, without
  * a repaint. Where a list that was set as a whole has no such entry, the picture becomes its last.
  */
-void SpMultipleButton::setNormalImage0(QPixmap image)
-{
-    d->replaceNormalImage(0, image);
-}
+void SpMultipleButton::setNormalImage0(QPixmap image) { d->replaceNormalImage(0, image); }
 
-QPixmap SpMultipleButton::normalImage1() const
-{
-    return d->normalImages.value(1);
-}
+QPixmap SpMultipleButton::normalImage1() const { return d->normalImages.value(1); }
 
-void SpMultipleButton::setNormalImage1(QPixmap image)
-{
-    d->replaceNormalImage(1, image);
-}
+void SpMultipleButton::setNormalImage1(QPixmap image) { d->replaceNormalImage(1, image); }
 
-QPixmap SpMultipleButton::normalImage2() const
-{
-    return d->normalImages.value(2);
-}
+QPixmap SpMultipleButton::normalImage2() const { return d->normalImages.value(2); }
 
-void SpMultipleButton::setNormalImage2(QPixmap image)
-{
-    d->replaceNormalImage(2, image);
-}
+void SpMultipleButton::setNormalImage2(QPixmap image) { d->replaceNormalImage(2, image); }
 
-QPixmap SpMultipleButton::normalImage3() const
-{
-    return d->normalImages.value(3);
-}
+QPixmap SpMultipleButton::normalImage3() const { return d->normalImages.value(3); }
 
-void SpMultipleButton::setNormalImage3(QPixmap image)
-{
-    d->replaceNormalImage(3, image);
-}
+void SpMultipleButton::setNormalImage3(QPixmap image) { d->replaceNormalImage(3, image); }
 
-QPixmap SpMultipleButton::normalImage4() const
-{
-    return d->normalImages.value(4);
-}
+QPixmap SpMultipleButton::normalImage4() const { return d->normalImages.value(4); }
 
-void SpMultipleButton::setNormalImage4(QPixmap image)
-{
-    d->replaceNormalImage(4, image);
-}
+void SpMultipleButton::setNormalImage4(QPixmap image) { d->replaceNormalImage(4, image); }
 
-QPixmap SpMultipleButton::normalImage5() const
-{
-    return d->normalImages.value(5);
-}
+QPixmap SpMultipleButton::normalImage5() const { return d->normalImages.value(5); }
 
-void SpMultipleButton::setNormalImage5(QPixmap image)
-{
-    d->replaceNormalImage(5, image);
-}
+void SpMultipleButton::setNormalImage5(QPixmap image) { d->replaceNormalImage(5, image); }
 
-QPixmap SpMultipleButton::normalImage6() const
-{
-    return d->normalImages.value(6);
-}
+QPixmap SpMultipleButton::normalImage6() const { return d->normalImages.value(6); }
 
-void SpMultipleButton::setNormalImage6(QPixmap image)
-{
-    d->replaceNormalImage(6, image);
-}
+void SpMultipleButton::setNormalImage6(QPixmap image) { d->replaceNormalImage(6, image); }
 
-QPixmap SpMultipleButton::normalImage7() const
-{
-    return d->normalImages.value(7);
-}
+QPixmap SpMultipleButton::normalImage7() const { return d->normalImages.value(7); }
 
-void SpMultipleButton::setNormalImage7(QPixmap image)
-{
-    d->replaceNormalImage(7, image);
-}
+void SpMultipleButton::setNormalImage7(QPixmap image) { d->replaceNormalImage(7, image); }
 
-QPixmap SpMultipleButton::pressImage0() const
-{
-    return d->pressImages.value(0);
-}
+QPixmap SpMultipleButton::pressImage0() const { return d->pressImages.value(0); }
 
 /**
  * The pressed pictures of the first eight states, like the normal ones. That of state 0 alone also
@@ -303,75 +231,33 @@ void SpMultipleButton::setPressImage0(QPixmap image)
     d->replacePressImage(0, image);
 }
 
-QPixmap SpMultipleButton::pressImage1() const
-{
-    return d->pressImages.value(1);
-}
+QPixmap SpMultipleButton::pressImage1() const { return d->pressImages.value(1); }
 
-void SpMultipleButton::setPressImage1(QPixmap image)
-{
-    d->replacePressImage(1, image);
-}
+void SpMultipleButton::setPressImage1(QPixmap image) { d->replacePressImage(1, image); }
 
-QPixmap SpMultipleButton::pressImage2() const
-{
-    return d->pressImages.value(2);
-}
+QPixmap SpMultipleButton::pressImage2() const { return d->pressImages.value(2); }
 
-void SpMultipleButton::setPressImage2(QPixmap image)
-{
-    d->replacePressImage(2, image);
-}
+void SpMultipleButton::setPressImage2(QPixmap image) { d->replacePressImage(2, image); }
 
-QPixmap SpMultipleButton::pressImage3() const
-{
-    return d->pressImages.value(3);
-}
+QPixmap SpMultipleButton::pressImage3() const { return d->pressImages.value(3); }
 
-void SpMultipleButton::setPressImage3(QPixmap image)
-{
-    d->replacePressImage(3, image);
-}
+void SpMultipleButton::setPressImage3(QPixmap image) { d->replacePressImage(3, image); }
 
-QPixmap SpMultipleButton::pressImage4() const
-{
-    return d->pressImages.value(4);
-}
+QPixmap SpMultipleButton::pressImage4() const { return d->pressImages.value(4); }
 
-void SpMultipleButton::setPressImage4(QPixmap image)
-{
-    d->replacePressImage(4, image);
-}
+void SpMultipleButton::setPressImage4(QPixmap image) { d->replacePressImage(4, image); }
 
-QPixmap SpMultipleButton::pressImage5() const
-{
-    return d->pressImages.value(5);
-}
+QPixmap SpMultipleButton::pressImage5() const { return d->pressImages.value(5); }
 
-void SpMultipleButton::setPressImage5(QPixmap image)
-{
-    d->replacePressImage(5, image);
-}
+void SpMultipleButton::setPressImage5(QPixmap image) { d->replacePressImage(5, image); }
 
-QPixmap SpMultipleButton::pressImage6() const
-{
-    return d->pressImages.value(6);
-}
+QPixmap SpMultipleButton::pressImage6() const { return d->pressImages.value(6); }
 
-void SpMultipleButton::setPressImage6(QPixmap image)
-{
-    d->replacePressImage(6, image);
-}
+void SpMultipleButton::setPressImage6(QPixmap image) { d->replacePressImage(6, image); }
 
-QPixmap SpMultipleButton::pressImage7() const
-{
-    return d->pressImages.value(7);
-}
+QPixmap SpMultipleButton::pressImage7() const { return d->pressImages.value(7); }
 
-void SpMultipleButton::setPressImage7(QPixmap image)
-{
-    d->replacePressImage(7, image);
-}
+void SpMultipleButton::setPressImage7(QPixmap image) { d->replacePressImage(7, image); }
 
 /**
  * All pictures at once, up to 20 states: lists of different lengths or longer ones are ignored. The
@@ -403,10 +289,7 @@ void SpMultipleButton::setPixmapList(
 }
 
 /** Whether a click advances the state; on by default. Stored only. */
-void SpMultipleButton::setAutoChange(bool change)
-{
-    d->autoChange = change;
-}
+void SpMultipleButton::setAutoChange(bool change) { d->autoChange = change; }
 
 /**
  * Checks the set: it is complete when both lists have the same length, reach as far as the number

@@ -97,10 +97,7 @@ SpRollingText::SpRollingText(QWidget *parent) : QWidget(parent), d(std::make_uni
 
 SpRollingText::~SpRollingText() = default;
 
-QString SpRollingText::text() const
-{
-    return d->text;
-}
+QString SpRollingText::text() const { return d->text; }
 
 /**
  * Shows a text, from its start: as it is if it fits, to the pixel; otherwise rolling or, with
@@ -126,10 +123,7 @@ void SpRollingText::setText(QString text)
     update();
 }
 
-int SpRollingText::fontSize() const
-{
-    return d->fontSize;
-}
+int SpRollingText::fontSize() const { return d->fontSize; }
 
 /**
  * Sets the size of the widget's font in px; below 1 it is stored and the font stays. It reads 20
@@ -141,32 +135,17 @@ void SpRollingText::setFontSize(int size)
     d->fontSize = size;
 }
 
-QColor SpRollingText::textColor() const
-{
-    return d->textColor;
-}
+QColor SpRollingText::textColor() const { return d->textColor; }
 
 /** The colour of the text; white by default. Stored only. */
-void SpRollingText::setTextColor(QColor color)
-{
-    d->textColor = color;
-}
+void SpRollingText::setTextColor(QColor color) { d->textColor = color; }
 
-Qt::Alignment SpRollingText::textAlignment() const
-{
-    return d->textAlignment;
-}
+Qt::Alignment SpRollingText::textAlignment() const { return d->textAlignment; }
 
 /** Where the text stands; in the middle by default. Stored only. */
-void SpRollingText::setTextAlignment(Qt::Alignment alignment)
-{
-    d->textAlignment = alignment;
-}
+void SpRollingText::setTextAlignment(Qt::Alignment alignment) { d->textAlignment = alignment; }
 
-bool SpRollingText::dropShodow() const
-{
-    return d->dropShadow;
-}
+bool SpRollingText::dropShodow() const { return d->dropShadow; }
 
 /** Whether effectDropShadow() lays a shadow under the text; off by default. Calls it. */
 void SpRollingText::setDropShodow(bool on)
@@ -175,10 +154,7 @@ void SpRollingText::setDropShodow(bool on)
     effectDropShadow();
 }
 
-QColor SpRollingText::shadowColor() const
-{
-    return d->shadowColor;
-}
+QColor SpRollingText::shadowColor() const { return d->shadowColor; }
 
 /** The colour of the shadow; black by default. Calls effectDropShadow(). */
 void SpRollingText::setShadowColor(QColor color)
@@ -187,10 +163,7 @@ void SpRollingText::setShadowColor(QColor color)
     effectDropShadow();
 }
 
-QPointF SpRollingText::shadowOffset() const
-{
-    return d->shadowOffset;
-}
+QPointF SpRollingText::shadowOffset() const { return d->shadowOffset; }
 
 /** How far the shadow falls, in px; (2, 2) by default. Calls effectDropShadow(). */
 void SpRollingText::setShadowOffset(QPointF offset)
@@ -199,10 +172,7 @@ void SpRollingText::setShadowOffset(QPointF offset)
     effectDropShadow();
 }
 
-bool SpRollingText::autoRoll() const
-{
-    return d->autoRoll;
-}
+bool SpRollingText::autoRoll() const { return d->autoRoll; }
 
 /** Whether a text that is too wide rolls; on by default. Lays the text out again. */
 void SpRollingText::setAutoRoll(bool on)

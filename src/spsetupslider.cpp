@@ -83,54 +83,27 @@ SpSetupSlider::SpSetupSlider(QWidget *parent) : QWidget(parent), d(std::make_uni
 
 SpSetupSlider::~SpSetupSlider() = default;
 
-bool SpSetupSlider::getHasAddDecBtn() const
-{
-    return d->hasAddDecBtn;
-}
+bool SpSetupSlider::getHasAddDecBtn() const { return d->hasAddDecBtn; }
 
 /** Whether there is a button at either end of the track. Stored only, so set it first. */
-void SpSetupSlider::setHasAddDecBtn(int has)
-{
-    d->hasAddDecBtn = has != 0;
-}
+void SpSetupSlider::setHasAddDecBtn(int has) { d->hasAddDecBtn = has != 0; }
 
-QPixmap SpSetupSlider::sliderNormalImage() const
-{
-    return d->sliderNormalImage;
-}
+QPixmap SpSetupSlider::sliderNormalImage() const { return d->sliderNormalImage; }
 
 /** The track; it gives the slider its height. Stored only. */
-void SpSetupSlider::setSliderNormalImage(const QPixmap &image)
-{
-    d->sliderNormalImage = image;
-}
+void SpSetupSlider::setSliderNormalImage(const QPixmap &image) { d->sliderNormalImage = image; }
 
-QPixmap SpSetupSlider::sliderPressImage() const
-{
-    return d->sliderPressImage;
-}
+QPixmap SpSetupSlider::sliderPressImage() const { return d->sliderPressImage; }
 
 /** The filled track, of which the part below the middle of the knob shows. Stored only. */
-void SpSetupSlider::setSliderPressImage(const QPixmap &image)
-{
-    d->sliderPressImage = image;
-}
+void SpSetupSlider::setSliderPressImage(const QPixmap &image) { d->sliderPressImage = image; }
 
-QPixmap SpSetupSlider::pointNormalImage() const
-{
-    return d->pointNormalImage;
-}
+QPixmap SpSetupSlider::pointNormalImage() const { return d->pointNormalImage; }
 
 /** The knob. Stored only. */
-void SpSetupSlider::setPointNormalImage(const QPixmap &image)
-{
-    d->pointNormalImage = image;
-}
+void SpSetupSlider::setPointNormalImage(const QPixmap &image) { d->pointNormalImage = image; }
 
-QPixmap SpSetupSlider::pointPressImage() const
-{
-    return d->pointPressImage;
-}
+QPixmap SpSetupSlider::pointPressImage() const { return d->pointPressImage; }
 
 /**
  * The knob while touched; without it the other one stays. The last picture of a slider without
@@ -145,43 +118,22 @@ void SpSetupSlider::setPointPressImage(const QPixmap &image)
     update();
 }
 
-QPixmap SpSetupSlider::addBtnNormalImage() const
-{
-    return d->addBtnNormalImage;
-}
+QPixmap SpSetupSlider::addBtnNormalImage() const { return d->addBtnNormalImage; }
 
 /** The button that adds one, above the track. Stored only. */
-void SpSetupSlider::setAddBtnNormalImage(const QPixmap &image)
-{
-    d->addBtnNormalImage = image;
-}
+void SpSetupSlider::setAddBtnNormalImage(const QPixmap &image) { d->addBtnNormalImage = image; }
 
-QPixmap SpSetupSlider::addBtnPressImage() const
-{
-    return d->addBtnPressImage;
-}
+QPixmap SpSetupSlider::addBtnPressImage() const { return d->addBtnPressImage; }
 
 /** The button that adds one, pressed. Stored only. */
-void SpSetupSlider::setAddBtnPressImage(const QPixmap &image)
-{
-    d->addBtnPressImage = image;
-}
+void SpSetupSlider::setAddBtnPressImage(const QPixmap &image) { d->addBtnPressImage = image; }
 
-QPixmap SpSetupSlider::decBtnNormalImage() const
-{
-    return d->decBtnNormalImage;
-}
+QPixmap SpSetupSlider::decBtnNormalImage() const { return d->decBtnNormalImage; }
 
 /** The button that takes one off, below the track. Stored only. */
-void SpSetupSlider::setDecBtnNormalImage(const QPixmap &image)
-{
-    d->decBtnNormalImage = image;
-}
+void SpSetupSlider::setDecBtnNormalImage(const QPixmap &image) { d->decBtnNormalImage = image; }
 
-QPixmap SpSetupSlider::decBtnPressImage() const
-{
-    return d->decBtnPressImage;
-}
+QPixmap SpSetupSlider::decBtnPressImage() const { return d->decBtnPressImage; }
 
 /**
  * The button that takes one off, pressed. The last picture of a slider with buttons: with it the
@@ -196,43 +148,22 @@ void SpSetupSlider::setDecBtnPressImage(const QPixmap &image)
     update();
 }
 
-int SpSetupSlider::itemID() const
-{
-    return d->itemID;
-}
+int SpSetupSlider::itemID() const { return d->itemID; }
 
 /** The number that every signal carries. Stored only. */
-void SpSetupSlider::setItemID(int id)
-{
-    d->itemID = id;
-}
+void SpSetupSlider::setItemID(int id) { d->itemID = id; }
 
-int SpSetupSlider::maxValue() const
-{
-    return d->maxValue;
-}
+int SpSetupSlider::maxValue() const { return d->maxValue; }
 
 /** The largest value, at the top; 5 by default. Stored only. */
-void SpSetupSlider::setMaxValue(int value)
-{
-    d->maxValue = value;
-}
+void SpSetupSlider::setMaxValue(int value) { d->maxValue = value; }
 
-int SpSetupSlider::getMinValue() const
-{
-    return d->minValue;
-}
+int SpSetupSlider::getMinValue() const { return d->minValue; }
 
 /** The smallest value, at the bottom; -5 by default. Stored only. */
-void SpSetupSlider::setMinValue(int value)
-{
-    d->minValue = value;
-}
+void SpSetupSlider::setMinValue(int value) { d->minValue = value; }
 
-int SpSetupSlider::currentValue() const
-{
-    return d->currentValue;
-}
+int SpSetupSlider::currentValue() const { return d->currentValue; }
 
 /**
  * Sets and shows the value, without a signal. Accepted from -maxValue to maxValue whatever minValue
@@ -247,10 +178,7 @@ void SpSetupSlider::setCurrentValue(int value)
     setTouchPos(d->currentValue);
 }
 
-int SpSetupSlider::topValue() const
-{
-    return d->topValue;
-}
+int SpSetupSlider::topValue() const { return d->topValue; }
 
 /**
  * Shows a second number at the top of the widget. It takes its place from the current width; the
@@ -266,10 +194,7 @@ void SpSetupSlider::setTopValue(int value)
     d->topLabel->setText(QString::number(d->topValue));
 }
 
-QFont SpSetupSlider::getFont() const
-{
-    return d->font;
-}
+QFont SpSetupSlider::getFont() const { return d->font; }
 
 /** The font of the value; the name hides that of the widget's own font, on purpose. */
 void SpSetupSlider::setFont(const QFont &font)

@@ -31,10 +31,7 @@ SpSetupSliderContainer::SpSetupSliderContainer(QWidget *parent)
 
 SpSetupSliderContainer::~SpSetupSliderContainer() = default;
 
-int SpSetupSliderContainer::totalNumber() const
-{
-    return d->totalNumber;
-}
+int SpSetupSliderContainer::totalNumber() const { return d->totalNumber; }
 
 /**
  * How many sliders there are; 2 by default. If there are more or fewer points than that, both lists
@@ -55,10 +52,7 @@ void SpSetupSliderContainer::setTotalNumber(int number)
     }
 }
 
-QList<QPointF> SpSetupSliderContainer::getPointList() const
-{
-    return d->pointList;
-}
+QList<QPointF> SpSetupSliderContainer::getPointList() const { return d->pointList; }
 
 /** Replaces the points, whatever their number is. Repaints. */
 void SpSetupSliderContainer::setPointList(QList<QPointF> list)
@@ -67,16 +61,10 @@ void SpSetupSliderContainer::setPointList(QList<QPointF> list)
     update();
 }
 
-QList<int> SpSetupSliderContainer::getValueList() const
-{
-    return d->valueList;
-}
+QList<int> SpSetupSliderContainer::getValueList() const { return d->valueList; }
 
 /** Replaces the values, whatever their number is. */
-void SpSetupSliderContainer::setValueList(QList<int> list)
-{
-    d->valueList = std::move(list);
-}
+void SpSetupSliderContainer::setValueList(QList<int> list) { d->valueList = std::move(list); }
 
 /** Hands a slider's valueChangeSig on as valueChangedSig, without the position of the knob. */
 void SpSetupSliderContainer::valueChangeSlot(int id, int value, QPoint)
@@ -85,15 +73,9 @@ void SpSetupSliderContainer::valueChangeSlot(int id, int value, QPoint)
 }
 
 /** Hands a slider's saveDataSig on. */
-void SpSetupSliderContainer::saveDataSlot()
-{
-    emit saveDataSig();
-}
+void SpSetupSliderContainer::saveDataSlot() { emit saveDataSig(); }
 
-void SpSetupSliderContainer::paintEvent(QPaintEvent *e)
-{
-    QWidget::paintEvent(e);
-}
+void SpSetupSliderContainer::paintEvent(QPaintEvent *e) { QWidget::paintEvent(e); }
 
 /** A press marks where a swipe starts; it goes on to the parent. */
 void SpSetupSliderContainer::mousePressEvent(QMouseEvent *e)

@@ -52,10 +52,7 @@ QString scrollBarStyleSheet()
     return QString::fromUtf8(file.readAll().constData());
 }
 
-bool isWithin(qint64 value, qint64 first, qint64 last)
-{
-    return first <= value && value <= last;
-}
+bool isWithin(qint64 value, qint64 first, qint64 last) { return first <= value && value <= last; }
 
 // While it lives, a view does not scroll by itself to the row that becomes the current one. The
 // view's own handlers would do that on a press and on moves, and rows would slip away from under
@@ -178,10 +175,7 @@ SpTableList::SpTableList(QWidget *parent) : QTableView(parent), d(std::make_uniq
 
 SpTableList::~SpTableList() = default;
 
-int SpTableList::itemHeight() const
-{
-    return d->itemHeight;
-}
+int SpTableList::itemHeight() const { return d->itemHeight; }
 
 /**
  * The height of every row in px; 10 by default, although the rows of a new list have the height
@@ -194,10 +188,7 @@ void SpTableList::setItemHeight(const int &height)
     verticalHeader()->setDefaultSectionSize(height);
 }
 
-int SpTableList::itemWidth() const
-{
-    return d->itemWidth;
-}
+int SpTableList::itemWidth() const { return d->itemWidth; }
 
 /** The width of the rows in px, from which click positions count; else like itemHeight. */
 void SpTableList::setItemWidth(const int &width)
@@ -254,10 +245,7 @@ void SpTableList::setPressColor(const QColor &color)
         d->delegate->setPressColor(color);
 }
 
-bool SpTableList::useDefaultStyle() const
-{
-    return d->useDefaultStyle;
-}
+bool SpTableList::useDefaultStyle() const { return d->useDefaultStyle; }
 
 /** With false the rows are not painted: they stay blank. True by default. Stored only. */
 void SpTableList::setUseDefaultStyle(bool use)
@@ -291,10 +279,7 @@ void SpTableList::setPressImage(QPixmap image)
         d->delegate->setPressPix(image);
 }
 
-int SpTableList::headerIconGain() const
-{
-    return d->delegate ? d->delegate->headerIconGain() : 20;
-}
+int SpTableList::headerIconGain() const { return d->delegate ? d->delegate->headerIconGain() : 20; }
 
 /** The distance in px from the left of the row to the header icon. Stored only. */
 void SpTableList::setHeaderIconGain(const int &gain)
@@ -315,10 +300,7 @@ void SpTableList::setHeaderIconWidth(const int &width)
         d->delegate->setHeaderIconWidth(width);
 }
 
-int SpTableList::centerStrGain() const
-{
-    return d->delegate ? d->delegate->centerStrGain() : 15;
-}
+int SpTableList::centerStrGain() const { return d->delegate ? d->delegate->centerStrGain() : 15; }
 
 /** The distance in px from the header to the centre text. Stored only. */
 void SpTableList::setCenterStrGain(const int &gain)
@@ -327,10 +309,7 @@ void SpTableList::setCenterStrGain(const int &gain)
         d->delegate->setCenterStrGain(gain);
 }
 
-int SpTableList::tailIconGain() const
-{
-    return d->delegate ? d->delegate->tailIconGain() : 47;
-}
+int SpTableList::tailIconGain() const { return d->delegate ? d->delegate->tailIconGain() : 47; }
 
 /** The distance in px from the tail icon to the right of the row. Stored only. */
 void SpTableList::setTailIconGain(const int &gain)
@@ -339,10 +318,7 @@ void SpTableList::setTailIconGain(const int &gain)
         d->delegate->setTailIconGain(gain);
 }
 
-int SpTableList::tailIconWidth() const
-{
-    return d->delegate ? d->delegate->tailIconWidth() : 0;
-}
+int SpTableList::tailIconWidth() const { return d->delegate ? d->delegate->tailIconWidth() : 0; }
 
 /** The width of the tail icon for touches in px, in LIST_STYLE_2 and LIST_STYLE_4. Stored only. */
 void SpTableList::setTailIconWidth(const int &width)
@@ -351,10 +327,7 @@ void SpTableList::setTailIconWidth(const int &width)
         d->delegate->setTailIconWidth(width);
 }
 
-int SpTableList::pixmapGain() const
-{
-    return d->delegate ? d->delegate->pixmapGain() : 0;
-}
+int SpTableList::pixmapGain() const { return d->delegate ? d->delegate->pixmapGain() : 0; }
 
 /** The x of the background in its row in px; LIST_STYLE_2 ignores it. Stored only. */
 void SpTableList::setPixmapGain(const int &gain)
@@ -363,10 +336,7 @@ void SpTableList::setPixmapGain(const int &gain)
         d->delegate->setPixmapGain(gain);
 }
 
-int SpTableList::tailStrWidth() const
-{
-    return d->delegate ? d->delegate->tailStrWidth() : 100;
-}
+int SpTableList::tailStrWidth() const { return d->delegate ? d->delegate->tailStrWidth() : 100; }
 
 /** The width of the tail text in px, which ends at the right of the row. Stored only. */
 void SpTableList::setTailStrWidth(const int &width)
@@ -387,30 +357,18 @@ void SpTableList::setUIStyle(SpTableList::LIST_STYLE style)
         d->delegate->setStyle(style);
 }
 
-bool SpTableList::getHighlightFlag() const
-{
-    return d->highlightFlag;
-}
+bool SpTableList::getHighlightFlag() const { return d->highlightFlag; }
 
 /**
  * In highlight mode a clicked row stays pressed until it is clicked again or another one is.
  * haveItemSelect tells after every touch whether one is. Off by default. Stored only.
  */
-void SpTableList::setHighlightFlag(bool highlight)
-{
-    d->highlightFlag = highlight;
-}
+void SpTableList::setHighlightFlag(bool highlight) { d->highlightFlag = highlight; }
 
-bool SpTableList::getBIsBeep() const
-{
-    return d->isBeep;
-}
+bool SpTableList::getBIsBeep() const { return d->isBeep; }
 
 /** Whether a press on a row asks the application for a click sound; on by default. */
-void SpTableList::setBIsBeep(bool beep)
-{
-    d->isBeep = beep;
-}
+void SpTableList::setBIsBeep(bool beep) { d->isBeep = beep; }
 
 /** The largest x in px at which a press highlights a row in highlight mode; 512 by default. */
 void SpTableList::setTailRectX(int x)
@@ -426,10 +384,7 @@ void SpTableList::setCenterTextFlag(int flag)
         d->delegate->setCenterTextFlag(flag);
 }
 
-void SpTableList::setModel(QAbstractItemModel *model)
-{
-    QTableView::setModel(model);
-}
+void SpTableList::setModel(QAbstractItemModel *model) { QTableView::setModel(model); }
 
 /**
  * Deletes the selection model, and the one that each header has made for itself: a view makes new
@@ -447,10 +402,7 @@ void SpTableList::deleteSelectionModel()
  * The time within the current minute, 0..59999 ms. Touches are timed with it as it is: one that
  * spans a full minute has a negative duration, and is neither a click nor a fling.
  */
-unsigned int SpTableList::getCurrentTime()
-{
-    return unsigned(minuteClock());
-}
+unsigned int SpTableList::getCurrentTime() { return unsigned(minuteClock()); }
 
 /** Lets the texts of a new content roll at once. Connect it to the model's modelReset(). */
 void SpTableList::listModelReset()
@@ -657,15 +609,9 @@ bool SpTableList::Private::isThere(const PlainIndex &plain) const
         && plain.model->hasIndex(plain.index.row(), plain.index.column(), q->rootIndex());
 }
 
-bool SpTableList::Private::rollsTexts() const
-{
-    return q->UIStyle() == LIST_STYLE_3;
-}
+bool SpTableList::Private::rollsTexts() const { return q->UIStyle() == LIST_STYLE_3; }
 
-bool SpTableList::Private::showsRowPressed() const
-{
-    return delegate && delegate->itemPressed();
-}
+bool SpTableList::Private::showsRowPressed() const { return delegate && delegate->itemPressed(); }
 
 void SpTableList::Private::showRowPressed(bool pressed, const QPoint &pos)
 {

@@ -64,10 +64,7 @@ SpVerStrButton::SpVerStrButton(QWidget *parent)
 
 SpVerStrButton::~SpVerStrButton() = default;
 
-QPixmap SpVerStrButton::normalPixmap() const
-{
-    return d->normalPixmap;
-}
+QPixmap SpVerStrButton::normalPixmap() const { return d->normalPixmap; }
 
 /**
  * The icon shown normally. Its size becomes that of the icon rectangle, into which the pressed and
@@ -84,10 +81,7 @@ void SpVerStrButton::setNormalPixmap(const QPixmap &pixmap)
     update();
 }
 
-QPixmap SpVerStrButton::pressPixmap() const
-{
-    return d->pressPixmap;
-}
+QPixmap SpVerStrButton::pressPixmap() const { return d->pressPixmap; }
 
 /** The icon shown while down; without it there is none then. Repaints. */
 void SpVerStrButton::setPressPixmap(const QPixmap &pixmap)
@@ -96,35 +90,20 @@ void SpVerStrButton::setPressPixmap(const QPixmap &pixmap)
     update();
 }
 
-QPixmap SpVerStrButton::disablePixmap() const
-{
-    return d->disablePixmap;
-}
+QPixmap SpVerStrButton::disablePixmap() const { return d->disablePixmap; }
 
 /**
  * The icon shown while disabled, at its own size with its top at that of the button; without it
  * there is none then. Stored only.
  */
-void SpVerStrButton::setDisablePixmap(const QPixmap &pixmap)
-{
-    d->disablePixmap = pixmap;
-}
+void SpVerStrButton::setDisablePixmap(const QPixmap &pixmap) { d->disablePixmap = pixmap; }
 
-QPixmap SpVerStrButton::focusPixmap() const
-{
-    return d->focusPixmap;
-}
+QPixmap SpVerStrButton::focusPixmap() const { return d->focusPixmap; }
 
 /** The icon shown while focused; without it there is none then. Stored only. */
-void SpVerStrButton::setFocusPixmap(const QPixmap &pixmap)
-{
-    d->focusPixmap = pixmap;
-}
+void SpVerStrButton::setFocusPixmap(const QPixmap &pixmap) { d->focusPixmap = pixmap; }
 
-QString SpVerStrButton::displayString() const
-{
-    return d->displayString;
-}
+QString SpVerStrButton::displayString() const { return d->displayString; }
 
 /** The string; "Text" by default. It is not shortened, only clipped. Repaints. */
 void SpVerStrButton::setDisplayString(const QString &text)
@@ -133,94 +112,49 @@ void SpVerStrButton::setDisplayString(const QString &text)
     update();
 }
 
-QColor SpVerStrButton::normalColor() const
-{
-    return d->normalColor;
-}
+QColor SpVerStrButton::normalColor() const { return d->normalColor; }
 
 /** The colour of the string; black by default. Stored only. */
-void SpVerStrButton::setNormalColor(const QColor &color)
-{
-    d->normalColor = color;
-}
+void SpVerStrButton::setNormalColor(const QColor &color) { d->normalColor = color; }
 
-QColor SpVerStrButton::pressColor() const
-{
-    return d->pressColor;
-}
+QColor SpVerStrButton::pressColor() const { return d->pressColor; }
 
 /** The colour of the string while down; red by default. Stored only. */
-void SpVerStrButton::setPressColor(const QColor &color)
-{
-    d->pressColor = color;
-}
+void SpVerStrButton::setPressColor(const QColor &color) { d->pressColor = color; }
 
-QColor SpVerStrButton::focusTextColor() const
-{
-    return d->focusTextColor;
-}
+QColor SpVerStrButton::focusTextColor() const { return d->focusTextColor; }
 
 /** The colour of the string while focused; white by default. Stored only. */
-void SpVerStrButton::setFocusTextColor(const QColor &color)
-{
-    d->focusTextColor = color;
-}
+void SpVerStrButton::setFocusTextColor(const QColor &color) { d->focusTextColor = color; }
 
-int SpVerStrButton::buttonId() const
-{
-    return d->buttonId;
-}
+int SpVerStrButton::buttonId() const { return d->buttonId; }
 
 /** The number that the signals carry; -1 by default. Stored only. */
-void SpVerStrButton::setButtonId(int id)
-{
-    d->buttonId = id;
-}
+void SpVerStrButton::setButtonId(int id) { d->buttonId = id; }
 
-int SpVerStrButton::widgetGain() const
-{
-    return d->widgetGain;
-}
+int SpVerStrButton::widgetGain() const { return d->widgetGain; }
 
 /**
  * The gap in px between icon and string; 5 by default. Stored only. A negative one selects another
  * layout: the icon is centred alone, and the string stands as far down as an icon at the very top
  * with this gap would put it, so that it overlaps.
  */
-void SpVerStrButton::setWidgetGain(int gap)
-{
-    d->widgetGain = gap;
-}
+void SpVerStrButton::setWidgetGain(int gap) { d->widgetGain = gap; }
 
-int SpVerStrButton::stringHeight() const
-{
-    return d->stringHeight;
-}
+int SpVerStrButton::stringHeight() const { return d->stringHeight; }
 
 /** The height in px that is reserved for the string; 16 by default. Stored only. */
-void SpVerStrButton::setStringHeight(int height)
-{
-    d->stringHeight = height;
-}
+void SpVerStrButton::setStringHeight(int height) { d->stringHeight = height; }
 
-bool SpVerStrButton::disable() const
-{
-    return d->disable;
-}
+bool SpVerStrButton::disable() const { return d->disable; }
 
 /**
  * Disables the button in software: it looks disabled and ignores touches, which still end here. The
  * enabled state as a QWidget plays no part. Stored only.
  */
-void SpVerStrButton::setDisable(bool disabled)
-{
-    d->disable = disabled;
-}
+void SpVerStrButton::setDisable(bool disabled) { d->disable = disabled; }
 
-bool SpVerStrButton::isDown() const
-{
-    return d->isDown;
-}
+bool SpVerStrButton::isDown() const { return d->isDown; }
 
 /** Sets the pressed look, without a signal; this is how a latched button is let go. Repaints. */
 void SpVerStrButton::setIsDown(bool down)
@@ -229,21 +163,12 @@ void SpVerStrButton::setIsDown(bool down)
     update();
 }
 
-bool SpVerStrButton::isLock() const
-{
-    return d->isLock;
-}
+bool SpVerStrButton::isLock() const { return d->isLock; }
 
 /** Makes the button latch: it keeps its pressed look after the release. Stored only. */
-void SpVerStrButton::setIsLock(bool lock)
-{
-    d->isLock = lock;
-}
+void SpVerStrButton::setIsLock(bool lock) { d->isLock = lock; }
 
-bool SpVerStrButton::isFocus() const
-{
-    return d->isFocus;
-}
+bool SpVerStrButton::isFocus() const { return d->isFocus; }
 
 /**
  * Sets the focused look. Repaints. The name is that of QWidget::setFocus() on purpose, whose
@@ -255,19 +180,13 @@ void SpVerStrButton::setFocus(bool focused)
     update();
 }
 
-int SpVerStrButton::fontSize() const
-{
-    return d->fontSize;
-}
+int SpVerStrButton::fontSize() const { return d->fontSize; }
 
 /**
  * The size of the string in px; 20 by default. Stored only. Below 1 the string has the size of the
  * application's font.
  */
-void SpVerStrButton::setFontSize(int px)
-{
-    d->fontSize = px;
-}
+void SpVerStrButton::setFontSize(int px) { d->fontSize = px; }
 
 void SpVerStrButton::paintEvent(QPaintEvent *)
 {

@@ -215,10 +215,7 @@ styleDelegate::styleDelegate(QObject *parent)
 
 styleDelegate::~styleDelegate() = default;
 
-QFont styleDelegate::centerFont() const
-{
-    return d->centerFont;
-}
+QFont styleDelegate::centerFont() const { return d->centerFont; }
 
 /**
  * The font of the centre text; the application's by default. The small first part of LIST_STYLE_6
@@ -232,10 +229,7 @@ void styleDelegate::setCenterFont(const QFont &font)
     d->smallFont = resized(font, font.pointSize() - kSmallerBy);
 }
 
-QFont styleDelegate::tailFont() const
-{
-    return d->tailFont;
-}
+QFont styleDelegate::tailFont() const { return d->tailFont; }
 
 /** The font of the tail text and of the header number; the application's by default. */
 void styleDelegate::setTailFont(const QFont &font)
@@ -244,180 +238,84 @@ void styleDelegate::setTailFont(const QFont &font)
     d->grayTailFont = resized(font, kGrayTailSize);
 }
 
-QColor styleDelegate::hightColor() const
-{
-    return d->hightColor;
-}
+QColor styleDelegate::hightColor() const { return d->hightColor; }
 
 /** The colour of the texts of a row that the model marks; invalid by default, which is black. */
-void styleDelegate::setHightColor(const QColor &color)
-{
-    d->hightColor = color;
-}
+void styleDelegate::setHightColor(const QColor &color) { d->hightColor = color; }
 
-QColor styleDelegate::pressColor() const
-{
-    return d->pressColor;
-}
+QColor styleDelegate::pressColor() const { return d->pressColor; }
 
 /** The colour of the texts of the pressed row; white by default. */
-void styleDelegate::setPressColor(const QColor &color)
-{
-    d->pressColor = color;
-}
+void styleDelegate::setPressColor(const QColor &color) { d->pressColor = color; }
 
-QPixmap styleDelegate::normalPix() const
-{
-    return d->normalPix;
-}
+QPixmap styleDelegate::normalPix() const { return d->normalPix; }
 
 /** The background of every row; without one a separator line stands below it. */
-void styleDelegate::setNormalPix(const QPixmap &pixmap)
-{
-    d->normalPix = pixmap;
-}
+void styleDelegate::setNormalPix(const QPixmap &pixmap) { d->normalPix = pixmap; }
 
-QPixmap styleDelegate::pressPix() const
-{
-    return d->pressPix;
-}
+QPixmap styleDelegate::pressPix() const { return d->pressPix; }
 
 /** The background of the pressed row; used only with a normal one. */
-void styleDelegate::setPressPix(const QPixmap &pixmap)
-{
-    d->pressPix = pixmap;
-}
+void styleDelegate::setPressPix(const QPixmap &pixmap) { d->pressPix = pixmap; }
 
-int styleDelegate::style() const
-{
-    return d->style;
-}
+int styleDelegate::style() const { return d->style; }
 
 /** The style, an SpTableList::LIST_STYLE; a number that is none of them paints as LIST_STYLE_0. */
-void styleDelegate::setStyle(int style)
-{
-    d->style = style;
-}
+void styleDelegate::setStyle(int style) { d->style = style; }
 
-int styleDelegate::tailRectX() const
-{
-    return d->tailRectX;
-}
+int styleDelegate::tailRectX() const { return d->tailRectX; }
 
 /** The largest x in px at which a press highlights a row in the list's highlight mode. */
-void styleDelegate::setTailRectX(int x)
-{
-    d->tailRectX = x;
-}
+void styleDelegate::setTailRectX(int x) { d->tailRectX = x; }
 
-int styleDelegate::rollTimerId() const
-{
-    return d->rollTimerId;
-}
+int styleDelegate::rollTimerId() const { return d->rollTimerId; }
 
 /** The timer of the rolling texts. While it is 0, texts that are too long stand still. */
-void styleDelegate::setRollTimerId(int id)
-{
-    d->rollTimerId = id;
-}
+void styleDelegate::setRollTimerId(int id) { d->rollTimerId = id; }
 
-int styleDelegate::headerIconGain() const
-{
-    return d->headerIconGain;
-}
+int styleDelegate::headerIconGain() const { return d->headerIconGain; }
 
 /** The distance in px from the left of the row to the header icon. */
-void styleDelegate::setHeaderIconGain(const int &gain)
-{
-    d->headerIconGain = gain;
-}
+void styleDelegate::setHeaderIconGain(const int &gain) { d->headerIconGain = gain; }
 
-int styleDelegate::headerIconWidth() const
-{
-    return d->headerIconWidth;
-}
+int styleDelegate::headerIconWidth() const { return d->headerIconWidth; }
 
 /** The width in px of the header icon for touches; the icon is painted in its own size. */
-void styleDelegate::setHeaderIconWidth(const int &width)
-{
-    d->headerIconWidth = width;
-}
+void styleDelegate::setHeaderIconWidth(const int &width) { d->headerIconWidth = width; }
 
-int styleDelegate::centerStrGain() const
-{
-    return d->centerStrGain;
-}
+int styleDelegate::centerStrGain() const { return d->centerStrGain; }
 
 /** The distance in px from the header to the centre text. */
-void styleDelegate::setCenterStrGain(const int &gain)
-{
-    d->centerStrGain = gain;
-}
+void styleDelegate::setCenterStrGain(const int &gain) { d->centerStrGain = gain; }
 
-int styleDelegate::tailIconGain() const
-{
-    return d->tailIconGain;
-}
+int styleDelegate::tailIconGain() const { return d->tailIconGain; }
 
 /** The distance in px from the tail icon to the right of the row; LIST_STYLE_2 has none. */
-void styleDelegate::setTailIconGain(const int &gain)
-{
-    d->tailIconGain = gain;
-}
+void styleDelegate::setTailIconGain(const int &gain) { d->tailIconGain = gain; }
 
-int styleDelegate::tailIconWidth() const
-{
-    return d->tailIconWidth;
-}
+int styleDelegate::tailIconWidth() const { return d->tailIconWidth; }
 
 /** The width in px of the tail icon for touches; the icon is painted in its own size. */
-void styleDelegate::setTailIconWidth(const int &width)
-{
-    d->tailIconWidth = width;
-}
+void styleDelegate::setTailIconWidth(const int &width) { d->tailIconWidth = width; }
 
-int styleDelegate::pixmapGain() const
-{
-    return d->pixmapGain;
-}
+int styleDelegate::pixmapGain() const { return d->pixmapGain; }
 
 /** The x in px of the background in its row; LIST_STYLE_2 ignores it. */
-void styleDelegate::setPixmapGain(const int &gain)
-{
-    d->pixmapGain = gain;
-}
+void styleDelegate::setPixmapGain(const int &gain) { d->pixmapGain = gain; }
 
-int styleDelegate::tailStrWidth() const
-{
-    return d->tailStrWidth;
-}
+int styleDelegate::tailStrWidth() const { return d->tailStrWidth; }
 
 /** The width in px of the tail text, which ends at the right of the row. */
-void styleDelegate::setTailStrWidth(const int &width)
-{
-    d->tailStrWidth = width;
-}
+void styleDelegate::setTailStrWidth(const int &width) { d->tailStrWidth = width; }
 
-int styleDelegate::getCenterTextFlag() const
-{
-    return d->centerTextFlag;
-}
+int styleDelegate::getCenterTextFlag() const { return d->centerTextFlag; }
 
 /** Kept for callers; the centre text is always left-aligned, whatever this says. */
-void styleDelegate::setCenterTextFlag(int flag)
-{
-    d->centerTextFlag = flag;
-}
+void styleDelegate::setCenterTextFlag(int flag) { d->centerTextFlag = flag; }
 
-QPoint styleDelegate::pressedPoint() const
-{
-    return d->pressedPoint;
-}
+QPoint styleDelegate::pressedPoint() const { return d->pressedPoint; }
 
-bool styleDelegate::itemPressed() const
-{
-    return d->itemPressed;
-}
+bool styleDelegate::itemPressed() const { return d->itemPressed; }
 
 /**
  * Whether the selected row looks pressed, and where in the view it was pressed: the point decides
@@ -429,31 +327,16 @@ void styleDelegate::setItemPressed(bool pressed, QPoint point)
     d->pressedPoint = point;
 }
 
-bool styleDelegate::useIt() const
-{
-    return d->useIt;
-}
+bool styleDelegate::useIt() const { return d->useIt; }
 
 /** With false, nothing at all is painted. */
-void styleDelegate::setUseIt(bool use)
-{
-    d->useIt = use;
-}
+void styleDelegate::setUseIt(bool use) { d->useIt = use; }
 
-StringRollingData *styleDelegate::rollData() const
-{
-    return d->records->first();
-}
+StringRollingData *styleDelegate::rollData() const { return d->records->first(); }
 
-int styleDelegate::rollDataCount() const
-{
-    return d->records->count();
-}
+int styleDelegate::rollDataCount() const { return d->records->count(); }
 
-StringRollingData *styleDelegate::getRollData(int row)
-{
-    return d->records->of(row, true);
-}
+StringRollingData *styleDelegate::getRollData(int row) { return d->records->of(row, true); }
 
 /** Appends a record, which the delegate then owns. A null record is ignored. */
 void styleDelegate::addRollData(StringRollingData *record)
@@ -478,10 +361,7 @@ StringRollingData *styleDelegate::getAddRollData(StringRollingData *record)
 }
 
 /** Deletes all records. The count of those ever added stays. */
-void styleDelegate::clearRollData()
-{
-    d->records->clear();
-}
+void styleDelegate::clearRollData() { d->records->clear(); }
 
 void styleDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                           const QModelIndex &index) const

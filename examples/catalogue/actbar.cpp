@@ -23,10 +23,7 @@ const QString kStyle = QStringLiteral(
 
 } // namespace
 
-ActBar::ActBar(QWidget *parent) : QWidget(parent)
-{
-    setStyleSheet(kStyle);
-}
+ActBar::ActBar(QWidget *parent) : QWidget(parent) { setStyleSheet(kStyle); }
 
 void ActBar::setPage(const Page &page)
 {
@@ -49,10 +46,7 @@ void ActBar::setPage(const Page &page)
     arrange();
 }
 
-void ActBar::setCurrent(int act)
-{
-    m_buttons.at(act)->setChecked(true);
-}
+void ActBar::setCurrent(int act) { m_buttons.at(act)->setChecked(true); }
 
 void ActBar::resizeEvent(QResizeEvent *e)
 {

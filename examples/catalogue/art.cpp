@@ -49,15 +49,9 @@ QStringList names()
     return names;
 }
 
-QString file(const QString &name)
-{
-    return kDirectory + name + QStringLiteral(".svg");
-}
+QString file(const QString &name) { return kDirectory + name + QStringLiteral(".svg"); }
 
-QString animation(const QString &name)
-{
-    return kDirectory + name + QStringLiteral(".gif");
-}
+QString animation(const QString &name) { return kDirectory + name + QStringLiteral(".gif"); }
 
 QPixmap pixmap(const QString &name, const QSize &size)
 {

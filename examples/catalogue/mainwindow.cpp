@@ -79,10 +79,7 @@ MainWindow::MainWindow(const Catalogue &catalogue)
             &MainWindow::inspectSubject);
 }
 
-void MainWindow::showPage(const Page &page)
-{
-    m_pageList->setCurrentPage(page);
-}
+void MainWindow::showPage(const Page &page) { m_pageList->setCurrentPage(page); }
 
 // While touches are played no other act can be chosen: it would take away the content under them.
 void MainWindow::perform(int act)
@@ -104,10 +101,7 @@ void MainWindow::addPressFeedback(QWidget *widget)
     emit pressFeedbackAsked(nameOf(widget));
 }
 
-Scene *MainWindow::scene() const
-{
-    return m_stage->scene();
-}
+Scene *MainWindow::scene() const { return m_stage->scene(); }
 
 QWidget *MainWindow::createMiddle()
 {

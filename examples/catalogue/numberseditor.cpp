@@ -119,10 +119,7 @@ NumbersEditor::NumbersEditor(int type) : m_type(type)
     }
 }
 
-bool NumbersEditor::canEdit(int type)
-{
-    return shapeOf(type) != nullptr;
-}
+bool NumbersEditor::canEdit(int type) { return shapeOf(type) != nullptr; }
 
 void NumbersEditor::showValue(const QVariant &value)
 {

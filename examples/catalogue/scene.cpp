@@ -11,15 +11,9 @@ Scene::Scene(QWidget *parent) : QWidget(parent)
     setAutoFillBackground(true);
 }
 
-void Scene::alsoShow(QObject *subject)
-{
-    m_subjects.append(subject);
-}
+void Scene::alsoShow(QObject *subject) { m_subjects.append(subject); }
 
-void Scene::setMainSubject(QObject *subject)
-{
-    m_subjects.prepend(subject);
-}
+void Scene::setMainSubject(QObject *subject) { m_subjects.prepend(subject); }
 
 QList<QObject *> Scene::subjects() const
 {

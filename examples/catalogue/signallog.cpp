@@ -48,15 +48,9 @@ void SignalLog::addHeading(const QString &text)
         item->setForeground(column, Theme::kQuietText);
 }
 
-void SignalLog::add(const QString &sender, const QString &what)
-{
-    append(sender, what);
-}
+void SignalLog::add(const QString &sender, const QString &what) { append(sender, what); }
 
-void SignalLog::clear()
-{
-    m_list->clear();
-}
+void SignalLog::clear() { m_list->clear(); }
 
 QTreeWidgetItem *SignalLog::append(const QString &sender, const QString &what)
 {

@@ -32,10 +32,7 @@ Touch &Touch::on(QWidget *target)
     return *this;
 }
 
-Touch &Touch::press()
-{
-    return press(m_target ? m_target->rect().center() : QPoint());
-}
+Touch &Touch::press() { return press(m_target ? m_target->rect().center() : QPoint()); }
 
 // The first press of a script is never the second one of a double click that the script before it
 // began.

@@ -16,10 +16,7 @@
 namespace
 {
 
-QString numberText(double number)
-{
-    return QLocale::c().toString(number, 'g', 6);
-}
+QString numberText(double number) { return QLocale::c().toString(number, 'g', 6); }
 
 // Empty unless the value is one of an enumeration that moc knows.
 QString enumText(const QVariant &value)

@@ -33,15 +33,9 @@ int quotient(int a, int b)
     return a / b;
 }
 
-float ratio(float a, float b)
-{
-    return dividedBy(a, b);
-}
+float ratio(float a, float b) { return dividedBy(a, b); }
 
-double ratio(double a, double b)
-{
-    return dividedBy(a, b);
-}
+double ratio(double a, double b) { return dividedBy(a, b); }
 
 int toInt(double value)
 {
@@ -61,9 +55,6 @@ int saturated(long long value)
     return int(std::clamp<long long>(value, Int::min(), Int::max()));
 }
 
-long long distance(int a, int b)
-{
-    return std::abs(static_cast<long long>(a) - b);
-}
+long long distance(int a, int b) { return std::abs(static_cast<long long>(a) - b); }
 
 } // namespace panelkit

@@ -13,10 +13,7 @@ namespace
 
 constexpr int kFarthest = (1 << 24) - 1; // px, QWIDGETSIZE_MAX
 
-int halfTowardMinusInfinity(int value)
-{
-    return (value - (value < 0 ? 1 : 0)) / 2;
-}
+int halfTowardMinusInfinity(int value) { return (value - (value < 0 ? 1 : 0)) / 2; }
 
 } // namespace
 
@@ -35,10 +32,7 @@ QRect centredTowardMinusInfinity(const QSize &size, const QRect &rect)
             size};
 }
 
-int boundedPixel(int value)
-{
-    return qBound(-kFarthest, value, kFarthest);
-}
+int boundedPixel(int value) { return qBound(-kFarthest, value, kFarthest); }
 
 QRect boundedRect(int left, int top, int width, int height)
 {

@@ -64,9 +64,7 @@ QRect inkRect(const QImage &image)
     int right = -1;
     int top = image.height();
     int bottom = -1;
-    const auto isInk = [](QRgb pixel) {
-        return pixel != 0;
-    };
+    const auto isInk = [](QRgb pixel) { return pixel != 0; };
     for (int y = 0; y < image.height(); ++y) {
         const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
         const auto *end = line + image.width();

@@ -42,10 +42,7 @@ private:
     int m_timer = 0;
 };
 
-void startProbe()
-{
-    qApp->installEventFilter(new Probe(qApp));
-}
+void startProbe() { qApp->installEventFilter(new Probe(qApp)); }
 
 } // namespace
 

@@ -21,10 +21,7 @@ void lookAndQuit()
     QApplication::exit(isShown ? 0 : 1);
 }
 
-void startDriver()
-{
-    QTimer::singleShot(0, qApp, lookAndQuit);
-}
+void startDriver() { QTimer::singleShot(0, qApp, lookAndQuit); }
 
 } // namespace
 

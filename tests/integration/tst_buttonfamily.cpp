@@ -57,9 +57,7 @@ using IsDown = std::function<bool(const QWidget &)>;
 
 template <class Button> IsDown isDown()
 {
-    return [](const QWidget &button) {
-        return static_cast<const Button &>(button).isDown();
-    };
+    return [](const QWidget &button) { return static_cast<const Button &>(button).isDown(); };
 }
 
 // One line of the table: what a button says, in order; a request for a click sound counts as said
@@ -153,10 +151,7 @@ private slots:
             std::function<void(Touch &)> action;
         };
         const Cell cells[] = {
-            {&Behaviour::press, Ready,
-             [](Touch &finger) {
-                 finger.press(kFinger);
-             }},
+            {&Behaviour::press, Ready, [](Touch &finger) { finger.press(kFinger); }},
             {&Behaviour::tap, Ready, tap},
             {&Behaviour::slid49, Ready, slideBy(49)},
             {&Behaviour::slid50, Ready, slideBy(50)},

@@ -28,10 +28,7 @@ struct Row {
 };
 
 // Pages put names and types in backticks.
-QString code(const QString &cell)
-{
-    return cell.section(QLatin1Char('`'), 1, 1);
-}
+QString code(const QString &cell) { return cell.section(QLatin1Char('`'), 1, 1); }
 
 // One name, several with commas between them, or `image0` ... `image7`.
 QStringList namesIn(const QString &cell)
@@ -51,9 +48,7 @@ QStringList namesIn(const QString &cell)
 QVector<Row> rowsOf(const QString &line)
 {
     const QStringList cells = line.split(QLatin1Char('|'));
-    const auto cell = [&](int column) {
-        return cells.value(column).trimmed();
-    };
+    const auto cell = [&](int column) { return cells.value(column).trimmed(); };
     const QStringList names = namesIn(cell(1));
     const QStringList defaults = cell(3).split(QLatin1Char(','));
     QVector<Row> rows;
@@ -117,10 +112,7 @@ QFont fontOf(int px)
     return font;
 }
 
-QVariant bothNumbers(double first, double second)
-{
-    return QVariantList{first, second};
-}
+QVariant bothNumbers(double first, double second) { return QVariantList{first, second}; }
 
 // What a page should say, or what it says, in a form that can be compared.
 QVariant comparable(const QMetaProperty &property, const QVariant &value)
@@ -259,10 +251,7 @@ class tst_Documentation : public WidgetTest
     }
 
 private slots:
-    void everyPropertyStandsInItsTableInOrder_data()
-    {
-        addClasses();
-    }
+    void everyPropertyStandsInItsTableInOrder_data() { addClasses(); }
 
     void everyPropertyStandsInItsTableInOrder()
     {
@@ -278,10 +267,7 @@ private slots:
         QCOMPARE(documented, actual);
     }
 
-    void aNewObjectHasTheDefaults_data()
-    {
-        addClasses();
-    }
+    void aNewObjectHasTheDefaults_data() { addClasses(); }
 
     void aNewObjectHasTheDefaults()
     {
@@ -301,10 +287,7 @@ private slots:
         QCOMPARE(wrong, QStringList());
     }
 
-    void aWriteRepaintsIfItsRowSaysSo_data()
-    {
-        addClasses();
-    }
+    void aWriteRepaintsIfItsRowSaysSo_data() { addClasses(); }
 
     void aWriteRepaintsIfItsRowSaysSo()
     {

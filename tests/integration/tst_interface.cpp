@@ -42,10 +42,7 @@ HOLDS_ONE_POINTER(ScaleBkg)
 HOLDS_ONE_POINTER(MovePoint)
 static_assert(sizeof(FmMovePoint) == sizeof(MovePoint), "the needle adds nothing to its base");
 
-QString latin(const char *text)
-{
-    return QString::fromLatin1(text);
-}
+QString latin(const char *text) { return QString::fromLatin1(text); }
 
 QString describedEnum(const QMetaEnum &type)
 {

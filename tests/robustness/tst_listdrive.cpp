@@ -232,12 +232,8 @@ private:
 
     void playTouch()
     {
-        const auto x = [this] {
-            return m_values.oneOf({-5, 5, 100, 380, 390, 600});
-        };
-        const auto y = [this] {
-            return m_values.oneOf({-400, -1, 0, 5, 70, 150, 299, 301, 900});
-        };
+        const auto x = [this] { return m_values.oneOf({-5, 5, 100, 380, 390, 600}); };
+        const auto y = [this] { return m_values.oneOf({-400, -1, 0, 5, 70, 150, 299, 301, 900}); };
         Touch finger = touch(m_list->viewport());
         finger.press(x(), y());
         for (int moves = m_values.below(5); moves > 0; --moves) {

@@ -18,10 +18,7 @@ constexpr int kPixelsATable = 100;
 constexpr int kTransparent = kColors - 1; // its place in the table of colours
 constexpr int kLargestBlock = 255; // bytes
 
-QByteArray number(int value)
-{
-    return QByteArray(1, char(value & 0xff)) + char(value >> 8 & 0xff);
-}
+QByteArray number(int value) { return QByteArray(1, char(value & 0xff)) + char(value >> 8 & 0xff); }
 
 // The pixels of a frame as places in the table of its colours.
 struct IndexedFrame {

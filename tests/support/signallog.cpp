@@ -50,10 +50,7 @@ SignalLog::SignalLog(QObject *subject) : m_subject(subject)
 
 SignalLog::~SignalLog() = default;
 
-QStringList SignalLog::take()
-{
-    return std::exchange(m_lines, QStringList());
-}
+QStringList SignalLog::take() { return std::exchange(m_lines, QStringList()); }
 
 void SignalLog::onLine(std::function<void(const QString &)> reaction)
 {

@@ -46,7 +46,4 @@ void Touch::send(QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons but
     m_wasAccepted = event.isAccepted();
 }
 
-Touch touch(QWidget *widget)
-{
-    return Touch(widget);
-}
+Touch touch(QWidget *widget) { return Touch(widget); }

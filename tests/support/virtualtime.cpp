@@ -104,10 +104,7 @@ Q_DECL_EXPORT int __ppoll_chk(pollfd *fds, nfds_t count, const timespec *timeout
 namespace virtualtime
 {
 
-qint64 now()
-{
-    return elapsedNs / kNsPerMs;
-}
+qint64 now() { return elapsedNs / kNsPerMs; }
 
 void advance(int ms)
 {

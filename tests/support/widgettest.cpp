@@ -95,10 +95,7 @@ void pinAppearance()
 
 } // namespace
 
-QStringList WidgetTest::takeMessages()
-{
-    return std::exchange(messages, QStringList());
-}
+QStringList WidgetTest::takeMessages() { return std::exchange(messages, QStringList()); }
 
 QStringList WidgetTest::unexpectedMessages()
 {

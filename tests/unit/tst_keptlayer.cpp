@@ -144,9 +144,7 @@ private slots:
             turn(p);
             p.setPen(QPen(Qt::green, 3));
         };
-        const Paint line = [](QPainter &p) {
-            p.drawLine(-20, 0, 20, 3);
-        };
+        const Paint line = [](QPainter &p) { p.drawLine(-20, 0, 20, 3); };
         KeptLayer layer;
         for (int paint = 0; paint < 3; ++paint)
             COMPARE_PICTURES(onCanvas(&layer, prepare, kContent, line),
@@ -307,9 +305,7 @@ private slots:
     {
         KeptLayer layer;
         int paints = 0;
-        const Paint counted = [&](QPainter &) {
-            ++paints;
-        };
+        const Paint counted = [&](QPainter &) { ++paints; };
         for (int paint = 0; paint < 3; ++paint) {
             onCanvas(
                 &layer, [](QPainter &p) { p.translate(151, 0); }, kContent, counted);

@@ -147,10 +147,7 @@ void flick(MArcList &list, int distance, int duration)
     touch(&list).press(10, 100).moveTo(10, 100 + distance).hold(duration).release();
 }
 
-bool isFlinging(const MArcList &list)
-{
-    return list.findChild<QTimer *>()->isActive();
-}
+bool isFlinging(const MArcList &list) { return list.findChild<QTimer *>()->isActive(); }
 
 } // namespace
 
@@ -1458,9 +1455,7 @@ private slots:
                 const Action setters[] = {[=](MArcList &l) { l.setRadius(number); },
                                           [=](MArcList &l) { l.setStartAngle(number); },
                                           [=](MArcList &l) { l.setItemHight(number); },
-                                          [=](MArcList &l) {
-                                              l.setPixXOffset(number);
-                                          }};
+                                          [=](MArcList &l) { l.setPixXOffset(number); }};
                 for (const Action &set : setters) {
                     set(*list);
                     for (int count : {INT_MIN, -1, 0, INT_MAX}) {

@@ -164,9 +164,7 @@ public:
             };
         };
         const auto addPlain = [this](const char *name) {
-            return [this, name] {
-                m_lines += QString::fromLatin1(name);
-            };
+            return [this, name] { m_lines += QString::fromLatin1(name); };
         };
         QObject::connect(bar, &QScrollBar::sliderPressed, &m_context, addPlain("pressed"));
         QObject::connect(bar, &QScrollBar::sliderReleased, &m_context, addPlain("released"));
@@ -1054,9 +1052,7 @@ private slots:
     {
         for (int signal = 0; signal < 4; ++signal) {
             QPointer<MArcScrollBar> bar = makeBar().release();
-            const auto kill = [&] {
-                delete bar;
-            };
+            const auto kill = [&] { delete bar; };
             if (signal == 0)
                 connect(bar, &QScrollBar::sliderPressed, this, kill);
             else if (signal == 1)

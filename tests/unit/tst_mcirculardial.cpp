@@ -309,9 +309,7 @@ private slots:
         const auto dial = makeDial();
         show(*dial);
         SignalLog log(dial.get());
-        const auto set = [&] {
-            dial->setProperty(name.constData(), value);
-        };
+        const auto set = [&] { dial->setProperty(name.constData(), value); };
         QTEST(paints(*dial, set), "repaintsOnChange");
         QCOMPARE(dial->property(name.constData()), value);
         QTEST(paints(*dial, set), "repaintsOtherwise");
@@ -622,9 +620,7 @@ private slots:
         const auto dial = makeDial();
         dial->setMaxValue(400);
         dial->setScale(0.05);
-        const auto looks = [&] {
-            return fused::during([&] { painted(*dial); });
-        };
+        const auto looks = [&] { return fused::during([&] { painted(*dial); }); };
         const int ticks = 6251;
         QCOMPARE(looks(), ticks);
         QCOMPARE(looks(), ticks); // composed for the next time
@@ -902,9 +898,7 @@ private slots:
         dial.resize(500, 500);
         const QMouseEvent *current = nullptr;
         QVector<bool> accepted;
-        const auto look = [&] {
-            accepted += current->isAccepted();
-        };
+        const auto look = [&] { accepted += current->isAccepted(); };
         connect(&dial, &MCircularDial::currentValueChange, this, look);
         connect(&dial, &MCircularDial::valueChanged, this, look);
         const auto event = [&current](QEvent::Type type, int y) {

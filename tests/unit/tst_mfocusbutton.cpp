@@ -278,9 +278,7 @@ private slots:
         button->setPressImage(large);
         button->setDisableImage(large);
         button->setChecked(true);
-        const auto stretched = [&](QPainter &p) {
-            p.drawPixmap(kImageRect, large);
-        };
+        const auto stretched = [&](QPainter &p) { p.drawPixmap(kImageRect, large); };
         COMPARE_PICTURES(painted(*button), reference(*button, stretched));
         button->setEnabled(false);
         COMPARE_PICTURES(painted(*button), reference(*button, stretched));

@@ -17,10 +17,7 @@ namespace
 {
 
 // Lengths count up to the largest size that a widget can have.
-int bounded(int length)
-{
-    return qBound(-QWIDGETSIZE_MAX, length, QWIDGETSIZE_MAX);
-}
+int bounded(int length) { return qBound(-QWIDGETSIZE_MAX, length, QWIDGETSIZE_MAX); }
 
 // The documented picture, made anew each time.
 QImage documented(const MOProgress &ring)
@@ -137,9 +134,7 @@ private slots:
         QFETCH(QVariant, value);
         const auto ring = makeRing();
         show(*ring);
-        const auto set = [&] {
-            ring->setProperty(name.constData(), value);
-        };
+        const auto set = [&] { ring->setProperty(name.constData(), value); };
         QTEST(paints(*ring, set), "repaintsOnChange");
         QCOMPARE(ring->property(name.constData()), value);
         QTEST(paints(*ring, set), "repaintsOtherwise");

@@ -25,10 +25,7 @@ struct Numbers {
     MapPixAndHz map{8, 20};
 };
 
-int over(int a, int b)
-{
-    return b == 0 ? 0 : a / b;
-}
+int over(int a, int b) { return b == 0 ? 0 : a / b; }
 
 // Pixel to frequency and back, in plain int.
 int freqAt(const Numbers &n, int pos)
@@ -43,12 +40,8 @@ int freqAt(const Numbers &n, int pos)
 // The same for numbers that leave 32 bits, where each operation wraps around.
 int wrappedFreqAt(const Numbers &n, int pos)
 {
-    const auto wrapped = [](qint64 value) {
-        return int(quint32(quint64(value)));
-    };
-    const auto quotient = [&](int a, int b) {
-        return b == 0 ? 0 : wrapped(qint64(a) / b);
-    };
+    const auto wrapped = [](qint64 value) { return int(quint32(quint64(value))); };
+    const auto quotient = [&](int a, int b) { return b == 0 ? 0 : wrapped(qint64(a) / b); };
     const int units = wrapped(qint64(wrapped(qint64(pos) - n.lineStart)) * n.map.hz);
     const int atPos = wrapped(qint64(quotient(units, n.map.pix)) + n.firstTick);
     const int freq = wrapped(qint64(quotient(atPos, n.step)) * n.step);

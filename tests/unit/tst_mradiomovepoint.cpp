@@ -31,10 +31,7 @@ ScaleBkg *scaleOf(const MRadioMovePoint &tuner)
     return nullptr;
 }
 
-MovePoint *needleOf(const MRadioMovePoint &tuner)
-{
-    return tuner.findChild<MovePoint *>();
-}
+MovePoint *needleOf(const MRadioMovePoint &tuner) { return tuner.findChild<MovePoint *>(); }
 
 int middleOf(const MRadioMovePoint &tuner)
 {

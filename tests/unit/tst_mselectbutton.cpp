@@ -84,10 +84,7 @@ Paint look(const QColor &image, const QColor &text)
     };
 }
 
-void press(MSelectButton &button)
-{
-    touch(&button).press(10, 10);
-}
+void press(MSelectButton &button) { touch(&button).press(10, 10); }
 
 } // namespace
 
@@ -126,8 +123,7 @@ private slots:
     {
         MSelectButton button;
         button.resize(60, 50);
-        const auto nothing = [](QPainter &) {
-        };
+        const auto nothing = [](QPainter &) {};
         COMPARE_PICTURES(painted(button), reference(button, nothing));
         button.setDisableState(true);
         COMPARE_PICTURES(painted(button), reference(button, nothing));

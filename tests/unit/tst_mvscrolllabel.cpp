@@ -24,10 +24,7 @@ constexpr int kSpeed = 50; // ms for each px
 const QString kSentence =
     QStringLiteral("You may use this as you like, and nobody promises much. ");
 
-QString tall()
-{
-    return kSentence.repeated(6);
-}
+QString tall() { return kSentence.repeated(6); }
 
 std::unique_ptr<MVScrollLabel> makeLabel(int width = 160, int height = 60)
 {

@@ -38,10 +38,7 @@ void apply(ScaleBkg &scale, const Numbers &n)
                      n.suggestEnd, n.pixCountMeta, n.bMid, n.bLarge, n.totalCountMeta);
 }
 
-int over(int a, int b)
-{
-    return b == 0 ? 0 : a / b;
-}
+int over(int a, int b) { return b == 0 ? 0 : a / b; }
 
 // What follows from the numbers in a scale of this width.
 struct Model {
@@ -67,9 +64,7 @@ struct Model {
     int heightOf(int count) const
     {
         const int tick = over(freqOf(count), hz * n.pixCountMeta);
-        const auto isMultiple = [tick](int of) {
-            return of == 0 ? tick == 0 : tick % of == 0;
-        };
+        const auto isMultiple = [tick](int of) { return of == 0 ? tick == 0 : tick % of == 0; };
         return isMultiple(n.bMid * n.bLarge) ? 18 : isMultiple(n.bMid) ? 12 : 6;
     }
     int firstLabel() const

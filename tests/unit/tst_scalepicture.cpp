@@ -125,9 +125,7 @@ private slots:
             COMPARE_PICTURES(between([&](QPainter &p) { picture.draw(p, all, s, f); }),
                              between([&](QPainter &p) { drawOneByOne(p, items, s, f); }));
             // A scaled line may reach beyond its area.
-            const auto clip = [&](QPainter &p) {
-                p.setClipRect(2, 2, 140, 40);
-            };
+            const auto clip = [&](QPainter &p) { p.setClipRect(2, 2, 140, 40); };
             if (layout[1] > 0 && s.isValid())
                 COMPARE_PICTURES(twice([&](QPainter &p) {
                                      clip(p);
@@ -180,9 +178,7 @@ private slots:
         font.setItalic(true);
         const QString text = QStringLiteral("jjj");
         const int width = QFontMetrics(font).horizontalAdvance(text);
-        const auto write = [](double) {
-            return QStringLiteral("jjj");
-        };
+        const auto write = [](double) { return QStringLiteral("jjj"); };
         ScalePicture picture;
         picture.clear(kArea);
         const QRect box(kArea.width(), 5, width, 25);
@@ -257,9 +253,7 @@ private slots:
         const QColor color(200, 30, 60, 9);
         ScalePicture picture;
         picture.clear(kArea);
-        const auto boxOf = [](int i) {
-            return QRect(i / 10, i % 50, 60, 25);
-        };
+        const auto boxOf = [](int i) { return QRect(i / 10, i % 50, 60, 25); };
         constexpr int kLabels = ScalePicture::kMostKnown + 30;
         for (int i = 0; i < kLabels; ++i)
             picture.addLabel(boxOf(i), i, written);

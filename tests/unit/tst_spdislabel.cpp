@@ -47,8 +47,7 @@ using Paint = std::function<void(QPainter &)>;
 
 Paint nothing()
 {
-    return [](QPainter &) {
-    };
+    return [](QPainter &) {};
 }
 
 void drawText(QPainter &p, const QRect &rect, const QColor &color, const QString &text,

@@ -37,30 +37,15 @@ QPixmap picture(const QColor &color, int inset, const QSize &size = kSize)
     return pixmap;
 }
 
-QPixmap normalPicture()
-{
-    return picture(QColor(0, 200, 60), 1);
-}
+QPixmap normalPicture() { return picture(QColor(0, 200, 60), 1); }
 
-QPixmap pressPicture()
-{
-    return picture(QColor(230, 200, 0, 150), 4);
-}
+QPixmap pressPicture() { return picture(QColor(230, 200, 0, 150), 4); }
 
-QPixmap runningPicture()
-{
-    return picture(QColor(0, 80, 250, 150), 7);
-}
+QPixmap runningPicture() { return picture(QColor(0, 80, 250, 150), 7); }
 
-QPixmap grayPicture()
-{
-    return picture(QColor(120, 120, 120, 200), 10);
-}
+QPixmap grayPicture() { return picture(QColor(120, 120, 120, 200), 10); }
 
-QPixmap switchPicture()
-{
-    return picture(QColor(250, 0, 120, 150), 13);
-}
+QPixmap switchPicture() { return picture(QColor(250, 0, 120, 150), 13); }
 
 // The documented darkening, step by step.
 QPixmap darkened(const QPixmap &source, int alpha, const QSize &area)
@@ -79,10 +64,7 @@ QPixmap darkened(const QPixmap &source, int alpha, const QSize &area)
     return QPixmap::fromImage(image);
 }
 
-bool isSame(const QPixmap &a, const QPixmap &b)
-{
-    return a.toImage() == b.toImage();
-}
+bool isSame(const QPixmap &a, const QPixmap &b) { return a.toImage() == b.toImage(); }
 
 // --- Animations ---------------------------------------------------------------------------------
 
@@ -298,10 +280,7 @@ QFont captionFont(int px)
 }
 
 // Numbers count as far as a widget can reach.
-int bounded(int number)
-{
-    return qBound(-QWIDGETSIZE_MAX, number, QWIDGETSIZE_MAX);
-}
+int bounded(int number) { return qBound(-QWIDGETSIZE_MAX, number, QWIDGETSIZE_MAX); }
 
 QRect documentedCaptionRect(const SpHomeIcon &tile)
 {
@@ -761,9 +740,7 @@ private slots:
             Case(letter(isAnimated, 'M')) + letter(alpha >= 255, 'A') + letter(isPressed, 'P');
         int count = 0;
         for (int bits = 0; bits < 1 << 9; ++bits) {
-            const auto has = [bits](int bit) {
-                return (bits >> bit & 1) != 0;
-            };
+            const auto has = [bits](int bit) { return (bits >> bit & 1) != 0; };
             tile->setNormalImage(has(0) ? normalPicture() : QPixmap());
             tile->setRunningImage(has(1) ? runningPicture() : QPixmap());
             tile->setGrayImage(has(2) ? grayPicture() : QPixmap());
@@ -1355,9 +1332,7 @@ private slots:
     {
         const auto tile = makeTile();
         QVector<bool> seen;
-        const auto note = [&] {
-            seen += tile->getIsPressing();
-        };
+        const auto note = [&] { seen += tile->getIsPressing(); };
         connect(tile.get(), &SpHomeIcon::itemPress, tile.get(), note);
         connect(tile.get(), &SpHomeIcon::itemMove, tile.get(), note);
         connect(tile.get(), &SpHomeIcon::itemRelease, tile.get(), note);

@@ -59,9 +59,7 @@ using Paint = std::function<void(QPainter &)>;
 
 Paint plain(const QColor &color)
 {
-    return [color](QPainter &p) {
-        p.drawPixmap(kIconRect, picture(color));
-    };
+    return [color](QPainter &p) { p.drawPixmap(kIconRect, picture(color)); };
 }
 
 // The documented composition of a darkened icon, step by step.
@@ -81,15 +79,12 @@ void drawVeiled(QPainter &p, const QRect &rect, const QPixmap &pixmap)
 
 Paint veiled(const QColor &color)
 {
-    return [color](QPainter &p) {
-        drawVeiled(p, kIconRect, picture(color));
-    };
+    return [color](QPainter &p) { drawVeiled(p, kIconRect, picture(color)); };
 }
 
 Paint nothing()
 {
-    return [](QPainter &) {
-    };
+    return [](QPainter &) {};
 }
 
 // Handlers are called with what a subclass may hand them.
@@ -590,15 +585,9 @@ private slots:
         QTest::addColumn<Paint>("icon");
         QTest::addColumn<QColor>("pen");
         const auto row = [](const char *name, const Action &state, const Paint &icon,
-                            const QColor &pen) {
-            QTest::newRow(name) << state << icon << pen;
-        };
-        const auto press = [](SpHorStrButton &b) {
-            b.setPressState(true);
-        };
-        const auto disable = [](SpHorStrButton &b) {
-            b.setBtnDisable(true);
-        };
+                            const QColor &pen) { QTest::newRow(name) << state << icon << pen; };
+        const auto press = [](SpHorStrButton &b) { b.setPressState(true); };
+        const auto disable = [](SpHorStrButton &b) { b.setBtnDisable(true); };
         row(
             "normal", [](auto &) {}, plain(kNormal), QColor(1, 2, 3));
         row("pressed", press, plain(kPress), QColor(4, 5, 6));
@@ -972,9 +961,7 @@ private slots:
     void hostilePicturesAreShown()
     {
         QFETCH(QPixmap, image);
-        const auto iconTop = [](int height) {
-            return (50 - height - (height > 50 ? 1 : 0)) / 2;
-        };
+        const auto iconTop = [](int height) { return (50 - height - (height > 50 ? 1 : 0)) / 2; };
         SpHorStrButton button;
         button.setDisplayString({});
         button.resize(50, 50);

@@ -49,9 +49,7 @@ using Paint = std::function<void(QPainter &)>;
 
 Paint plain(const QColor &color)
 {
-    return [color](QPainter &p) {
-        p.drawPixmap(kImageRect, picture(color));
-    };
+    return [color](QPainter &p) { p.drawPixmap(kImageRect, picture(color)); };
 }
 
 // The documented composition of a veiled picture, step by step.
@@ -72,15 +70,11 @@ Paint veiled(const QPixmap &pixmap, const QRect &rect, int alpha)
     };
 }
 
-Paint veiled(const QColor &color, int alpha)
-{
-    return veiled(picture(color), kImageRect, alpha);
-}
+Paint veiled(const QColor &color, int alpha) { return veiled(picture(color), kImageRect, alpha); }
 
 Paint nothing()
 {
-    return [](QPainter &) {
-    };
+    return [](QPainter &) {};
 }
 
 // Handlers are called with what a subclass may hand them.
@@ -365,12 +359,8 @@ private slots:
         const auto row = [](const char *name, const Action &state, const Paint &expected) {
             QTest::newRow(name) << state << expected;
         };
-        const auto alphaMode = [](SpIconButton &b) {
-            b.setShowMode(SpIconButton::AlphaMode);
-        };
-        const auto noNormal = [](SpIconButton &b) {
-            b.setNormalImage(QPixmap());
-        };
+        const auto alphaMode = [](SpIconButton &b) { b.setShowMode(SpIconButton::AlphaMode); };
+        const auto noNormal = [](SpIconButton &b) { b.setNormalImage(QPixmap()); };
 
         row(
             "normal", [](auto &) {}, plain(kNormal));

@@ -27,15 +27,9 @@ using Pictures = QList<QPixmap>;
 using Paths = QList<QString>;
 
 // The picture of each state, told apart by its colour.
-QPixmap normal(int state)
-{
-    return picture(QColor(0, 200, 10 * state + 10));
-}
+QPixmap normal(int state) { return picture(QColor(0, 200, 10 * state + 10)); }
 
-QPixmap press(int state)
-{
-    return picture(QColor(200, 10 * state + 10, 0));
-}
+QPixmap press(int state) { return picture(QColor(200, 10 * state + 10, 0)); }
 
 Pictures pictures(QPixmap (*make)(int), int count)
 {
@@ -79,15 +73,12 @@ QImage settled(SpMultipleButton &button)
 
 Paint only(const QPixmap &pixmap)
 {
-    return [pixmap](QPainter &p) {
-        p.drawPixmap(kPos, pixmap);
-    };
+    return [pixmap](QPainter &p) { p.drawPixmap(kPos, pixmap); };
 }
 
 Paint nothing()
 {
-    return [](QPainter &) {
-    };
+    return [](QPainter &) {};
 }
 
 // What the function paints, seen through an effect of this opacity.
@@ -683,9 +674,7 @@ private slots:
         const auto background = [](SpMultipleButton &b) {
             b.setBackgroundImage(picture(Qt::blue, {61, 50}));
         };
-        const auto down = [](SpMultipleButton &b) {
-            touch(&b).press(10, 10);
-        };
+        const auto down = [](SpMultipleButton &b) { touch(&b).press(10, 10); };
         row("first state", 1, only(normal(0)), [](auto &) {});
         row("last state", 1, only(normal(2)), [](auto &b) { b.setCurrentValue(2); });
         row("pressed", 1, only(press(0)), down);
@@ -1049,9 +1038,7 @@ private slots:
     void hostilePicturesAreShown()
     {
         QFETCH(QPixmap, image);
-        const auto half = [](int spare) {
-            return (spare - (spare < 0 ? 1 : 0)) / 2;
-        };
+        const auto half = [](int spare) { return (spare - (spare < 0 ? 1 : 0)) / 2; };
         SpMultipleButton button;
         button.setPixmapList({image, image}, {picture(Qt::blue), image});
         button.setBackgroundImage(picture(Qt::yellow, {50, 50}));

@@ -71,25 +71,16 @@ QLabel *labelOf(const SpSetupSlider &slider, int number)
     return slider.findChildren<QLabel *>(QString(), Qt::FindDirectChildrenOnly).at(number);
 }
 
-QLabel *knobOf(const SpSetupSlider &slider)
-{
-    return labelOf(slider, 0);
-}
+QLabel *knobOf(const SpSetupSlider &slider) { return labelOf(slider, 0); }
 
 QImage knobPicture(const SpSetupSlider &slider)
 {
     return knobOf(slider)->property("pixmap").value<QPixmap>().toImage();
 }
 
-QLabel *valueOf(const SpSetupSlider &slider)
-{
-    return labelOf(slider, 1);
-}
+QLabel *valueOf(const SpSetupSlider &slider) { return labelOf(slider, 1); }
 
-QLabel *topOf(const SpSetupSlider &slider)
-{
-    return labelOf(slider, 2);
-}
+QLabel *topOf(const SpSetupSlider &slider) { return labelOf(slider, 2); }
 
 SpIconButton *buttonOf(const SpSetupSlider &slider, const QString &id)
 {

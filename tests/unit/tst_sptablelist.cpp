@@ -165,10 +165,7 @@ styleDelegate *delegateOf(const SpTableList &list)
     return static_cast<styleDelegate *>(list.itemDelegate());
 }
 
-int scrolled(const SpTableList &list)
-{
-    return list.verticalScrollBar()->value();
-}
+int scrolled(const SpTableList &list) { return list.verticalScrollBar()->value(); }
 
 // Signals with the index as "row", which is what can be compared.
 QStringList taken(SignalLog &log)

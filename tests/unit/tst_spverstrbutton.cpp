@@ -50,15 +50,12 @@ using Paint = std::function<void(QPainter &)>;
 
 Paint plain(const QColor &color)
 {
-    return [color](QPainter &p) {
-        p.drawPixmap(kIconRect, picture(color));
-    };
+    return [color](QPainter &p) { p.drawPixmap(kIconRect, picture(color)); };
 }
 
 Paint nothing()
 {
-    return [](QPainter &) {
-    };
+    return [](QPainter &) {};
 }
 
 // The string as it is documented: in the application's font with a size of its own.
@@ -352,9 +349,7 @@ private slots:
         QTest::addColumn<Paint>("icon");
         QTest::addColumn<QColor>("pen");
         const auto row = [](const char *name, const Action &state, const Paint &icon,
-                            const QColor &pen) {
-            QTest::newRow(name) << state << icon << pen;
-        };
+                            const QColor &pen) { QTest::newRow(name) << state << icon << pen; };
         const Paint disabled = [](QPainter &p) {
             p.drawPixmap(kDisabledPos, picture(kDisable, {50, 20}));
         };
@@ -765,9 +760,7 @@ private slots:
     void hostilePicturesAreShown()
     {
         QFETCH(QPixmap, image);
-        const auto half = [](int spare) {
-            return (spare - (spare < 0 ? 1 : 0)) / 2;
-        };
+        const auto half = [](int spare) { return (spare - (spare < 0 ? 1 : 0)) / 2; };
         const int x = half(50 - image.width());
         const QPixmap focus = picture(kFocus);
         SpVerStrButton button;

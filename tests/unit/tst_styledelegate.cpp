@@ -551,25 +551,16 @@ private slots:
     {
         QTest::addColumn<int>("content");
         QTest::addColumn<Paint>("expected");
-        const Paint header = [](QPainter &p) {
-            drawHeaderIcon(p, pictures().header);
-        };
+        const Paint header = [](QPainter &p) { drawHeaderIcon(p, pictures().header); };
         const Paint number = [](QPainter &p) {
             p.setFont(sized(17));
             p.drawText(QRect(kRow.left() + 20, kRow.top(), 50, kRow.height()), Qt::AlignCenter,
                        QStringLiteral("42"));
         };
-        const Paint centre = [](QPainter &p) {
-            drawCentre(p, centreRect(kNoHeader, kNoTail));
-        };
-        const Paint tailIcon = [](QPainter &p) {
-            drawTailIcon(p, pictures().tail);
-        };
-        const Paint tailText = [](QPainter &p) {
-            drawTailText(p);
-        };
-        const Paint nothing = [](QPainter &) {
-        };
+        const Paint centre = [](QPainter &p) { drawCentre(p, centreRect(kNoHeader, kNoTail)); };
+        const Paint tailIcon = [](QPainter &p) { drawTailIcon(p, pictures().tail); };
+        const Paint tailText = [](QPainter &p) { drawTailText(p); };
+        const Paint nothing = [](QPainter &) {};
         const auto rowsOf = [](const char *name, int shift, const Paint &paint) {
             for (int bit = shift; bit < shift + 4; ++bit)
                 QTest::addRow("%s, bit %d", name, bit) << (1 << bit) << paint;
@@ -1489,9 +1480,7 @@ private slots:
         for (int style = -1; style <= 7; ++style) {
             for (const QVariant &content : {QVariant(0x0F1F1F), QVariant(0xF0F0F0), value}) {
                 HostileModel model;
-                model.answer = [&](int role) {
-                    return role == Content ? content : value;
-                };
+                model.answer = [&](int role) { return role == Content ? content : value; };
                 converted[Content] = content.toInt();
                 Subject tame(converted, style);
                 Subject s({}, style);
@@ -1594,9 +1583,7 @@ private:
         QTest::addColumn<bool>("background");
         QTest::addColumn<bool>("tail");
         for (int bits = 0; bits < 16; ++bits) {
-            const auto has = [bits](int bit) {
-                return (bits >> bit & 1) != 0;
-            };
+            const auto has = [bits](int bit) { return (bits >> bit & 1) != 0; };
             QTest::addRow("marked %d, pressed %d, background %d, tail %d", has(0), has(1), has(2),
                           has(3))
                 << has(0) << has(1) << has(2) << has(3);

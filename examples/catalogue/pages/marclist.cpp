@@ -124,9 +124,7 @@ void wireBook(MArcList *letters, MArcScrollBar *bar, SpTableList *names)
     const auto *contacts = static_cast<Contacts *>(names->model());
     QScrollBar *scrolling = names->verticalScrollBar();
     bar->setRange(0, contacts->rowCount() - names->height() / kBookRow.height());
-    const auto showRow = [scrolling](int row) {
-        scrolling->setValue(row * kBookRow.height());
-    };
+    const auto showRow = [scrolling](int row) { scrolling->setValue(row * kBookRow.height()); };
     QObject::connect(letters, &MArcList::itemClicked, names,
                      [contacts, showRow](QChar letter) { showRow(contacts->firstRowOf(letter)); });
     QObject::connect(bar, &QScrollBar::sliderMoved, names, showRow);

@@ -18,15 +18,9 @@ MOnOffButton *buildSwitch(Scene &scene)
     return button;
 }
 
-void useStyle0(MOnOffButton &button)
-{
-    button.setUIStyle(MOnOffButton::ONOFF_STYLE_0);
-}
+void useStyle0(MOnOffButton &button) { button.setUIStyle(MOnOffButton::ONOFF_STYLE_0); }
 
-void useStyle1(MOnOffButton &button)
-{
-    button.setUIStyle(MOnOffButton::ONOFF_STYLE_1);
-}
+void useStyle1(MOnOffButton &button) { button.setUIStyle(MOnOffButton::ONOFF_STYLE_1); }
 
 // A dimmed picture is right where it begins in the corner of the widget: the switch gets the size
 // of its track.

@@ -28,10 +28,7 @@ Density densityFor(const Band &band)
     return band.start > 5000.0F ? Density{160, 334, 25} : Density{100, 1000, 10};
 }
 
-int inUnits(const Band &band, float freq)
-{
-    return qRound(band.isFM ? freq * 100.0F : freq);
-}
+int inUnits(const Band &band, float freq) { return qRound(band.isFM ? freq * 100.0F : freq); }
 
 MRadioMovePoint *buildTuner(Scene &scene, const Band &band)
 {

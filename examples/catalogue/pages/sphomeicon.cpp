@@ -80,9 +80,7 @@ struct Entry {
 };
 
 const Entry kEntries[] = {
-    {"At rest", "home",
-     [](SpHomeIcon &) {
-     }},
+    {"At rest", "home", [](SpHomeIcon &) {}},
     {"Pressed", "phone", keepPressed},
     {"Own press", "radio",
      [](SpHomeIcon &tile) {
@@ -116,10 +114,7 @@ const Entry kEntries[] = {
          tile.setTextMargin(-8);
          tile.setTextInPic(true);
      }},
-    {"Animated", "gear",
-     [](SpHomeIcon &tile) {
-         tile.setGifImage(Art::animation("equaliser"));
-     }},
+    {"Animated", "gear", [](SpHomeIcon &tile) { tile.setGifImage(Art::animation("equaliser")); }},
     {"…running", "gear",
      [](SpHomeIcon &tile) {
          setRunning(tile);

@@ -45,10 +45,7 @@ SpTableList *buildList(Scene &scene, SpTableList::LIST_STYLE style, const Playli
     return list;
 }
 
-QPixmap icon(const char *name)
-{
-    return Art::pixmap(QString::fromLatin1(name), {40, 40});
-}
+QPixmap icon(const char *name) { return Art::pixmap(QString::fromLatin1(name), {40, 40}); }
 
 styleDelegate &delegateOf(const SpTableList &list)
 {
