@@ -334,24 +334,18 @@ void MCircularDial::paintEvent(QPaintEvent *)
 /** QWidget goes first, which leaves the event to the parent, here and below. */
 void MCircularDial::mousePressEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     QWidget::mousePressEvent(e);
     d->takeTouch(e, false);
 }
 
 void MCircularDial::mouseMoveEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     QWidget::mouseMoveEvent(e);
     d->takeTouch(e, false);
 }
 
 void MCircularDial::mouseReleaseEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     QWidget::mouseReleaseEvent(e);
     d->takeTouch(e, true);
 }

@@ -155,8 +155,6 @@ void MFocusButton::paintEvent(QPaintEvent *e)
 /** A press is timed; being down and checked is the business of QAbstractButton. */
 void MFocusButton::mousePressEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     d->endTiming();
     if (d->longPressIntal >= 0)
         d->timerId = startTimer(d->longPressIntal);
@@ -170,8 +168,6 @@ void MFocusButton::mousePressEvent(QMouseEvent *e)
  */
 void MFocusButton::mouseReleaseEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     const QPointer<MFocusButton> guard(this);
     if (!d->longPressed) {
         postKeyRequest(this, kBeepRequest);

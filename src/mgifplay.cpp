@@ -121,24 +121,18 @@ void MGifPlay::paintEvent(QPaintEvent *)
 void MGifPlay::mousePressEvent(QMouseEvent *e)
 {
     postKeyRequest(this, kBeepRequest);
-    if (e)
-        QWidget::mousePressEvent(e);
+    QWidget::mousePressEvent(e);
 }
 
-void MGifPlay::mouseMoveEvent(QMouseEvent *e)
-{
-    if (e)
-        QWidget::mouseMoveEvent(e);
-}
+void MGifPlay::mouseMoveEvent(QMouseEvent *e) { QWidget::mouseMoveEvent(e); }
 
 /** QWidget goes first, which leaves the event to the parent; then any release emits btnClicked. */
 void MGifPlay::mouseReleaseEvent(QMouseEvent *e)
 {
-    if (e)
-        QWidget::mouseReleaseEvent(e);
+    QWidget::mouseReleaseEvent(e);
     const QPointer<MGifPlay> guard(this);
     emit btnClicked();
-    if (!guard && e)
+    if (!guard)
         e->accept(); // there is no way to the parent any more
 }
 

@@ -257,8 +257,6 @@ void MHorSlider::mousePressEvent(QMouseEvent *e)
     if (!d->pointPressImage.isNull())
         d->knob->setPixmap(d->pointPressImage);
     update();
-    if (!e)
-        return;
     const QPointer<MHorSlider> guard(this);
     setTouchPos(e->pos());
     if (guard)
@@ -268,8 +266,6 @@ void MHorSlider::mousePressEvent(QMouseEvent *e)
 /** The value follows the finger, however far above or below the groove it is. */
 void MHorSlider::mouseMoveEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     const QPointer<MHorSlider> guard(this);
     setTouchPos(e->pos());
     if (guard)
@@ -283,15 +279,13 @@ void MHorSlider::mouseReleaseEvent(QMouseEvent *e)
     update();
     const QPointer<MHorSlider> guard(this);
     emit saveDataSig(d->itemID, d->currentValue);
-    if (guard && e)
+    if (guard)
         QWidget::mouseReleaseEvent(e);
 }
 
 /** A disabled slider shows its disabled knob, if it has one. */
 void MHorSlider::changeEvent(QEvent *e)
 {
-    if (!e)
-        return;
     if (e->type() == QEvent::EnabledChange) {
         const bool hasOwn = !isEnabled() && !d->pointDisableImage.isNull();
         d->knob->setPixmap(hasOwn ? d->pointDisableImage : d->pointNormalImage);

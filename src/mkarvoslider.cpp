@@ -349,7 +349,7 @@ void MKARVOSlider::paintEvent(QPaintEvent *e)
     faint.setAlpha(kFaintAlpha);
     QPainter painter(this);
     painter.setFont(d->font);
-    d->picture.draw(painter, e ? e->rect() : rect(), d->lineColor, faint);
+    d->picture.draw(painter, e->rect(), d->lineColor, faint);
     d->drawIndicator(painter);
 }
 
@@ -363,22 +363,17 @@ void MKARVOSlider::resizeEvent(QResizeEvent *e)
 /** A press is reported and tunes nothing yet. */
 void MKARVOSlider::mousePressEvent(QMouseEvent *e)
 {
-    if (e)
-        d->pressPoint = e->pos();
+    d->pressPoint = e->pos();
     emit mousePressed(true);
 }
 
 /** The tuned frequency is the one under the finger, snapped; a change repaints and is reported. */
-void MKARVOSlider::mouseMoveEvent(QMouseEvent *e)
-{
-    if (e)
-        d->tune(d->freqAt(e->pos().x()));
-}
+void MKARVOSlider::mouseMoveEvent(QMouseEvent *e) { d->tune(d->freqAt(e->pos().x())); }
 
 /** The end of a press is reported first, then, as in a move, a change of the frequency. */
 void MKARVOSlider::mouseReleaseEvent(QMouseEvent *e)
 {
-    const float freq = e ? d->freqAt(e->pos().x()) : d->curFreq;
+    const float freq = d->freqAt(e->pos().x());
     const QPointer<MKARVOSlider> guard(this);
     emit mousePressed(false);
     if (guard)

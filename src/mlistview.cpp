@@ -127,8 +127,6 @@ void MListView::sltRowCountChange(bool change)
 /** The event goes on to QWidget, here and below, and so to the parent. */
 void MListView::mousePressEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     const QPointer<MListView> guard(this);
     if (!d->tableList)
         emit sigMousePress(e->pos());
@@ -138,8 +136,6 @@ void MListView::mousePressEvent(QMouseEvent *e)
 
 void MListView::mouseMoveEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     const QPointer<MListView> guard(this);
     if (!d->tableList)
         emit sigMouseMove(e->pos());
@@ -149,8 +145,6 @@ void MListView::mouseMoveEvent(QMouseEvent *e)
 
 void MListView::mouseReleaseEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     const QPointer<MListView> guard(this);
     if (!d->tableList)
         emit sigMouseRelease(e->pos());

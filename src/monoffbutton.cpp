@@ -290,12 +290,11 @@ void MOnOffButton::mousePressEvent(QMouseEvent *e)
         if (d->timerId != 0)
             d->endGlide();
         d->isDragged = false;
-        if (e)
-            d->pressPoint = e->pos();
+        d->pressPoint = e->pos();
     }
     const QPointer<MOnOffButton> guard(this);
     emit buttonClicked();
-    if (guard && e)
+    if (guard)
         QWidget::mousePressEvent(e);
 }
 
@@ -305,8 +304,6 @@ void MOnOffButton::mousePressEvent(QMouseEvent *e)
  */
 void MOnOffButton::mouseMoveEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     if (!d->btnDisable) {
         const int x = e->pos().x();
         if (distance(x, d->pressPoint.x()) > kDragSlop)
@@ -322,8 +319,6 @@ void MOnOffButton::mouseMoveEvent(QMouseEvent *e)
 
 void MOnOffButton::mouseReleaseEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     const QPointer<MOnOffButton> guard(this);
     if (!d->btnDisable) {
         if (d->isDragged)
@@ -341,8 +336,6 @@ void MOnOffButton::mouseReleaseEvent(QMouseEvent *e)
  */
 void MOnOffButton::timerEvent(QTimerEvent *e)
 {
-    if (!e)
-        return;
     if (d->overtakenTimers.removeOne(e->timerId())) {
         killTimer(e->timerId());
         return;

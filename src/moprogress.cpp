@@ -167,13 +167,12 @@ void MOProgress::paintEvent(QPaintEvent *)
  * the widget is disabled. */
 void MOProgress::mouseReleaseEvent(QMouseEvent *e)
 {
-    if (e)
-        QWidget::mouseReleaseEvent(e);
+    QWidget::mouseReleaseEvent(e);
     if (!isEnabled())
         return;
     const QPointer<MOProgress> guard(this);
     emit btnClicked(d->itemID);
-    if (!guard && e)
+    if (!guard)
         e->accept(); // there is no way to the parent any more
 }
 

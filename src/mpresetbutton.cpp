@@ -249,8 +249,6 @@ void MPresetButton::paintEvent(QPaintEvent *e)
  */
 void MPresetButton::mousePressEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     if (isEnabled()) {
         postKeyRequest(this, kBeepRequest);
         d->longPressed = false;
@@ -268,8 +266,6 @@ void MPresetButton::mousePressEvent(QMouseEvent *e)
  */
 void MPresetButton::mouseMoveEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     const bool isFar = distance(e->x(), d->pressPoint.x()) > kLongPressSlop
         || distance(e->y(), d->pressPoint.y()) > kLongPressSlop;
     if (isFar)
@@ -281,8 +277,6 @@ void MPresetButton::mouseMoveEvent(QMouseEvent *e)
 /** A release that follows neither a move nor a long press is a click, enabled or not. */
 void MPresetButton::mouseReleaseEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     const QPointer<MPresetButton> guard(this);
     if (!d->longPressed && !d->moved) {
         emit btnClicked(d->buttonID);
@@ -296,8 +290,6 @@ void MPresetButton::mouseReleaseEvent(QMouseEvent *e)
 /** A long press. QAbstractButton sees every timer first, for its own. */
 void MPresetButton::timerEvent(QTimerEvent *e)
 {
-    if (!e)
-        return;
     const QPointer<MPresetButton> guard(this);
     QAbstractButton::timerEvent(e);
     if (!guard || e->timerId() != d->timerId)

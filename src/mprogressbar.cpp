@@ -275,8 +275,6 @@ void MProgressBar::paintEvent(QPaintEvent *)
 /** A press asks for the click sound and takes the knob; it goes on to the parent. */
 void MProgressBar::mousePressEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     const QPointer<MProgressBar> guard(this);
     if (isEnabled()) {
         postKeyRequest(this, kBeepRequest);
@@ -290,8 +288,6 @@ void MProgressBar::mousePressEvent(QMouseEvent *e)
 /** The value follows the finger, or with mouse tracking the pointer, which needs no press. */
 void MProgressBar::mouseMoveEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     const QPointer<MProgressBar> guard(this);
     if (isEnabled())
         updateCurrentValue(e->pos());
@@ -302,8 +298,6 @@ void MProgressBar::mouseMoveEvent(QMouseEvent *e)
 /** A release emits valueChanging once more, keeps the value and emits valueChangedSig. */
 void MProgressBar::mouseReleaseEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     const QPointer<MProgressBar> guard(this);
     if (isEnabled()) {
         d->pressed = false;

@@ -287,7 +287,7 @@ void ScaleBkg::paintEvent(QPaintEvent *e)
     if (!d->drawnLook || !(*d->drawnLook == now))
         d->layOut(now);
     QPainter painter(this);
-    d->picture.draw(painter, e ? e->rect() : rect(), d->owner->getLineColor());
+    d->picture.draw(painter, e->rect(), d->owner->getLineColor());
 }
 
 ScaleBkg::Private::Look ScaleBkg::Private::look() const
@@ -681,17 +681,11 @@ void MRadioMovePoint::freqParamChangedSlot(bool isFM, float freqMin, float freqM
 void MRadioMovePoint::curFreqChangedSlot(float freq) { d->needle->moveByFreq(toInt(double(freq))); }
 
 /** The needle follows the finger. A press alone does not move it. */
-void MRadioMovePoint::mouseMoveEvent(QMouseEvent *e)
-{
-    if (e)
-        d->needle->moveByPos(e->pos().x());
-}
+void MRadioMovePoint::mouseMoveEvent(QMouseEvent *e) { d->needle->moveByPos(e->pos().x()); }
 
 /** The needle goes to where the finger lifts and reports the frequency there. */
 void MRadioMovePoint::mouseReleaseEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     d->needle->moveByPos(e->pos().x());
     d->needle->emitFreq();
 }

@@ -244,16 +244,12 @@ void MRadioSlider::paintEvent(QPaintEvent *e)
         d->layOut(now);
     QPainter painter(this);
     painter.setFont(d->font);
-    d->picture.draw(painter, e ? e->rect() : rect(), d->lineColor);
+    d->picture.draw(painter, e->rect(), d->lineColor);
     d->drawIndicator(painter);
 }
 
 /** A press only marks where a drag starts. */
-void MRadioSlider::mousePressEvent(QMouseEvent *e)
-{
-    if (e)
-        d->pressPoint = e->pos();
-}
+void MRadioSlider::mousePressEvent(QMouseEvent *e) { d->pressPoint = e->pos(); }
 
 /**
  * The scale follows the finger pixel by pixel up to its ends; the tuned frequency goes in whole
@@ -262,8 +258,6 @@ void MRadioSlider::mousePressEvent(QMouseEvent *e)
  */
 void MRadioSlider::mouseMoveEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     const QMessageLogger log("src/mradioslider", __LINE__,
                              "virtual void MRadioSlider::mouseMoveEvent(QMouseEvent*)");
     log.debug() << "pressPoint.x():" << d->pressPoint.x();

@@ -214,8 +214,6 @@ void MSelectButton::paintEvent(QPaintEvent *)
  */
 void MSelectButton::mousePressEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     if (d->isActive()) {
         postKeyRequest(this, kBeepRequest);
         d->longPressed = false;
@@ -235,8 +233,6 @@ void MSelectButton::mousePressEvent(QMouseEvent *e)
  */
 void MSelectButton::mouseMoveEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     const bool isAway = distance(e->x(), d->pressPoint.x()) > kSlideSlop
         || distance(e->y(), d->pressPoint.y()) > kSlideSlop;
     if (isAway) {
@@ -255,8 +251,6 @@ void MSelectButton::mouseMoveEvent(QMouseEvent *e)
  */
 void MSelectButton::mouseReleaseEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     const QPointer<MSelectButton> guard(this);
     if (d->isActive()) {
         if (!d->longPressed && d->isPressed) {
@@ -275,7 +269,7 @@ void MSelectButton::mouseReleaseEvent(QMouseEvent *e)
 /** A long press, if the finger is still there. */
 void MSelectButton::timerEvent(QTimerEvent *e)
 {
-    if (!e || e->timerId() != d->timerId)
+    if (e->timerId() != d->timerId)
         return;
     d->endTiming();
     d->longPressed = true;

@@ -150,7 +150,7 @@ void MVScrollLabel::paintEvent(QPaintEvent *e)
 {
     if (d->cycleHeight <= 0)
         return;
-    const QRect inSight = e ? e->rect() : rect();
+    const QRect inSight = e->rect();
     QPainter painter(this);
     for (qint64 y = -qint64(d->scrollOffset); y < height(); y += d->cycleHeight) {
         const QRect place(0, int(y), width(), boundedPixel(d->cycleHeight));
@@ -173,8 +173,6 @@ void MVScrollLabel::hideEvent(QHideEvent *)
 /** A tick of the own timer moves the text up by a pixel. */
 void MVScrollLabel::timerEvent(QTimerEvent *e)
 {
-    if (!e)
-        return;
     if (!d->isTicking || e->timerId() != d->timerId) {
         QObject::timerEvent(e); // NOLINT(bugprone-parent-virtual-call): QLabel has no timers
         return;
@@ -187,16 +185,12 @@ void MVScrollLabel::timerEvent(QTimerEvent *e)
 
 void MVScrollLabel::mousePressEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     d->lastTouch = e->pos();
     QLabel::mousePressEvent(e);
 }
 
 void MVScrollLabel::mouseMoveEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     d->pushTo(e->pos());
     d->lastTouch = e->pos();
     QLabel::mouseMoveEvent(e);
@@ -204,8 +198,6 @@ void MVScrollLabel::mouseMoveEvent(QMouseEvent *e)
 
 void MVScrollLabel::mouseReleaseEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     d->pushTo(e->pos());
     QLabel::mouseReleaseEvent(e);
 }

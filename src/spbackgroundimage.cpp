@@ -96,13 +96,13 @@ void SpBackgroundImage::paintEvent(QPaintEvent *)
 
 void SpBackgroundImage::mousePressEvent(QMouseEvent *e)
 {
-    if (e && !d->holdMouseEvent)
+    if (!d->holdMouseEvent)
         QWidget::mousePressEvent(e);
 }
 
 void SpBackgroundImage::mouseMoveEvent(QMouseEvent *e)
 {
-    if (e && !d->holdMouseEvent)
+    if (!d->holdMouseEvent)
         QWidget::mouseMoveEvent(e);
 }
 
@@ -111,7 +111,7 @@ void SpBackgroundImage::mouseReleaseEvent(QMouseEvent *e)
 {
     if (d->holdMouseEvent)
         emit releaseSig();
-    else if (e)
+    else
         QWidget::mouseReleaseEvent(e);
 }
 

@@ -24,14 +24,6 @@ const QLatin1String kEllipsis("...");
 constexpr int kPrefixesTried = 512;
 constexpr int kRemovalsTried = 64; // of what makes room for three dots
 
-// Qt looks for the parent of a widget that has left an event to it, and does not expect that the
-// widget is gone.
-void keepFromParent(QMouseEvent *e)
-{
-    if (e)
-        e->accept();
-}
-
 } // namespace
 
 class Q_DECL_HIDDEN SpDisLabel::Private
@@ -235,7 +227,7 @@ void SpDisLabel::paintEvent(QPaintEvent *)
  */
 void SpDisLabel::mousePressEvent(QMouseEvent *e)
 {
-    if (!d->holdMouseEvent && e)
+    if (!d->holdMouseEvent)
         QWidget::mousePressEvent(e);
     if (d->isBeep)
         postKeyRequest(this, kBeepRequest);
@@ -246,19 +238,19 @@ void SpDisLabel::mousePressEvent(QMouseEvent *e)
     const QPointer<SpDisLabel> guard(this);
     emit pressed(d->btnID);
     if (!guard)
-        keepFromParent(e);
+        e->accept(); // Qt would look for the parent of a widget that is gone
 }
 
 void SpDisLabel::mouseMoveEvent(QMouseEvent *e)
 {
-    if (!d->holdMouseEvent && e)
+    if (!d->holdMouseEvent)
         QWidget::mouseMoveEvent(e);
 }
 
 /** Any release emits released, wherever the finger was lifted. */
 void SpDisLabel::mouseReleaseEvent(QMouseEvent *e)
 {
-    if (!d->holdMouseEvent && e)
+    if (!d->holdMouseEvent)
         QWidget::mouseReleaseEvent(e);
     if (d->displayMode == String) {
         if (!d->isLock)
@@ -268,7 +260,7 @@ void SpDisLabel::mouseReleaseEvent(QMouseEvent *e)
     const QPointer<SpDisLabel> guard(this);
     emit released(d->btnID);
     if (!guard)
-        keepFromParent(e);
+        e->accept(); // Qt would look for the parent of a widget that is gone
 }
 
 // First the text is cut one character before the one that reaches the last column of pixels, then

@@ -433,7 +433,7 @@ void SpHomeIcon::mousePressEvent(QMouseEvent *e)
     update();
     const QPointer<SpHomeIcon> guard(this);
     emit itemPress(d->itemIndex);
-    if (guard && e)
+    if (guard)
         QWidget::mousePressEvent(e);
 }
 
@@ -443,7 +443,7 @@ void SpHomeIcon::mouseMoveEvent(QMouseEvent *e)
     d->isPressing = false;
     const QPointer<SpHomeIcon> guard(this);
     emit itemMove(d->itemIndex);
-    if (guard && e)
+    if (guard)
         QWidget::mouseMoveEvent(e);
 }
 
@@ -454,7 +454,7 @@ void SpHomeIcon::mouseReleaseEvent(QMouseEvent *e)
     update();
     const QPointer<SpHomeIcon> guard(this);
     emit itemRelease(d->itemIndex);
-    if (guard && e)
+    if (guard)
         QWidget::mouseReleaseEvent(e);
 }
 

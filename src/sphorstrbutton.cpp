@@ -253,15 +253,10 @@ void SpHorStrButton::mousePressEvent(QMouseEvent *e)
         d->pressState = true;
     }
     update();
-    if (e)
-        QWidget::mousePressEvent(e);
+    QWidget::mousePressEvent(e);
 }
 
-void SpHorStrButton::mouseMoveEvent(QMouseEvent *e)
-{
-    if (e)
-        QWidget::mouseMoveEvent(e);
-}
+void SpHorStrButton::mouseMoveEvent(QMouseEvent *e) { QWidget::mouseMoveEvent(e); }
 
 /**
  * Any release emits clicked, wherever the finger was lifted and whether or not the button is
@@ -275,7 +270,7 @@ void SpHorStrButton::mouseReleaseEvent(QMouseEvent *e)
     update();
     const QPointer<SpHorStrButton> guard(this);
     emit clicked(d->buttonId);
-    if (guard && e)
+    if (guard)
         QWidget::mouseReleaseEvent(e);
 }
 

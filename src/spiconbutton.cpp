@@ -400,8 +400,6 @@ void SpIconButton::mousePressEvent(QMouseEvent *e)
             return;
         setStartTimer(true);
     }
-    if (!e)
-        return;
     d->pressPos = e->pos();
     QWidget::mousePressEvent(e);
 }

@@ -75,23 +75,11 @@ void SpLabel::paintEvent(QPaintEvent *)
 }
 
 // Touches are left to the parent.
-void SpLabel::mousePressEvent(QMouseEvent *e)
-{
-    if (e)
-        QWidget::mousePressEvent(e);
-}
+void SpLabel::mousePressEvent(QMouseEvent *e) { QWidget::mousePressEvent(e); }
 
-void SpLabel::mouseMoveEvent(QMouseEvent *e)
-{
-    if (e)
-        QWidget::mouseMoveEvent(e);
-}
+void SpLabel::mouseMoveEvent(QMouseEvent *e) { QWidget::mouseMoveEvent(e); }
 
-void SpLabel::mouseReleaseEvent(QMouseEvent *e)
-{
-    if (e)
-        QWidget::mouseReleaseEvent(e);
-}
+void SpLabel::mouseReleaseEvent(QMouseEvent *e) { QWidget::mouseReleaseEvent(e); }
 
 // The scaled copy takes the place of the picture, on purpose: only one of them is in memory, and
 // image() tells what is shown. The price is that a picture does not get its details back when a

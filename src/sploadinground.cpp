@@ -123,7 +123,7 @@ void SpLoadingRound::paintEvent(QPaintEvent *)
 /** A tick of the own timer goes on by a step; those of any other are dropped. */
 void SpLoadingRound::timerEvent(QTimerEvent *e)
 {
-    if (!e || e->timerId() != d->timerId)
+    if (e->timerId() != d->timerId)
         return;
     ++d->index;
     if (d->index == kSpokes)
@@ -133,8 +133,6 @@ void SpLoadingRound::timerEvent(QTimerEvent *e)
 
 void SpLoadingRound::mousePressEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     if (!d->holdMouseEvent)
         QWidget::mousePressEvent(e);
     d->moved = false;
@@ -146,7 +144,7 @@ void SpLoadingRound::mousePressEvent(QMouseEvent *e)
 
 void SpLoadingRound::mouseMoveEvent(QMouseEvent *e)
 {
-    if (e && !d->holdMouseEvent)
+    if (!d->holdMouseEvent)
         QWidget::mouseMoveEvent(e);
     d->moved = true;
 }
@@ -154,8 +152,6 @@ void SpLoadingRound::mouseMoveEvent(QMouseEvent *e)
 /** A release emits releaseMask and, without any move since the press, clicked. */
 void SpLoadingRound::mouseReleaseEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     if (!d->holdMouseEvent)
         QWidget::mouseReleaseEvent(e);
     const QPointer<SpLoadingRound> guard(this);

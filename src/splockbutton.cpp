@@ -218,8 +218,7 @@ void SpLockButton::paintEvent(QPaintEvent *)
  */
 void SpLockButton::mousePressEvent(QMouseEvent *e)
 {
-    if (e)
-        QWidget::mousePressEvent(e);
+    QWidget::mousePressEvent(e);
     if (d->disableState)
         return;
     postKeyRequest(this, kBeepRequest);
@@ -227,26 +226,21 @@ void SpLockButton::mousePressEvent(QMouseEvent *e)
     update();
     const QPointer<SpLockButton> guard(this);
     emit btnPressed(d->buttonID);
-    if (!guard && e)
+    if (!guard)
         e->accept(); // there is no way to the parent any more
 }
 
-void SpLockButton::mouseMoveEvent(QMouseEvent *e)
-{
-    if (e)
-        QWidget::mouseMoveEvent(e);
-}
+void SpLockButton::mouseMoveEvent(QMouseEvent *e) { QWidget::mouseMoveEvent(e); }
 
 /** A release, wherever it is, emits btnReleased and leaves the state as it is. */
 void SpLockButton::mouseReleaseEvent(QMouseEvent *e)
 {
-    if (e)
-        QWidget::mouseReleaseEvent(e);
+    QWidget::mouseReleaseEvent(e);
     if (d->disableState)
         return;
     const QPointer<SpLockButton> guard(this);
     emit btnReleased(d->buttonID);
-    if (!guard && e)
+    if (!guard)
         e->accept();
 }
 

@@ -66,8 +66,6 @@ void SpMaskBackground::paintEvent(QPaintEvent *)
 
 void SpMaskBackground::mousePressEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     if (!d->holdMouseEvent)
         QWidget::mousePressEvent(e);
     const QPointer<SpMaskBackground> guard(this);
@@ -78,15 +76,13 @@ void SpMaskBackground::mousePressEvent(QMouseEvent *e)
 
 void SpMaskBackground::mouseMoveEvent(QMouseEvent *e)
 {
-    if (e && !d->holdMouseEvent)
+    if (!d->holdMouseEvent)
         QWidget::mouseMoveEvent(e);
 }
 
 /** A release emits releaseMask and clicked, however far the finger has moved. */
 void SpMaskBackground::mouseReleaseEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     if (!d->holdMouseEvent)
         QWidget::mouseReleaseEvent(e);
     const QPointer<SpMaskBackground> guard(this);

@@ -235,11 +235,7 @@ void SpRollingText::paintEvent(QPaintEvent *)
         emit paintFinish();
 }
 
-void SpRollingText::mouseReleaseEvent(QMouseEvent *e)
-{
-    if (e)
-        QWidget::mouseReleaseEvent(e);
-}
+void SpRollingText::mouseReleaseEvent(QMouseEvent *e) { QWidget::mouseReleaseEvent(e); }
 
 /** A tick counts down the wait; after that it repaints, and the paint moves the text. */
 void SpRollingText::updateIndex()

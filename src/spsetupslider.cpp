@@ -291,8 +291,6 @@ void SpSetupSlider::mousePressEvent(QMouseEvent *e)
     if (!d->pointPressImage.isNull())
         d->knob->setPixmap(d->pointPressImage);
     update();
-    if (!e)
-        return;
     d->pressPos = e->pos();
     const QPointer<SpSetupSlider> guard(this);
     setTouchPos(e->pos());
@@ -303,8 +301,6 @@ void SpSetupSlider::mousePressEvent(QMouseEvent *e)
 /** A finger drags the knob until it is farther than 69 px beside the press. */
 void SpSetupSlider::mouseMoveEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     const QPointer<SpSetupSlider> guard(this);
     if (distance(e->pos().x(), d->pressPos.x()) <= kMostSideways)
         setTouchPos(e->pos());
@@ -321,7 +317,7 @@ void SpSetupSlider::mouseReleaseEvent(QMouseEvent *e)
     emit saveDataSig();
     if (guard)
         emit sliderRelease(d->itemID, d->currentValue);
-    if (guard && e)
+    if (guard)
         QWidget::mouseReleaseEvent(e);
 }
 
@@ -329,8 +325,6 @@ void SpSetupSlider::mouseReleaseEvent(QMouseEvent *e)
  */
 void SpSetupSlider::changeEvent(QEvent *e)
 {
-    if (!e)
-        return;
     if (e->type() == QEvent::EnabledChange) {
         for (QWidget *part :
              {static_cast<QWidget *>(d->addButton), static_cast<QWidget *>(d->decButton),

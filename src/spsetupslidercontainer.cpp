@@ -80,8 +80,6 @@ void SpSetupSliderContainer::paintEvent(QPaintEvent *e) { QWidget::paintEvent(e)
 /** A press marks where a swipe starts; it goes on to the parent. */
 void SpSetupSliderContainer::mousePressEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     d->pressPos = e->pos();
     QWidget::mousePressEvent(e);
 }
@@ -92,8 +90,6 @@ void SpSetupSliderContainer::mousePressEvent(QMouseEvent *e)
  */
 void SpSetupSliderContainer::mouseReleaseEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     const qint64 way = qint64(e->pos().x()) - d->pressPos.x();
     const QPointer<SpSetupSliderContainer> guard(this);
     if (way < -kSwipe)

@@ -416,8 +416,6 @@ void SpTableList::listModelReset()
 /** Every timer event goes on to QTableView, which has timers of its own. */
 void SpTableList::timerEvent(QTimerEvent *e)
 {
-    if (!e)
-        return;
     const QPointer<SpTableList> guard(this);
     const int timer = e->timerId();
     if (timer == d->clickTimer) {
@@ -444,8 +442,6 @@ void SpTableList::timerEvent(QTimerEvent *e)
  */
 void SpTableList::mousePressEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     d->isFirstMove = true;
     d->stop(d->clickTimer);
     // The delegate keeps the number of the timer that is gone, on purpose: with it, long texts are
@@ -485,8 +481,6 @@ void SpTableList::mousePressEvent(QMouseEvent *e)
  */
 void SpTableList::mouseMoveEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     const QPointer<SpTableList> guard(this);
     {
         const ScrollingPause pause(this);
@@ -525,8 +519,6 @@ void SpTableList::mouseMoveEvent(QMouseEvent *e)
  */
 void SpTableList::mouseReleaseEvent(QMouseEvent *e)
 {
-    if (!e)
-        return;
     const QPointer<SpTableList> guard(this);
     QAbstractItemView::mouseReleaseEvent(e);
     if (!guard)

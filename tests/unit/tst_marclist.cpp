@@ -136,7 +136,6 @@ public:
     using MArcList::mouseMoveEvent;
     using MArcList::mousePressEvent;
     using MArcList::mouseReleaseEvent;
-    using MArcList::paintEvent;
 };
 
 // Lifts the finger, so many px and ms after it came down and moved, at a full second of a minute.

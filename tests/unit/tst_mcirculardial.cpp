@@ -1022,16 +1022,6 @@ private slots:
         }
     }
 
-    void nullEventsAreIgnored()
-    {
-        Handlers dial;
-        SignalLog log(&dial);
-        dial.mousePressEvent(nullptr);
-        dial.mouseMoveEvent(nullptr);
-        dial.mouseReleaseEvent(nullptr);
-        QCOMPARE(log.take(), QStringList());
-    }
-
     void aDialMayBeDeletedByEitherReport()
     {
         for (const auto report :

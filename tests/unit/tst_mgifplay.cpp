@@ -30,8 +30,6 @@ using Action = std::function<void(MGifPlay &)>;
 class Handlers : public MGifPlay
 {
 public:
-    using MGifPlay::mouseMoveEvent;
-    using MGifPlay::mousePressEvent;
     using MGifPlay::mouseReleaseEvent;
 };
 
@@ -725,16 +723,6 @@ private slots:
     }
 
     // --- Robustness -----------------------------------------------------------------------------
-
-    void noEventIsNoHarm()
-    {
-        Handlers player;
-        SignalLog log(&player);
-        player.mousePressEvent(nullptr);
-        player.mouseMoveEvent(nullptr);
-        player.mouseReleaseEvent(nullptr);
-        QCOMPARE(log.take(), QStringList{QStringLiteral("btnClicked()")});
-    }
 
     void aPlayingWidgetLeavesNothingBehindWhenItIsDestroyed()
     {

@@ -103,8 +103,6 @@ QString saved(int id, int value)
 class Handlers : public MHorSlider
 {
 public:
-    using MHorSlider::changeEvent;
-    using MHorSlider::mouseMoveEvent;
     using MHorSlider::mousePressEvent;
     using MHorSlider::mouseReleaseEvent;
 };
@@ -687,17 +685,6 @@ private slots:
         touch(&slider).press(5, 5).moveTo(5, -1).release();
         QCOMPARE(log.take(), (QStringList{changed(0, -5), saved(0, -5)}));
         COMPARE_PICTURES(paintedItself(slider), reference(slider, [](QPainter &) {}));
-    }
-
-    void noEventIsNoHarm()
-    {
-        Handlers slider;
-        SignalLog log(&slider);
-        slider.mousePressEvent(nullptr);
-        slider.mouseMoveEvent(nullptr);
-        slider.mouseReleaseEvent(nullptr);
-        slider.changeEvent(nullptr);
-        QCOMPARE(log.take(), QStringList{saved(0, 0)});
     }
 
     void aSliderMayBeDeletedByAnyReport()

@@ -154,9 +154,6 @@ class Handlers : public MKARVOSlider
 {
 public:
     Handlers() : MKARVOSlider(nullptr) { }
-    using MKARVOSlider::mouseMoveEvent;
-    using MKARVOSlider::mousePressEvent;
-    using MKARVOSlider::mouseReleaseEvent;
     using MKARVOSlider::resizeEvent;
 };
 
@@ -936,18 +933,6 @@ private slots:
         slider->setIsFM(false);
         slider->setCurFreq(800.0F);
         QVERIFY(isAsDocumented(*slider)); // none of it stays
-    }
-
-    void noEventIsNoHarm()
-    {
-        Handlers slider;
-        SignalLog log(&slider);
-        slider.mousePressEvent(nullptr);
-        slider.mouseMoveEvent(nullptr);
-        slider.mouseReleaseEvent(nullptr);
-        QCOMPARE(log.take(),
-                 (QStringList{QStringLiteral("mousePressed(true)"),
-                              QStringLiteral("mousePressed(false)")}));
     }
 
     void aSliderMayBeDeletedByAnyReport()

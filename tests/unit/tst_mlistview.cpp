@@ -100,15 +100,6 @@ private:
     const QEvent *m_event = nullptr;
 };
 
-class Handlers : public MListView
-{
-public:
-    using MListView::MListView;
-    using MListView::mouseMoveEvent;
-    using MListView::mousePressEvent;
-    using MListView::mouseReleaseEvent;
-};
-
 } // namespace
 
 class tst_MListView : public WidgetTest
@@ -432,16 +423,6 @@ private slots:
     }
 
     // --- Hard to break --------------------------------------------------------------------------
-
-    void noEventIsNoHarm()
-    {
-        Handlers view(nullptr, kRect);
-        SignalLog log(&view);
-        view.mousePressEvent(nullptr);
-        view.mouseMoveEvent(nullptr);
-        view.mouseReleaseEvent(nullptr);
-        QCOMPARE(log.take(), QStringList());
-    }
 
     void theViewMayBeDeletedInAnyOfItsSignals()
     {

@@ -49,9 +49,6 @@ public:
     using MOnOffButton::createRectPath;
     using MOnOffButton::drawDisableImage;
     using MOnOffButton::MOnOffButton;
-    using MOnOffButton::mouseMoveEvent;
-    using MOnOffButton::mousePressEvent;
-    using MOnOffButton::mouseReleaseEvent;
 
     int ticks = 0;
 
@@ -1357,17 +1354,6 @@ private slots:
         virtualtime::advance(0);
         QCOMPARE(log.take(), QStringList{"beep"});
         button->setParent(nullptr);
-    }
-
-    void nullEventsAreTaken()
-    {
-        const auto button = makeSwitch();
-        SignalLog log(button.get());
-        button->mousePressEvent(nullptr);
-        button->mouseMoveEvent(nullptr);
-        button->mouseReleaseEvent(nullptr);
-        QCOMPARE(log.take(), QStringList{kPressed});
-        QVERIFY(!button->onoffStatus());
     }
 
     void aSlotMayDeleteTheSwitch_data()

@@ -52,7 +52,6 @@ const Colors kDisableColors{QColor(100, 110, 120, 130), QColor(200, 111, 121, 13
 class Button : public MPresetButton
 {
 public:
-    using MPresetButton::mouseMoveEvent;
     using MPresetButton::mousePressEvent;
     using MPresetButton::mouseReleaseEvent;
     using MPresetButton::MPresetButton;
@@ -723,17 +722,6 @@ private slots:
         virtualtime::advance(200);
         QVERIFY(!button->isDown());
         QVERIFY(button->isChecked());
-    }
-
-    void nullEventsAreTaken()
-    {
-        const auto button = makeButton();
-        SignalLog log(button.get());
-        button->mousePressEvent(nullptr);
-        button->mouseMoveEvent(nullptr);
-        button->mouseReleaseEvent(nullptr);
-        button->timerEvent(nullptr);
-        QCOMPARE(log.take(), QStringList());
     }
 
     void aSlotMayDeleteTheButton_data()

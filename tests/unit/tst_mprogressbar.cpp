@@ -626,16 +626,6 @@ private slots:
         }
     }
 
-    void noEventIsNoHarm()
-    {
-        Handlers bar;
-        SignalLog log(&bar);
-        bar.mousePressEvent(nullptr);
-        bar.mouseMoveEvent(nullptr);
-        bar.mouseReleaseEvent(nullptr);
-        QCOMPARE(log.take(), QStringList());
-    }
-
     void aBarMayBeDeletedByAnyReport()
     {
         for (int number = 0; number < 4; ++number) {

@@ -91,13 +91,6 @@ void addPlainProperties()
     QTest::newRow("lineColor") << QByteArray("lineColor") << QVariant(QColor(1, 2, 3));
 }
 
-class Handlers : public MRadioMovePoint
-{
-public:
-    using MRadioMovePoint::mouseMoveEvent;
-    using MRadioMovePoint::mouseReleaseEvent;
-};
-
 } // namespace
 
 Q_DECLARE_METATYPE(Action)
@@ -617,17 +610,6 @@ private slots:
                 }
             }
         }
-    }
-
-    void noEventIsNoHarm()
-    {
-        Handlers tuner;
-        SignalLog log(&tuner);
-        const QRect before = needleOf(tuner)->geometry();
-        tuner.mouseMoveEvent(nullptr);
-        tuner.mouseReleaseEvent(nullptr);
-        QCOMPARE(needleOf(tuner)->geometry(), before);
-        QCOMPARE(log.take(), QStringList());
     }
 
     void aTunerMayBeDeletedByItsReport()

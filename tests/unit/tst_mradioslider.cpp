@@ -125,16 +125,6 @@ bool isAs(MRadioSlider &slider, int scrollX, int stepCount)
         __LINE__);
 }
 
-class Handlers : public MRadioSlider
-{
-public:
-    Handlers() : MRadioSlider(nullptr) { }
-    using MRadioSlider::mouseMoveEvent;
-    using MRadioSlider::mousePressEvent;
-    using MRadioSlider::mouseReleaseEvent;
-    using MRadioSlider::paintEvent;
-};
-
 } // namespace
 
 Q_DECLARE_METATYPE(Action)
@@ -810,17 +800,6 @@ private slots:
         slider->setCurFreq(87.5F);
         touch(slider.get()).press(320, 0).moveTo(0, 0);
         COMPARE_PICTURES(painted(*slider), before); // none of it stays
-    }
-
-    void noEventIsNoHarm()
-    {
-        Handlers slider;
-        slider.mousePressEvent(nullptr);
-        slider.mouseMoveEvent(nullptr);
-        QCOMPARE(slider.getCurFreq(), 87.5F);
-        SignalLog log(&slider);
-        slider.mouseReleaseEvent(nullptr);
-        QCOMPARE(log.take(), QStringList{QStringLiteral("freqChangedSgl(8750)")});
     }
 
     void aSliderMayBeDeletedByItsReport()

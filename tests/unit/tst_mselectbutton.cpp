@@ -43,7 +43,6 @@ const QRect kImageRect(30, 25, 40, 30); // of makeButton()
 class Button : public MSelectButton
 {
 public:
-    using MSelectButton::mouseMoveEvent;
     using MSelectButton::mousePressEvent;
     using MSelectButton::mouseReleaseEvent;
     using MSelectButton::MSelectButton;
@@ -749,17 +748,6 @@ private slots:
         touch(&popup).moveTo(100, 79);
         QVERIFY(!popup.isVisible());
         QCOMPARE(takeMessages().filter(QStringLiteral("This plugin does not support")).size(), 2);
-    }
-
-    void nullEventsAreTaken()
-    {
-        const auto button = makeButton();
-        SignalLog log(button.get());
-        button->mousePressEvent(nullptr);
-        button->mouseMoveEvent(nullptr);
-        button->mouseReleaseEvent(nullptr);
-        button->timerEvent(nullptr);
-        QCOMPARE(log.take(), QStringList());
     }
 
     void timersOfOthersAreNoLongPress()

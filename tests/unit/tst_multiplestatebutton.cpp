@@ -27,15 +27,6 @@ QStringList clicked(int id, int value)
     return {QStringLiteral("clicked(%1, %2)").arg(id).arg(value)};
 }
 
-// Handlers are called with what a subclass may hand them.
-class Handlers : public MultipleStateButton
-{
-public:
-    using MultipleStateButton::mousePressEvent;
-    using MultipleStateButton::mouseReleaseEvent;
-    using MultipleStateButton::MultipleStateButton;
-};
-
 } // namespace
 
 class tst_MultipleStateButton : public WidgetTest
@@ -371,15 +362,6 @@ private slots:
     }
 
     // --- Robustness -----------------------------------------------------------------------------
-
-    void noEventIsNoHarm()
-    {
-        Handlers button(0, 0, 1, normalFiles(), pressFiles(), background());
-        SignalLog log(&button);
-        button.mousePressEvent(nullptr);
-        button.mouseReleaseEvent(nullptr);
-        QCOMPARE(log.take(), clicked(1, 1));
-    }
 
     void aButtonMayBeDeletedByItsReport()
     {

@@ -714,7 +714,6 @@ private slots:
         QTimerEvent tick(own);
         label.timerEvent(&tick);
         COMPARE_PICTURES(painted(label), documented(label, 1));
-        label.timerEvent(nullptr);
         label.hide();
         label.stopScroll();
         QTimerEvent late(own);
@@ -955,15 +954,6 @@ private slots:
             QVERIFY(cpuTime([&] { painted(*label); }) < 1000);
         }
         QCOMPARE(painted(*label), reference(*label, [](QPainter &) {})); // far below
-    }
-
-    void noEventIsNoHarm()
-    {
-        Handlers label(nullptr, Qt::WindowFlags());
-        label.mousePressEvent(nullptr);
-        label.mouseMoveEvent(nullptr);
-        label.mouseReleaseEvent(nullptr);
-        label.timerEvent(nullptr);
     }
 
     void scrollingWithoutALayoutStaysAtTheTop()

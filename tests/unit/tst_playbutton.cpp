@@ -35,15 +35,6 @@ QImage shown(const PlayButton &button, const QPixmap &pixmap)
     return reference(button, [&](QPainter &p) { p.drawPixmap(0, 0, pixmap); });
 }
 
-// Handlers are called with what a subclass may hand them.
-class Handlers : public PlayButton
-{
-public:
-    using PlayButton::mousePressEvent;
-    using PlayButton::mouseReleaseEvent;
-    using PlayButton::PlayButton;
-};
-
 } // namespace
 
 class tst_PlayButton : public WidgetTest
@@ -271,15 +262,6 @@ private slots:
     }
 
     // --- Robustness -----------------------------------------------------------------------------
-
-    void noEventIsNoHarm()
-    {
-        Handlers button(0, 0, 9, m_normal, m_pressed);
-        SignalLog log(&button);
-        button.mousePressEvent(nullptr);
-        button.mouseReleaseEvent(nullptr);
-        QCOMPARE(log.take(), m_report);
-    }
 
     void aButtonMayBeDeletedByItsReport()
     {

@@ -56,15 +56,6 @@ QImage documented(const SpBackgroundImage &backdrop)
     });
 }
 
-// Handlers are called with what a subclass may hand them.
-class Handlers : public SpBackgroundImage
-{
-public:
-    using SpBackgroundImage::mouseMoveEvent;
-    using SpBackgroundImage::mousePressEvent;
-    using SpBackgroundImage::mouseReleaseEvent;
-};
-
 using Action = std::function<void(SpBackgroundImage &)>;
 
 } // namespace
@@ -275,19 +266,6 @@ private slots:
     }
 
     // --- Robustness -----------------------------------------------------------------------------
-
-    void noEventIsNoHarm()
-    {
-        Handlers backdrop;
-        SignalLog log(&backdrop);
-        for (const bool isHeld : {false, true}) {
-            backdrop.setholdMouseEvent(isHeld);
-            backdrop.mousePressEvent(nullptr);
-            backdrop.mouseMoveEvent(nullptr);
-            backdrop.mouseReleaseEvent(nullptr);
-        }
-        QCOMPARE(log.take(), QStringList{QStringLiteral("releaseSig()")});
-    }
 
     void hostileAnglesSizesAndPictures_data()
     {

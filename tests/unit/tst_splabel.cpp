@@ -74,9 +74,6 @@ std::unique_ptr<SpLabel> makeLabel(QWidget *parent = nullptr)
 class Handlers : public SpLabel
 {
 public:
-    using SpLabel::mouseMoveEvent;
-    using SpLabel::mousePressEvent;
-    using SpLabel::mouseReleaseEvent;
     using SpLabel::paintEvent;
 };
 
@@ -386,15 +383,6 @@ private slots:
                  (QStringList{QStringLiteral("press"), QStringLiteral("move"),
                               QStringLiteral("release")}));
         QCOMPARE(log.take(), QStringList());
-    }
-
-    void noEventIsNoHarm()
-    {
-        Handlers label;
-        label.mousePressEvent(nullptr);
-        label.mouseMoveEvent(nullptr);
-        label.mouseReleaseEvent(nullptr);
-        label.paintEvent(nullptr);
     }
 };
 

@@ -63,7 +63,6 @@ int runningTimers(SpLoadingRound &ring)
 class Handlers : public SpLoadingRound
 {
 public:
-    using SpLoadingRound::mouseMoveEvent;
     using SpLoadingRound::mousePressEvent;
     using SpLoadingRound::mouseReleaseEvent;
     using SpLoadingRound::timerEvent;
@@ -284,7 +283,6 @@ private slots:
         QTimerEvent tick(own);
         ring.timerEvent(&tick);
         QCOMPARE(ring.index(), 1);
-        ring.timerEvent(nullptr);
         ring.stopTimer();
         QTimerEvent late(own);
         ring.timerEvent(&late);
@@ -372,16 +370,6 @@ private slots:
                 QVERIFY(cpuTime([&] { painted(*ring); }) < 2000);
             }
         }
-    }
-
-    void noEventIsNoHarm()
-    {
-        Handlers ring;
-        SignalLog log(&ring);
-        ring.mousePressEvent(nullptr);
-        ring.mouseMoveEvent(nullptr);
-        ring.mouseReleaseEvent(nullptr);
-        QCOMPARE(log.take(), QStringList());
     }
 
     void aRingMayBeDeletedByAnyReport()

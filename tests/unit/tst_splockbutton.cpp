@@ -65,7 +65,6 @@ QImage shown(const SpLockButton &button, const QPixmap &pixmap)
 class Handlers : public SpLockButton
 {
 public:
-    using SpLockButton::mouseMoveEvent;
     using SpLockButton::mousePressEvent;
     using SpLockButton::mouseReleaseEvent;
 };
@@ -498,17 +497,6 @@ private slots:
     }
 
     // --- Robustness -----------------------------------------------------------------------------
-
-    void noEventIsNoHarm()
-    {
-        Handlers button;
-        SignalLog log(&button);
-        button.mousePressEvent(nullptr);
-        button.mouseMoveEvent(nullptr);
-        button.mouseReleaseEvent(nullptr);
-        QCOMPARE(button.isDown(), true);
-        QCOMPARE(log.take().size(), 2);
-    }
 
     void aButtonMayBeDeletedByEitherReport()
     {

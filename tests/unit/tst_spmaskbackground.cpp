@@ -42,7 +42,6 @@ QString at(const char *signal, int x, int y)
 class Handlers : public SpMaskBackground
 {
 public:
-    using SpMaskBackground::mouseMoveEvent;
     using SpMaskBackground::mousePressEvent;
     using SpMaskBackground::mouseReleaseEvent;
 };
@@ -216,16 +215,6 @@ private slots:
     }
 
     // --- Robustness -----------------------------------------------------------------------------
-
-    void noEventIsNoHarm()
-    {
-        Handlers mask;
-        SignalLog log(&mask);
-        mask.mousePressEvent(nullptr);
-        mask.mouseMoveEvent(nullptr);
-        mask.mouseReleaseEvent(nullptr);
-        QCOMPARE(log.take(), QStringList());
-    }
 
     void aMaskMayBeDeletedByAnyReport()
     {

@@ -122,14 +122,6 @@ QPixmap imageOf(const SpMultipleButton &button, const char *kind, int state)
         .value<QPixmap>();
 }
 
-// Handlers are called with what a subclass may hand them.
-class Handlers : public SpMultipleButton
-{
-public:
-    using SpMultipleButton::mousePressEvent;
-    using SpMultipleButton::mouseReleaseEvent;
-};
-
 // Remembers what it was last asked to paint.
 class Probe : public SpMultipleButton
 {
@@ -977,16 +969,6 @@ private slots:
     }
 
     // --- Hard to break --------------------------------------------------------------------------
-
-    void noEventIsNoHarm()
-    {
-        Handlers button;
-        button.setPixmapList(pictures(normal, 2), pictures(press, 2));
-        SignalLog log(&button);
-        button.mousePressEvent(nullptr);
-        button.mouseReleaseEvent(nullptr);
-        QCOMPARE(log.take(), QStringList{"clicked(0, 1)"});
-    }
 
     void theButtonMayBeDeletedInItsSignal_data()
     {

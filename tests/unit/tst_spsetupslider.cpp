@@ -109,16 +109,6 @@ QString changed(int id, int value, const QPoint &pos)
         .arg(pos.y());
 }
 
-// Handlers are called with what a subclass may hand them.
-class Handlers : public SpSetupSlider
-{
-public:
-    using SpSetupSlider::changeEvent;
-    using SpSetupSlider::mouseMoveEvent;
-    using SpSetupSlider::mousePressEvent;
-    using SpSetupSlider::mouseReleaseEvent;
-};
-
 using Action = std::function<void(SpSetupSlider &)>;
 
 } // namespace
@@ -841,17 +831,6 @@ private slots:
         slider.setCurrentValue(3);
         QCOMPARE(slider.currentValue(), 3);
         COMPARE_PICTURES(paintedItself(slider), reference(slider, [](QPainter &) {}));
-    }
-
-    void noEventIsNoHarm()
-    {
-        Handlers slider;
-        SignalLog log(&slider);
-        slider.mousePressEvent(nullptr);
-        slider.mouseMoveEvent(nullptr);
-        slider.mouseReleaseEvent(nullptr);
-        slider.changeEvent(nullptr);
-        QCOMPARE(log.take().size(), 2);
     }
 
     void aSliderMayBeDeletedByAnyReport()

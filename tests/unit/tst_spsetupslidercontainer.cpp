@@ -14,14 +14,6 @@
 namespace
 {
 
-// Handlers are called with what a subclass may hand them.
-class Handlers : public SpSetupSliderContainer
-{
-public:
-    using SpSetupSliderContainer::mousePressEvent;
-    using SpSetupSliderContainer::mouseReleaseEvent;
-};
-
 } // namespace
 
 class tst_SpSetupSliderContainer : public WidgetTest
@@ -163,15 +155,6 @@ private slots:
         touch(&page).press(5, 5).moveTo(300, 5).release();
         QCOMPARE(order.before, (QStringList{"pageChanged", "pageChanged"}));
         QCOMPARE(order.after, QStringList());
-    }
-
-    void noEventIsNoHarm()
-    {
-        Handlers page;
-        SignalLog log(&page);
-        page.mousePressEvent(nullptr);
-        page.mouseReleaseEvent(nullptr);
-        QCOMPARE(log.take(), QStringList());
     }
 
     void aPageMayBeDeletedByItsReport()

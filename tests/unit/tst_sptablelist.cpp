@@ -220,11 +220,6 @@ class Watching : public SpTableList
 public:
     QVector<QRect> painted;
 
-    using SpTableList::hideEvent;
-    using SpTableList::mouseMoveEvent;
-    using SpTableList::mousePressEvent;
-    using SpTableList::mouseReleaseEvent;
-    using SpTableList::showEvent;
     using SpTableList::timerEvent;
 
 protected:
@@ -2283,23 +2278,6 @@ private slots:
         connect(list->verticalScrollBar(), &QScrollBar::valueChanged, this, [&] { delete guard; });
         virtualtime::advance(1000);
         QVERIFY(!guard);
-    }
-
-    void noEventIsNoHarm()
-    {
-        Rows rows(100, kLongText);
-        const auto list = makeRolling(&rows);
-        list->setHighlightFlag(true);
-        show(*list);
-        SignalLog log(list.get());
-        list->timerEvent(nullptr);
-        list->mousePressEvent(nullptr);
-        list->mouseMoveEvent(nullptr);
-        list->mouseReleaseEvent(nullptr);
-        list->hideEvent(nullptr);
-        list->showEvent(nullptr);
-        virtualtime::advance(5000);
-        QCOMPARE(log.take(), QStringList());
     }
 
     // Whatever was set, painted and touched: afterwards the list is as any other.

@@ -69,15 +69,6 @@ void drawText(QPainter &p, const QColor &color, const QRect &rect, const QString
     p.drawText(rect, kTextFlags, text);
 }
 
-// Handlers are called with what a subclass may hand them.
-class Handlers : public SpVerStrButton
-{
-public:
-    using SpVerStrButton::mouseMoveEvent;
-    using SpVerStrButton::mousePressEvent;
-    using SpVerStrButton::mouseReleaseEvent;
-};
-
 } // namespace
 
 Q_DECLARE_METATYPE(Action)
@@ -699,16 +690,6 @@ private slots:
     }
 
     // --- Hard to break --------------------------------------------------------------------------
-
-    void noEventIsNoHarm()
-    {
-        Handlers button;
-        SignalLog log(&button);
-        button.mousePressEvent(nullptr);
-        button.mouseMoveEvent(nullptr);
-        button.mouseReleaseEvent(nullptr);
-        QCOMPARE(log.take(), (QStringList{"pressed(-1)", "clicked(-1)"}));
-    }
 
     void theButtonMayBeDeletedInAnyOfItsSignals_data()
     {
