@@ -4,8 +4,8 @@
 #include "detail/arithmetic.h"
 #include "detail/deviceview.h"
 #include "detail/geometry.h"
-#include "detail/keptlayer.h"
-#include "detail/keptletters.h"
+#include "detail/layercache.h"
+#include "detail/lettercache.h"
 #include "detail/minuteclock.h"
 
 #include <QMouseEvent>
@@ -94,9 +94,9 @@ public:
     int flingSteps = 0; // ticks still to run
     bool movingDown = false;
 
-    KeptLetters letters;
+    LetterCache letters;
     std::unique_ptr<ArcPlaces> places;
-    std::array<KeptLayer, 2> markers; // pressed, current
+    std::array<LayerCache, 2> markers; // pressed, current
 };
 
 // The transforms of those letters on the arc that can be seen, kept while nothing changes on which
@@ -548,7 +548,7 @@ void MArcList::Private::drawMarker(QPainter &painter, int marker, int index)
         boundedRect(toInt(radius - halfWidth), -(size.height() / 2), size.width(), size.height());
     QTransform turned = painter.worldTransform();
     turned.rotate(qreal(index * itemHight + startAngle + pixXOffset));
-    const KeptLayer::Content content{
+    const LayerCache::Content content{
         QRectF(rect).adjusted(-1, -1, 1, 1), {}, pointPixmap.cacheKey()};
     markers[std::size_t(marker)].draw(painter, turned, content,
                                       [&](QPainter &p) { p.drawPixmap(rect, pointPixmap); });

@@ -4,7 +4,7 @@
 #include "detail/arithmetic.h"
 #include "detail/deviceview.h"
 #include "detail/geometry.h"
-#include "detail/keptlayer.h"
+#include "detail/layercache.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -76,8 +76,8 @@ public:
     QPixmap pointPixmap;
     bool showTicks = true;
 
-    mutable KeptLayer ticks;
-    mutable KeptLayer pointer;
+    mutable LayerCache ticks;
+    mutable LayerCache pointer;
 };
 
 /** The range is that of a new QScrollBar, 0 to 99. The parent shows through between the ticks. */

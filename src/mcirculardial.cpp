@@ -4,7 +4,7 @@
 #include "detail/arithmetic.h"
 #include "detail/deviceview.h"
 #include "detail/geometry.h"
-#include "detail/keptlayer.h"
+#include "detail/layercache.h"
 
 #include <QFont>
 #include <QMouseEvent>
@@ -105,13 +105,13 @@ struct ValueInputs {
 };
 
 // A layer with the inputs that it was last drawn from; other inputs are another picture.
-template <class Inputs> struct KeptPart {
-    KeptLayer layer;
+template <class Inputs> struct CachedPart {
+    LayerCache layer;
     Inputs inputs;
     qint64 revision = 0;
 
     void draw(QPainter &painter, const Inputs &wanted, const QRectF &area,
-              const KeptLayer::Paint &paint)
+              const LayerCache::Paint &paint)
     {
         if (!(inputs == wanted)) {
             inputs = wanted;
@@ -128,7 +128,7 @@ class Q_DECL_HIDDEN MCircularDial::Private
 public:
     explicit Private(MCircularDial *widget) : q(widget) { }
 
-    struct Kept;
+    struct Cache;
 
     double paintedRadius() const;
     int tickCount() const;
@@ -162,18 +162,18 @@ public:
     int scaleLong = 1; // whole values
     double startAngle = 120.0; // degrees
 
-    std::unique_ptr<Kept> kept;
+    std::unique_ptr<Cache> cache;
 };
 
-struct MCircularDial::Private::Kept {
-    KeptPart<FaceInputs> face;
-    KeptPart<ValueInputs> value;
+struct MCircularDial::Private::Cache {
+    CachedPart<FaceInputs> face;
+    CachedPart<ValueInputs> value;
 };
 
 /** A dial of 250 px at the lower end of the FM band. */
 MCircularDial::MCircularDial(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
 {
-    d->kept = std::make_unique<Private::Kept>();
+    d->cache = std::make_unique<Private::Cache>();
 }
 
 MCircularDial::~MCircularDial() = default;
@@ -408,7 +408,7 @@ void MCircularDial::Private::drawFace(QPainter &painter) const
         p.restore();
     };
     if (canKeepFace())
-        kept->face.draw(painter, inputs, area, paint);
+        cache->face.draw(painter, inputs, area, paint);
     else
         paint(painter);
 }
@@ -521,7 +521,7 @@ void MCircularDial::Private::drawValue(QPainter &painter) const
     const QString text = QString::number(value, 'g', 6) + unit;
     const QRectF area(QPointF(-kValueSize.width() / 2, qreal(kValueAt * rim)), kValueSize);
     const ValueInputs inputs{rim, text, Lettering(painter, textColor)};
-    kept->value.draw(painter, inputs, area, [&](QPainter &p) {
+    cache->value.draw(painter, inputs, area, [&](QPainter &p) {
         p.save();
         p.setFont(painter.font());
         p.setLayoutDirection(painter.layoutDirection());

@@ -4,8 +4,8 @@
 #include "detail/fonts.h"
 #include "detail/geometry.h"
 #include "detail/imagelook.h"
-#include "detail/kepttext.h"
 #include "detail/keyrequest.h"
+#include "detail/textcache.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -43,7 +43,7 @@ public:
     bool longPressed = false;
 
     mutable ImageLook look;
-    mutable KeptText caption;
+    mutable TextCache caption;
 };
 
 /**

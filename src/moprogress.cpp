@@ -3,7 +3,7 @@
 
 #include "detail/fonts.h"
 #include "detail/geometry.h"
-#include "detail/kepttext.h"
+#include "detail/textcache.h"
 
 #include <QFont>
 #include <QMouseEvent>
@@ -30,7 +30,7 @@ class Q_DECL_HIDDEN MOProgress::Private
 public:
     explicit Private(MOProgress *widget) : q(widget) { }
 
-    struct Kept;
+    struct Cache;
 
     template <typename T> void change(T &member, const T &value);
     QRectF square() const;
@@ -52,26 +52,26 @@ public:
     QString dispalyText;
     QColor displayTextColor{255, 255, 255, 255};
 
-    std::unique_ptr<Kept> kept;
+    std::unique_ptr<Cache> cache;
 };
 
 // To cut one path out of another costs more than to fill both, so the outcome is kept with what it
 // was made from.
-struct MOProgress::Private::Kept {
+struct MOProgress::Private::Cache {
     int radius = 0;
     int arcHeight = 0;
     int value = -1;
     QPainterPath disc;
     QPainterPath ring;
     QPainterPath done;
-    KeptText percentage;
-    KeptText caption;
+    TextCache percentage;
+    TextCache caption;
 };
 
 /** A ring of 100 px at 50 %. */
 MOProgress::MOProgress(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
 {
-    d->kept = std::make_unique<Private::Kept>();
+    d->cache = std::make_unique<Private::Cache>();
 }
 
 MOProgress::~MOProgress() = default;
@@ -192,7 +192,7 @@ QRectF MOProgress::Private::square() const
 
 void MOProgress::Private::layOut()
 {
-    if (kept->radius == radius && kept->arcHeight == arcHeight && kept->value == currentValue)
+    if (cache->radius == radius && cache->arcHeight == arcHeight && cache->value == currentValue)
         return;
     const auto thickness = qreal(boundedPixel(arcHeight));
     QPainterPath inside;
@@ -204,29 +204,29 @@ void MOProgress::Private::layOut()
     QPainterPath done; // a sector: it starts and ends in the middle
     done.arcTo(square(), kTop, qreal(sweep));
 
-    kept->radius = radius;
-    kept->arcHeight = arcHeight;
-    kept->value = currentValue;
-    kept->disc = disc;
-    kept->ring = disc - inside;
-    kept->done = done - inside;
+    cache->radius = radius;
+    cache->arcHeight = arcHeight;
+    cache->value = currentValue;
+    cache->disc = disc;
+    cache->ring = disc - inside;
+    cache->done = done - inside;
 }
 
 // The middle is a whole disc with the pen that every painter starts with.
 void MOProgress::Private::drawRing(QPainter &painter) const
 {
     painter.setBrush(insideColor);
-    painter.drawPath(kept->disc);
+    painter.drawPath(cache->disc);
     painter.setBrush(normalColor);
     if (boundary)
         painter.setPen(QPen(boundaryColor, 1));
     else
         painter.setPen(Qt::NoPen);
-    painter.drawPath(kept->ring);
+    painter.drawPath(cache->ring);
     if (currentValue == 0)
         return;
     painter.setBrush(pressColor);
-    painter.drawPath(kept->done);
+    painter.drawPath(cache->done);
 }
 
 void MOProgress::Private::drawTexts(QPainter &painter) const
@@ -234,10 +234,10 @@ void MOProgress::Private::drawTexts(QPainter &painter) const
     const QRectF area = square();
     const auto split = qreal(double(area.height()) * kTextShare);
     painter.setPen(displayTextColor);
-    kept->percentage.draw(painter, QRectF(area.topLeft(), QSizeF(area.width(), split)),
-                          Qt::AlignHCenter | Qt::AlignBottom,
-                          QStringLiteral("%1%").arg(currentValue));
+    cache->percentage.draw(painter, QRectF(area.topLeft(), QSizeF(area.width(), split)),
+                           Qt::AlignHCenter | Qt::AlignBottom,
+                           QStringLiteral("%1%").arg(currentValue));
     painter.setFont(applicationFont(fontSize));
-    kept->caption.draw(painter, area.adjusted(0, split, 0, 0), Qt::AlignHCenter | Qt::AlignTop,
-                       dispalyText);
+    cache->caption.draw(painter, area.adjusted(0, split, 0, 0), Qt::AlignHCenter | Qt::AlignTop,
+                        dispalyText);
 }

@@ -5,8 +5,8 @@
 #include "detail/fonts.h"
 #include "detail/geometry.h"
 #include "detail/imagelook.h"
-#include "detail/kepttext.h"
 #include "detail/keyrequest.h"
+#include "detail/textcache.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -65,8 +65,8 @@ public:
     bool moved = false;
 
     mutable ImageLook look;
-    mutable KeptText firstLine;
-    mutable KeptText secondLine;
+    mutable TextCache firstLine;
+    mutable TextCache secondLine;
 };
 
 /**

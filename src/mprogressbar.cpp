@@ -3,8 +3,8 @@
 
 #include "detail/arithmetic.h"
 #include "detail/geometry.h"
-#include "detail/kepttext.h"
 #include "detail/keyrequest.h"
+#include "detail/textcache.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -75,7 +75,7 @@ public:
     bool boundary = false;
     QColor boundaryColor{210, 210, 210};
 
-    mutable KeptText time;
+    mutable TextCache time;
 };
 
 /** A bar from 0 to 100 that shows 50, in plain colours and without a knob. */

@@ -5,8 +5,8 @@
 #include "detail/fonts.h"
 #include "detail/geometry.h"
 #include "detail/imagelook.h"
-#include "detail/kepttext.h"
 #include "detail/keyrequest.h"
+#include "detail/textcache.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -58,7 +58,7 @@ public:
     QPoint pressPoint;
 
     mutable ImageLook look;
-    mutable KeptText caption;
+    mutable TextCache caption;
 };
 
 /** A button without pictures and caption: it paints nothing until it is given some. */

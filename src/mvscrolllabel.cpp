@@ -3,7 +3,7 @@
 
 #include "detail/arithmetic.h"
 #include "detail/geometry.h"
-#include "detail/keptlines.h"
+#include "detail/linescache.h"
 
 #include <QByteArray>
 #include <QFontMetrics>
@@ -76,7 +76,7 @@ public:
     bool isScrolling = false;
     QPoint lastTouch;
     bool isTicking = false; // the timer of the id runs
-    KeptLines lines;
+    LinesCache lines;
 };
 
 /** An empty label. */

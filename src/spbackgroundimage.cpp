@@ -2,7 +2,7 @@
 #include "spbackgroundimage.h"
 
 #include "detail/deviceview.h"
-#include "detail/keptlayer.h"
+#include "detail/layercache.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -23,7 +23,7 @@ public:
     bool fitPixmapSize = false;
     int rotateAngle = 0; // degrees
 
-    KeptLayer layer;
+    LayerCache layer;
 };
 
 /** A backdrop without a picture: it paints nothing until it is given one. */

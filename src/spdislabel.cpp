@@ -3,10 +3,10 @@
 
 #include "detail/fonts.h"
 #include "detail/geometry.h"
-#include "detail/keptlayer.h"
-#include "detail/kepttext.h"
 #include "detail/keyrequest.h"
+#include "detail/layercache.h"
 #include "detail/search.h"
+#include "detail/textcache.h"
 
 #include <QFontMetrics>
 #include <QMouseEvent>
@@ -55,8 +55,8 @@ public:
     int btnID = 0;
     int roundXY = 0; // px, 0: square
 
-    mutable KeptLayer ground;
-    mutable KeptText caption;
+    mutable LayerCache ground;
+    mutable TextCache caption;
 };
 
 /**
@@ -294,7 +294,7 @@ void SpDisLabel::Private::drawGround(QPainter &painter) const
     painter.setPen(Qt::NoPen);
     const QRectF area(q->rect());
     const quint64 rgba = color.rgba64();
-    const KeptLayer::Content content{
+    const LayerCache::Content content{
         area, {double(roundXY), double(rgba >> 32), double(rgba & 0xffffffff)}};
     ground.draw(painter, painter.worldTransform(), content, [&](QPainter &p) {
         p.setBrush(color);

@@ -5,8 +5,8 @@
 #include "detail/geometry.h"
 #include "detail/imagefile.h"
 #include "detail/imagelook.h"
-#include "detail/kepttext.h"
 #include "detail/keyrequest.h"
+#include "detail/textcache.h"
 
 #include <QFont>
 #include <QKeyEvent>
@@ -42,7 +42,7 @@ public:
     explicit Private(SpHomeIcon *widget) : q(widget) { }
 
     struct Layers;
-    struct Kept;
+    struct Cache;
 
     bool hasOwnPressLook() const;
     void renewPressImage();
@@ -87,7 +87,7 @@ public:
     std::unique_ptr<QMovie> movie;
     int gifSpeed = 100; // percent
 
-    std::unique_ptr<Kept> kept;
+    std::unique_ptr<Cache> cache;
 };
 
 // The pictures over the frame of an animation, from the bottom up. There may be none at any place.
@@ -100,9 +100,9 @@ struct SpHomeIcon::Private::Layers {
 
 // What a paint takes from the one before it. Each layer has a look of its own, so that a finger
 // that comes and goes drives out none of the others.
-struct SpHomeIcon::Private::Kept {
+struct SpHomeIcon::Private::Cache {
     std::array<ImageLook, LayerCount> looks;
-    KeptText caption;
+    TextCache caption;
     QFont currentFont; // of the application, when captionFont was made
     int fontSize = 0; // px, of captionFont
     QFont captionFont;
@@ -111,7 +111,7 @@ struct SpHomeIcon::Private::Kept {
 };
 
 // The application's font in the size of the caption.
-const QFont &SpHomeIcon::Private::Kept::fontOfSize(int px)
+const QFont &SpHomeIcon::Private::Cache::fontOfSize(int px)
 {
     const QFont current;
     if (fontSize != px || !currentFont.isCopyOf(current)) {
@@ -126,7 +126,7 @@ const QFont &SpHomeIcon::Private::Kept::fontOfSize(int px)
 SpHomeIcon::SpHomeIcon(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
 {
     d->iconText = QObject::tr("Text");
-    d->kept = std::make_unique<Private::Kept>();
+    d->cache = std::make_unique<Private::Cache>();
     raise();
 }
 
@@ -572,7 +572,7 @@ void SpHomeIcon::Private::drawImages(QPainter &painter) const
     const Layers layers =
         runningImage.isNull() ? layersWithoutRunningImage() : layersWithRunningImage();
     if (layers.isBaseDimmed)
-        kept->looks[BaseLayer].drawVeiled(painter, imageRect(), *layers.base, kHideTextVeil);
+        cache->looks[BaseLayer].drawVeiled(painter, imageRect(), *layers.base, kHideTextVeil);
     else
         drawLayer(painter, BaseLayer, layers.base);
     drawLayer(painter, StateLayer, layers.state);
@@ -582,14 +582,14 @@ void SpHomeIcon::Private::drawImages(QPainter &painter) const
 void SpHomeIcon::Private::drawLayer(QPainter &painter, int number, const QPixmap *picture) const
 {
     if (picture && !picture->isNull())
-        kept->looks[std::size_t(number)].drawScaled(painter, imageRect(), *picture);
+        cache->looks[std::size_t(number)].drawScaled(painter, imageRect(), *picture);
 }
 
 void SpHomeIcon::Private::drawCaption(QPainter &painter) const
 {
     if (iconText.isEmpty())
         return;
-    painter.setFont(kept->fontOfSize(fontSize));
+    painter.setFont(cache->fontOfSize(fontSize));
     painter.setPen(captionColor());
-    kept->caption.draw(painter, captionRect(), int(textAlignment), iconText);
+    cache->caption.draw(painter, captionRect(), int(textAlignment), iconText);
 }

@@ -5,8 +5,8 @@
 #include "detail/geometry.h"
 #include "detail/imagefile.h"
 #include "detail/imagelook.h"
-#include "detail/kepttext.h"
 #include "detail/keyrequest.h"
+#include "detail/textcache.h"
 
 #include <QDebug>
 #include <QMessageLogger>
@@ -64,7 +64,7 @@ public:
     int textWidth = 0; // px, 0: that of the layout
 
     mutable ImageLook imageLook;
-    mutable KeptText caption;
+    mutable TextCache caption;
 };
 
 // Where the icon and the string stand in a button, and how the string is aligned.

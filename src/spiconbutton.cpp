@@ -6,8 +6,8 @@
 #include "detail/geometry.h"
 #include "detail/imagefile.h"
 #include "detail/imagelook.h"
-#include "detail/kepttext.h"
 #include "detail/keyrequest.h"
+#include "detail/textcache.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -80,7 +80,7 @@ public:
     bool isBeep = true;
 
     mutable ImageLook imageLook;
-    mutable KeptText caption;
+    mutable TextCache caption;
 };
 
 // What stands in the image rectangle: a picture, and the alpha of the veil over it if it has one.

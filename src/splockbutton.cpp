@@ -4,8 +4,8 @@
 #include "detail/fonts.h"
 #include "detail/geometry.h"
 #include "detail/imagelook.h"
-#include "detail/kepttext.h"
 #include "detail/keyrequest.h"
+#include "detail/textcache.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -42,7 +42,7 @@ public:
     QColor disableTextColor{100, 100, 100, 255};
 
     mutable ImageLook look;
-    mutable KeptText caption;
+    mutable TextCache caption;
 };
 
 /** A button that is up, without pictures and caption. */

@@ -3,9 +3,9 @@
 
 #include "detail/arithmetic.h"
 #include "detail/fonts.h"
-#include "detail/keptlines.h"
-#include "detail/kepttext.h"
+#include "detail/linescache.h"
 #include "detail/search.h"
+#include "detail/textcache.h"
 
 #include <QFontMetrics>
 #include <QGraphicsDropShadowEffect>
@@ -81,8 +81,8 @@ public:
     QString measuredText; // what the kept width belongs to
     QFont measuredFont;
     int measuredWidth = 0; // px
-    KeptText resting;
-    KeptLines rolling;
+    TextCache resting;
+    LinesCache rolling;
 };
 
 /** An empty line. */
@@ -310,7 +310,8 @@ void SpRollingText::Private::drawResting(QPainter &painter)
     resting.draw(painter, QRectF(q->rect()), int(textAlignment), displayText);
 }
 
-// Both ends fade along the diagonal of the widget. A KeptText would place such a pen by the window.
+// Both ends fade along the diagonal of the widget. A TextCache would place such a pen by the
+// window.
 void SpRollingText::Private::drawRolling(QPainter &painter)
 {
     QLinearGradient fade(q->rect().topLeft(), q->rect().bottomRight());

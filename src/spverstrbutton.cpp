@@ -5,8 +5,8 @@
 #include "detail/fonts.h"
 #include "detail/geometry.h"
 #include "detail/imagelook.h"
-#include "detail/kepttext.h"
 #include "detail/keyrequest.h"
+#include "detail/textcache.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -47,7 +47,7 @@ public:
     int fontSize = 20; // px
 
     mutable ImageLook imageLook;
-    mutable KeptText caption;
+    mutable TextCache caption;
 };
 
 // The icon and the colour of the string that one state shows.

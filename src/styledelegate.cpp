@@ -6,7 +6,7 @@
 #include "detail/fonts.h"
 #include "detail/geometry.h"
 #include "detail/imagelook.h"
-#include "detail/kepttexts.h"
+#include "detail/listtextcache.h"
 #include "sptablelist.h"
 
 #include <QFontMetrics>
@@ -123,7 +123,7 @@ public:
     QFont lowerLineFont; // of LIST_STYLE_5, made from the centre font
     QFont smallFont; // of LIST_STYLE_6, made from the centre font
     QFont grayTailFont; // of LIST_STYLE_5, made from the tail font
-    mutable KeptTexts texts;
+    mutable ListTextCache texts;
     mutable ImageLook normalLook;
     mutable ImageLook pressLook;
 };

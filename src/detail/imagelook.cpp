@@ -69,7 +69,7 @@ bool ImageLook::Key::operator==(const Key &other) const
         && alpha == other.alpha;
 }
 
-template <typename Compose> const QImage &ImageLook::kept(const Key &key, Compose compose)
+template <typename Compose> const QImage &ImageLook::composed(const Key &key, Compose compose)
 {
     if (!(key == m_key)) {
         m_image = compose();
@@ -90,13 +90,14 @@ void ImageLook::drawScaled(QPainter &painter, const QRect &target, const QPixmap
         return;
     }
     const Key key{Kind::Scaled, pixmap.cacheKey(), area, 0};
-    painter.drawImage(target.topLeft(), kept(key, [&] { return scaledImage(pixmap, area); }));
+    painter.drawImage(target.topLeft(), composed(key, [&] { return scaledImage(pixmap, area); }));
 }
 
 void ImageLook::drawVeiled(QPainter &painter, const QRect &target, const QPixmap &pixmap, int alpha)
 {
     const Key key{Kind::Veiled, pixmap.cacheKey(), target.size(), alpha};
-    painter.drawImage(target, kept(key, [&] { return veiledImage(pixmap, target.size(), alpha); }));
+    painter.drawImage(target,
+                      composed(key, [&] { return veiledImage(pixmap, target.size(), alpha); }));
 }
 
 } // namespace panelkit

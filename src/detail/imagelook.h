@@ -49,7 +49,7 @@ private:
         bool operator==(const Key &other) const;
     };
 
-    template <typename Compose> const QImage &kept(const Key &key, Compose compose);
+    template <typename Compose> const QImage &composed(const Key &key, Compose compose);
 
     Key m_key;
     QImage m_image;

@@ -2,7 +2,7 @@
 #ifndef PANELKIT_DETAIL_SCALEPICTURE_H
 #define PANELKIT_DETAIL_SCALEPICTURE_H
 
-#include "kepttext.h"
+#include "textcache.h"
 
 #include <QColor>
 #include <QRect>
@@ -64,7 +64,7 @@ private:
     };
     struct Written {
         QString text;
-        KeptText layout;
+        TextCache layout;
     };
     struct Label {
         QRectF box;

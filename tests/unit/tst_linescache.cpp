@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "detail/keptlines.h"
+#include "detail/linescache.h"
 
 #include "randomtexts.h"
 #include "widgettest.h"
@@ -70,7 +70,7 @@ void drawAlike(const QFont &font, Qt::LayoutDirection direction, int flags, cons
         prepared(p);
         p.drawText(kRect, flags, text);
     });
-    KeptLines lines;
+    LinesCache lines;
     for (int paint = 0; paint < 2; ++paint) {
         const QImage actual = onCanvas([&](QPainter &p) {
             prepared(p);
@@ -83,7 +83,7 @@ void drawAlike(const QFont &font, Qt::LayoutDirection direction, int flags, cons
 
 } // namespace
 
-class tst_KeptLines : public WidgetTest
+class tst_LinesCache : public WidgetTest
 {
     Q_OBJECT
 
@@ -129,7 +129,7 @@ private slots:
     {
         QFETCH(int, seed);
         RandomTexts random{quint32(seed)};
-        KeptLines lines;
+        LinesCache lines;
         for (int i = 0; i < 500; ++i) {
             const RandomText t = random.next(12);
             const QRect rect(random.between(-20, 20), random.between(-20, 20),
@@ -156,7 +156,7 @@ private slots:
 
     void aTextMovesWithItsRectangle()
     {
-        KeptLines lines;
+        LinesCache lines;
         const QString text = texts().at(1);
         for (int y : {0, -3, -50, -90, -200, 40, 200}) {
             const QRect rect = kRect.translated(y / 3, y);
@@ -169,7 +169,7 @@ private slots:
 
     void aStripShowsAllThatStandsInIt()
     {
-        KeptLines lines;
+        LinesCache lines;
         const QString text = QStringLiteral("\u00c4g\n\u00c4g\n\u00c4g\n\u00c4g\n\u00c4g");
         for (int y = 0; y < kCanvas.height(); ++y) {
             const QRect strip(0, y, kCanvas.width(), 1);
@@ -188,7 +188,7 @@ private slots:
 
     void linesOutOfSightAreNotDrawn()
     {
-        KeptLines lines;
+        LinesCache lines;
         const QString text = QStringLiteral("MMM\n").repeated(5) + QStringLiteral("MMM");
         const QImage drawn = onCanvas(
             [&](QPainter &p) { lines.draw(p, kRect, Qt::AlignTop, text, QRect(0, 60, 180, 1)); });
@@ -200,7 +200,7 @@ private slots:
 
     void underATransformThePixelsAreThoseOfDrawText()
     {
-        KeptLines lines;
+        LinesCache lines;
         const QString text = texts().at(1);
         const auto turned = [&](const std::function<void(QPainter &)> &paint) {
             return onCanvas([&](QPainter &p) {
@@ -216,7 +216,7 @@ private slots:
 
     void anyInputThatChangesIsLaidOutAnew()
     {
-        KeptLines lines;
+        LinesCache lines;
         int expected = 0;
         QFont font = fontOf(16);
         QRect rect = kRect;
@@ -253,5 +253,5 @@ private slots:
     }
 };
 
-WIDGET_TEST_MAIN(tst_KeptLines)
-#include "tst_keptlines.moc"
+WIDGET_TEST_MAIN(tst_LinesCache)
+#include "tst_linescache.moc"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-#ifndef PANELKIT_DETAIL_KEPTTEXT_H
-#define PANELKIT_DETAIL_KEPTTEXT_H
+#ifndef PANELKIT_DETAIL_TEXTCACHE_H
+#define PANELKIT_DETAIL_TEXTCACHE_H
 
 #include <QFont>
 #include <QPointF>
@@ -19,7 +19,7 @@ namespace panelkit
 /// very pixels of QPainter::drawText(rect, flags, text) for about a third of the cost. Whatever is
 /// more than one plain line goes to drawText as it is. The pen has to be of one colour: QStaticText
 /// places a gradient by the origin of the device.
-class KeptText
+class TextCache
 {
 public:
     void draw(QPainter &painter, const QRectF &rect, int flags, const QString &text);
@@ -47,4 +47,4 @@ private:
 
 } // namespace panelkit
 
-#endif // PANELKIT_DETAIL_KEPTTEXT_H
+#endif // PANELKIT_DETAIL_TEXTCACHE_H

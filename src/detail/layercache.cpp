@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "keptlayer.h"
+#include "layercache.h"
 
 #include "arithmetic.h"
 #include "deviceview.h"
@@ -87,19 +87,19 @@ QRect inkRect(const QImage &image)
 
 } // namespace
 
-bool KeptLayer::Content::operator==(const Content &other) const
+bool LayerCache::Content::operator==(const Content &other) const
 {
     return area == other.area && numbers == other.numbers && picture == other.picture;
 }
 
-bool KeptLayer::Key::operator==(const Key &other) const
+bool LayerCache::Key::operator==(const Key &other) const
 {
     return transform == other.transform && content == other.content && hints == other.hints
         && visible == other.visible && pen == other.pen;
 }
 
-void KeptLayer::draw(QPainter &painter, const QTransform &world, const Content &content,
-                     const Paint &paint)
+void LayerCache::draw(QPainter &painter, const QTransform &world, const Content &content,
+                      const Paint &paint)
 {
     const bool canCopy = canCopyPixels(painter);
     const Key key{content, world, painter.renderHints(), painter.pen(),
@@ -119,7 +119,7 @@ void KeptLayer::draw(QPainter &painter, const QTransform &world, const Content &
     copy(painter);
 }
 
-void KeptLayer::paintDirectly(QPainter &painter, const Paint &paint) const
+void LayerCache::paintDirectly(QPainter &painter, const Paint &paint) const
 {
     const QTransform origin = painter.worldTransform();
     painter.setWorldTransform(m_key.transform);
@@ -128,7 +128,7 @@ void KeptLayer::paintDirectly(QPainter &painter, const Paint &paint) const
 }
 
 // Smoothing has nothing to do in a copy of whole pixels, and it would cost a third more.
-void KeptLayer::copy(QPainter &painter) const
+void LayerCache::copy(QPainter &painter) const
 {
     const bool isTransformed = painter.worldMatrixEnabled();
     const bool isSmooth = painter.testRenderHint(QPainter::SmoothPixmapTransform);
@@ -141,7 +141,7 @@ void KeptLayer::copy(QPainter &painter) const
 
 // It is composed at its place on a canvas as large as the device, because how edges are rounded
 // depends on where they lie; then it is cut to what there is to see.
-void KeptLayer::compose(const Paint &paint)
+void LayerCache::compose(const Paint &paint)
 {
     const QPoint origin = m_key.visible.topLeft();
     QImage image(m_key.visible.size(), QImage::Format_ARGB32_Premultiplied);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-#ifndef PANELKIT_DETAIL_KEPTLINES_H
-#define PANELKIT_DETAIL_KEPTLINES_H
+#ifndef PANELKIT_DETAIL_LINESCACHE_H
+#define PANELKIT_DETAIL_LINESCACHE_H
 
 #include <QFont>
 #include <QPointF>
@@ -19,7 +19,7 @@ namespace panelkit
 /// of its rectangle changes; where the rectangle stands does not matter. It draws the very pixels
 /// of QPainter::drawText(rect, flags, text), but only the lines that are in sight. Lines end at
 /// line feeds and are not wrapped. What it cannot lay out as drawText() does goes there as it is.
-class KeptLines
+class LinesCache
 {
 public:
     /// Draws what of the text lies in the rectangle in sight, or more of it.
@@ -56,4 +56,4 @@ private:
 
 } // namespace panelkit
 
-#endif // PANELKIT_DETAIL_KEPTLINES_H
+#endif // PANELKIT_DETAIL_LINESCACHE_H

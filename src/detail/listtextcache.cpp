@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "kepttexts.h"
+#include "listtextcache.h"
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -19,38 +19,38 @@ constexpr int kElisionBytesPerCharacter = 4;
 int bytesOf(const QString &text, int perCharacter)
 {
     const qint64 bytes = kEntryBytes + qint64(text.size()) * perCharacter;
-    return int(qMin<qint64>(bytes, KeptTexts::kMostBytes + 1));
+    return int(qMin<qint64>(bytes, ListTextCache::kMostBytes + 1));
 }
 
 } // namespace
 
-KeptTexts::KeptTexts() : m_layouts(kMostBytes), m_elisions(kMostBytes) { }
+ListTextCache::ListTextCache() : m_layouts(kMostBytes), m_elisions(kMostBytes) { }
 
-void KeptTexts::draw(QPainter &painter, const QRect &rect, int flags, const QString &text)
+void ListTextCache::draw(QPainter &painter, const QRect &rect, int flags, const QString &text)
 {
     const Key key{text, rect, flags};
-    KeptText *kept = m_layouts.object(key);
-    if (!kept) {
-        kept = new KeptText;
-        if (!m_layouts.insert(key, kept, bytesOf(text, kLayoutBytesPerCharacter))) {
+    TextCache *cache = m_layouts.object(key);
+    if (!cache) {
+        cache = new TextCache;
+        if (!m_layouts.insert(key, cache, bytesOf(text, kLayoutBytesPerCharacter))) {
             painter.drawText(rect, flags, text); // the cache has deleted what it refused
             return;
         }
     }
-    const int before = kept->layouts();
-    kept->draw(painter, rect, flags, text);
-    m_layoutCount += kept->layouts() - before;
+    const int before = cache->layouts();
+    cache->draw(painter, rect, flags, text);
+    m_layoutCount += cache->layouts() - before;
 }
 
-QString KeptTexts::elided(const QFont &font, const QString &text, int width)
+QString ListTextCache::elided(const QFont &font, const QString &text, int width)
 {
     if (font != m_elisionFont) {
         m_elisions.clear();
         m_elisionFont = font;
     }
     const Key key{text, QRect(0, 0, width, 0), 0};
-    if (const QString *kept = m_elisions.object(key))
-        return *kept;
+    if (const QString *cache = m_elisions.object(key))
+        return *cache;
     ++m_elisionCount;
     QString shortened =
         QFontMetrics(font).elidedText(text, Qt::ElideRight, width, Qt::TextShowMnemonic);
@@ -58,12 +58,12 @@ QString KeptTexts::elided(const QFont &font, const QString &text, int width)
     return shortened;
 }
 
-bool KeptTexts::Key::operator==(const Key &other) const
+bool ListTextCache::Key::operator==(const Key &other) const
 {
     return rect == other.rect && flags == other.flags && text == other.text;
 }
 
-uint qHash(const KeptTexts::Key &key, uint seed)
+uint qHash(const ListTextCache::Key &key, uint seed)
 {
     return qHash(key.text, seed) ^ uint(key.rect.width());
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-#ifndef PANELKIT_DETAIL_KEPTLETTERS_H
-#define PANELKIT_DETAIL_KEPTLETTERS_H
+#ifndef PANELKIT_DETAIL_LETTERCACHE_H
+#define PANELKIT_DETAIL_LETTERCACHE_H
 
 #include <QFont>
 #include <QGlyphRun>
@@ -18,7 +18,7 @@ namespace panelkit
 /// QPainter::drawText(box, flags, letter) for about a sixth of the cost. All letters of a paint
 /// share one font, one direction, one size of box and one alignment, which has to include
 /// Qt::AlignHCenter; when one of these changes, the layouts start anew.
-class KeptLetters
+class LetterCache
 {
 public:
     /// Says how the letters of this paint are set. It is asked once, because to compare fonts costs
@@ -57,4 +57,4 @@ private:
 
 } // namespace panelkit
 
-#endif // PANELKIT_DETAIL_KEPTLETTERS_H
+#endif // PANELKIT_DETAIL_LETTERCACHE_H

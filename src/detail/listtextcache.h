@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
-#ifndef PANELKIT_DETAIL_KEPTTEXTS_H
-#define PANELKIT_DETAIL_KEPTTEXTS_H
+#ifndef PANELKIT_DETAIL_LISTTEXTCACHE_H
+#define PANELKIT_DETAIL_LISTTEXTCACHE_H
 
-#include "kepttext.h"
+#include "textcache.h"
 
 #include <QCache>
 #include <QFont>
@@ -17,10 +17,10 @@ namespace panelkit
 /// The texts of a list: the layouts and the shortened forms of those that were drawn last, so that
 /// what stays on the screen is laid out and shortened once. What it keeps is bounded, however many
 /// rows pass by.
-class KeptTexts
+class ListTextCache
 {
 public:
-    KeptTexts();
+    ListTextCache();
 
     /// Draws what QPainter::drawText(rect, flags, text) draws. A rectangle that is relative to its
     /// row, with a painter moved to that row, finds its layout again wherever the row has gone.
@@ -48,7 +48,7 @@ private:
     };
     friend uint qHash(const Key &key, uint seed);
 
-    QCache<Key, KeptText> m_layouts;
+    QCache<Key, TextCache> m_layouts;
     QCache<Key, QString> m_elisions;
     QFont m_elisionFont;
     int m_layoutCount = 0;
@@ -57,4 +57,4 @@ private:
 
 } // namespace panelkit
 
-#endif // PANELKIT_DETAIL_KEPTTEXTS_H
+#endif // PANELKIT_DETAIL_LISTTEXTCACHE_H

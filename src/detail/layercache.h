@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-#ifndef PANELKIT_DETAIL_KEPTLAYER_H
-#define PANELKIT_DETAIL_KEPTLAYER_H
+#ifndef PANELKIT_DETAIL_LAYERCACHE_H
+#define PANELKIT_DETAIL_LAYERCACHE_H
 
 #include <QImage>
 #include <QPainter>
@@ -19,7 +19,7 @@ namespace panelkit
 /// wanted again it is composed once, and from then on only copied.
 ///
 /// The pixels are those of painting directly as long as the painting touches no pixel twice.
-class KeptLayer
+class LayerCache
 {
 public:
     using Paint = std::function<void(QPainter &)>;
@@ -66,4 +66,4 @@ private:
 
 } // namespace panelkit
 
-#endif // PANELKIT_DETAIL_KEPTLAYER_H
+#endif // PANELKIT_DETAIL_LAYERCACHE_H

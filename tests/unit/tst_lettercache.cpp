@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "detail/keptletters.h"
+#include "detail/lettercache.h"
 
 #include "randomtexts.h"
 #include "widgettest.h"
@@ -36,7 +36,7 @@ QImage onCanvas(double angle, const QFont &font, const std::function<void(QPaint
     return image;
 }
 
-void draw(KeptLetters &letters, QPainter &p, const QRect &box, int flags, QChar letter)
+void draw(LetterCache &letters, QPainter &p, const QRect &box, int flags, QChar letter)
 {
     letters.set(p, box.size(), flags);
     letters.draw(p, box.topLeft(), letter);
@@ -44,7 +44,7 @@ void draw(KeptLetters &letters, QPainter &p, const QRect &box, int flags, QChar 
 
 } // namespace
 
-class tst_KeptLetters : public WidgetTest
+class tst_LetterCache : public WidgetTest
 {
     Q_OBJECT
 
@@ -61,7 +61,7 @@ private slots:
     {
         QFETCH(int, flags);
         for (int px : {9, 14, 24, 31, 36, 60}) {
-            KeptLetters letters;
+            LetterCache letters;
             const QFont font = fontOf(px);
             for (int code = 0x20; code < 0x180; code += code < 0x7f ? 1 : 5) {
                 for (double angle : {0.0, -61.7, 17.3, 90.0, 203.1}) {
@@ -78,7 +78,7 @@ private slots:
 
     void lettersThatNeedInterpretationToo()
     {
-        KeptLetters letters;
+        LetterCache letters;
         for (int code :
              {0, 9, 10, 0x9c, 0x26, 0x301, 0x5d0, 0x627, 0x2028, 0x202e, 0xd83d, 0xfffc, 0xffff}) {
             COMPARE_PICTURES(
@@ -101,7 +101,7 @@ private slots:
     {
         QFETCH(int, seed);
         RandomTexts random{quint32(seed)};
-        KeptLetters letters;
+        LetterCache letters;
         for (int paint = 0; paint < 60; ++paint) {
             RandomText t = random.next(8);
             t.flags = Qt::AlignHCenter | (t.flags & ~Qt::AlignHorizontal_Mask);
@@ -129,7 +129,7 @@ private slots:
 
     void boxesMayLieAnywhere()
     {
-        KeptLetters letters;
+        LetterCache letters;
         for (int x : {-37, -1, 0, 1, 12}) {
             const QRect box(x, -x - 20, 40, 40);
             COMPARE_PICTURES(
@@ -143,7 +143,7 @@ private slots:
 
     void aLetterIsLaidOutOnceForAllTransformsAndColours()
     {
-        KeptLetters letters;
+        LetterCache letters;
         for (double angle = 0; angle < 90; angle += 7) {
             onCanvas(angle, fontOf(20), [&](QPainter &p) {
                 p.setPen(QColor::fromHsv(int(angle), 200, 200));
@@ -156,7 +156,7 @@ private slots:
 
     void anotherFontBoxOrAlignmentLaysOutAnew()
     {
-        KeptLetters letters;
+        LetterCache letters;
         const auto check = [&](const QFont &font, const QRect &box, int flags) {
             COMPARE_PICTURES(
                 onCanvas(7, font, [&](QPainter &p) { draw(letters, p, box, flags, QChar('K')); }),
@@ -175,7 +175,7 @@ private slots:
 
     void anotherDirectionTurnsABracketRound()
     {
-        KeptLetters letters;
+        LetterCache letters;
         for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft, Qt::LeftToRight}) {
             const auto directed = [&](const std::function<void(QPainter &)> &paint) {
                 return onCanvas(7, fontOf(20), [&](QPainter &p) {
@@ -191,5 +191,5 @@ private slots:
     }
 };
 
-WIDGET_TEST_MAIN(tst_KeptLetters)
-#include "tst_keptletters.moc"
+WIDGET_TEST_MAIN(tst_LetterCache)
+#include "tst_lettercache.moc"

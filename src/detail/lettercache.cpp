@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "keptletters.h"
+#include "lettercache.h"
 
 #include "arithmetic.h"
 
@@ -41,13 +41,13 @@ QPointF cutToTextGrid(const QPointF &point)
 
 } // namespace
 
-bool KeptLetters::Setting::operator==(const Setting &other) const
+bool LetterCache::Setting::operator==(const Setting &other) const
 {
     return box == other.box && flags == other.flags && dpi == other.dpi
         && direction == other.direction && font == other.font;
 }
 
-void KeptLetters::set(const QPainter &painter, const QSize &box, int flags)
+void LetterCache::set(const QPainter &painter, const QSize &box, int flags)
 {
     const Setting setting{painter.font(), painter.device()->logicalDpiY(),
                           painter.layoutDirection(), box, flags};
@@ -57,7 +57,7 @@ void KeptLetters::set(const QPainter &painter, const QSize &box, int flags)
     m_letters.clear();
 }
 
-void KeptLetters::draw(QPainter &painter, const QPoint &topLeft, QChar letter)
+void LetterCache::draw(QPainter &painter, const QPoint &topLeft, QChar letter)
 {
     auto known = m_letters.constFind(letter);
     if (known == m_letters.constEnd()) {
@@ -76,7 +76,7 @@ void KeptLetters::draw(QPainter &painter, const QPoint &topLeft, QChar letter)
 // A letter is centred by its advance. The width of its bounds is no use for that: where the ink
 // reaches beyond the advance, as in a K, it is larger. A letter that does not fit is clipped by
 // drawText.
-KeptLetters::Letter KeptLetters::laidOut(QPainter &painter, QChar letter) const
+LetterCache::Letter LetterCache::laidOut(QPainter &painter, QChar letter) const
 {
     constexpr qreal kEndless = 1 << 24; // px
     const QRectF box(QPointF(), m_setting.box);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "kepttext.h"
+#include "textcache.h"
 
 #include <QPainter>
 #include <QStyle>
@@ -79,7 +79,7 @@ QPointF fractionOf(const QPointF &point)
 
 } // namespace
 
-void KeptText::draw(QPainter &painter, const QRectF &rect, int flags, const QString &text)
+void TextCache::draw(QPainter &painter, const QRectF &rect, int flags, const QString &text)
 {
     if (painter.deviceTransform().type() > QTransform::TxTranslate) {
         painter.drawText(rect, flags, text);
@@ -100,15 +100,15 @@ void KeptText::draw(QPainter &painter, const QRectF &rect, int flags, const QStr
     }
 }
 
-bool KeptText::isCurrent(const QPainter &painter, const QRectF &rect, int flags,
-                         const QString &text) const
+bool TextCache::isCurrent(const QPainter &painter, const QRectF &rect, int flags,
+                          const QString &text) const
 {
     return m_layouts > 0 && m_size == rect.size() && m_flags == flags
         && m_direction == painter.layoutDirection() && m_text == text && m_font == painter.font()
         && (!m_isPlain || m_fraction == fractionOf(placed(rect.topLeft() + m_offset)));
 }
 
-void KeptText::layOut(QPainter &painter, const QRectF &rect, int flags, const QString &text)
+void TextCache::layOut(QPainter &painter, const QRectF &rect, int flags, const QString &text)
 {
     m_text = text;
     m_size = rect.size();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "detail/kepttexts.h"
+#include "detail/listtextcache.h"
 
 #include "randomtexts.h"
 #include "widgettest.h"
@@ -39,14 +39,14 @@ QString shortened(const QString &text, int width, int px = 16)
 
 } // namespace
 
-class tst_KeptTexts : public WidgetTest
+class tst_ListTextCache : public WidgetTest
 {
     Q_OBJECT
 
 private slots:
     void manyTextsHaveThePixelsOfDrawText()
     {
-        KeptTexts texts;
+        ListTextCache texts;
         for (int round = 0; round < 2; ++round) {
             for (int i = 0; i < 50; ++i) {
                 const QString text = QStringLiteral("Title %1").arg(i);
@@ -71,7 +71,7 @@ private slots:
     {
         QFETCH(int, seed);
         RandomTexts random{quint32(seed)};
-        KeptTexts texts;
+        ListTextCache texts;
         QVector<RandomText> known;
         for (int i = 0; i < 200; ++i)
             known += random.next(5);
@@ -95,7 +95,7 @@ private slots:
 
     void anotherFontIsLaidOutAnew()
     {
-        KeptTexts texts;
+        ListTextCache texts;
         for (int px : {16, 20, 16}) {
             const auto draw = [&](QPainter &p) {
                 p.setFont(fontOf(px));
@@ -111,7 +111,7 @@ private slots:
 
     void anElidedTextIsShortenedOnce()
     {
-        KeptTexts texts;
+        ListTextCache texts;
         const QString text = QStringLiteral("A title too long for its place");
         for (int i = 0; i < 3; ++i) {
             QCOMPARE(texts.elided(fontOf(16), text, 100), shortened(text, 100));
@@ -124,7 +124,7 @@ private slots:
 
     void whatIsKeptIsBounded()
     {
-        KeptTexts texts;
+        ListTextCache texts;
         onCanvas([&](QPainter &p) {
             for (int i = 0; i < 20000; ++i) {
                 const QString text = QStringLiteral("Title of row %1").arg(i);
@@ -132,13 +132,13 @@ private slots:
             }
         });
         QVERIFY(texts.bytes() > 0);
-        QVERIFY(texts.bytes() <= 2 * KeptTexts::kMostBytes);
+        QVERIFY(texts.bytes() <= 2 * ListTextCache::kMostBytes);
     }
 
     void aTextTooLongToKeepIsDrawnAllTheSame()
     {
-        KeptTexts texts;
-        const QString text(KeptTexts::kMostBytes / 16, QLatin1Char('W'));
+        ListTextCache texts;
+        const QString text(ListTextCache::kMostBytes / 16, QLatin1Char('W'));
         COMPARE_PICTURES(onCanvas([&](QPainter &p) { texts.draw(p, kRect, kLine, text); }),
                          onCanvas([&](QPainter &p) { p.drawText(kRect, kLine, text); }));
         QCOMPARE(texts.bytes(), 0);
@@ -148,5 +148,5 @@ private slots:
     }
 };
 
-WIDGET_TEST_MAIN(tst_KeptTexts)
-#include "tst_kepttexts.moc"
+WIDGET_TEST_MAIN(tst_ListTextCache)
+#include "tst_listtextcache.moc"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "detail/keptlayer.h"
+#include "detail/layercache.h"
 
 #include "widgettest.h"
 
@@ -13,7 +13,7 @@ using namespace panelkit;
 namespace
 {
 
-const KeptLayer::Content kContent{QRectF(-31, -31, 62, 62), {1, 2}, 3};
+const LayerCache::Content kContent{QRectF(-31, -31, 62, 62), {1, 2}, 3};
 
 void paintStar(QPainter &p)
 {
@@ -42,8 +42,8 @@ void turn(QPainter &p)
 }
 
 // Paints on a canvas, after `prepare`, through a layer or directly.
-QImage onCanvas(KeptLayer *layer, const Paint &prepare,
-                const KeptLayer::Content &content = kContent, const Paint &paint = paintStar)
+QImage onCanvas(LayerCache *layer, const Paint &prepare,
+                const LayerCache::Content &content = kContent, const Paint &paint = paintStar)
 {
     QImage image = canvas();
     QPainter painter(&image);
@@ -57,24 +57,24 @@ QImage onCanvas(KeptLayer *layer, const Paint &prepare,
 
 } // namespace
 
-Q_DECLARE_METATYPE(KeptLayer::Content)
+Q_DECLARE_METATYPE(LayerCache::Content)
 Q_DECLARE_METATYPE(Paint)
 
-class tst_KeptLayer : public WidgetTest
+class tst_LayerCache : public WidgetTest
 {
     Q_OBJECT
 
 private slots:
     void everyPaintIsTheSame()
     {
-        KeptLayer layer;
+        LayerCache layer;
         for (int paint = 0; paint < 4; ++paint)
             COMPARE_PICTURES(onCanvas(&layer, turn), onCanvas(nullptr, turn));
     }
 
     void theSecondPaintComposesAndFurtherOnesCopy()
     {
-        KeptLayer layer;
+        LayerCache layer;
         int paints = 0;
         const Paint counted = [&](QPainter &p) {
             ++paints;
@@ -88,7 +88,7 @@ private slots:
 
     void somethingInMotionIsNeverComposed()
     {
-        KeptLayer layer;
+        LayerCache layer;
         for (int angle = 0; angle < 50; ++angle) {
             const Paint prepare = [=](QPainter &p) {
                 turn(p);
@@ -101,9 +101,9 @@ private slots:
 
     void eachInputCounts_data()
     {
-        QTest::addColumn<KeptLayer::Content>("content");
+        QTest::addColumn<LayerCache::Content>("content");
         QTest::addColumn<Paint>("prepare");
-        const auto row = [](const char *name, const KeptLayer::Content &content,
+        const auto row = [](const char *name, const LayerCache::Content &content,
                             const Paint &prepare = turn) {
             QTest::newRow(name) << content << prepare;
         };
@@ -126,9 +126,9 @@ private slots:
 
     void eachInputCounts()
     {
-        QFETCH(KeptLayer::Content, content);
+        QFETCH(LayerCache::Content, content);
         QFETCH(Paint, prepare);
-        KeptLayer layer;
+        LayerCache layer;
         onCanvas(&layer, turn);
         onCanvas(&layer, turn);
         QCOMPARE(layer.compositions(), 1);
@@ -145,7 +145,7 @@ private slots:
             p.setPen(QPen(Qt::green, 3));
         };
         const Paint line = [](QPainter &p) { p.drawLine(-20, 0, 20, 3); };
-        KeptLayer layer;
+        LayerCache layer;
         for (int paint = 0; paint < 3; ++paint)
             COMPARE_PICTURES(onCanvas(&layer, prepare, kContent, line),
                              onCanvas(nullptr, prepare, kContent, line));
@@ -153,7 +153,7 @@ private slots:
 
     void thePainterStaysAsItWas()
     {
-        KeptLayer layer;
+        LayerCache layer;
         for (int paint = 0; paint < 3; ++paint) {
             QImage image = canvas();
             QPainter painter(&image);
@@ -174,7 +174,7 @@ private slots:
             turn(p);
             p.setRenderHint(QPainter::SmoothPixmapTransform);
         };
-        KeptLayer layer;
+        LayerCache layer;
         for (int paint = 0; paint < 3; ++paint)
             COMPARE_PICTURES(onCanvas(&layer, prepare), onCanvas(nullptr, prepare));
         QCOMPARE(layer.compositions(), 1);
@@ -200,7 +200,7 @@ private slots:
         class Star : public QWidget
         {
         public:
-            KeptLayer layer;
+            LayerCache layer;
             bool isKept = false;
 
         protected:
@@ -236,7 +236,7 @@ private slots:
         {
         public:
             using QWidget::QWidget;
-            KeptLayer layer;
+            LayerCache layer;
 
         protected:
             void paintEvent(QPaintEvent *) override
@@ -276,7 +276,7 @@ private slots:
             turn(p);
             change(p);
         };
-        KeptLayer layer;
+        LayerCache layer;
         for (int paint = 0; paint < 3; ++paint)
             COMPARE_PICTURES(onCanvas(&layer, prepare), onCanvas(nullptr, prepare));
         QCOMPARE(layer.compositions(), 0);
@@ -284,7 +284,7 @@ private slots:
 
     void otherDevicesArePaintedDirectly()
     {
-        KeptLayer layer;
+        LayerCache layer;
         for (int paint = 0; paint < 3; ++paint) {
             QPicture picture;
             QPainter painter(&picture);
@@ -303,7 +303,7 @@ private slots:
 
     void whatLiesBesideTheDeviceIsNotPainted()
     {
-        KeptLayer layer;
+        LayerCache layer;
         int paints = 0;
         const Paint counted = [&](QPainter &) { ++paints; };
         for (int paint = 0; paint < 3; ++paint) {
@@ -324,7 +324,7 @@ private slots:
 
     void nothingToSeeIsKeptToo()
     {
-        KeptLayer layer;
+        LayerCache layer;
         int paints = 0;
         for (int paint = 0; paint < 4; ++paint)
             COMPARE_PICTURES(onCanvas(&layer, turn, kContent, [&](QPainter &) { ++paints; }),
@@ -333,5 +333,5 @@ private slots:
     }
 };
 
-WIDGET_TEST_MAIN(tst_KeptLayer)
-#include "tst_keptlayer.moc"
+WIDGET_TEST_MAIN(tst_LayerCache)
+#include "tst_layercache.moc"

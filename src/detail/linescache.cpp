@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "keptlines.h"
+#include "linescache.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -65,14 +65,14 @@ bool isDecorated(const QFont &font)
 
 } // namespace
 
-bool KeptLines::Setting::operator==(const Setting &other) const
+bool LinesCache::Setting::operator==(const Setting &other) const
 {
     return size == other.size && flags == other.flags && direction == other.direction
         && text == other.text && font == other.font;
 }
 
-void KeptLines::draw(QPainter &painter, const QRect &rect, int flags, const QString &text,
-                     const QRect &inSight)
+void LinesCache::draw(QPainter &painter, const QRect &rect, int flags, const QString &text,
+                      const QRect &inSight)
 {
     Setting setting{text, rect.size(), flags, painter.font(), painter.layoutDirection()};
     if (m_layouts == 0 || !(setting == m_setting)) {
@@ -93,7 +93,7 @@ void KeptLines::draw(QPainter &painter, const QRect &rect, int flags, const QStr
 
 // Lines stand one below the other, each on whole pixels. A text that is higher than its rectangle
 // is left to drawText(), which aligns only the lines that it has begun by then.
-void KeptLines::layOut(QPainter &painter)
+void LinesCache::layOut(QPainter &painter)
 {
     ++m_layouts;
     QString text = m_setting.text;
@@ -127,7 +127,7 @@ void KeptLines::layOut(QPainter &painter)
 }
 
 // Ink may stand out of its line, but not by more than the height of one.
-void KeptLines::drawLines(QPainter &painter, const QRect &rect, const QRect &inSight)
+void LinesCache::drawLines(QPainter &painter, const QRect &rect, const QRect &inSight)
 {
     const QPointF topLeft = rect.topLeft() + QPointF(0, m_bounds.top());
     const int count = m_layout.lineCount();
@@ -142,19 +142,19 @@ void KeptLines::drawLines(QPainter &painter, const QRect &rect, const QRect &inS
 }
 
 // On which side lines stand.
-Qt::Alignment KeptLines::alignment() const
+Qt::Alignment LinesCache::alignment() const
 {
     return QStyle::visualAlignment(m_setting.direction, Qt::Alignment(QFlag(m_setting.flags)));
 }
 
 // Whether the spaces at the end of a line may move it.
-bool KeptLines::mayHang() const
+bool LinesCache::mayHang() const
 {
     return m_setting.direction != Qt::LeftToRight && (alignment() & Qt::AlignRight);
 }
 
 // Which share of the spare width goes to the left of a line.
-qreal KeptLines::leftOf(const QTextLine &line) const
+qreal LinesCache::leftOf(const QTextLine &line) const
 {
     const qreal spare = qreal(m_setting.size.width()) - line.horizontalAdvance();
     const Qt::Alignment sides = alignment();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "detail/kepttext.h"
+#include "detail/textcache.h"
 
 #include "randomtexts.h"
 #include "widgettest.h"
@@ -69,7 +69,7 @@ QStringList texts()
 
 } // namespace
 
-class tst_KeptText : public WidgetTest
+class tst_TextCache : public WidgetTest
 {
     Q_OBJECT
 
@@ -103,10 +103,10 @@ private slots:
                         p.setFont(font);
                         p.setLayoutDirection(direction);
                     };
-                    KeptText kept;
+                    TextCache cache;
                     const QImage actual = onCanvas([&](QPainter &p) {
                         prepare(p);
-                        kept.draw(p, rect, flags, text);
+                        cache.draw(p, rect, flags, text);
                     });
                     const QImage expected = onCanvas([&](QPainter &p) {
                         prepare(p);
@@ -130,7 +130,7 @@ private slots:
     {
         QFETCH(int, seed);
         RandomTexts random{quint32(seed)};
-        KeptText kept;
+        TextCache cache;
         for (int i = 0; i < 700; ++i) {
             const RandomText t = random.next(i % 2 ? 3 : 8);
             const QRectF rect(
@@ -149,7 +149,7 @@ private slots:
                 [&] { return drawn([&](QPainter &p) { p.drawText(rect, t.flags, t.text); }); });
             for (int paint = 0; paint < 2; ++paint) {
                 const QImage actual =
-                    drawn([&](QPainter &p) { kept.draw(p, rect, t.flags, t.text); });
+                    drawn([&](QPainter &p) { cache.draw(p, rect, t.flags, t.text); });
                 QVERIFY2(isSamePicture(actual, expected, __FILE__, __LINE__),
                          qPrintable(t.inWords()));
             }
@@ -163,10 +163,10 @@ private slots:
             for (int width = 20; width < 220; ++width) {
                 const QRect rect(3, 4, width, 20 + width / 7);
                 const QString text = QStringLiteral("AV Radio 98.7");
-                KeptText kept;
+                TextCache cache;
                 const QImage actual = onCanvas([&](QPainter &p) {
                     p.setFont(font);
-                    kept.draw(p, rect, Qt::AlignCenter, text);
+                    cache.draw(p, rect, Qt::AlignCenter, text);
                 });
                 COMPARE_PICTURES(actual, onCanvas([&](QPainter &p) {
                                      p.setFont(font);
@@ -180,7 +180,7 @@ private slots:
     void placesBeforeTheOriginAreTruncatedAsByDrawText()
     {
         const QString text = QStringLiteral("Updating");
-        KeptText kept;
+        TextCache cache;
         for (int size = 8; size < 40; size += 3) {
             QFont font(QStringLiteral("DejaVu Sans"));
             font.setPixelSize(size);
@@ -194,7 +194,7 @@ private slots:
                     });
                 };
                 COMPARE_PICTURES(
-                    drawn([&](QPainter &p) { kept.draw(p, rect, Qt::AlignCenter, text); }),
+                    drawn([&](QPainter &p) { cache.draw(p, rect, Qt::AlignCenter, text); }),
                     drawn([&](QPainter &p) { p.drawText(rect, Qt::AlignCenter, text); }));
             }
         }
@@ -202,15 +202,15 @@ private slots:
 
     void anUnchangedTextIsLaidOutOnce()
     {
-        KeptText kept;
+        TextCache cache;
         for (int i = 0; i < 3; ++i)
-            onCanvas([&](QPainter &p) { kept.draw(p, kRect, Qt::AlignCenter, texts().first()); });
-        QCOMPARE(kept.layouts(), 1);
+            onCanvas([&](QPainter &p) { cache.draw(p, kRect, Qt::AlignCenter, texts().first()); });
+        QCOMPARE(cache.layouts(), 1);
     }
 
     void everyInputCounts()
     {
-        KeptText kept;
+        TextCache cache;
         int expected = 0;
         const auto draws = [&](const QString &text, const QRect &rect, int flags, int px,
                                Qt::LayoutDirection direction) {
@@ -220,13 +220,13 @@ private slots:
             };
             const QImage actual = onCanvas([&](QPainter &p) {
                 prepare(p);
-                kept.draw(p, rect, flags, text);
+                cache.draw(p, rect, flags, text);
             });
             const QImage fresh = onCanvas([&](QPainter &p) {
                 prepare(p);
                 p.drawText(rect, flags, text);
             });
-            return actual == fresh && kept.layouts() == ++expected;
+            return actual == fresh && cache.layouts() == ++expected;
         };
         const QString text = QStringLiteral("Radio");
         const QString other = QStringLiteral("Phone");
@@ -241,24 +241,24 @@ private slots:
 
     void thePlaceOfTheRectangleDoesNotCount()
     {
-        KeptText kept;
+        TextCache cache;
         for (const QRect &rect : {kRect, kRect.translated(9, -3), kRect.translated(-40, 11)}) {
             const QImage actual =
-                onCanvas([&](QPainter &p) { kept.draw(p, rect, Qt::AlignCenter, texts().at(1)); });
+                onCanvas([&](QPainter &p) { cache.draw(p, rect, Qt::AlignCenter, texts().at(1)); });
             COMPARE_PICTURES(actual, onCanvas([&](QPainter &p) {
                                  p.drawText(rect, Qt::AlignCenter, texts().at(1));
                              }));
         }
-        QCOMPARE(kept.layouts(), 1);
+        QCOMPARE(cache.layouts(), 1);
     }
 
     void fractionsOfAPixelDoNotAddUp()
     {
-        KeptText kept;
+        TextCache cache;
         for (int i = 0; i < 200; ++i) {
             const QRectF rect(QPointF(qreal(i % 7) / 3, qreal(i % 5) / 4), QSizeF(150, 40));
             const QImage actual =
-                onCanvas([&](QPainter &p) { kept.draw(p, rect, Qt::AlignCenter, texts().at(1)); });
+                onCanvas([&](QPainter &p) { cache.draw(p, rect, Qt::AlignCenter, texts().at(1)); });
             COMPARE_PICTURES(actual, onCanvas([&](QPainter &p) {
                                  p.drawText(rect, Qt::AlignCenter, texts().at(1));
                              }));
@@ -267,39 +267,39 @@ private slots:
 
     void theColourIsThePensAtEachDraw()
     {
-        KeptText kept;
+        TextCache cache;
         for (const QColor &color : {QColor(Qt::red), QColor(0, 255, 0, 90)}) {
             const QImage actual = onCanvas([&](QPainter &p) {
                 p.setPen(color);
-                kept.draw(p, kRect, Qt::AlignCenter, texts().first());
+                cache.draw(p, kRect, Qt::AlignCenter, texts().first());
             });
             COMPARE_PICTURES(actual, onCanvas([&](QPainter &p) {
                                  p.setPen(color);
                                  p.drawText(kRect, Qt::AlignCenter, texts().first());
                              }));
         }
-        QCOMPARE(kept.layouts(), 1);
+        QCOMPARE(cache.layouts(), 1);
     }
 
     void theTextMovesWithThePainter()
     {
-        KeptText kept;
+        TextCache cache;
         for (const QPoint &offset : {QPoint(0, 0), QPoint(3, 2), QPoint(-11, 7), QPoint(0, 0)}) {
             const QImage actual = onCanvas([&](QPainter &p) {
                 p.translate(offset);
-                kept.draw(p, kRect, Qt::AlignCenter, texts().first());
+                cache.draw(p, kRect, Qt::AlignCenter, texts().first());
             });
             COMPARE_PICTURES(actual, onCanvas([&](QPainter &p) {
                                  p.translate(offset);
                                  p.drawText(kRect, Qt::AlignCenter, texts().first());
                              }));
         }
-        QCOMPARE(kept.layouts(), 1);
+        QCOMPARE(cache.layouts(), 1);
     }
 
     void aTransformedPainterDrawsTheTextItself()
     {
-        KeptText kept;
+        TextCache cache;
         const auto scaled = [](const std::function<void(QPainter &)> &paint) {
             return onCanvas([&](QPainter &p) {
                 p.scale(1.5, 1.25);
@@ -307,7 +307,7 @@ private slots:
             });
         };
         const QImage actual = scaled([&](QPainter &p) {
-            kept.draw(p, {2, 2, 90, 30}, 0x84, texts().first());
+            cache.draw(p, {2, 2, 90, 30}, 0x84, texts().first());
         });
         COMPARE_PICTURES(actual, scaled([&](QPainter &p) {
                              p.drawText(QRect(2, 2, 90, 30), 0x84, texts().first());
@@ -316,7 +316,7 @@ private slots:
 
     void aClipOfThePainterStays()
     {
-        KeptText kept;
+        TextCache cache;
         const QString text = texts().at(2);
         const auto clipped = [](const std::function<void(QPainter &)> &paint) {
             return onCanvas([&](QPainter &p) {
@@ -325,10 +325,10 @@ private slots:
                 p.fillRect(60, 0, 120, 60, Qt::red);
             });
         };
-        const QImage actual = clipped([&](QPainter &p) { kept.draw(p, kRect, 0x84, text); });
+        const QImage actual = clipped([&](QPainter &p) { cache.draw(p, kRect, 0x84, text); });
         COMPARE_PICTURES(actual, clipped([&](QPainter &p) { p.drawText(kRect, 0x84, text); }));
     }
 };
 
-WIDGET_TEST_MAIN(tst_KeptText)
-#include "tst_kepttext.moc"
+WIDGET_TEST_MAIN(tst_TextCache)
+#include "tst_textcache.moc"
