@@ -6,6 +6,7 @@
 #include "detail/geometry.h"
 #include "detail/layercache.h"
 #include "detail/lettercache.h"
+#include "detail/memo.h"
 #include "detail/minuteclock.h"
 
 #include <QMouseEvent>
@@ -60,7 +61,26 @@ class Q_DECL_HIDDEN MArcList::Private
 public:
     explicit Private(MArcList *widget) : q(widget) { }
 
-    struct ArcPlaces;
+    // A letter on the arc that can be seen.
+    struct Place {
+        int index;
+        QTransform transform;
+    };
+    // What the places depend on.
+    struct Arc {
+        DeviceView view;
+        QTransform origin;
+        double radius; // px
+        double startAngle; // degrees
+        double itemHight; // degrees
+        int showItem;
+        int count;
+
+        auto tied() const
+        {
+            return std::tie(startAngle, radius, itemHight, showItem, count, origin, view);
+        }
+    };
 
     bool isItem(qint64 index) const;
     double arcEnd() const;
@@ -70,7 +90,7 @@ public:
     void takeTouch(int index, bool release, bool isTap);
     void fling(double way, double low, double high);
     void startFling(const QPoint &pos);
-    void placeOnArc(const QPainter &painter);
+    const std::vector<Place> &placesOnArc(const QPainter &painter);
     void drawMarker(QPainter &painter, int marker, int index);
 
     MArcList *const q;
@@ -95,42 +115,13 @@ public:
     bool movingDown = false;
 
     LetterCache letters;
-    std::unique_ptr<ArcPlaces> places;
-    std::array<LayerCache, 2> markers; // pressed, current
-};
-
-// The transforms of those letters on the arc that can be seen, kept while nothing changes on which
-// they depend.
-struct MArcList::Private::ArcPlaces {
-    struct Place {
-        int index;
-        QTransform transform;
-    };
-    struct Key {
-        DeviceView view;
-        QTransform origin;
-        double radius = 0;
-        double startAngle = 0;
-        double itemHight = 0;
-        int showItem = 0;
-        int count = 0;
-
-        bool operator==(const Key &other) const
-        {
-            return origin == other.origin && startAngle == other.startAngle
-                && radius == other.radius && itemHight == other.itemHight
-                && showItem == other.showItem && count == other.count && view == other.view;
-        }
-    };
-
-    Key key;
-    std::vector<Place> places;
+    Memo<Arc, std::vector<Place>> places;
+    std::array<LayerCache<PictureKey>, 2> markers; // pressed, current
 };
 
 /** An empty list, on an arc. */
 MArcList::MArcList(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
 {
-    d->places = std::make_unique<Private::ArcPlaces>();
     connect(&d->flingTimer, SIGNAL(timeout()), this, SLOT(speedTimerSlot()));
 }
 
@@ -279,11 +270,10 @@ void MArcList::drawTicks(QPainter *painter)
 {
     if (!painter)
         return;
-    d->placeOnArc(*painter);
     d->letters.set(*painter, kArcBox.size(), Qt::AlignCenter);
     const QTransform origin = painter->worldTransform();
     const QPen pen = painter->pen();
-    for (const Private::ArcPlaces::Place &place : d->places->places) {
+    for (const Private::Place &place : d->placesOnArc(*painter)) {
         painter->setWorldTransform(place.transform);
         if (place.index == d->pressedIndex)
             painter->setPen(QPen(d->pressColor));
@@ -514,29 +504,28 @@ void MArcList::Private::startFling(const QPoint &pos)
 
 // The arc is turned on from letter to letter, drawn or not, so that rounding is the same wherever
 // the list stands.
-void MArcList::Private::placeOnArc(const QPainter &painter)
+const std::vector<MArcList::Private::Place> &MArcList::Private::placesOnArc(const QPainter &painter)
 {
-    const ArcPlaces::Key key{
+    const Arc arc{
         DeviceView(painter), painter.worldTransform(), radius, startAngle, itemHight, showItem,
         characters.size()};
-    if (key == places->key)
-        return;
-    places->key = key;
-    places->places.clear();
-    const qint64 first = toInt(ratio(-startAngle, itemHight));
-    const qint64 last = std::min<qint64>(first + showItem, characters.size() - 1);
-    const QRectF boxAndOverhang = QRectF(kArcBox).adjusted(-kLetterBox, 0, kLetterBox, 0);
-    QTransform turned = key.origin;
-    turned.rotate(qreal(startAngle - 90));
-    for (int i = 0; i <= last; ++i, turned.rotate(qreal(itemHight))) {
-        if (i < first - showItem)
-            continue;
-        QTransform upright = turned;
-        upright.translate(0, qreal(radius));
-        upright.rotate(90);
-        if (key.view.shows(upright, boxAndOverhang))
-            places->places.push_back({i, upright});
-    }
+    return places.value(arc, [&](std::vector<Place> &seen) {
+        seen.clear();
+        const qint64 first = toInt(ratio(-startAngle, itemHight));
+        const qint64 last = std::min<qint64>(first + showItem, characters.size() - 1);
+        const QRectF boxAndOverhang = QRectF(kArcBox).adjusted(-kLetterBox, 0, kLetterBox, 0);
+        QTransform turned = arc.origin;
+        turned.rotate(qreal(startAngle - 90));
+        for (int i = 0; i <= last; ++i, turned.rotate(qreal(itemHight))) {
+            if (i < first - showItem)
+                continue;
+            QTransform upright = turned;
+            upright.translate(0, qreal(radius));
+            upright.rotate(90);
+            if (arc.view.shows(upright, boxAndOverhang))
+                seen.push_back({i, upright});
+        }
+    });
 }
 
 // The marker's left edge is cut to whole px, and its halves are those of whole numbers.
@@ -548,8 +537,7 @@ void MArcList::Private::drawMarker(QPainter &painter, int marker, int index)
         boundedRect(toInt(radius - halfWidth), -(size.height() / 2), size.width(), size.height());
     QTransform turned = painter.worldTransform();
     turned.rotate(qreal(index * itemHight + startAngle + pixXOffset));
-    const LayerCache::Content content{
-        QRectF(rect).adjusted(-1, -1, 1, 1), {}, pointPixmap.cacheKey()};
-    markers[std::size_t(marker)].draw(painter, turned, content,
+    const QRectF area = QRectF(rect).adjusted(-1, -1, 1, 1);
+    markers[std::size_t(marker)].draw(painter, turned, area, {pointPixmap.cacheKey()},
                                       [&](QPainter &p) { p.drawPixmap(rect, pointPixmap); });
 }

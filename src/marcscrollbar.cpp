@@ -57,6 +57,21 @@ class Q_DECL_HIDDEN MArcScrollBar::Private
 public:
     explicit Private(MArcScrollBar *widget) : q(widget) { }
 
+    // What the pictures of the ticks and of the pointer depend on.
+    struct Ticks {
+        double radius; // px
+        double span; // degrees
+        qint64 range;
+
+        auto tied() const { return std::tie(radius, span, range); }
+    };
+    struct Pointer {
+        QRgb color;
+        qint64 picture; // QPixmap::cacheKey()
+
+        auto tied() const { return std::tie(color, picture); }
+    };
+
     bool isStraight() const;
     qint64 range() const;
     double span() const;
@@ -76,8 +91,8 @@ public:
     QPixmap pointPixmap;
     bool showTicks = true;
 
-    mutable LayerCache ticks;
-    mutable LayerCache pointer;
+    mutable LayerCache<Ticks> ticks;
+    mutable LayerCache<Pointer> pointer;
 };
 
 /** The range is that of a new QScrollBar, 0 to 99. The parent shows through between the ticks. */
@@ -191,8 +206,7 @@ void MArcScrollBar::drawTicks(QPainter *painter)
     QTransform turned = painter->worldTransform();
     turned.rotate(qreal(d->startAngle));
     if (d->ticksStandApart(*painter)) {
-        d->ticks.draw(*painter, turned, {area, {d->radius, d->span(), double(d->range())}, 0},
-                      draw);
+        d->ticks.draw(*painter, turned, area, {d->radius, d->span(), d->range()}, draw);
     } else if (DeviceView(*painter).shows(turned, area)) {
         painter->save();
         painter->setWorldTransform(turned);
@@ -232,8 +246,7 @@ void MArcScrollBar::drawPointer(QPainter *painter)
     QTransform turned = painter->worldTransform();
     turned.rotate(qreal(d->startAngle - 180));
     turned.rotate(qreal(d->pointerAngle()));
-    d->pointer.draw(*painter, turned,
-                    {area, {double(d->pointColor.rgba())}, d->pointPixmap.cacheKey()},
+    d->pointer.draw(*painter, turned, area, {d->pointColor.rgba(), d->pointPixmap.cacheKey()},
                     std::cref(draw));
 }
 

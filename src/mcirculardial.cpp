@@ -73,22 +73,26 @@ struct Lettering {
 
     bool operator==(const Lettering &other) const
     {
-        return dpi == other.dpi && direction == other.direction && color == other.color
-            && font == other.font;
+        return std::tie(dpi, direction, color, font)
+            == std::tie(other.dpi, other.direction, other.color, other.font);
     }
 };
 
 // Everything that the ground, the ticks and their labels depend on, but for the transform.
 struct FaceInputs {
-    std::array<double, 5> numbers{};
+    double radius = 0;
+    double minValue = 0;
+    double maxValue = 0;
+    double scale = 0;
+    double startAngle = 0;
     int scaleLong = 0;
     QRgb ground = 0;
     Lettering lettering;
 
-    bool operator==(const FaceInputs &other) const
+    auto tied() const
     {
-        return numbers == other.numbers && scaleLong == other.scaleLong && ground == other.ground
-            && lettering == other.lettering;
+        return std::tie(radius, minValue, maxValue, scale, startAngle, scaleLong, ground,
+                        lettering);
     }
 };
 
@@ -98,27 +102,7 @@ struct ValueInputs {
     QString text;
     Lettering lettering;
 
-    bool operator==(const ValueInputs &other) const
-    {
-        return radius == other.radius && text == other.text && lettering == other.lettering;
-    }
-};
-
-// A layer with the inputs that it was last drawn from; other inputs are another picture.
-template <class Inputs> struct CachedPart {
-    LayerCache layer;
-    Inputs inputs;
-    qint64 revision = 0;
-
-    void draw(QPainter &painter, const Inputs &wanted, const QRectF &area,
-              const LayerCache::Paint &paint)
-    {
-        if (!(inputs == wanted)) {
-            inputs = wanted;
-            ++revision;
-        }
-        layer.draw(painter, painter.worldTransform(), {area, {}, revision}, paint);
-    }
+    auto tied() const { return std::tie(radius, text, lettering); }
 };
 
 } // namespace
@@ -127,8 +111,6 @@ class Q_DECL_HIDDEN MCircularDial::Private
 {
 public:
     explicit Private(MCircularDial *widget) : q(widget) { }
-
-    struct Cache;
 
     double paintedRadius() const;
     int tickCount() const;
@@ -162,18 +144,13 @@ public:
     int scaleLong = 1; // whole values
     double startAngle = 120.0; // degrees
 
-    std::unique_ptr<Cache> cache;
-};
-
-struct MCircularDial::Private::Cache {
-    CachedPart<FaceInputs> face;
-    CachedPart<ValueInputs> value;
+    mutable LayerCache<FaceInputs> faceLayer;
+    mutable LayerCache<ValueInputs> valueLayer;
 };
 
 /** A dial of 250 px at the lower end of the FM band. */
 MCircularDial::MCircularDial(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
 {
-    d->cache = std::make_unique<Private::Cache>();
 }
 
 MCircularDial::~MCircularDial() = default;
@@ -395,10 +372,8 @@ void MCircularDial::Private::drawFace(QPainter &painter) const
 {
     const double reach = std::abs(paintedRadius()) + kLabel.width();
     const QRectF area(qreal(-reach), qreal(-reach), qreal(2 * reach), qreal(2 * reach));
-    const FaceInputs inputs{{radius, minValue, maxValue, scale, startAngle},
-                            scaleLong,
-                            bgColor.rgba(),
-                            Lettering(painter, textColor)};
+    const FaceInputs inputs{radius,     minValue,  maxValue,       scale,
+                            startAngle, scaleLong, bgColor.rgba(), Lettering(painter, textColor)};
     const auto paint = [this, &painter](QPainter &p) {
         p.save();
         p.setFont(painter.font());
@@ -408,7 +383,7 @@ void MCircularDial::Private::drawFace(QPainter &painter) const
         p.restore();
     };
     if (canKeepFace())
-        cache->face.draw(painter, inputs, area, paint);
+        faceLayer.draw(painter, painter.worldTransform(), area, inputs, paint);
     else
         paint(painter);
 }
@@ -521,7 +496,7 @@ void MCircularDial::Private::drawValue(QPainter &painter) const
     const QString text = QString::number(value, 'g', 6) + unit;
     const QRectF area(QPointF(-kValueSize.width() / 2, qreal(kValueAt * rim)), kValueSize);
     const ValueInputs inputs{rim, text, Lettering(painter, textColor)};
-    cache->value.draw(painter, inputs, area, [&](QPainter &p) {
+    valueLayer.draw(painter, painter.worldTransform(), area, inputs, [&](QPainter &p) {
         p.save();
         p.setFont(painter.font());
         p.setLayoutDirection(painter.layoutDirection());

@@ -2,6 +2,7 @@
 #include "mkarvoslider.h"
 
 #include "detail/arithmetic.h"
+#include "detail/memo.h"
 #include "detail/scalepicture.h"
 #include "detail/wholenumber.h"
 
@@ -15,7 +16,6 @@
 #include <QResizeEvent>
 
 #include <cmath>
-#include <tuple>
 
 using namespace panelkit;
 
@@ -96,13 +96,34 @@ class Q_DECL_HIDDEN MKARVOSlider::Private
 public:
     explicit Private(MKARVOSlider *widget) : q(widget) { }
 
-    struct Look;
+    // What the picture of the scale depends on. The colour and the font come with each paint.
+    struct Look {
+        QSize size; // px
+        float leftX; // px
+        float lineGap; // px
+        int stepCount;
+        int lineH; // px
+        float freqStart;
+        float freqStep;
+        bool isFM;
+        ScaleAlignmentMode scaleMode;
+        TextPosition textPosition;
+        int textMarginY; // px
+        int scaleMarginY; // px
+
+        auto tied() const
+        {
+            return std::tie(size, leftX, lineGap, stepCount, lineH, freqStart, freqStep, isFM,
+                            scaleMode, textPosition, textMarginY, scaleMarginY);
+        }
+    };
+
     struct Tick;
 
     float freqAt(int x);
     void tune(float freq);
     Look look() const;
-    void layOut(const Look &look);
+    void layOut();
     void addLines(const Tick &tick);
     void addLabel(const Tick &tick);
     int tickBase() const;
@@ -136,13 +157,8 @@ public:
     int pointMarginY = 46; // px
     float curFreq = 800.0F;
 
-    std::unique_ptr<Look> drawnLook; // of the kept picture
+    LastKey<Look> drawnLook; // of the picture
     ScalePicture picture;
-};
-
-// What the kept picture depends on. The colour and the font come with each paint.
-struct MKARVOSlider::Private::Look {
-    std::tuple<QSize, float, float, int, int, float, float, bool, int, int, int, int> inputs;
 };
 
 struct MKARVOSlider::Private::Tick {
@@ -342,9 +358,8 @@ bool MKARVOSlider::isValidFreq(float freq) { return d->freqStart <= freq && freq
 
 void MKARVOSlider::paintEvent(QPaintEvent *e)
 {
-    const Private::Look now = d->look();
-    if (!d->drawnLook || d->drawnLook->inputs != now.inputs)
-        d->layOut(now);
+    if (d->drawnLook.changesTo(d->look()))
+        d->layOut();
     QColor faint = d->lineColor;
     faint.setAlpha(kFaintAlpha);
     QPainter painter(this);
@@ -435,15 +450,14 @@ void MKARVOSlider::Private::tune(float freq)
 
 MKARVOSlider::Private::Look MKARVOSlider::Private::look() const
 {
-    return {{q->size(), leftX, lineGap, stepCount, lineH, freqStart, freqStep, isFM, scaleMode,
-             textPosition, textMarginY, scaleMarginY}};
+    return {q->size(), leftX, lineGap,   stepCount,    lineH,       freqStart,
+            freqStep,  isFM,  scaleMode, textPosition, textMarginY, scaleMarginY};
 }
 
 // x is summed up tick by tick, as the ticks have always stood, and not multiplied, which would
 // round otherwise.
-void MKARVOSlider::Private::layOut(const Look &look)
+void MKARVOSlider::Private::layOut()
 {
-    drawnLook = std::make_unique<Look>(look);
     picture.clear(q->size());
     const auto freqAt = [this](int step) { return std::fma(float(step), freqStep, freqStart); };
     const int stride = strideOf(stepCount, [&](int step) { return kindOf(freqAt(step), isFM); });

@@ -4,6 +4,7 @@
 #include "detail/arithmetic.h"
 #include "detail/geometry.h"
 #include "detail/keyrequest.h"
+#include "detail/memo.h"
 
 #include <QCoreApplication>
 #include <QImage>
@@ -60,7 +61,13 @@ class Q_DECL_HIDDEN MOnOffButton::Private
 public:
     explicit Private(MOnOffButton *widget) : q(widget) { }
 
-    struct Dimmed;
+    // What a dimmed picture depends on.
+    struct Dimmed {
+        qint64 picture; // QPixmap::cacheKey()
+        QRect target;
+
+        auto tied() const { return std::tie(picture, target); }
+    };
     struct Surface;
 
     int knobRadius() const { return q->height() / 2; }
@@ -101,26 +108,8 @@ public:
     OnOff_STYLE style = ONOFF_STYLE_0;
 
     QVector<int> overtakenTimers; // of glides that another one took over from
-    std::unique_ptr<Dimmed> dimmedBkg;
-    std::unique_ptr<Dimmed> dimmedChunk;
-};
-
-// The dimmed copy of a picture, composed anew only when the picture or its place changes.
-struct MOnOffButton::Private::Dimmed {
-    const QImage &of(const QPixmap &pixmap, const QRect &target)
-    {
-        if (m_pixmap != pixmap.cacheKey() || m_target != target) {
-            m_image = dimmedImage(pixmap, target);
-            m_pixmap = pixmap.cacheKey();
-            m_target = target;
-        }
-        return m_image;
-    }
-
-private:
-    qint64 m_pixmap = 0; // QPixmap::cacheKey()
-    QRect m_target;
-    QImage m_image;
+    Memo<Dimmed, QImage> dimmedBkg;
+    Memo<Dimmed, QImage> dimmedChunk;
 };
 
 // What a painted shape is covered with.
@@ -133,8 +122,6 @@ struct MOnOffButton::Private::Surface {
 /** A switch that is off, of at least 90 x 44 px, painted in ONOFF_STYLE_0. */
 MOnOffButton::MOnOffButton(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
 {
-    d->dimmedBkg = std::make_unique<Private::Dimmed>();
-    d->dimmedChunk = std::make_unique<Private::Dimmed>();
     setMinimumSize(kSmallestSize);
 }
 
@@ -366,8 +353,9 @@ void MOnOffButton::createRectPath(QPainterPath &path, QRectF rect, int radius)
 
 void MOnOffButton::drawDisableImage(QRect target, QPixmap pixmap, QPainter &painter)
 {
-    Private::Dimmed &dimmed = target == d->bkgRect() ? *d->dimmedBkg : *d->dimmedChunk;
-    const QImage &image = dimmed.of(pixmap, target);
+    auto &dimmed = target == d->bkgRect() ? d->dimmedBkg : d->dimmedChunk;
+    const QImage &image = dimmed.value({pixmap.cacheKey(), target},
+                                       [&](QImage &stale) { stale = dimmedImage(pixmap, target); });
     painter.drawImage(QRectF(target), image, QRectF(image.rect()));
 }
 

@@ -3,6 +3,7 @@
 
 #include "detail/fonts.h"
 #include "detail/geometry.h"
+#include "detail/memo.h"
 #include "detail/textcache.h"
 
 #include <QFont>
@@ -30,11 +31,24 @@ class Q_DECL_HIDDEN MOProgress::Private
 public:
     explicit Private(MOProgress *widget) : q(widget) { }
 
-    struct Cache;
+    // To cut one path out of another costs more than to fill both.
+    struct Paths {
+        QPainterPath disc; // a circle alone, without a line to it from the middle
+        QPainterPath ring;
+        QPainterPath done;
+    };
+    // What they depend on.
+    struct Shape {
+        int radius; // px
+        int arcHeight; // px
+        int value; // percent
+
+        auto tied() const { return std::tie(radius, arcHeight, value); }
+    };
 
     template <typename T> void change(T &member, const T &value);
     QRectF square() const;
-    void layOut();
+    Paths laidOut() const;
     void drawRing(QPainter &painter) const;
     void drawTexts(QPainter &painter) const;
 
@@ -52,27 +66,13 @@ public:
     QString dispalyText;
     QColor displayTextColor{255, 255, 255, 255};
 
-    std::unique_ptr<Cache> cache;
-};
-
-// To cut one path out of another costs more than to fill both, so the outcome is kept with what it
-// was made from.
-struct MOProgress::Private::Cache {
-    int radius = 0;
-    int arcHeight = 0;
-    int value = -1;
-    QPainterPath disc;
-    QPainterPath ring;
-    QPainterPath done;
-    TextCache percentage;
-    TextCache caption;
+    mutable Memo<Shape, Paths> paths;
+    mutable TextCache percentage;
+    mutable TextCache caption;
 };
 
 /** A ring of 100 px at 50 %. */
-MOProgress::MOProgress(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
-{
-    d->cache = std::make_unique<Private::Cache>();
-}
+MOProgress::MOProgress(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this)) { }
 
 MOProgress::~MOProgress() = default;
 
@@ -155,7 +155,6 @@ void MOProgress::paintEvent(QPaintEvent *)
     if (d->arcHeight >= d->radius)
         return;
     d->currentValue = std::clamp(d->currentValue, 0, 100);
-    d->layOut();
     QPainter painter(this);
     painter.translate(QPoint(width() / 2, height() / 2));
     painter.setRenderHint(QPainter::Antialiasing);
@@ -190,43 +189,41 @@ QRectF MOProgress::Private::square() const
     return {-rim, -rim, 2 * rim, 2 * rim};
 }
 
-void MOProgress::Private::layOut()
+MOProgress::Private::Paths MOProgress::Private::laidOut() const
 {
-    if (cache->radius == radius && cache->arcHeight == arcHeight && cache->value == currentValue)
-        return;
+    Paths laid;
     const auto thickness = qreal(boundedPixel(arcHeight));
     QPainterPath inside;
     inside.addEllipse(square().adjusted(thickness, thickness, -thickness, -thickness));
-    QPainterPath disc; // a circle alone, without a line to it from the middle
-    disc.arcMoveTo(square(), 0);
-    disc.arcTo(square(), 0, 360);
+    // a circle alone, without a line to it from the middle
+    laid.disc.arcMoveTo(square(), 0);
+    laid.disc.arcTo(square(), 0, 360);
     const int sweep = currentValue * 360 / -100; // whole degrees, clockwise
     QPainterPath done; // a sector: it starts and ends in the middle
     done.arcTo(square(), kTop, qreal(sweep));
 
-    cache->radius = radius;
-    cache->arcHeight = arcHeight;
-    cache->value = currentValue;
-    cache->disc = disc;
-    cache->ring = disc - inside;
-    cache->done = done - inside;
+    laid.ring = laid.disc - inside;
+    laid.done = done - inside;
+    return laid;
 }
 
 // The middle is a whole disc with the pen that every painter starts with.
 void MOProgress::Private::drawRing(QPainter &painter) const
 {
+    const Paths &drawn =
+        paths.value({radius, arcHeight, currentValue}, [this](Paths &stale) { stale = laidOut(); });
     painter.setBrush(insideColor);
-    painter.drawPath(cache->disc);
+    painter.drawPath(drawn.disc);
     painter.setBrush(normalColor);
     if (boundary)
         painter.setPen(QPen(boundaryColor, 1));
     else
         painter.setPen(Qt::NoPen);
-    painter.drawPath(cache->ring);
+    painter.drawPath(drawn.ring);
     if (currentValue == 0)
         return;
     painter.setBrush(pressColor);
-    painter.drawPath(cache->done);
+    painter.drawPath(drawn.done);
 }
 
 void MOProgress::Private::drawTexts(QPainter &painter) const
@@ -234,10 +231,9 @@ void MOProgress::Private::drawTexts(QPainter &painter) const
     const QRectF area = square();
     const auto split = qreal(double(area.height()) * kTextShare);
     painter.setPen(displayTextColor);
-    cache->percentage.draw(painter, QRectF(area.topLeft(), QSizeF(area.width(), split)),
-                           Qt::AlignHCenter | Qt::AlignBottom,
-                           QStringLiteral("%1%").arg(currentValue));
+    percentage.draw(painter, QRectF(area.topLeft(), QSizeF(area.width(), split)),
+                    Qt::AlignHCenter | Qt::AlignBottom, QStringLiteral("%1%").arg(currentValue));
     painter.setFont(applicationFont(fontSize));
-    cache->caption.draw(painter, area.adjusted(0, split, 0, 0), Qt::AlignHCenter | Qt::AlignTop,
-                        dispalyText);
+    caption.draw(painter, area.adjusted(0, split, 0, 0), Qt::AlignHCenter | Qt::AlignTop,
+                 dispalyText);
 }

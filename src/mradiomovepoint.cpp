@@ -3,6 +3,7 @@
 
 #include "detail/arithmetic.h"
 #include "detail/geometry.h"
+#include "detail/memo.h"
 #include "detail/scalepicture.h"
 #include "detail/wholenumber.h"
 
@@ -81,7 +82,14 @@ class Q_DECL_HIDDEN ScaleBkg::Private
 public:
     explicit Private(ScaleBkg *widget) : q(widget) { }
 
-    struct Look;
+    // What the picture depends on besides the scale itself, which drops it on a change.
+    struct Look {
+        QSize size; // px
+        int lineYpos; // px
+        int txtYpos; // px
+
+        auto tied() const { return std::tie(size, lineYpos, txtYpos); }
+    };
 
     Look look() const;
     void layOut(const Look &look);
@@ -108,20 +116,8 @@ public:
     QColor color; // invalid; drawing takes the owner's
     QPointer<MRadioMovePoint> owner;
 
-    std::unique_ptr<Look> drawnLook; // of the kept picture
+    LastKey<Look> drawnLook; // of the picture
     ScalePicture picture;
-};
-
-// What the kept picture depends on besides the scale itself, which drops the picture on a change.
-struct ScaleBkg::Private::Look {
-    QSize size;
-    int lineYpos = 0;
-    int txtYpos = 0;
-
-    bool operator==(const Look &other) const
-    {
-        return size == other.size && lineYpos == other.lineYpos && txtYpos == other.txtYpos;
-    }
 };
 
 /**
@@ -194,7 +190,7 @@ void ScaleBkg::init()
     d->lastTick = (d->firstTick + span).value();
     d->unitCount = (span / hz).value();
     d->lineEnd = (d->lineStart + d->map.pix * Whole(d->unitCount) + 3 * Whole(d->map.pix)).value();
-    d->drawnLook.reset();
+    d->drawnLook.forget();
 }
 
 /**
@@ -270,7 +266,7 @@ int ScaleBkg::getLine_start() const { return d->lineStart; }
 void ScaleBkg::setLine_start(int start)
 {
     d->lineStart = start;
-    d->drawnLook.reset();
+    d->drawnLook.forget();
 }
 
 int ScaleBkg::getLine_end() const { return d->lineEnd; }
@@ -284,7 +280,7 @@ void ScaleBkg::paintEvent(QPaintEvent *e)
     if (!d->owner)
         return;
     const Private::Look now = d->look();
-    if (!d->drawnLook || !(*d->drawnLook == now))
+    if (d->drawnLook.changesTo(now))
         d->layOut(now);
     QPainter painter(this);
     d->picture.draw(painter, e->rect(), d->owner->getLineColor());
@@ -297,7 +293,6 @@ ScaleBkg::Private::Look ScaleBkg::Private::look() const
 
 void ScaleBkg::Private::layOut(const Look &look)
 {
-    drawnLook = std::make_unique<Look>(look);
     picture.clear(look.size);
     layOutLabels(look);
     layOutTicks(look);

@@ -2,6 +2,7 @@
 #include "mradioslider.h"
 
 #include "detail/arithmetic.h"
+#include "detail/memo.h"
 #include "detail/scalepicture.h"
 
 #include <QDebug>
@@ -13,7 +14,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <tuple>
 
 using namespace panelkit;
 
@@ -63,10 +63,30 @@ class Q_DECL_HIDDEN MRadioSlider::Private
 public:
     explicit Private(MRadioSlider *widget) : q(widget) { }
 
-    struct Look;
+    // What the picture of the scale depends on. The colour and the font come with each paint.
+    struct Look {
+        QSize size; // px
+        int scrollX; // px
+        int stepCount;
+        int lineH; // px
+        int lineGap; // px
+        float freqStart;
+        float freqStep;
+        bool isFM;
+        ScaleAlignmentMode scaleMode;
+        TextPosition textPosition;
+        int textMarginY; // px
+        int scaleMarginY; // px
+
+        auto tied() const
+        {
+            return std::tie(size, scrollX, stepCount, lineH, lineGap, freqStart, freqStep, isFM,
+                            scaleMode, textPosition, textMarginY, scaleMarginY);
+        }
+    };
 
     Look look() const;
-    void layOut(const Look &look);
+    void layOut();
     void addTick(int count, int x);
     int tickBase() const;
     int labelTop() const;
@@ -96,13 +116,8 @@ public:
     int pointMarginY = 0; // px
     float curFreq = freqStart;
 
-    std::unique_ptr<Look> drawnLook; // of the kept picture
+    LastKey<Look> drawnLook; // of the picture
     ScalePicture picture;
-};
-
-// What the kept picture depends on. The colour and the font come with each paint.
-struct MRadioSlider::Private::Look {
-    std::tuple<QSize, int, int, int, int, float, float, bool, int, int, int, int> inputs;
 };
 
 /**
@@ -239,9 +254,8 @@ bool MRadioSlider::isValidFreq(float freq) { return d->freqStart <= freq && freq
 
 void MRadioSlider::paintEvent(QPaintEvent *e)
 {
-    const Private::Look now = d->look();
-    if (!d->drawnLook || d->drawnLook->inputs != now.inputs)
-        d->layOut(now);
+    if (d->drawnLook.changesTo(d->look()))
+        d->layOut();
     QPainter painter(this);
     painter.setFont(d->font);
     d->picture.draw(painter, e->rect(), d->lineColor);
@@ -313,13 +327,12 @@ void MRadioSlider::setWholeCurFreq(int freq) { setCurFreq(float(freq)); }
 
 MRadioSlider::Private::Look MRadioSlider::Private::look() const
 {
-    return {{q->size(), scrollX, stepCount, lineH, lineGap, freqStart, freqStep, isFM, scaleMode,
-             textPosition, textMarginY, scaleMarginY}};
+    return {q->size(), scrollX, stepCount, lineH,        lineGap,     freqStart,
+            freqStep,  isFM,    scaleMode, textPosition, textMarginY, scaleMarginY};
 }
 
-void MRadioSlider::Private::layOut(const Look &look)
+void MRadioSlider::Private::layOut()
 {
-    drawnLook = std::make_unique<Look>(look);
     picture.clear(q->size());
     const Counts visible = visibleCounts(stepCount, scrollX, lineGap, q->width());
     for (qint64 i = visible.first; i <= visible.last; ++i)

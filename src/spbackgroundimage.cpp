@@ -23,7 +23,7 @@ public:
     bool fitPixmapSize = false;
     int rotateAngle = 0; // degrees
 
-    LayerCache layer;
+    LayerCache<PictureKey> layer;
 };
 
 /** A backdrop without a picture: it paints nothing until it is given one. */
@@ -90,7 +90,7 @@ void SpBackgroundImage::paintEvent(QPaintEvent *)
         return;
     }
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    d->layer.draw(painter, d->turn(), {QRectF(rect()), {}, d->pixmap.cacheKey()},
+    d->layer.draw(painter, d->turn(), QRectF(rect()), {d->pixmap.cacheKey()},
                   [this](QPainter &p) { p.drawPixmap(rect(), d->pixmap); });
 }
 

@@ -31,6 +31,14 @@ class Q_DECL_HIDDEN SpDisLabel::Private
 public:
     explicit Private(SpDisLabel *widget) : q(widget) { }
 
+    // What the picture of a rounded ground depends on.
+    struct Ground {
+        int roundXY; // px
+        QRgba64 color;
+
+        auto tied() const { return std::tie(roundXY, color); }
+    };
+
     QString shortened(const QString &full) const;
     void drawGround(QPainter &painter) const;
     void drawText(QPainter &painter) const;
@@ -55,7 +63,7 @@ public:
     int btnID = 0;
     int roundXY = 0; // px, 0: square
 
-    mutable LayerCache ground;
+    mutable LayerCache<Ground> ground;
     mutable TextCache caption;
 };
 
@@ -293,14 +301,12 @@ void SpDisLabel::Private::drawGround(QPainter &painter) const
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     const QRectF area(q->rect());
-    const quint64 rgba = color.rgba64();
-    const LayerCache::Content content{
-        area, {double(roundXY), double(rgba >> 32), double(rgba & 0xffffffff)}};
-    ground.draw(painter, painter.worldTransform(), content, [&](QPainter &p) {
-        p.setBrush(color);
-        p.drawRoundedRect(area, qreal(roundXY), qreal(roundXY), Qt::AbsoluteSize);
-        p.setBrush(Qt::NoBrush);
-    });
+    ground.draw(painter, painter.worldTransform(), area, {roundXY, color.rgba64()},
+                [&](QPainter &p) {
+                    p.setBrush(color);
+                    p.drawRoundedRect(area, qreal(roundXY), qreal(roundXY), Qt::AbsoluteSize);
+                    p.setBrush(Qt::NoBrush);
+                });
 }
 
 void SpDisLabel::Private::drawText(QPainter &painter) const

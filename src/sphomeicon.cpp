@@ -6,6 +6,7 @@
 #include "detail/imagefile.h"
 #include "detail/imagelook.h"
 #include "detail/keyrequest.h"
+#include "detail/memo.h"
 #include "detail/textcache.h"
 
 #include <QFont>
@@ -42,7 +43,13 @@ public:
     explicit Private(SpHomeIcon *widget) : q(widget) { }
 
     struct Layers;
-    struct Cache;
+    // What the font of the caption depends on.
+    struct CaptionFont {
+        QFont current; // of the application
+        int size; // px
+
+        auto tied() const { return std::tie(size, current); }
+    };
 
     bool hasOwnPressLook() const;
     void renewPressImage();
@@ -87,7 +94,11 @@ public:
     std::unique_ptr<QMovie> movie;
     int gifSpeed = 100; // percent
 
-    std::unique_ptr<Cache> cache;
+    // Each layer has a look of its own, so that a finger that comes and goes drives out none of the
+    // others.
+    mutable std::array<ImageLook, LayerCount> looks;
+    mutable TextCache caption;
+    mutable Memo<CaptionFont, QFont> captionFont;
 };
 
 // The pictures over the frame of an animation, from the bottom up. There may be none at any place.
@@ -98,35 +109,10 @@ struct SpHomeIcon::Private::Layers {
     const QPixmap *press = nullptr;
 };
 
-// What a paint takes from the one before it. Each layer has a look of its own, so that a finger
-// that comes and goes drives out none of the others.
-struct SpHomeIcon::Private::Cache {
-    std::array<ImageLook, LayerCount> looks;
-    TextCache caption;
-    QFont currentFont; // of the application, when captionFont was made
-    int fontSize = 0; // px, of captionFont
-    QFont captionFont;
-
-    const QFont &fontOfSize(int px);
-};
-
-// The application's font in the size of the caption.
-const QFont &SpHomeIcon::Private::Cache::fontOfSize(int px)
-{
-    const QFont current;
-    if (fontSize != px || !currentFont.isCopyOf(current)) {
-        currentFont = current;
-        fontSize = px;
-        captionFont = applicationFont(px);
-    }
-    return captionFont;
-}
-
 /** A tile without a picture, above its siblings. It has no size until it is given a picture. */
 SpHomeIcon::SpHomeIcon(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
 {
     d->iconText = QObject::tr("Text");
-    d->cache = std::make_unique<Private::Cache>();
     raise();
 }
 
@@ -572,7 +558,7 @@ void SpHomeIcon::Private::drawImages(QPainter &painter) const
     const Layers layers =
         runningImage.isNull() ? layersWithoutRunningImage() : layersWithRunningImage();
     if (layers.isBaseDimmed)
-        cache->looks[BaseLayer].drawVeiled(painter, imageRect(), *layers.base, kHideTextVeil);
+        looks[BaseLayer].drawVeiled(painter, imageRect(), *layers.base, kHideTextVeil);
     else
         drawLayer(painter, BaseLayer, layers.base);
     drawLayer(painter, StateLayer, layers.state);
@@ -582,14 +568,15 @@ void SpHomeIcon::Private::drawImages(QPainter &painter) const
 void SpHomeIcon::Private::drawLayer(QPainter &painter, int number, const QPixmap *picture) const
 {
     if (picture && !picture->isNull())
-        cache->looks[std::size_t(number)].drawScaled(painter, imageRect(), *picture);
+        looks[std::size_t(number)].drawScaled(painter, imageRect(), *picture);
 }
 
 void SpHomeIcon::Private::drawCaption(QPainter &painter) const
 {
     if (iconText.isEmpty())
         return;
-    painter.setFont(cache->fontOfSize(fontSize));
+    painter.setFont(captionFont.value({QFont(), fontSize},
+                                      [this](QFont &font) { font = applicationFont(fontSize); }));
     painter.setPen(captionColor());
-    cache->caption.draw(painter, captionRect(), int(textAlignment), iconText);
+    caption.draw(painter, captionRect(), int(textAlignment), iconText);
 }

@@ -63,22 +63,6 @@ QImage fadedImage(const QPixmap &pixmap, const QSize &area, int alpha)
     return image;
 }
 
-bool ImageLook::Key::operator==(const Key &other) const
-{
-    return kind == other.kind && pixmap == other.pixmap && area == other.area
-        && alpha == other.alpha;
-}
-
-template <typename Compose> const QImage &ImageLook::composed(const Key &key, Compose compose)
-{
-    if (!(key == m_key)) {
-        m_image = compose();
-        m_key = key;
-        ++m_computations;
-    }
-    return m_image;
-}
-
 // A bitmap has the colour of the painter's pen and is not kept.
 void ImageLook::drawScaled(QPainter &painter, const QRect &target, const QPixmap &pixmap)
 {
@@ -90,14 +74,17 @@ void ImageLook::drawScaled(QPainter &painter, const QRect &target, const QPixmap
         return;
     }
     const Key key{Kind::Scaled, pixmap.cacheKey(), area, 0};
-    painter.drawImage(target.topLeft(), composed(key, [&] { return scaledImage(pixmap, area); }));
+    painter.drawImage(target.topLeft(), m_image.value(key, [&](QImage &image) {
+        image = scaledImage(pixmap, area);
+    }));
 }
 
 void ImageLook::drawVeiled(QPainter &painter, const QRect &target, const QPixmap &pixmap, int alpha)
 {
     const Key key{Kind::Veiled, pixmap.cacheKey(), target.size(), alpha};
-    painter.drawImage(target,
-                      composed(key, [&] { return veiledImage(pixmap, target.size(), alpha); }));
+    painter.drawImage(target, m_image.value(key, [&](QImage &image) {
+        image = veiledImage(pixmap, target.size(), alpha);
+    }));
 }
 
 } // namespace panelkit

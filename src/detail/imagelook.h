@@ -2,6 +2,8 @@
 #ifndef PANELKIT_DETAIL_IMAGELOOK_H
 #define PANELKIT_DETAIL_IMAGELOOK_H
 
+#include "memo.h"
+
 #include <QImage>
 #include <QPixmap>
 #include <QSize>
@@ -35,25 +37,21 @@ public:
     void drawVeiled(QPainter &painter, const QRect &target, const QPixmap &pixmap, int alpha);
 
     /// How often a look had to be computed.
-    int computations() const { return m_computations; }
+    int computations() const { return m_image.renewals(); }
 
 private:
-    enum class Kind { None, Scaled, Veiled };
+    enum class Kind { Scaled, Veiled };
 
     struct Key {
-        Kind kind = Kind::None;
+        Kind kind = Kind::Scaled;
         qint64 pixmap = 0; // QPixmap::cacheKey()
         QSize area; // px
         int alpha = 0;
 
-        bool operator==(const Key &other) const;
+        auto tied() const { return std::tie(kind, pixmap, area, alpha); }
     };
 
-    template <typename Compose> const QImage &composed(const Key &key, Compose compose);
-
-    Key m_key;
-    QImage m_image;
-    int m_computations = 0;
+    Memo<Key, QImage> m_image;
 };
 
 } // namespace panelkit

@@ -87,27 +87,15 @@ QRect inkRect(const QImage &image)
 
 } // namespace
 
-bool LayerCache::Content::operator==(const Content &other) const
-{
-    return area == other.area && numbers == other.numbers && picture == other.picture;
-}
-
-bool LayerCache::Key::operator==(const Key &other) const
-{
-    return transform == other.transform && content == other.content && hints == other.hints
-        && visible == other.visible && pen == other.pen;
-}
-
-void LayerCache::draw(QPainter &painter, const QTransform &world, const Content &content,
-                      const Paint &paint)
+void LayerPixels::drawContent(QPainter &painter, const QTransform &world, const QRectF &area,
+                              int content, const Paint &paint)
 {
     const bool canCopy = canCopyPixels(painter);
-    const Key key{content, world, painter.renderHints(), painter.pen(),
-                  canCopy ? visibleRect(painter) : QRect()};
-    if (!canCopy || !(key == m_key)) {
-        m_key = key;
+    const bool isNew = m_key.changesTo({world, area, content, painter.renderHints(), painter.pen(),
+                                        canCopy ? visibleRect(painter) : QRect()});
+    if (isNew || !canCopy) {
         m_isComposed = false;
-        m_isShown = DeviceView(painter).shows(world, content.area);
+        m_isShown = DeviceView(painter).shows(world, area);
         if (m_isShown)
             paintDirectly(painter, paint);
         return;
@@ -119,16 +107,16 @@ void LayerCache::draw(QPainter &painter, const QTransform &world, const Content 
     copy(painter);
 }
 
-void LayerCache::paintDirectly(QPainter &painter, const Paint &paint) const
+void LayerPixels::paintDirectly(QPainter &painter, const Paint &paint) const
 {
     const QTransform origin = painter.worldTransform();
-    painter.setWorldTransform(m_key.transform);
+    painter.setWorldTransform(m_key->transform);
     paint(painter);
     painter.setWorldTransform(origin);
 }
 
 // Smoothing has nothing to do in a copy of whole pixels, and it would cost a third more.
-void LayerCache::copy(QPainter &painter) const
+void LayerPixels::copy(QPainter &painter) const
 {
     const bool isTransformed = painter.worldMatrixEnabled();
     const bool isSmooth = painter.testRenderHint(QPainter::SmoothPixmapTransform);
@@ -141,16 +129,16 @@ void LayerCache::copy(QPainter &painter) const
 
 // It is composed at its place on a canvas as large as the device, because how edges are rounded
 // depends on where they lie; then it is cut to what there is to see.
-void LayerCache::compose(const Paint &paint)
+void LayerPixels::compose(const Paint &paint)
 {
-    const QPoint origin = m_key.visible.topLeft();
-    QImage image(m_key.visible.size(), QImage::Format_ARGB32_Premultiplied);
+    const QPoint origin = m_key->visible.topLeft();
+    QImage image(m_key->visible.size(), QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     if (!image.isNull()) {
         QPainter painter(&image);
-        painter.setRenderHints(m_key.hints);
-        painter.setPen(m_key.pen);
-        painter.setTransform(m_key.transform
+        painter.setRenderHints(m_key->hints);
+        painter.setPen(m_key->pen);
+        painter.setTransform(m_key->transform
                              * QTransform::fromTranslate(-qreal(origin.x()), -qreal(origin.y())));
         paint(painter);
     }

@@ -2,6 +2,8 @@
 #ifndef PANELKIT_DETAIL_LETTERCACHE_H
 #define PANELKIT_DETAIL_LETTERCACHE_H
 
+#include "memo.h"
+
 #include <QFont>
 #include <QGlyphRun>
 #include <QHash>
@@ -45,12 +47,12 @@ private:
         QSize box; // px
         int flags = 0;
 
-        bool operator==(const Setting &other) const;
+        auto tied() const { return std::tie(box, flags, dpi, direction, font); }
     };
 
     Letter laidOut(QPainter &painter, QChar letter) const;
 
-    Setting m_setting;
+    LastKey<Setting> m_setting;
     QHash<QChar, Letter> m_letters;
     int m_layouts = 0;
 };

@@ -2,6 +2,8 @@
 #ifndef PANELKIT_DETAIL_LINESCACHE_H
 #define PANELKIT_DETAIL_LINESCACHE_H
 
+#include "memo.h"
+
 #include <QFont>
 #include <QPointF>
 #include <QRect>
@@ -27,7 +29,7 @@ public:
               const QRect &inSight);
 
     /// How often a layout had to be made.
-    int layouts() const { return m_layouts; }
+    int layouts() const { return m_setting.changes(); }
 
 private:
     struct Setting {
@@ -37,21 +39,18 @@ private:
         QFont font;
         Qt::LayoutDirection direction = Qt::LeftToRight;
 
-        bool operator==(const Setting &other) const;
+        auto tied() const { return std::tie(size, flags, direction, text, font); }
     };
 
     void layOut(QPainter &painter);
     void drawLines(QPainter &painter, const QRect &rect, const QRect &inSight);
-    Qt::Alignment alignment() const;
     bool mayHang() const;
-    qreal leftOf(const QTextLine &line) const;
 
-    Setting m_setting;
+    LastKey<Setting> m_setting;
     bool m_isPlain = false; // else it goes to drawText
     QRectF m_bounds; // of all lines, in the rectangle
     bool m_isClipped = false;
     QTextLayout m_layout;
-    int m_layouts = 0;
 };
 
 } // namespace panelkit

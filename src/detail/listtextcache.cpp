@@ -58,11 +58,6 @@ QString ListTextCache::elided(const QFont &font, const QString &text, int width)
     return shortened;
 }
 
-bool ListTextCache::Key::operator==(const Key &other) const
-{
-    return rect == other.rect && flags == other.flags && text == other.text;
-}
-
 uint qHash(const ListTextCache::Key &key, uint seed)
 {
     return qHash(key.text, seed) ^ uint(key.rect.width());

@@ -44,7 +44,8 @@ private:
         QRect rect; // of an elision only the width
         int flags = 0;
 
-        bool operator==(const Key &other) const;
+        auto tied() const { return std::tie(rect, flags, text); }
+        bool operator==(const Key &other) const { return tied() == other.tied(); }
     };
     friend uint qHash(const Key &key, uint seed);
 

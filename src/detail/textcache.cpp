@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "textcache.h"
 
+#include "drawntext.h"
+
 #include <QPainter>
-#include <QStyle>
 #include <QTextLayout>
 #include <QTextOption>
 #include <QTransform>
@@ -16,31 +17,9 @@ namespace panelkit
 namespace
 {
 
-constexpr int kPlainFlags = Qt::AlignLeft | Qt::AlignRight | Qt::AlignHCenter | Qt::AlignAbsolute
-    | Qt::AlignTop | Qt::AlignBottom | Qt::AlignVCenter;
-
-// Nothing that drawText() would have to interpret.
-bool isPlain(QChar c)
-{
-    switch (c.category()) {
-    case QChar::Other_Control:
-    case QChar::Separator_Line:
-    case QChar::Separator_Paragraph:
-        return false;
-    default:
-        return true;
-    }
-}
-
 bool isPlainLine(const QString &text)
 {
     return !text.isEmpty() && std::all_of(text.begin(), text.end(), isPlain);
-}
-
-// A line under, through or over the text is placed anew by every drawing function.
-bool isDecorated(const QFont &font)
-{
-    return font.underline() || font.strikeOut() || font.overline();
 }
 
 // How far a line moves the pen. Its bounds may be wider, where a slanted letter leans out of them,
@@ -53,23 +32,6 @@ qreal advanceOf(const QPainter &painter, const QTextOption &option, const QStrin
     const QTextLine line = layout.createLine();
     layout.endLayout();
     return line.horizontalAdvance();
-}
-
-// Which share of the spare width goes to the left of the text.
-qreal leftOf(Qt::LayoutDirection direction, int flags, qreal spare)
-{
-    const Qt::Alignment alignment = QStyle::visualAlignment(direction, Qt::Alignment(QFlag(flags)));
-    if (alignment & Qt::AlignRight)
-        return spare;
-    return alignment & Qt::AlignHCenter ? spare / 2 : 0;
-}
-
-// Where drawText() puts a line: it takes the place in 64ths of a pixel, truncated toward zero
-// before any translation of the painter.
-QPointF placed(const QPointF &point)
-{
-    constexpr qreal kUnit = 64;
-    return {std::trunc(point.x() * kUnit) / kUnit, std::trunc(point.y() * kUnit) / kUnit};
 }
 
 QPointF fractionOf(const QPointF &point)
@@ -85,54 +47,48 @@ void TextCache::draw(QPainter &painter, const QRectF &rect, int flags, const QSt
         painter.drawText(rect, flags, text);
         return;
     }
-    if (!isCurrent(painter, rect, flags, text))
-        layOut(painter, rect, flags, text);
-
-    if (!m_isPlain) {
+    const Setting setting{text, rect.size(), flags, painter.font(), painter.layoutDirection()};
+    const auto layOut = [&](Line &line) { line = laidOut(painter, setting, rect.topLeft()); };
+    Line *line = &m_line.value(setting, layOut);
+    if (line->isPlain && line->fraction != fractionOf(lineStart(rect.topLeft() + line->offset))) {
+        m_line.forget();
+        line = &m_line.value(setting, layOut);
+    }
+    if (!line->isPlain) {
         painter.drawText(rect, flags, text);
-    } else if (m_isClipped) {
+    } else if (line->isClipped) {
         painter.save();
         painter.setClipRect(rect, Qt::IntersectClip);
-        painter.drawStaticText(placed(rect.topLeft() + m_offset), m_static);
+        painter.drawStaticText(lineStart(rect.topLeft() + line->offset), line->text);
         painter.restore();
     } else {
-        painter.drawStaticText(placed(rect.topLeft() + m_offset), m_static);
+        painter.drawStaticText(lineStart(rect.topLeft() + line->offset), line->text);
     }
 }
 
-bool TextCache::isCurrent(const QPainter &painter, const QRectF &rect, int flags,
-                          const QString &text) const
+TextCache::Line TextCache::laidOut(QPainter &painter, const Setting &setting,
+                                   const QPointF &topLeft)
 {
-    return m_layouts > 0 && m_size == rect.size() && m_flags == flags
-        && m_direction == painter.layoutDirection() && m_text == text && m_font == painter.font()
-        && (!m_isPlain || m_fraction == fractionOf(placed(rect.topLeft() + m_offset)));
-}
-
-void TextCache::layOut(QPainter &painter, const QRectF &rect, int flags, const QString &text)
-{
-    m_text = text;
-    m_size = rect.size();
-    m_flags = flags;
-    m_font = painter.font();
-    m_direction = painter.layoutDirection();
-    m_isPlain = (flags & ~kPlainFlags) == 0 && isPlainLine(text) && !isDecorated(m_font);
-    ++m_layouts;
-    if (!m_isPlain)
-        return;
+    Line line;
+    line.isPlain = (setting.flags & ~kPlainFlags) == 0 && isPlainLine(setting.text)
+        && !isDecorated(setting.font);
+    if (!line.isPlain)
+        return line;
 
     QTextOption option;
-    option.setTextDirection(m_direction);
+    option.setTextDirection(setting.direction);
     option.setWrapMode(QTextOption::NoWrap);
-    const QRectF atOrigin(QPointF(), m_size);
-    const QRectF bounds = painter.boundingRect(atOrigin, flags, text);
-    m_offset = {leftOf(m_direction, flags, m_size.width() - advanceOf(painter, option, text)),
-                bounds.top()};
-    m_fraction = fractionOf(placed(rect.topLeft() + m_offset));
-    m_isClipped = !atOrigin.contains(bounds);
-    m_static = QStaticText(text);
-    m_static.setTextFormat(Qt::PlainText);
-    m_static.setTextOption(option);
-    m_static.prepare(QTransform(), m_font);
+    const QRectF atOrigin(QPointF(), setting.size);
+    const QRectF bounds = painter.boundingRect(atOrigin, setting.flags, setting.text);
+    const qreal spare = setting.size.width() - advanceOf(painter, option, setting.text);
+    line.isClipped = !atOrigin.contains(bounds);
+    line.offset = {leftShare(setting.direction, setting.flags, spare), bounds.top()};
+    line.fraction = fractionOf(lineStart(topLeft + line.offset));
+    line.text = QStaticText(setting.text);
+    line.text.setTextFormat(Qt::PlainText);
+    line.text.setTextOption(option);
+    line.text.prepare(QTransform(), setting.font);
+    return line;
 }
 
 } // namespace panelkit

@@ -2,6 +2,8 @@
 #ifndef PANELKIT_DETAIL_TEXTCACHE_H
 #define PANELKIT_DETAIL_TEXTCACHE_H
 
+#include "memo.h"
+
 #include <QFont>
 #include <QPointF>
 #include <QRectF>
@@ -25,24 +27,29 @@ public:
     void draw(QPainter &painter, const QRectF &rect, int flags, const QString &text);
 
     /// How often a layout had to be made.
-    int layouts() const { return m_layouts; }
+    int layouts() const { return m_line.renewals(); }
 
 private:
-    bool isCurrent(const QPainter &painter, const QRectF &rect, int flags,
-                   const QString &text) const;
-    void layOut(QPainter &painter, const QRectF &rect, int flags, const QString &text);
+    struct Setting {
+        QString text;
+        QSizeF size; // px, of the rectangle
+        int flags = 0;
+        QFont font;
+        Qt::LayoutDirection direction = Qt::LeftToRight;
 
-    QString m_text;
-    QSizeF m_size; // of the rectangle
-    QPointF m_fraction; // of a pixel where the text stands: it moves well by whole ones only
-    int m_flags = 0;
-    QFont m_font;
-    Qt::LayoutDirection m_direction = Qt::LeftToRight;
-    bool m_isPlain = false;
-    bool m_isClipped = false;
-    QPointF m_offset; // of the text in the rectangle
-    QStaticText m_static;
-    int m_layouts = 0;
+        auto tied() const { return std::tie(size, flags, direction, text, font); }
+    };
+    struct Line {
+        bool isPlain = false; // else it goes to drawText
+        bool isClipped = false;
+        QPointF offset; // of the text in the rectangle
+        QPointF fraction; // of a pixel where the text stands: it moves well by whole ones only
+        QStaticText text;
+    };
+
+    static Line laidOut(QPainter &painter, const Setting &setting, const QPointF &topLeft);
+
+    Memo<Setting, Line> m_line;
 };
 
 } // namespace panelkit

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: Apache-2.0
+#ifndef PANELKIT_DETAIL_DRAWNTEXT_H
+#define PANELKIT_DETAIL_DRAWNTEXT_H
+
+#include <QChar>
+#include <QPointF>
+
+class QFont;
+
+// What QPainter::drawText(rect, flags, text) does, for caches that set its lines themselves.
+
+namespace panelkit
+{
+
+/// Alignment, and nothing else that flags may ask for.
+constexpr int kPlainFlags = Qt::AlignLeft | Qt::AlignRight | Qt::AlignHCenter | Qt::AlignAbsolute
+    | Qt::AlignTop | Qt::AlignBottom | Qt::AlignVCenter;
+
+constexpr qreal kUnwrapped = 1 << 24; ///< px, the width of a line that is never wrapped
+
+/// Whether a character stands for itself; drawText() interprets the others, or ends a line there.
+bool isPlain(QChar c);
+
+/// Whether a line goes under, through or over the text. Each of Qt's functions places it otherwise.
+bool isDecorated(const QFont &font);
+
+/// The alignment to the left and the right that flags mean in a layout direction.
+Qt::Alignment visualSides(Qt::LayoutDirection direction, int flags);
+
+/// How much of the spare width of a line goes to its left.
+qreal leftShare(Qt::LayoutDirection direction, int flags, qreal spare);
+
+/// Where a line begins: drawText() cuts its place toward zero, to 1/64 px, before any transform.
+/// Under a rotation even the smallest difference may move a glyph by a whole pixel.
+QPointF lineStart(const QPointF &point);
+
+} // namespace panelkit
+
+#endif // PANELKIT_DETAIL_DRAWNTEXT_H
