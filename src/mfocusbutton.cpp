@@ -7,6 +7,7 @@
 #include "detail/keyrequest.h"
 #include "detail/textcache.h"
 
+#include <QBasicTimer>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
@@ -20,7 +21,6 @@ class Q_DECL_HIDDEN MFocusButton::Private
 public:
     explicit Private(MFocusButton *widget) : q(widget) { }
 
-    void endTiming();
     bool isHighlighted() const;
     const QPixmap &shownImage() const;
     QColor shownTextColor() const;
@@ -38,7 +38,7 @@ public:
     QSize imageSize;
     QRect displayTextRect;
     QString buttonID = QStringLiteral("MFocusButton_ID");
-    int timerId = 0; // 0: no press is timed
+    QBasicTimer longPressTimer;
     int longPressIntal = 2500; // ms
     bool longPressed = false;
 
@@ -155,9 +155,9 @@ void MFocusButton::paintEvent(QPaintEvent *e)
 /** A press is timed; being down and checked is the business of QAbstractButton. */
 void MFocusButton::mousePressEvent(QMouseEvent *e)
 {
-    d->endTiming();
+    d->longPressTimer.stop();
     if (d->longPressIntal >= 0)
-        d->timerId = startTimer(d->longPressIntal);
+        d->longPressTimer.start(d->longPressIntal, this);
     d->longPressed = false;
     QAbstractButton::mousePressEvent(e);
 }
@@ -175,7 +175,7 @@ void MFocusButton::mouseReleaseEvent(QMouseEvent *e)
         if (!guard)
             return;
     }
-    d->endTiming();
+    d->longPressTimer.stop();
     QAbstractButton::mouseReleaseEvent(e);
 }
 
@@ -185,19 +185,11 @@ void MFocusButton::mouseReleaseEvent(QMouseEvent *e)
  */
 void MFocusButton::timerEvent(QTimerEvent *e)
 {
-    if (!e || e->timerId() != d->timerId)
+    if (!e || e->timerId() != d->longPressTimer.timerId())
         return;
-    d->endTiming();
+    d->longPressTimer.stop();
     d->longPressed = true;
     emit btnLongClicked(d->buttonID);
-}
-
-void MFocusButton::Private::endTiming()
-{
-    if (timerId == 0)
-        return;
-    q->killTimer(timerId);
-    timerId = 0;
 }
 
 bool MFocusButton::Private::isHighlighted() const { return q->isDown() || q->isChecked(); }

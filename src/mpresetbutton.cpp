@@ -8,6 +8,7 @@
 #include "detail/keyrequest.h"
 #include "detail/textcache.h"
 
+#include <QBasicTimer>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
@@ -35,7 +36,6 @@ public:
         QColor disable;
     };
 
-    void endTiming();
     bool isHighlighted() const;
     const QPixmap &shownImage() const;
     const QColor &shownTextColor(const TextColors &colors) const;
@@ -60,7 +60,7 @@ public:
     QRect displayTextRect2;
     int fontSize2 = 24; // px
     QString buttonID = QStringLiteral("MPresetButton_ID");
-    int timerId = 0; // 0: no press is timed
+    QBasicTimer longPressTimer;
     bool longPressed = false;
     bool moved = false;
 
@@ -252,8 +252,7 @@ void MPresetButton::mousePressEvent(QMouseEvent *e)
     if (isEnabled()) {
         postKeyRequest(this, kBeepRequest);
         d->longPressed = false;
-        d->endTiming();
-        d->timerId = startTimer(kLongPress);
+        d->longPressTimer.start(kLongPress, this);
         d->pressPoint = e->pos();
     }
     d->moved = false;
@@ -269,7 +268,7 @@ void MPresetButton::mouseMoveEvent(QMouseEvent *e)
     const bool isFar = distance(e->x(), d->pressPoint.x()) > kLongPressSlop
         || distance(e->y(), d->pressPoint.y()) > kLongPressSlop;
     if (isFar)
-        d->endTiming();
+        d->longPressTimer.stop();
     d->moved = true;
     QWidget::mouseMoveEvent(e); // NOLINT(bugprone-parent-virtual-call): meant
 }
@@ -283,7 +282,7 @@ void MPresetButton::mouseReleaseEvent(QMouseEvent *e)
         if (!guard)
             return;
     }
-    d->endTiming();
+    d->longPressTimer.stop();
     QWidget::mouseReleaseEvent(e); // NOLINT(bugprone-parent-virtual-call): meant
 }
 
@@ -292,19 +291,11 @@ void MPresetButton::timerEvent(QTimerEvent *e)
 {
     const QPointer<MPresetButton> guard(this);
     QAbstractButton::timerEvent(e);
-    if (!guard || e->timerId() != d->timerId)
+    if (!guard || e->timerId() != d->longPressTimer.timerId())
         return;
-    d->endTiming();
+    d->longPressTimer.stop();
     d->longPressed = true;
     emit btnLongClicked(d->buttonID);
-}
-
-void MPresetButton::Private::endTiming()
-{
-    if (timerId == 0)
-        return;
-    q->killTimer(timerId);
-    timerId = 0;
 }
 
 bool MPresetButton::Private::isHighlighted() const { return q->isDown() || q->isChecked(); }

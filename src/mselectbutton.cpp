@@ -8,6 +8,7 @@
 #include "detail/keyrequest.h"
 #include "detail/textcache.h"
 
+#include <QBasicTimer>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPoint>
@@ -31,7 +32,6 @@ public:
     explicit Private(MSelectButton *widget) : q(widget) { }
 
     bool isActive() const;
-    void endTiming();
     const QPixmap &shownImage() const;
     QColor shownTextColor() const;
     void drawPicture(QPainter &painter) const;
@@ -50,7 +50,7 @@ public:
     QSize imageSize;
     QRect displayTextRect;
     QString buttonID = QStringLiteral("MSelectButton_ID");
-    int timerId = 0; // 0: no press is timed
+    QBasicTimer longPressTimer;
     bool longPressed = false;
     bool isPressed = false;
     bool selectState = false;
@@ -217,8 +217,7 @@ void MSelectButton::mousePressEvent(QMouseEvent *e)
     if (d->isActive()) {
         postKeyRequest(this, kBeepRequest);
         d->longPressed = false;
-        d->endTiming();
-        d->timerId = startTimer(kLongPress);
+        d->longPressTimer.start(kLongPress, this);
         d->isPressed = true;
         update();
     }
@@ -236,7 +235,7 @@ void MSelectButton::mouseMoveEvent(QMouseEvent *e)
     const bool isAway = distance(e->x(), d->pressPoint.x()) > kSlideSlop
         || distance(e->y(), d->pressPoint.y()) > kSlideSlop;
     if (isAway) {
-        d->endTiming();
+        d->longPressTimer.stop();
         if (d->isPressed) {
             d->isPressed = false;
             update();
@@ -260,7 +259,7 @@ void MSelectButton::mouseReleaseEvent(QMouseEvent *e)
         }
         update();
     }
-    d->endTiming();
+    d->longPressTimer.stop();
     d->longPressed = false;
     d->isPressed = false;
     QWidget::mouseReleaseEvent(e);
@@ -269,23 +268,15 @@ void MSelectButton::mouseReleaseEvent(QMouseEvent *e)
 /** A long press, if the finger is still there. */
 void MSelectButton::timerEvent(QTimerEvent *e)
 {
-    if (e->timerId() != d->timerId)
+    if (e->timerId() != d->longPressTimer.timerId())
         return;
-    d->endTiming();
+    d->longPressTimer.stop();
     d->longPressed = true;
     if (d->isPressed)
         emit btnLongClicked(d->buttonID);
 }
 
 bool MSelectButton::Private::isActive() const { return !disableState && q->isEnabled(); }
-
-void MSelectButton::Private::endTiming()
-{
-    if (timerId == 0)
-        return;
-    q->killTimer(timerId);
-    timerId = 0;
-}
 
 const QPixmap &MSelectButton::Private::shownImage() const
 {

@@ -4,6 +4,7 @@
 #include "detail/arithmetic.h"
 #include "detail/geometry.h"
 
+#include <QBasicTimer>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
@@ -39,7 +40,7 @@ public:
     int index = 0; // steps of 30 degrees
     bool holdMouseEvent = false;
     bool moved = false; // since the press
-    int timerId = 0; // 0: stopped
+    QBasicTimer timer;
 };
 
 /** A ring that stands still until setTimer(). */
@@ -96,16 +97,11 @@ void SpLoadingRound::setTimer(int ms)
 {
     stopTimer();
     if (ms >= 0)
-        d->timerId = startTimer(ms);
+        d->timer.start(ms, this);
 }
 
 /** Stops turning; the ring stays at its step. */
-void SpLoadingRound::stopTimer()
-{
-    if (d->timerId != 0)
-        killTimer(d->timerId);
-    d->timerId = 0;
-}
+void SpLoadingRound::stopTimer() { d->timer.stop(); }
 
 void SpLoadingRound::paintEvent(QPaintEvent *)
 {
@@ -123,7 +119,7 @@ void SpLoadingRound::paintEvent(QPaintEvent *)
 /** A tick of the own timer goes on by a step; those of any other are dropped. */
 void SpLoadingRound::timerEvent(QTimerEvent *e)
 {
-    if (e->timerId() != d->timerId)
+    if (e->timerId() != d->timer.timerId())
         return;
     ++d->index;
     if (d->index == kSpokes)

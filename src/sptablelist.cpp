@@ -6,6 +6,7 @@
 #include "detail/keyrequest.h"
 #include "detail/minuteclock.h"
 
+#include <QBasicTimer>
 #include <QFile>
 #include <QFontMetrics>
 #include <QHeaderView>
@@ -112,8 +113,6 @@ public:
     bool showsRowPressed() const;
     void showRowPressed(bool pressed, const QPoint &pos);
     bool isLeftOfTail() const;
-    void start(int &timer, int ms);
-    void stop(int &timer);
     int boundedScrollValue(qint64 value) const;
     void dragTo(qint64 value);
     bool startClick(const QPoint &pos);
@@ -138,9 +137,9 @@ public:
     QTimer speedTimer;
     int flingSteps = 0;
     unsigned int moveStartTime = 0; // ms within the minute, 0: not moved yet
-    int rollRestartTimer = 0;
-    int clickTimer = 0;
-    int pressTimer = 0;
+    QBasicTimer rollRestartTimer;
+    QBasicTimer clickTimer;
+    QBasicTimer pressTimer;
     bool isDragging = false;
     bool useDefaultStyle = true;
     bool isMovingDown = false;
@@ -150,7 +149,7 @@ public:
     bool isFirstMove = true;
     std::optional<int> scrollValue; // px, none before the first drag
 
-    int rollTimer = 0; // 0 as soon as it is killed; the delegate may still hold its id then
+    QBasicTimer rollTimer; // the delegate may still hold the id of one that has stopped
 };
 
 /**
@@ -418,16 +417,16 @@ void SpTableList::timerEvent(QTimerEvent *e)
 {
     const QPointer<SpTableList> guard(this);
     const int timer = e->timerId();
-    if (timer == d->clickTimer) {
-        d->stop(d->clickTimer);
+    if (timer == d->clickTimer.timerId()) {
+        d->clickTimer.stop();
         d->reportClick();
-    } else if (timer == d->rollTimer) {
+    } else if (timer == d->rollTimer.timerId()) {
         d->rollTexts();
-    } else if (timer == d->rollRestartTimer) {
-        d->stop(d->rollRestartTimer);
+    } else if (timer == d->rollRestartTimer.timerId()) {
+        d->rollRestartTimer.stop();
         d->startRolling();
-    } else if (timer == d->pressTimer) {
-        d->stop(d->pressTimer);
+    } else if (timer == d->pressTimer.timerId()) {
+        d->pressTimer.stop();
         if (!d->highlightFlag || d->isLeftOfTail())
             d->showRowPressed(true, d->pressPos);
         viewport()->update();
@@ -443,12 +442,12 @@ void SpTableList::timerEvent(QTimerEvent *e)
 void SpTableList::mousePressEvent(QMouseEvent *e)
 {
     d->isFirstMove = true;
-    d->stop(d->clickTimer);
+    d->clickTimer.stop();
     // The delegate keeps the number of the timer that is gone, on purpose: with it, long texts are
     // painted as they will start to roll. The number may soon be that of another timer.
     if (d->rollsTexts()) {
         d->delegate->clearRollData();
-        d->stop(d->rollTimer);
+        d->rollTimer.stop();
     }
     d->pressTime = getCurrentTime();
     d->speedTimer.stop();
@@ -470,7 +469,7 @@ void SpTableList::mousePressEvent(QMouseEvent *e)
     if (d->isBeep && d->pressIndex.index.isValid())
         postKeyRequest(this, kBeepRequest);
     viewport()->update();
-    d->start(d->pressTimer, kPressDelay);
+    d->pressTimer.start(kPressDelay, this);
     emit listPressed();
 }
 
@@ -508,7 +507,7 @@ void SpTableList::mouseMoveEvent(QMouseEvent *e)
     d->lastPos = pos;
     if (d->isDragging) {
         d->isFirstMove = false;
-        d->stop(d->pressTimer);
+        d->pressTimer.stop();
         d->dragTo(qint64(verticalScrollBar()->value()) + from - pos.y());
     }
 }
@@ -526,7 +525,7 @@ void SpTableList::mouseReleaseEvent(QMouseEvent *e)
     const QPoint pos = e->pos();
     d->lastPos = pos;
     d->releaseTime = getCurrentTime();
-    d->stop(d->pressTimer);
+    d->pressTimer.stop();
     const bool isClick = d->startClick(pos);
     emit currentShowIndex(currentIndex().row());
     if (!guard)
@@ -555,7 +554,7 @@ void SpTableList::showEvent(QShowEvent *e)
 void SpTableList::hideEvent(QHideEvent *e)
 {
     if (d->rollsTexts()) {
-        d->stop(d->rollTimer);
+        d->rollTimer.stop();
         d->delegate->setRollTimerId(0);
     }
     QWidget::hideEvent(e);
@@ -617,18 +616,6 @@ bool SpTableList::Private::isLeftOfTail() const
     return delegate && delegate->tailRectX() >= pressPos.x();
 }
 
-void SpTableList::Private::start(int &timer, int ms)
-{
-    stop(timer);
-    timer = q->startTimer(ms);
-}
-
-void SpTableList::Private::stop(int &timer)
-{
-    if (timer != 0)
-        q->killTimer(std::exchange(timer, 0));
-}
-
 int SpTableList::Private::boundedScrollValue(qint64 value) const
 {
     const QScrollBar *bar = q->verticalScrollBar();
@@ -658,7 +645,7 @@ bool SpTableList::Private::startClick(const QPoint &pos)
         return false;
     if (!highlightFlag || isLeftOfTail())
         showRowPressed(true, pos);
-    start(clickTimer, kClickDelay);
+    clickTimer.start(kClickDelay, q);
     return true;
 }
 
@@ -736,15 +723,15 @@ void SpTableList::Private::reportClickPosition(int row, int x)
 
 void SpTableList::Private::startRolling()
 {
-    start(rollTimer, kRollInterval);
+    rollTimer.start(kRollInterval, q);
     if (delegate)
-        delegate->setRollTimerId(rollTimer);
+        delegate->setRollTimerId(rollTimer.timerId());
 }
 
 void SpTableList::Private::restartRollingLater()
 {
     if (rollsTexts())
-        start(rollRestartTimer, kRollPause);
+        rollRestartTimer.start(kRollPause, q);
 }
 
 /**
