@@ -232,8 +232,9 @@ void MArcList::setCurrentIndex(QChar c)
 
 /**
  * Scrolls by the way from the last point of the touch to this one, and repaints. Down turns the arc
- * clockwise, by a degree for 15 px, but shows earlier rows of the column, two for each row of
- * travel: the two styles scroll in opposite senses on purpose.
+ * clockwise, by a degree for 15 px, and shows earlier rows of the column, two for each row of
+ * travel. The start angle grows in the one and falls in the other, so that in both the characters
+ * go the way of the finger.
  */
 void MArcList::moveList(QPoint p)
 {
@@ -298,7 +299,7 @@ void MArcList::drawPointer(QPainter *painter)
 
 /**
  * Draws the characters of the column. The pen is never set back: from the pressed row on all rows
- * have its colour, and so has the painter afterwards. Screens designed for it rely on that.
+ * have its colour, and so has the painter afterwards (kept behaviour).
  */
 void MArcList::drawTicks1(QPainter *painter)
 {
@@ -334,8 +335,8 @@ void MArcList::drawPointer1(QPainter *painter)
 }
 
 /**
- * The time within the minute in ms. It begins anew with each minute, on purpose: a flick across
- * that moment has a negative duration and simply does not fling.
+ * The time within the minute in ms. It begins anew with each minute: a flick across that moment has
+ * a negative duration and does not fling (kept behaviour).
  */
 int MArcList::getCurrentTime() { return minuteClock(); }
 

@@ -114,8 +114,7 @@ QColor MArcScrollBar::lineColor() const { return d->lineColor; }
 
 /**
  * The colour that the ticks are filled with; rgb(173, 173, 173) by default. Repaints. Ticks are
- * lines and have nothing to fill: their colour is the foreground of the palette. That is meant;
- * screens set the colour of the ticks there.
+ * lines and have nothing to fill: their colour is the foreground of the palette (kept behaviour).
  */
 void MArcScrollBar::setLineColor(QColor color)
 {
@@ -251,9 +250,9 @@ void MArcScrollBar::drawPointer(QPainter *painter)
 }
 
 /**
- * Draws the ticks of the straight bar. Their distance is a whole number of px, so that in a range
- * that does not divide the height they end short of the bottom, and the pointer drifts off them.
- * That is meant: ticks stay evenly spaced and sharp. Of more than 100,000 the others are left out.
+ * Draws the ticks of the straight bar. Their distance is a whole number of px, so that they stay
+ * evenly spaced and sharp. In a range that does not divide the height they end short of the bottom,
+ * and the pointer drifts off them. Of more than 100,000 the others are left out.
  */
 void MArcScrollBar::drawTicksVert(QPainter *painter)
 {

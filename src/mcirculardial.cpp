@@ -164,9 +164,9 @@ double MCircularDial::minValue() const { return d->minValue; }
 
 /**
  * The lowest value; 87.5 by default. A change of less than 0.05 is ignored, and so is a minimum
- * that is not below the maximum. Repaints. A value below it follows, unless by less than 0.05: then
- * the value stays where it is and nothing is repainted, on purpose, as with any other change of the
- * value that is too small to be one.
+ * that is not below the maximum. Repaints. A value below it follows, unless by less than 0.05,
+ * which is no change of the value: then it stays where it is, and nothing is repainted
+ * (kept behaviour).
  */
 void MCircularDial::setMinValue(double minimum)
 {

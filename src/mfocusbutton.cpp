@@ -180,8 +180,8 @@ void MFocusButton::mouseReleaseEvent(QMouseEvent *e)
 }
 
 /**
- * A long press. Any other timer is left alone on purpose, those of QAbstractButton too: a focus
- * button has neither auto-repeat nor an animated click.
+ * A long press. Any other timer is left alone, those of QAbstractButton too, whose clicks come
+ * without btnClicked: a focus button has neither auto-repeat nor an animated click.
  */
 void MFocusButton::timerEvent(QTimerEvent *e)
 {

@@ -72,7 +72,7 @@ MHorSlider::~MHorSlider() = default;
 
 QFont MHorSlider::getFont() const { return d->font; }
 
-/** The font of the value; the name hides that of the widget's own font, on purpose. */
+/** The font of the value; it hides the widget's own, so that a form sets the one that shows. */
 void MHorSlider::setFont(const QFont &font)
 {
     d->font = font;
@@ -126,8 +126,8 @@ void MHorSlider::setPointNormalImage(const QPixmap &image) { d->pointNormalImage
 QPixmap MHorSlider::pointPressImage() const { return d->pointPressImage; }
 
 /**
- * The knob while touched; without it the other one stays. The last picture, on purpose: with it the
- * slider is laid out and repaints.
+ * The knob while touched; without it the other one stays. Give it last: only with it the slider
+ * is laid out and repaints.
  */
 void MHorSlider::setPointPressImage(const QPixmap &image)
 {
@@ -160,7 +160,8 @@ int MHorSlider::currentValue() const { return d->currentValue; }
 
 /**
  * Sets and shows the value, without a signal. Accepted from -maxValue to maxValue whatever minValue
- * is, on purpose: a value below minValue is shown as a number while the knob stays where it was.
+ * is: a value below minValue is shown as a number while the knob stays where it was
+ * (kept behaviour).
  */
 void MHorSlider::setCurrentValue(int value)
 {
@@ -308,7 +309,7 @@ void MHorSlider::Private::layOutLabels(const QRect &valueRect)
 }
 
 // From the left end the fill ends just left of the knob's middle. From the middle it keeps a gap,
-// of 2 px at the right and 3 px at the left: both are meant, the artwork has its mark there.
+// of 2 px at the right and 3 px at the left (kept behaviour).
 void MHorSlider::Private::placeFill(int value, int knobLeft)
 {
     const int knobMiddle = knobLeft + pointNormalImage.width() / 2;

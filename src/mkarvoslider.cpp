@@ -55,8 +55,8 @@ struct Shape {
     Span solid;
 };
 
-// Odd on purpose: what is faint is a point at the top, the upper third, or all of a line that is
-// longer than a major one. A mode that is none is AlignBottom.
+// What is faint is a point at the top, the upper third, or all of a line that is longer than a
+// major one (kept behaviour). A mode that is none is AlignBottom.
 Shape shapeOf(MKARVOSlider::ScaleAlignmentMode mode)
 {
     if (mode == MKARVOSlider::AlignTop)
@@ -137,7 +137,7 @@ public:
     QPoint pressPoint;
     float leftX = 0; // px, x of the first tick
     float widthF = 0; // px
-    float realMinFreq = 1620.0F; // above the maximum on purpose, until a band comes
+    float realMinFreq = 1620.0F; // above the maximum until a band comes (kept behaviour)
     float realMaxFreq = 522.0F;
     float realFreqStep = 9.0F;
     int stepCount = 0;
@@ -169,8 +169,8 @@ struct MKARVOSlider::Private::Tick {
 
 /**
  * An AM tuner with a scale from 500 to 1720 and a tick every 20, tuned to 800. Its snapping band is
- * upside down until freqParamChangedSlot() brings one, on purpose: whatever is dragged before
- * becomes 1620 or 522.
+ * upside down until freqParamChangedSlot() brings one: whatever is dragged before becomes 1620 or
+ * 522 (kept behaviour).
  */
 MKARVOSlider::MKARVOSlider(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
 {
@@ -193,8 +193,8 @@ void MKARVOSlider::setLineColor(const QColor &color) { d->lineColor = color; }
 
 QFont MKARVOSlider::getFont() const { return d->font; }
 
-/** The font of the labels, of 20 px by default; the name hides that of the widget's own font, on
- * purpose. Stored only. */
+/** The font of the labels, of 20 px by default; it hides the widget's own, so that a form sets the
+ * one that shows. Stored only. */
 void MKARVOSlider::setFont(const QFont &font) { d->font = font; }
 
 int MKARVOSlider::getLineH() const { return d->lineH; }
@@ -204,8 +204,7 @@ void MKARVOSlider::setLineH(int height) { d->lineH = height; }
 
 int MKARVOSlider::getLineW() const { return d->lineW; }
 
-/** Stored only, and without effect: ticks are one pixel wide, because the colour makes a new pen.
- */
+/** Stored only, and without effect: ticks are one pixel wide (kept behaviour). */
 void MKARVOSlider::setLineW(int width) { d->lineW = width; }
 
 /** The distance from step to step, truncated to px. */
@@ -262,7 +261,7 @@ void MKARVOSlider::setIsFM(bool isFM)
 
 int MKARVOSlider::marginY() const { return d->marginY; }
 
-/** Repaints, but has no effect on the picture. */
+/** Repaints, but has no effect on the picture (kept behaviour). */
 void MKARVOSlider::setMarginY(int margin)
 {
     d->marginY = margin;
@@ -397,7 +396,7 @@ void MKARVOSlider::mouseReleaseEvent(QMouseEvent *e)
 
 /**
  * A band from the tuner, in display units. It is the one that drags snap to; the drawn scale stays
- * as its properties say, on purpose.
+ * as its properties say, so that it may have rounder ends than the band.
  */
 void MKARVOSlider::freqParamChangedSlot(bool isFM, float freqMin, float freqMax, float freqStep)
 {
@@ -438,7 +437,7 @@ float MKARVOSlider::Private::freqAt(int x)
     return q->calFreqRule(std::fma(freqStep, steps, freqStart));
 }
 
-// AM leaves in whole units, whatever fraction the snapping has carried along.
+// AM leaves in whole units, whatever fraction the snapping has carried along (kept behaviour).
 void MKARVOSlider::Private::tune(float freq)
 {
     if (!(double(std::fabs(freq - curFreq)) > kSame))

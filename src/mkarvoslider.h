@@ -30,7 +30,7 @@ class PANELKIT_EXPORT MKARVOSlider : public QWidget
     Q_PROPERTY(QFont font READ getFont WRITE setFont)
     Q_PROPERTY(int lineH READ getLineH WRITE setLineH)
     Q_PROPERTY(int lineW READ getLineW WRITE setLineW)
-    // Whole numbers as properties, on purpose: what has a fraction goes through the accessors.
+    // Whole numbers as properties (kept behaviour); a fraction goes through the accessors.
     Q_PROPERTY(int freqStart READ wholeFreqStart WRITE setWholeFreqStart)
     Q_PROPERTY(int freqEnd READ wholeFreqEnd WRITE setWholeFreqEnd)
     Q_PROPERTY(int freqStep READ wholeFreqStep WRITE setWholeFreqStep)

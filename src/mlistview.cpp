@@ -64,7 +64,7 @@ void MListView::setPositionList(QList<QPoint> &list)
 /**
  * Makes a button of each two pictures and arranges the buttons; an empty list is ignored. Give
  * pictures in pairs: the last button of an odd number lacks its second one. Buttons of an earlier
- * call stay where they are, behind the new ones, on purpose: whoever holds one may go on using it.
+ * call stay where they are, behind the new ones, so that whoever holds one may go on using it.
  */
 void MListView::setPixmapList(QList<QPixmap> &list)
 {
@@ -84,7 +84,7 @@ void MListView::setPixmapList(QList<QPixmap> &list)
 /**
  * With true, makes the buttons a group of which the last one clicked is down: their buttonID
  * becomes their number from 0. With false nothing happens; a group stays one. A second call
- * connects the buttons once more, on purpose, which does no harm.
+ * connects the buttons once more: then each click puts the group in the same state twice.
  */
 void MListView::setButtonIsChecked(bool enable)
 {
@@ -174,7 +174,7 @@ void MListView::Private::placeButtons()
 }
 
 // Each button stands at its predecessor's height plus all tops before: buttons of one height h at
-// 0, h, 2h, 4h, 8h and so on. The growing distances are meant; even ones take a position list.
+// 0, h, 2h, 4h, 8h and so on (kept behaviour); even distances take a position list.
 void MListView::Private::stackButtons()
 {
     qint64 top = 0;
@@ -186,8 +186,8 @@ void MListView::Private::stackButtons()
     }
 }
 
-// Neither the first button nor the last is raised, on purpose: where buttons overlap, these two lie
-// behind the others.
+// Neither the first button nor the last is raised: where buttons overlap, these two lie behind the
+// others (kept behaviour).
 void MListView::Private::raiseButtons()
 {
     for (int i = buttonList.size() - 2; i >= 1; --i)

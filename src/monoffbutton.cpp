@@ -36,9 +36,9 @@ QColor fraction(const QColor &color, int numerator, int denominator, int alpha =
     return {part(color.red()), part(color.green()), part(color.blue()), alpha};
 }
 
-// The target stands for the same rectangle on the widget and in the picture on purpose: a picture
-// that does not begin in the widget's corner is shifted in its own copy, and what then lies before
-// the target is not dimmed.
+// The target stands for the same rectangle on the widget and in the picture: a picture that does
+// not begin in the widget's corner is shifted in its own copy, and what then lies before the target
+// is not dimmed (kept behaviour).
 QImage dimmedImage(const QPixmap &pixmap, const QRect &target)
 {
     QImage image = pixmap.toImage();
@@ -188,7 +188,7 @@ void MOnOffButton::setNormalBkgPix(const QPixmap &pixmap)
 
 QPixmap MOnOffButton::pressBkgPix() const { return d->pressBkgPix; }
 
-/** The track of a switch that is off; "press" is its name on purpose. Repaints. */
+/** The track of a switch that is off, not of one that is pressed (kept behaviour). Repaints. */
 void MOnOffButton::setPressBkgPix(const QPixmap &pixmap)
 {
     d->pressBkgPix = pixmap;
@@ -227,7 +227,7 @@ void MOnOffButton::setReverse(bool reversed)
 
 MOnOffButton::OnOff_STYLE MOnOffButton::UIStyle() const { return d->style; }
 
-/** The look without pictures. Stored only, on purpose; a value that is no style is style 0. */
+/** The look without pictures. Stored only (kept behaviour); a value that is no style is style 0. */
 void MOnOffButton::setUIStyle(OnOff_STYLE style) { d->style = style; }
 
 /**
@@ -236,8 +236,8 @@ void MOnOffButton::setUIStyle(OnOff_STYLE style) { d->style = style; }
  * its first tick.
  *
  * The glide begins where that of an unreversed switch begins. A reversed one therefore leaves the
- * track with its first tick: it changes without a glide, on purpose. A glide that is under way is
- * not ended here; its timer ends itself with its next tick.
+ * track with its first tick: it changes without a glide (kept behaviour). A glide that is under way
+ * is not ended here; its timer ends itself with its next tick.
  */
 void MOnOffButton::changeStatus(bool status)
 {
@@ -368,7 +368,7 @@ void MOnOffButton::Private::endGlide()
 }
 
 // A drag shorter than the knob's way springs back. A longer one switches on in either direction,
-// but off only toward the off end: a hasty finger rather switches on than off, on purpose.
+// but off only toward the off end: a hasty finger rather switches on than off (kept behaviour).
 void MOnOffButton::Private::releaseDrag(const QPoint &pos)
 {
     knobPos = 0;
@@ -384,7 +384,7 @@ void MOnOffButton::Private::releaseDrag(const QPoint &pos)
 }
 
 // While a list scrolls the finger does not mean the switch that happens to lie under it. One that
-// went sideways meanwhile makes the switch glide to where it is, and say so again, on purpose.
+// went sideways meanwhile makes the switch glide to where it is, and say so again (kept behaviour).
 void MOnOffButton::Private::releaseTap(const QPoint &pos)
 {
     const bool isListMoving = QCoreApplication::instance()->property("listMoving").toBool();
@@ -404,7 +404,7 @@ QRect MOnOffButton::Private::bkgRect() const
     return centredTowardZero(normalBkgPix.size(), q->rect());
 }
 
-// At its right end the knob stops one pixel short of the track, on purpose.
+// At its right end the knob stops one pixel short of the track (kept behaviour).
 QRect MOnOffButton::Private::restingChunkRect() const
 {
     const QRect track = bkgRect();

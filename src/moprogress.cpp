@@ -149,7 +149,7 @@ QColor MOProgress::displayTextColor() const { return d->displayTextColor; }
 /** The colour of both texts; white by default. Repaints on a change. */
 void MOProgress::setDisplayTextColor(QColor color) { d->change(d->displayTextColor, color); }
 
-/** The paint limits the value to 0..100 and writes it back, on purpose. */
+/** The paint limits the value to 0..100 and writes it back, so that it reads as it is shown. */
 void MOProgress::paintEvent(QPaintEvent *)
 {
     if (d->arcHeight >= d->radius)

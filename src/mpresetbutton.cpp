@@ -245,7 +245,8 @@ void MPresetButton::paintEvent(QPaintEvent *e)
 
 /**
  * A press asks for the click sound and is timed. The event then goes to QWidget, and so to the
- * parent, past the button logic of Qt on purpose: no touch makes the key go down or checks it.
+ * parent, past the button logic of Qt, so that no touch makes the key go down or checks it: which
+ * preset is the current one is for the application to say.
  */
 void MPresetButton::mousePressEvent(QMouseEvent *e)
 {
@@ -256,12 +257,12 @@ void MPresetButton::mousePressEvent(QMouseEvent *e)
         d->pressPoint = e->pos();
     }
     d->moved = false;
-    QWidget::mousePressEvent(e); // NOLINT(bugprone-parent-virtual-call): meant
+    QWidget::mousePressEvent(e); // NOLINT(bugprone-parent-virtual-call): past Qt's button logic
 }
 
 /**
  * Any move spoils the tap, so that a finger which sweeps over a row of presets changes no station.
- * A long press is meant as it is: it survives a finger that trembles.
+ * Nobody holds a key that long by chance: a long press survives a finger that trembles.
  */
 void MPresetButton::mouseMoveEvent(QMouseEvent *e)
 {
@@ -270,7 +271,7 @@ void MPresetButton::mouseMoveEvent(QMouseEvent *e)
     if (isFar)
         d->longPressTimer.stop();
     d->moved = true;
-    QWidget::mouseMoveEvent(e); // NOLINT(bugprone-parent-virtual-call): meant
+    QWidget::mouseMoveEvent(e); // NOLINT(bugprone-parent-virtual-call): past Qt's button logic
 }
 
 /** A release that follows neither a move nor a long press is a click, enabled or not. */
@@ -283,7 +284,7 @@ void MPresetButton::mouseReleaseEvent(QMouseEvent *e)
             return;
     }
     d->longPressTimer.stop();
-    QWidget::mouseReleaseEvent(e); // NOLINT(bugprone-parent-virtual-call): meant
+    QWidget::mouseReleaseEvent(e); // NOLINT(bugprone-parent-virtual-call): past Qt's button logic
 }
 
 /** A long press. QAbstractButton sees every timer first, for its own. */

@@ -340,8 +340,8 @@ int MProgressBar::Private::partOf(int length) const
     return boundedPixel(saturated((qint64(currentValue) - minValue) * boundedPixel(length) / span));
 }
 
-// With pictures it does not depend on the radius, on purpose, although the place of the knob does:
-// both agree where the radius is half of the knob's width.
+// With pictures it does not depend on the radius, although the place of the knob does
+// (kept behaviour): both agree where the radius is half of the knob's width.
 int MProgressBar::Private::valueAt(int x) const
 {
     const bool isPicture = hasPictures();

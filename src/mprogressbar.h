@@ -13,8 +13,8 @@
 #include <memory>
 
 /// Writes seconds as HH:MM:SS into `text`, with two digits for each: 3725 becomes "01:02:05". The
-/// tens of 100 hours and more run on past '9', and negative numbers before '0', on purpose: the
-/// text always has eight characters.
+/// tens of 100 hours and more run on past '9', and negative numbers before '0', so that the text
+/// always has eight characters.
 PANELKIT_EXPORT void transFormTime(qint64 seconds, QString &text);
 
 /**

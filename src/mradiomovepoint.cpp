@@ -195,7 +195,7 @@ void ScaleBkg::init()
 
 /**
  * A frequency rounded toward zero to a multiple of the step. isStart makes no difference: both ends
- * of a band are rounded down alike, on purpose.
+ * of a band are rounded down alike (kept behaviour).
  */
 int ScaleBkg::getValidStartFreq(int freq, int step, bool)
 {
@@ -299,8 +299,8 @@ void ScaleBkg::Private::layOut(const Look &look)
 }
 
 // The three quotients of the first label are truncated separately, which is why labels need not
-// stand at long ticks: they are stepped by scale units and the ticks by their own stride. Keep it
-// so; the scales of existing screens are tuned to it.
+// stand at long ticks: they are stepped by scale units and the ticks by their own stride
+// (kept behaviour).
 void ScaleBkg::Private::layOutLabels(const Look &look)
 {
     const Whole first = firstTick;
@@ -477,8 +477,8 @@ public:
 
 /**
  * A tuner of 831 x 400 px for 8500 to 10800 in steps of 10. Its first scale has its own geometry
- * (0 to 800 px, a tick every 5 units), not that of the properties, and is wider than the tuner,
- * both on purpose: the properties count from the first write of initByCustomeValue on.
+ * (0 to 800 px, a tick every 5 units), not that of the properties, and is wider than the tuner:
+ * the properties count from the first write of initByCustomeValue on (kept behaviour).
  */
 MRadioMovePoint::MRadioMovePoint(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>())
 {
@@ -636,9 +636,9 @@ void MRadioMovePoint::freqChanged(int freq, bool isAm)
 
 /**
  * A band from the tuner: FM in the unit of the scale, AM in tens of it. The properties stay as they
- * are and so does the needle. The scale's line start goes for its end as well, on purpose: until
- * the next call with eight arguments a unit takes no pixels, no ticks are drawn, and the needle
- * finds the band's ends only.
+ * are and so does the needle. The scale's line start goes for its end as well: until the next call
+ * with eight arguments a unit takes no pixels, no ticks are drawn, and the needle finds the band's
+ * ends only (kept behaviour).
  */
 void MRadioMovePoint::freqParamChangedSlot(bool isFM, float freqMin, float freqMax, float freqStep)
 {

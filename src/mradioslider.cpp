@@ -143,8 +143,8 @@ void MRadioSlider::setLineColor(const QColor &color) { d->lineColor = color; }
 
 QFont MRadioSlider::getFont() const { return d->font; }
 
-/** The font of the labels; the name hides that of the widget's own font, on purpose. Stored only.
- */
+/** The font of the labels; it hides the widget's own, so that a form sets the one that shows.
+ * Stored only. */
 void MRadioSlider::setFont(const QFont &font) { d->font = font; }
 
 int MRadioSlider::getLineH() const { return d->lineH; }
@@ -155,8 +155,7 @@ void MRadioSlider::setLineH(int height) { d->lineH = height; }
 
 int MRadioSlider::getLineW() const { return d->lineW; }
 
-/** Stored only, and without effect: ticks are one pixel wide, because the colour makes a new pen.
- */
+/** Stored only, and without effect: ticks are one pixel wide (kept behaviour). */
 void MRadioSlider::setLineW(int width) { d->lineW = width; }
 
 int MRadioSlider::getLineGap() const { return d->lineGap; }
@@ -205,7 +204,7 @@ void MRadioSlider::setIsFM(bool isFM) { d->isFM = isFM; }
 
 int MRadioSlider::marginY() const { return d->marginY; }
 
-/** Repaints, but has no effect on the picture. */
+/** Repaints, but has no effect on the picture (kept behaviour). */
 void MRadioSlider::setMarginY(int margin)
 {
     d->marginY = margin;

@@ -30,7 +30,7 @@ class PANELKIT_EXPORT MRadioSlider : public QWidget
     Q_PROPERTY(int lineH READ getLineH WRITE setLineH)
     Q_PROPERTY(int lineW READ getLineW WRITE setLineW)
     Q_PROPERTY(int lineGap READ getLineGap WRITE setLineGap)
-    // Whole numbers as properties, on purpose: what has a fraction goes through the accessors.
+    // Whole numbers as properties (kept behaviour); a fraction goes through the accessors.
     Q_PROPERTY(int freqStart READ wholeFreqStart WRITE setWholeFreqStart)
     Q_PROPERTY(int freqEnd READ wholeFreqEnd WRITE setWholeFreqEnd)
     Q_PROPERTY(int freqStep READ wholeFreqStep WRITE setWholeFreqStep)

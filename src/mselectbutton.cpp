@@ -227,7 +227,7 @@ void MSelectButton::mousePressEvent(QMouseEvent *e)
 
 /**
  * A finger that slides away ends the press for good, also if it comes back. The event goes on to
- * the press handler of QWidget, not to that for moves, on purpose: a button that is a popup of its
+ * the press handler of QWidget, not to that for moves, so that a button that is a popup of its
  * own closes when the finger leaves it.
  */
 void MSelectButton::mouseMoveEvent(QMouseEvent *e)
@@ -287,8 +287,8 @@ const QPixmap &MSelectButton::Private::shownImage() const
     return selectState ? selectImage : normalImage;
 }
 
-// Being selected goes before being pressed here, and after it for the picture, on purpose: a
-// selected caption keeps its colour under the finger.
+// Being selected goes before being pressed here, and after it for the picture, so that a selected
+// caption keeps its colour under the finger.
 QColor MSelectButton::Private::shownTextColor() const
 {
     if (!isActive())

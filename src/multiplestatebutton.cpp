@@ -70,8 +70,8 @@ int MultipleStateButton::getButtonValue() const { return d->buttonValue; }
 
 /**
  * Enters a state, which shows at the next paint. Returns 0, or -1 for a value that is refused: one
- * that is no state, and state 0, which is reached by stepping on from the last one only; that is
- * meant.
+ * that is no state, and state 0, which is reached by stepping on from the last one only
+ * (kept behaviour).
  */
 int MultipleStateButton::setButtonValue(int value)
 {

@@ -161,8 +161,8 @@ void MVScrollLabel::paintEvent(QPaintEvent *e)
 void MVScrollLabel::showEvent(QShowEvent *) { metrics(); }
 
 /**
- * Nothing moves in a hidden label. It is still said to scroll, without a signal, and that is meant:
- * when it is shown again, metrics() decides anew.
+ * Nothing moves in a hidden label. It is still said to scroll, without a signal: when it is shown
+ * again, metrics() decides anew.
  */
 void MVScrollLabel::hideEvent(QHideEvent *)
 {
@@ -229,8 +229,8 @@ void MVScrollLabel::Private::endTimer()
 }
 
 // A finger that moves down brings back what has scrolled out at the top, and beyond the start of
-// the text the offset is negative. The pixels on the screen are moved the other way, on purpose:
-// the next full repaint shows the place that the offset says.
+// the text the offset is negative. The pixels on the screen are moved the other way
+// (kept behaviour); the next full repaint shows the place that the offset says.
 void MVScrollLabel::Private::pushTo(const QPoint &pos)
 {
     const qint64 dy = qint64(pos.y()) - lastTouch.y();

@@ -63,7 +63,7 @@ void SpBackgroundImage::setFitPixmapSize(const bool &fit)
     update();
 }
 
-/** Has no part in the picture, on purpose: it fills the widget either way. */
+/** Has no part in the picture, which fills the widget either way (kept behaviour). */
 void SpBackgroundImage::setPaintInCenter(bool) { }
 
 int SpBackgroundImage::rotateAngle() const { return d->rotateAngle; }

@@ -68,8 +68,8 @@ public:
 };
 
 /**
- * A label in String mode. Its text is "text", but it shows none until one is set, on purpose: a
- * label that waits for its content is empty.
+ * A label in String mode. Its text is "text", but it shows none until one is set: a label that
+ * waits for its content is empty.
  */
 SpDisLabel::SpDisLabel(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
 {

@@ -135,7 +135,7 @@ QPixmap SpHomeIcon::pressImage() const { return d->pressImage; }
 
 /**
  * The picture while pressed, as a copy of its own. Stored only. The next normal picture or
- * imageAlpha replaces it, on purpose: only with an imageAlpha above 254 it is there to stay.
+ * imageAlpha replaces it (kept behaviour): only with an imageAlpha above 254 it is there to stay.
  */
 void SpHomeIcon::setPressImage(const QPixmap &image) { d->pressImage = image.copy(); }
 
@@ -226,7 +226,7 @@ bool SpHomeIcon::hideText() const { return d->hideText; }
 
 /**
  * Dims the normal picture of a still tile that has a pressed picture of its own and no running one.
- * The caption stays, on purpose, whatever the name says. Repaints.
+ * The caption stays, whatever the name says (kept behaviour). Repaints.
  */
 void SpHomeIcon::setHideText(const bool &hide)
 {
@@ -332,7 +332,7 @@ QString SpHomeIcon::grayImgPath() const { return d->grayImgPath; }
 
 /**
  * The file of the gray picture, loaded as the pressed one is. Whether it is depends on the path of
- * the pressed picture, on purpose: a gray path that is set before any is stored only.
+ * the pressed picture: a gray path that is set before any is stored only (kept behaviour).
  */
 void SpHomeIcon::setGrayImgPath(QString path)
 {
@@ -525,9 +525,9 @@ SpHomeIcon::Private::Layers SpHomeIcon::Private::layersWithRunningImage() const
     return layers;
 }
 
-// Without a running picture there is one picture only, beside the frame of an animation. Several
-// asymmetries are meant: a darkened tile looks the same whether it is ready or not, hideText counts
-// in a still tile alone, and being run makes an animated tile look pressed, but not a still one.
+// Without a running picture there is one picture only, beside the frame of an animation. A darkened
+// tile looks the same whether it is ready or not, hideText counts in a still tile alone, and being
+// run makes an animated tile look pressed, but not a still one (kept behaviour).
 SpHomeIcon::Private::Layers SpHomeIcon::Private::layersWithoutRunningImage() const
 {
     Layers layers;

@@ -26,8 +26,8 @@ constexpr int kGap = 10; // px between icon and string, where they stand side by
 constexpr int kVeil = 154; // alpha of the black over an icon that stands for a disabled one
 const QColor kDisabledTextColor(150, 150, 150, 150);
 
-// A fixed line, on purpose: what collects the logs tells the constructors apart by it. Qt itself
-// would leave file and line out of a release.
+// A fixed line, so that the log reads the same in every version. Qt itself would leave file and
+// line out of a release.
 constexpr int kLogLine = 67;
 
 } // namespace
@@ -55,7 +55,7 @@ public:
     bool pressState = false;
     bool btnDisable = false;
     QSize iconSize{0, 0};
-    [[maybe_unused]] int reserved = 25; // read nowhere, part of every button on purpose
+    [[maybe_unused]] int reserved = 25; // read nowhere (kept behaviour)
     QColor normalTextColor{255, 255, 255, 255};
     QColor pressTextColor{255, 0, 0, 255};
     int textTopMargin = 0; // px
@@ -83,7 +83,7 @@ SpHorStrButton::SpHorStrButton(QWidget *parent)
 /**
  * A button with everything it usually needs; the icons are read from files, and one that cannot be
  * read stays null. The size of the normal icon goes to the debug log. Both text colours are left
- * invalid on purpose, which paints the string in black until they are set.
+ * invalid, which paints the string in black until they are set (kept behaviour).
  */
 SpHorStrButton::SpHorStrButton(StrPosition pos, QString id, QString text, QString normal,
                                QString press, QString disable, QWidget *parent)
@@ -178,7 +178,7 @@ int SpHorStrButton::textTopMargin() const { return d->textTopMargin; }
 
 /**
  * A distance in px by which the layout moves down; it counts only with a textHeight. In StrLeft it
- * moves the icon, in every other layout the string, on purpose: forms rely on it. Stored only.
+ * moves the icon, in every other layout the string (kept behaviour). Stored only.
  */
 void SpHorStrButton::setTextTopMargin(int margin) { d->textTopMargin = margin; }
 
@@ -260,8 +260,8 @@ void SpHorStrButton::mouseMoveEvent(QMouseEvent *e) { QWidget::mouseMoveEvent(e)
 
 /**
  * Any release emits clicked, wherever the finger was lifted and whether or not the button is
- * disabled, on purpose: receivers filter. A disabled button keeps its pressed state. The event then
- * goes on to QWidget.
+ * disabled (kept behaviour): receivers filter. A disabled button keeps its pressed state. The event
+ * then goes on to QWidget.
  */
 void SpHorStrButton::mouseReleaseEvent(QMouseEvent *e)
 {

@@ -196,8 +196,8 @@ void SpIconButton::setDisableState(const bool &disabled)
 bool SpIconButton::isFocus() const { return d->isFocus; }
 
 /**
- * Sets the focused look. Repaints. The name is that of QWidget::setFocus() on purpose, whose
- * overloads it hides: the look is independent of the keyboard focus.
+ * Sets the focused look. Repaints. It hides the overloads of QWidget::setFocus() (kept behaviour);
+ * the look is independent of the keyboard focus.
  */
 void SpIconButton::setFocus(const bool &focused)
 {
@@ -311,7 +311,7 @@ QString SpIconButton::pressImgPath() const { return d->pressImgPath; }
 /**
  * The file of the pressed picture. It is read when the event loop runs again, not in this call, and
  * then replaces pressImage in either ShowMode without a repaint; a file that cannot be read leaves
- * no pressed picture. A path of one character is stored and never read: forms use it as "none".
+ * no pressed picture. A path of one character is stored and never read (kept behaviour).
  */
 void SpIconButton::setPressImgPath(QString path)
 {

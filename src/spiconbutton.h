@@ -31,7 +31,7 @@ class PANELKIT_EXPORT SpIconButton : public QWidget
     Q_PROPERTY(QPixmap focusPixmap READ focusPixmap WRITE setFocusPixmap)
     Q_PROPERTY(int imageAlpha READ imageAlpha WRITE setImageAlpha)
     Q_PROPERTY(int disableAlpha READ disableAlpha WRITE setDisableAlpha)
-    // Listed twice on purpose: forms that count properties rely on the second entry.
+    // Listed twice (kept behaviour).
     Q_PROPERTY(int disableAlpha READ disableAlpha WRITE setDisableAlpha)
     Q_PROPERTY(bool disableState READ disableState WRITE setDisableState)
     Q_PROPERTY(bool isFocus READ isFocus WRITE setFocus DESIGNABLE false)

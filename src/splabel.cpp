@@ -81,10 +81,10 @@ void SpLabel::mouseMoveEvent(QMouseEvent *e) { QWidget::mouseMoveEvent(e); }
 
 void SpLabel::mouseReleaseEvent(QMouseEvent *e) { QWidget::mouseReleaseEvent(e); }
 
-// The scaled copy takes the place of the picture, on purpose: only one of them is in memory, and
-// image() tells what is shown. The price is that a picture does not get its details back when a
-// label that was small becomes large again. In a label that is too large for a copy the picture
-// stays as it is and is stretched in painting.
+// The scaled copy takes the place of the picture, so that only one of them is in memory and image()
+// tells what is shown. The price is that a picture does not get its details back when a label that
+// was small becomes large again. In a label that is too large for a copy the picture stays as it is
+// and is stretched in painting.
 bool SpLabel::Private::fitImage()
 {
     if (cachedSize == q->size())

@@ -71,7 +71,7 @@ void SpLoadingRound::setRadius(const int &radius)
 
 int SpLoadingRound::index() const { return d->index; }
 
-/** The step of the rotation modulo 12; a negative one stays negative, on purpose. Repaints. */
+/** The step of the rotation modulo 12; a negative one stays negative (kept behaviour). Repaints. */
 void SpLoadingRound::setIndex(const int &index)
 {
     d->index = index % kSpokes;
@@ -159,7 +159,8 @@ void SpLoadingRound::mouseReleaseEvent(QMouseEvent *e)
 }
 
 // In GrayStyle the colour itself becomes that of the spoke, so that painterColor reads (231, 231,
-// 231), the grey of the last one, after a paint. That is meant: the other styles go on with it.
+// 231), the grey of the last one, after a paint, and the other styles go on with it
+// (kept behaviour).
 void SpLoadingRound::Private::drawSpoke(QPainter &painter, int number)
 {
     const int r = boundedPixel(radius);

@@ -93,7 +93,7 @@ void SpLockButton::setNormalImage(const QPixmap &image)
 
 QPixmap SpLockButton::pressImage() const { return d->pressImage; }
 
-/** The picture shown while down. Stored only, and ignored in AlphaMode, on purpose: it is made. */
+/** The picture shown while down. Stored only, and ignored in AlphaMode, which makes it. */
 void SpLockButton::setPressImage(const QPixmap &image)
 {
     if (d->showMode == HighlightMode)

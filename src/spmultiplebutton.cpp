@@ -219,8 +219,8 @@ QPixmap SpMultipleButton::pressImage0() const { return d->pressImages.value(0); 
 
 /**
  * The pressed pictures of the first eight states, like the normal ones. That of state 0 alone also
- * gives the widget its minimum size, on purpose: the size of the background, or without one its
- * own, unless it is null.
+ * gives the widget its minimum size (kept behaviour): the size of the background, or without one
+ * its own, unless it is null.
  */
 void SpMultipleButton::setPressImage0(QPixmap image)
 {
@@ -261,10 +261,9 @@ void SpMultipleButton::setPressImage7(QPixmap image) { d->replacePressImage(7, i
 
 /**
  * All pictures at once, up to 20 states: lists of different lengths or longer ones are ignored. The
- * number of states becomes their length, and the set counts as complete without a check, on
- * purpose: a state may have no picture in this way. The size of the second normal picture becomes
- * the minimum size of the widget, if there is one that is not null: the first is the state "off",
- * which may be a smaller picture. No repaint.
+ * number of states becomes their length, and the set counts as complete without a check, so that a
+ * state may have no picture. The size of the second normal picture becomes the minimum size of the
+ * widget, if there is one that is not null (kept behaviour). No repaint.
  */
 void SpMultipleButton::setPixmapList(const QList<QPixmap> &normal, const QList<QPixmap> &press)
 {

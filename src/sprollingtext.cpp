@@ -206,7 +206,7 @@ void SpRollingText::setWaitRoll(int ms)
 
 /**
  * Lays the shadow under the text, as a graphics effect in the place of any other, if it is on.
- * Repaints. An effect that is there stays when the shadow is switched off; this is meant:
+ * Repaints. An effect that is there stays when the shadow is switched off (kept behaviour);
  * setGraphicsEffect(nullptr) removes it. A shadow that falls out of reach is not seen: its effect
  * is there, but it is not enabled.
  */

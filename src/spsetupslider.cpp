@@ -167,7 +167,8 @@ int SpSetupSlider::currentValue() const { return d->currentValue; }
 
 /**
  * Sets and shows the value, without a signal. Accepted from -maxValue to maxValue whatever minValue
- * is, on purpose: a value below minValue stands above the track while the knob stays where it was.
+ * is (kept behaviour): a value below minValue stands above the track while the knob stays where it
+ * was.
  */
 void SpSetupSlider::setCurrentValue(int value)
 {
@@ -196,7 +197,7 @@ void SpSetupSlider::setTopValue(int value)
 
 QFont SpSetupSlider::getFont() const { return d->font; }
 
-/** The font of the value; the name hides that of the widget's own font, on purpose. */
+/** The font of the value; it hides the widget's own, so that a form sets the one that shows. */
 void SpSetupSlider::setFont(const QFont &font)
 {
     d->font = font;
@@ -237,7 +238,7 @@ void SpSetupSlider::setTouchPos(int value)
 
 /**
  * Sets the value from a touch at this height; a change is reported with valueChangeSig. Ignored
- * above and below the track and, on purpose, in its top row.
+ * above and below the track and in its top row (kept behaviour).
  */
 void SpSetupSlider::setTouchPos(QPoint pos)
 {

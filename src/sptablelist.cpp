@@ -376,7 +376,7 @@ void SpTableList::setTailRectX(int x)
         d->delegate->setTailRectX(x);
 }
 
-/** Alignment flags that the delegate keeps for callers; painting does not consult them. */
+/** Alignment flags that painting does not consult (kept behaviour). */
 void SpTableList::setCenterTextFlag(int flag)
 {
     if (d->delegate)
@@ -443,8 +443,8 @@ void SpTableList::mousePressEvent(QMouseEvent *e)
 {
     d->isFirstMove = true;
     d->clickTimer.stop();
-    // The delegate keeps the number of the timer that is gone, on purpose: with it, long texts are
-    // painted as they will start to roll. The number may soon be that of another timer.
+    // The delegate keeps the number of the timer that is gone, so that long texts are painted as
+    // they will start to roll. The number may soon be that of another timer.
     if (d->rollsTexts()) {
         d->delegate->clearRollData();
         d->rollTimer.stop();
@@ -651,7 +651,7 @@ bool SpTableList::Private::startClick(const QPoint &pos)
 
 /**
  * Whether a release starts a fling. Its distance counts from the press and its time from the first
- * move: that is meant, so that a finger that rests before it flings is not thought slow.
+ * move, so that a finger that rests before it flings is not thought slow.
  */
 bool SpTableList::Private::startFling(const QPoint &pos)
 {

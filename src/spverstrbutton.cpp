@@ -171,8 +171,8 @@ void SpVerStrButton::setIsLock(bool lock) { d->isLock = lock; }
 bool SpVerStrButton::isFocus() const { return d->isFocus; }
 
 /**
- * Sets the focused look. Repaints. The name is that of QWidget::setFocus() on purpose, whose
- * overloads it hides: the look is independent of the keyboard focus.
+ * Sets the focused look. Repaints. It hides the overloads of QWidget::setFocus() (kept behaviour);
+ * the look is independent of the keyboard focus.
  */
 void SpVerStrButton::setFocus(bool focused)
 {
@@ -247,8 +247,8 @@ QRect SpVerStrButton::Private::iconRect() const
 }
 
 // With a gap, the string has everything below it. An overlap is measured from the top of the
-// button, not from the icon, on purpose: strings of icons of one size stand on one line, whatever
-// the height of their buttons.
+// button, not from the icon, so that strings of icons of one size stand on one line, whatever the
+// height of their buttons.
 QRect SpVerStrButton::Private::captionRect() const
 {
     const long long below = static_cast<long long>(iconSize.height()) + widgetGain;
@@ -258,8 +258,7 @@ QRect SpVerStrButton::Private::captionRect() const
     return {0, top, q->width(), q->height() - top};
 }
 
-// The disabled icon alone is not put into the icon rectangle, on purpose: it is a picture of the
-// whole button.
+// The disabled icon alone is not put into the icon rectangle (kept behaviour).
 void SpVerStrButton::Private::drawIcon(QPainter &painter) const
 {
     const QPixmap &icon = *look().icon;

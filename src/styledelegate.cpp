@@ -219,7 +219,7 @@ QFont styleDelegate::centerFont() const { return d->centerFont; }
 
 /**
  * The font of the centre text; the application's by default. The small first part of LIST_STYLE_6
- * takes the number of its point size, less ten, for its size in px: that is meant, and a font whose
+ * takes the number of its point size, less ten, for its size in px (kept behaviour). A font whose
  * size is given in px has no point size, so that its small form is no smaller.
  */
 void styleDelegate::setCenterFont(const QFont &font)
@@ -310,7 +310,7 @@ void styleDelegate::setTailStrWidth(const int &width) { d->tailStrWidth = width;
 
 int styleDelegate::getCenterTextFlag() const { return d->centerTextFlag; }
 
-/** Kept for callers; the centre text is always left-aligned, whatever this says. */
+/** Without effect: the centre text is always left-aligned (kept behaviour). */
 void styleDelegate::setCenterTextFlag(int flag) { d->centerTextFlag = flag; }
 
 QPoint styleDelegate::pressedPoint() const { return d->pressedPoint; }
@@ -348,7 +348,7 @@ void styleDelegate::addRollData(StringRollingData *record)
 /**
  * The record of the same row that is in the list already, or else this one, which is appended and
  * then owned. The last record of the list is never compared: the row that it belongs to gets a
- * second record when it is painted again. That is meant, and what rolls depends on it.
+ * second record when it is painted again (kept behaviour).
  */
 StringRollingData *styleDelegate::getAddRollData(StringRollingData *record)
 {
@@ -597,7 +597,7 @@ void styleDelegate::Private::drawThreePartCentre(const Row &row, const QString &
     drawText(row, lines, kLowerAlign, centerFont, parts[1]);
     row.painter->setPen(Qt::white);
     drawText(row, lines, kLowerAlign, centerFont,
-             parts[2]); // over the part before: that is meant
+             parts[2]); // over the part before (kept behaviour)
 }
 
 /** A text that fits stands still, and so does every text while there is no timer to roll it. */

@@ -32,8 +32,8 @@ QRect boundedRect(int left, int top, int width, int height);
 QRect boundedOr(const QRect &rect, const QRect &fallback);
 
 /// The direction of a touch from the centre (0, 0) in degrees clockwise, from `up` for straight up
-/// to a full turn more. A touch on either axis has none. Pi is taken as 3.14159, on purpose: which
-/// value a touch means depends on it.
+/// to a full turn more. A touch on either axis has none. Pi is taken as 3.14159, which decides what
+/// a touch on the border of two values means (kept behaviour).
 std::optional<double> touchDirection(double x, double y, double up);
 
 } // namespace panelkit
