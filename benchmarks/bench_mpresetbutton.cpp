@@ -35,27 +35,22 @@ const QPixmap &icon()
     return picture;
 }
 
-// Ours: a key with everything that it can show, in the state into which the function brings it.
-template <class Enter> PaintingMaker button(Enter enter)
+// A key with everything that it can show.
+void setUp(MPresetButton &button)
 {
-    return widgetOf<MPresetButton>(kSize, [enter](MPresetButton &button) {
-        button.setNormalImage(artwork().normal);
-        button.setPressImage(artwork().pressed);
-        button.setDisableImage(artwork().disabled);
-        button.setPresetIcon(icon());
-        button.setPresetIconPos(kIconPos);
-        button.setDisplayText(frequency());
-        button.setDisplayText2(unit());
-        button.setdisplayTextRect(kFirst);
-        button.setdisplayTextRect2(kSecond);
-        button.setNormalTextColor(Qt::white);
-        button.setPressTextColor(Qt::yellow);
-        button.setDisableTextColor(Qt::gray);
-        button.setNormalTextColor2(Qt::cyan);
-        button.setPressTextColor2(Qt::blue);
-        button.setDisableTextColor2(Qt::darkGray);
-        enter(button);
-    });
+    setImages(button, artwork());
+    button.setPresetIcon(icon());
+    button.setPresetIconPos(kIconPos);
+    button.setDisplayText(frequency());
+    button.setDisplayText2(unit());
+    button.setdisplayTextRect(kFirst);
+    button.setdisplayTextRect2(kSecond);
+    button.setNormalTextColor(Qt::white);
+    button.setPressTextColor(Qt::yellow);
+    button.setDisableTextColor(Qt::gray);
+    button.setNormalTextColor2(Qt::cyan);
+    button.setPressTextColor2(Qt::blue);
+    button.setDisableTextColor2(Qt::darkGray);
 }
 
 // Pictures and lines that need no more work.
@@ -80,7 +75,8 @@ template <class Enter>
 void addLook(Rows &rows, const char *state, Enter enter, const PaintingMaker &floor,
              const QPixmap &picture, PeerState peer = PeerState::Normal)
 {
-    rows.paint("MPresetButton", state, button(enter), {floor, kFloorLimit},
+    rows.paint("MPresetButton", state, widgetOf<MPresetButton>(kSize, setUp, enter),
+               {floor, kFloorLimit},
                {{"QPushButton style sheet",
                  styledButton(kSize, pictureSheet(picture), frequency(), peer), kStyleSheetLimit}});
 }

@@ -28,16 +28,11 @@ QString text() { return QStringLiteral("Navigation"); }
 
 const ButtonArtwork &artwork() { return buttonArtwork(kIcon); }
 
-// Ours: a button with all its icons, in the state into which the function brings it.
-template <class Enter> PaintingMaker button(Enter enter)
+// A button with all its icons.
+void setUp(SpHorStrButton &button)
 {
-    return widgetOf<SpHorStrButton>(kSize, [enter](SpHorStrButton &button) {
-        button.setNormalPixmap(artwork().normal);
-        button.setPressPixmap(artwork().pressed);
-        button.setDisablePixmap(artwork().disabled);
-        button.setDisplayString(text());
-        enter(button);
-    });
+    setPixmaps(button, artwork());
+    button.setDisplayString(text());
 }
 
 // Where the parts of a look stand, and its colour.
@@ -92,11 +87,13 @@ Parts leftParts(const QPixmap &icon, const QColor &color)
 }
 
 // Qt's own buttons with an icon beside a text.
-void addLook(Rows &rows, const char *state, const PaintingMaker &ours, const Parts &floor,
+template <class Enter>
+void addLook(Rows &rows, const char *state, Enter enter, const Parts &floor,
              PeerState peer = PeerState::Normal)
 {
     const IconLook look{floor.icon, kIcon, peer, text(), Qt::ToolButtonTextBesideIcon};
-    rows.paint("SpHorStrButton", state, ours, {floorOf(floor), kFloorLimit},
+    rows.paint("SpHorStrButton", state, widgetOf<SpHorStrButton>(kSize, setUp, enter),
+               {floorOf(floor), kFloorLimit},
                {{"QPushButton icon", iconButton<QPushButton>(kSize, look), kPeerLimit},
                 {"QToolButton icon", iconButton<QToolButton>(kSize, look), kPeerLimit}});
 }
@@ -104,30 +101,36 @@ void addLook(Rows &rows, const char *state, const PaintingMaker &ours, const Par
 void addLooks(Rows &rows)
 {
     const ButtonArtwork &art = artwork();
-    addLook(rows, "normal", button(AsItIs()), leftParts(art.normal, Qt::white));
-    addLook(rows, "pressed", button([](SpHorStrButton &b) { b.setPressState(true); }),
-            leftParts(art.pressed, Qt::red), PeerState::Pressed);
-    addLook(rows, "stretched pressed", button([](SpHorStrButton &b) {
-                b.setPressPixmap(artwork().smallPressed);
-                b.setPressState(true);
-            }),
-            leftParts(stretched(art.smallPressed, kIcon), Qt::red), PeerState::Pressed);
-    addLook(rows, "disabled", button([](SpHorStrButton &b) { b.setBtnDisable(true); }),
-            leftParts(art.disabled, kDisabledText), PeerState::Disabled);
-    addLook(rows, "disabled darkened", button([](SpHorStrButton &b) {
-                b.setDisablePixmap({});
-                b.setBtnDisable(true);
-            }),
-            leftParts(veiled(art.normal, kVeil), kDisabledText), PeerState::Disabled);
+    addLook(rows, "normal", AsItIs(), leftParts(art.normal, Qt::white));
+    addLook(
+        rows, "pressed", [](SpHorStrButton &b) { b.setPressState(true); },
+        leftParts(art.pressed, Qt::red), PeerState::Pressed);
+    addLook(
+        rows, "stretched pressed",
+        [](SpHorStrButton &b) {
+            b.setPressPixmap(artwork().smallPressed);
+            b.setPressState(true);
+        },
+        leftParts(stretched(art.smallPressed, kIcon), Qt::red), PeerState::Pressed);
+    addLook(
+        rows, "disabled", [](SpHorStrButton &b) { b.setBtnDisable(true); },
+        leftParts(art.disabled, kDisabledText), PeerState::Disabled);
+    addLook(
+        rows, "disabled darkened",
+        [](SpHorStrButton &b) {
+            b.setDisablePixmap({});
+            b.setBtnDisable(true);
+        },
+        leftParts(veiled(art.normal, kVeil), kDisabledText), PeerState::Disabled);
     addLook(rows, "string at the right",
-            button([](SpHorStrButton &b) { b.setStringPosition(SpHorStrButton::StrRight); }),
+            [](SpHorStrButton &b) { b.setStringPosition(SpHorStrButton::StrRight); },
             {art.normal,
              {kSize.width() - kIcon.width(), 0},
              {0, 0, kSize.width() - kIcon.width() - kGap, kSize.height()},
              Qt::AlignRight | Qt::AlignVCenter,
              Qt::white});
     addLook(rows, "string over the icon",
-            button([](SpHorStrButton &b) { b.setStringPosition(SpHorStrButton::StrCenter); }),
+            [](SpHorStrButton &b) { b.setStringPosition(SpHorStrButton::StrCenter); },
             {art.normal, {0, 0}, QRect(QPoint(), kIcon), Qt::AlignCenter, Qt::white});
 }
 

@@ -24,19 +24,14 @@ QString caption() { return QStringLiteral("Radio"); }
 
 const ButtonArtwork &artwork() { return buttonArtwork(kSize); }
 
-// Ours: a button with all its pictures, in the state into which the function brings it.
-template <class Enter> PaintingMaker button(Enter enter)
+// A button with all its pictures.
+void setUp(SpIconButton &button)
 {
-    return widgetOf<SpIconButton>(kSize, [enter](SpIconButton &button) {
-        button.setNormalImage(artwork().normal);
-        button.setPressImage(artwork().pressed);
-        button.setFocusPixmap(artwork().highlighted);
-        button.setDisableImage(artwork().disabled);
-        button.setImageAlpha(kVeil);
-        button.setDisableAlpha(kVeil);
-        button.setIsBeep(false);
-        enter(button);
-    });
+    setImages(button, artwork());
+    button.setFocusPixmap(artwork().highlighted);
+    button.setImageAlpha(kVeil);
+    button.setDisableAlpha(kVeil);
+    button.setIsBeep(false);
 }
 
 // One touch in the middle of the button.
@@ -59,11 +54,13 @@ QString sheetOf(const QPixmap &picture)
 
 // A look beside its floor and the same look of Qt's own buttons. With a caption their icons are
 // made small enough for both to fit, and such a peer has fewer pixels to paint than ours.
-void addLook(Rows &rows, const char *state, const PaintingMaker &ours, const PaintingMaker &floor,
+template <class Enter>
+void addLook(Rows &rows, const char *state, Enter enter, const PaintingMaker &floor,
              const QPixmap &picture, PeerState peer = PeerState::Normal, const QString &text = {})
 {
     const IconLook look{picture, text.isEmpty() ? kSize : kSize / 2, peer, text};
-    rows.paint("SpIconButton", state, ours, {floor, kFloorLimit},
+    rows.paint("SpIconButton", state, widgetOf<SpIconButton>(kSize, setUp, enter),
+               {floor, kFloorLimit},
                {{"QPushButton style sheet", styledButton(kSize, sheetOf(picture), text, peer),
                  kStyleSheetLimit},
                 {"QPushButton icon", iconButton<QPushButton>(kSize, look)},
@@ -74,35 +71,43 @@ void addEnabledLooks(Rows &rows)
 {
     const ButtonArtwork &art = artwork();
     const QPixmap dark = veiled(art.normal, kVeil);
-    addLook(rows, "normal", button(AsItIs()), pictureFloor(art.normal), art.normal);
-    addLook(rows, "pressed", button([](SpIconButton &b) { b.setIsDown(true); }),
-            pictureFloor(art.pressed), art.pressed, PeerState::Pressed);
-    addLook(rows, "focused", button([](SpIconButton &b) { b.setFocus(true); }),
-            pictureFloor(art.highlighted), art.highlighted, PeerState::Checked);
-    addLook(rows, "veiled pressed", button([](SpIconButton &b) {
-                b.setShowMode(SpIconButton::AlphaMode);
-                b.setIsDown(true);
-            }),
-            pictureFloor(dark), dark, PeerState::Pressed);
-    addLook(rows, "latched", button([](SpIconButton &b) {
-                b.setIsLock(true);
-                tap(b);
-            }),
-            pictureFloor(art.pressed), art.pressed, PeerState::Pressed);
-    addLook(rows, "stretched pressed", button([](SpIconButton &b) {
-                b.setPressImage(artwork().smallPressed);
-                b.setIsDown(true);
-            }),
-            pictureFloor(stretched(art.smallPressed, kSize)), art.smallPressed, PeerState::Pressed);
+    addLook(rows, "normal", AsItIs(), pictureFloor(art.normal), art.normal);
+    addLook(
+        rows, "pressed", [](SpIconButton &b) { b.setIsDown(true); }, pictureFloor(art.pressed),
+        art.pressed, PeerState::Pressed);
+    addLook(
+        rows, "focused", [](SpIconButton &b) { b.setFocus(true); }, pictureFloor(art.highlighted),
+        art.highlighted, PeerState::Checked);
+    addLook(
+        rows, "veiled pressed",
+        [](SpIconButton &b) {
+            b.setShowMode(SpIconButton::AlphaMode);
+            b.setIsDown(true);
+        },
+        pictureFloor(dark), dark, PeerState::Pressed);
+    addLook(
+        rows, "latched",
+        [](SpIconButton &b) {
+            b.setIsLock(true);
+            tap(b);
+        },
+        pictureFloor(art.pressed), art.pressed, PeerState::Pressed);
+    addLook(
+        rows, "stretched pressed",
+        [](SpIconButton &b) {
+            b.setPressImage(artwork().smallPressed);
+            b.setIsDown(true);
+        },
+        pictureFloor(stretched(art.smallPressed, kSize)), art.smallPressed, PeerState::Pressed);
 }
 
 void addDisabledLooks(Rows &rows)
 {
     const auto disabled = [](SpIconButton::DisableMode mode) {
-        return button([mode](SpIconButton &b) {
+        return [mode](SpIconButton &b) {
             b.setDisableMode(mode);
             b.setDisableState(true);
-        });
+        };
     };
     const ButtonArtwork &art = artwork();
     const QPixmap dark = veiled(art.normal, kVeil);
@@ -118,21 +123,26 @@ void addCaptionedLooks(Rows &rows)
 {
     const ButtonArtwork &art = artwork();
     const QPixmap dark = veiled(art.normal, kVeil);
-    addLook(rows, "captioned", button([](SpIconButton &b) { b.setDisplayText(caption()); }),
-            captionedFloor(art.normal, caption(), QColor(255, 255, 255)), art.normal,
-            PeerState::Normal, caption());
-    addLook(rows, "captioned pressed", button([](SpIconButton &b) {
-                b.setDisplayText(caption());
-                b.setIsDown(true);
-            }),
-            captionedFloor(art.pressed, caption(), QColor(255, 0, 0)), art.pressed,
-            PeerState::Pressed, caption());
-    addLook(rows, "captioned disabled veiled", button([](SpIconButton &b) {
-                b.setDisplayText(caption());
-                b.setDisableState(true);
-            }),
-            captionedFloor(dark, caption(), QColor(255, 255, 255, 154)), dark, PeerState::Disabled,
-            caption());
+    addLook(
+        rows, "captioned", [](SpIconButton &b) { b.setDisplayText(caption()); },
+        captionedFloor(art.normal, caption(), QColor(255, 255, 255)), art.normal, PeerState::Normal,
+        caption());
+    addLook(
+        rows, "captioned pressed",
+        [](SpIconButton &b) {
+            b.setDisplayText(caption());
+            b.setIsDown(true);
+        },
+        captionedFloor(art.pressed, caption(), QColor(255, 0, 0)), art.pressed, PeerState::Pressed,
+        caption());
+    addLook(
+        rows, "captioned disabled veiled",
+        [](SpIconButton &b) {
+            b.setDisplayText(caption());
+            b.setDisableState(true);
+        },
+        captionedFloor(dark, caption(), QColor(255, 255, 255, 154)), dark, PeerState::Disabled,
+        caption());
 }
 
 } // namespace

@@ -22,19 +22,15 @@ const QPixmap &normal()
     return picture;
 }
 
-template <class Enter> PaintingMaker button(Enter enter)
-{
-    return widgetOf<SpLockButton>(kSize, [enter](SpLockButton &button) {
-        button.setNormalImage(normal());
-        enter(button);
-    });
-}
+void setUp(SpLockButton &button) { button.setNormalImage(normal()); }
 
-void addLook(Rows &rows, const char *state, const PaintingMaker &ours, const QPixmap &picture,
+template <class Enter>
+void addLook(Rows &rows, const char *state, Enter enter, const QPixmap &picture,
              PeerState peer = PeerState::Normal)
 {
     const IconLook look{picture, kSize, peer};
-    rows.paint("SpLockButton", state, ours, {pictureFloor(picture), kFloorLimit},
+    rows.paint("SpLockButton", state, widgetOf<SpLockButton>(kSize, setUp, enter),
+               {pictureFloor(picture), kFloorLimit},
                {{"QPushButton icon", iconButton<QPushButton>(kSize, look), 0.6},
                 {"QToolButton icon", iconButton<QToolButton>(kSize, look), 0.6}});
 }
@@ -43,12 +39,15 @@ void addLook(Rows &rows, const char *state, const PaintingMaker &ours, const QPi
 
 void defineRows(Rows &rows, Tag<SpLockButton>)
 {
-    addLook(rows, "up", button(AsItIs()), normal());
-    addLook(rows, "faded down", button([](SpLockButton &b) { b.setIsDown(true); }),
-            faded(normal(), kFade), PeerState::Checked);
-    addLook(rows, "faded disabled", button([](SpLockButton &b) {
-                b.setDisableMode(SpLockButton::Show_NormalImageAlpha);
-                b.setDisableState(true);
-            }),
-            faded(normal(), kFade));
+    addLook(rows, "up", AsItIs(), normal());
+    addLook(
+        rows, "faded down", [](SpLockButton &b) { b.setIsDown(true); }, faded(normal(), kFade),
+        PeerState::Checked);
+    addLook(
+        rows, "faded disabled",
+        [](SpLockButton &b) {
+            b.setDisableMode(SpLockButton::Show_NormalImageAlpha);
+            b.setDisableState(true);
+        },
+        faded(normal(), kFade));
 }

@@ -28,26 +28,29 @@ QString text() { return QStringLiteral("Phone"); }
 
 const ButtonArtwork &artwork() { return buttonArtwork(kIcon); }
 
-// Ours: a button with all its icons, in the state into which the function brings it.
-template <class Enter> PaintingMaker button(Enter enter)
+// A button with all its icons.
+void setUp(SpVerStrButton &button)
 {
-    return widgetOf<SpVerStrButton>(kSize, [enter](SpVerStrButton &button) {
-        button.setNormalPixmap(artwork().normal);
-        button.setPressPixmap(artwork().pressed);
-        button.setFocusPixmap(artwork().highlighted);
-        button.setDisablePixmap(artwork().disabled);
-        button.setDisplayString(text());
-        button.setStringHeight(kStringHeight);
-        button.setFontSize(kFontSize);
-        enter(button);
-    });
+    setPixmaps(button, artwork());
+    button.setFocusPixmap(artwork().highlighted);
+    button.setDisplayString(text());
+    button.setStringHeight(kStringHeight);
+    button.setFontSize(kFontSize);
+}
+
+// Nothing but its size is its own.
+QFont captionFont()
+{
+    QFont font;
+    font.setPixelSize(kFontSize);
+    return font;
 }
 
 // An icon and a layout that need no more work.
 PaintingMaker floorOf(const QPixmap &icon, const QPoint &pos, const QRect &rect,
                       const QColor &color)
 {
-    const QFont font = fontOf(kFontSize);
+    const QFont font = captionFont();
     const LaidOutText caption = laidOut(text(), font, rect, kTextFlags);
     return bareWidget(kSize, [=](QPainter &painter) {
         painter.drawPixmap(pos, icon);
@@ -57,12 +60,14 @@ PaintingMaker floorOf(const QPixmap &icon, const QPoint &pos, const QRect &rect,
 }
 
 // Beside Qt's own button with an icon above a text.
-void addLook(Rows &rows, const char *name, const PaintingMaker &ours, const PaintingMaker &floor,
+template <class Enter>
+void addLook(Rows &rows, const char *state, Enter enter, const PaintingMaker &floor,
              const QPixmap &icon, PeerState peer = PeerState::Normal)
 {
-    const auto setFont = [](QToolButton &button) { button.setFont(fontOf(kFontSize)); };
+    const auto setFont = [](QToolButton &button) { button.setFont(captionFont()); };
     rows.paint(
-        "SpVerStrButton", name, ours, {floor, kFloorLimit},
+        "SpVerStrButton", state, widgetOf<SpVerStrButton>(kSize, setUp, enter),
+        {floor, kFloorLimit},
         {{"QToolButton icon", iconButton<QToolButton>(kSize, {icon, kIcon, peer, text()}, setFont),
           kPeerLimit}});
 }
@@ -72,24 +77,27 @@ void addLook(Rows &rows, const char *name, const PaintingMaker &ours, const Pain
 void defineRows(Rows &rows, Tag<SpVerStrButton>)
 {
     const ButtonArtwork &art = artwork();
-    addLook(rows, "normal", button(AsItIs()), floorOf(art.normal, kIconPos, kText, Qt::black),
-            art.normal);
-    addLook(rows, "pressed", button([](SpVerStrButton &b) { b.setIsDown(true); }),
-            floorOf(art.pressed, kIconPos, kText, Qt::red), art.pressed, PeerState::Pressed);
-    addLook(rows, "stretched pressed", button([](SpVerStrButton &b) {
-                b.setPressPixmap(artwork().smallPressed);
-                b.setIsDown(true);
-            }),
-            floorOf(stretched(art.smallPressed, kIcon), kIconPos, kText, Qt::red), art.smallPressed,
-            PeerState::Pressed);
-    addLook(rows, "focused", button([](SpVerStrButton &b) { b.setFocus(true); }),
-            floorOf(art.highlighted, kIconPos, kText, Qt::white), art.highlighted,
-            PeerState::Checked);
-    addLook(rows, "disabled", button([](SpVerStrButton &b) { b.setDisable(true); }),
-            floorOf(art.disabled, {kIconPos.x(), 0}, kText, Qt::darkGray), art.disabled,
-            PeerState::Disabled);
+    addLook(rows, "normal", AsItIs(), floorOf(art.normal, kIconPos, kText, Qt::black), art.normal);
     addLook(
-        rows, "overlap", button([](SpVerStrButton &b) { b.setWidgetGain(-40); }),
+        rows, "pressed", [](SpVerStrButton &b) { b.setIsDown(true); },
+        floorOf(art.pressed, kIconPos, kText, Qt::red), art.pressed, PeerState::Pressed);
+    addLook(
+        rows, "stretched pressed",
+        [](SpVerStrButton &b) {
+            b.setPressPixmap(artwork().smallPressed);
+            b.setIsDown(true);
+        },
+        floorOf(stretched(art.smallPressed, kIcon), kIconPos, kText, Qt::red), art.smallPressed,
+        PeerState::Pressed);
+    addLook(
+        rows, "focused", [](SpVerStrButton &b) { b.setFocus(true); },
+        floorOf(art.highlighted, kIconPos, kText, Qt::white), art.highlighted, PeerState::Checked);
+    addLook(
+        rows, "disabled", [](SpVerStrButton &b) { b.setDisable(true); },
+        floorOf(art.disabled, {kIconPos.x(), 0}, kText, Qt::darkGray), art.disabled,
+        PeerState::Disabled);
+    addLook(
+        rows, "overlap", [](SpVerStrButton &b) { b.setWidgetGain(-40); },
         floorOf(art.normal, {kIconPos.x(), 22}, {0, 56, kSize.width(), kStringHeight}, Qt::black),
         art.normal);
     rows.work("SpVerStrButton", "made and deleted", makeAndDelete<SpVerStrButton>(),

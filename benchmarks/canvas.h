@@ -69,13 +69,13 @@ inline void showOffScreen(QWidget &widget, const QSize &size)
     widget.show();
 }
 
-/// A widget on the canvas that was made, prepared by the function, and given its size.
-template <class Widget, class Prepare>
+/// A widget on the canvas that was made, prepared by each of the functions, and given its size.
+template <class Widget, class... Prepare>
 std::shared_ptr<OnCanvas<Widget>> shownOn(const std::shared_ptr<QImage> &canvas, const QSize &size,
-                                          Prepare prepare)
+                                          Prepare... prepare)
 {
     auto widget = std::make_shared<OnCanvas<Widget>>(canvas);
-    prepare(*widget);
+    (prepare(*widget), ...);
     showOffScreen(*widget, size);
     return widget;
 }
@@ -86,12 +86,12 @@ struct AsItIs {
 };
 
 /// Paintings of such a widget.
-template <class Widget, class Prepare = AsItIs>
-PaintingMaker widgetOf(const QSize &size, Prepare prepare = {})
+template <class Widget, class... Prepare>
+PaintingMaker widgetOf(const QSize &size, Prepare... prepare)
 {
-    return [size, prepare]() -> Painting {
+    return [size, prepare...]() -> Painting {
         const auto canvas = makeCanvas(size);
-        const auto widget = shownOn<Widget>(canvas, size, prepare);
+        const auto widget = shownOn<Widget>(canvas, size, prepare...);
         return {canvas, [widget] { widget->paint(); }};
     };
 }

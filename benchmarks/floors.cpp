@@ -9,7 +9,7 @@
 
 QFont fontOf(int px)
 {
-    QFont font;
+    QFont font = QApplication::font();
     font.setPixelSize(px);
     return font;
 }

@@ -30,11 +30,11 @@ struct IconLook {
     Qt::ToolButtonStyle textPlace = Qt::ToolButtonTextUnderIcon; // of tool buttons
 };
 
-/// The function has the last word on how the button looks.
-template <class Button, class Prepare = AsItIs>
-PaintingMaker iconButton(const QSize &size, const IconLook &look, Prepare prepare = {})
+/// The functions have the last word on how the button looks.
+template <class Button, class... Prepare>
+PaintingMaker iconButton(const QSize &size, const IconLook &look, Prepare... prepare)
 {
-    return widgetOf<Button>(size, [look, prepare](Button &button) {
+    const auto show = [look](Button &button) {
         QIcon icon(look.picture);
         icon.addPixmap(look.picture, QIcon::Disabled); // or Qt makes a grey one
         button.setIcon(icon);
@@ -44,8 +44,8 @@ PaintingMaker iconButton(const QSize &size, const IconLook &look, Prepare prepar
             button.setToolButtonStyle(look.text.isEmpty() ? Qt::ToolButtonIconOnly
                                                           : look.textPlace);
         enter(button, look.state);
-        prepare(button);
-    });
+    };
+    return widgetOf<Button>(size, show, prepare...);
 }
 
 /// A push button in a style sheet.

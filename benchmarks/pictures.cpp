@@ -78,6 +78,8 @@ QPixmap keyPicture(const QColor &color, const QSize &size)
 
 QPixmap stretched(const QPixmap &picture, const QSize &size)
 {
+    if (picture.size() == size)
+        return picture;
     return drawn(size,
                  [&](QPainter &painter) { painter.drawPixmap(QRect(QPoint(), size), picture); });
 }

@@ -57,4 +57,20 @@ struct SliderArtwork {
 /// Made once for each size.
 const ButtonArtwork &buttonArtwork(const QSize &size);
 
+/// Gives the artwork to a button whose pictures are images.
+template <class Button> void setImages(Button &button, const ButtonArtwork &artwork)
+{
+    button.setNormalImage(artwork.normal);
+    button.setPressImage(artwork.pressed);
+    button.setDisableImage(artwork.disabled);
+}
+
+/// Gives the artwork to a button whose pictures are pixmaps.
+template <class Button> void setPixmaps(Button &button, const ButtonArtwork &artwork)
+{
+    button.setNormalPixmap(artwork.normal);
+    button.setPressPixmap(artwork.pressed);
+    button.setDisablePixmap(artwork.disabled);
+}
+
 #endif // PANELKIT_BENCHMARKS_PICTURES_H
