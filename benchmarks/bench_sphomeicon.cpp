@@ -42,23 +42,25 @@ const Artwork &artwork()
 
 QString caption() { return QStringLiteral("Phone"); }
 
-template <class Enter> PaintingMaker tile(Enter enter)
+void setUp(SpHomeIcon &tile)
 {
-    return widgetOf<SpHomeIcon>(kTile, [enter](SpHomeIcon &tile) {
-        tile.setNormalImage(artwork().normal);
-        tile.setIconText(caption());
-        enter(tile);
-    });
+    tile.setNormalImage(artwork().normal);
+    tile.setIconText(caption());
+}
+
+template <class... Enter> PaintingMaker tile(Enter... enter)
+{
+    return widgetOf<SpHomeIcon>(kTile, setUp, enter...);
 }
 
 // A tile with a pressed picture of its own.
 template <class Enter> PaintingMaker tileOfPictures(Enter enter)
 {
-    return tile([enter](SpHomeIcon &tile) {
+    const auto setPressed = [](SpHomeIcon &tile) {
         tile.setImageAlpha(255);
         tile.setPressImage(artwork().pressed);
-        enter(tile);
-    });
+    };
+    return tile(setPressed, enter);
 }
 
 void press(SpHomeIcon &tile) { sendMouse(tile, QEvent::MouseButtonPress, {5, 5}); }
@@ -144,7 +146,7 @@ void addLook(Rows &rows, const char *state, const PaintingMaker &ours,
 void addStates(Rows &rows)
 {
     const QPixmap normal = artwork().normal;
-    addLook(rows, "at rest", tile(AsItIs()), {normal});
+    addLook(rows, "at rest", tile(), {normal});
     addLook(rows, "pressed, darkened", tile(press), {veiled(normal, kVeil)});
     addLook(rows, "pressed", tileOfPictures(press), {artwork().pressed});
     addLook(rows, "dimmed", tileOfPictures([](SpHomeIcon &t) { t.setHideText(true); }),
@@ -169,20 +171,24 @@ void addStates(Rows &rows)
     addLook(rows, "frame of an animation",
             tile([](SpHomeIcon &t) { t.setGifImage(fileOf(artwork().highlighted)); }),
             {artwork().highlighted});
+}
+
+void addScaledLooks(Rows &rows)
+{
+    const QPixmap large = stretched(artwork().large, kIcon);
     addLook(rows, "scaled", tile([](SpHomeIcon &t) {
                 t.setNormalImage(artwork().large);
                 t.setIconSize(kIcon);
                 t.setMinimumSize(kTile);
             }),
-            {stretched(artwork().large, kIcon)});
-    addLook(
-        rows, "scaled, pressed", tileOfPictures([](SpHomeIcon &t) {
-            t.setRunningImage(artwork().large);
-            t.setIsRunning(true);
-            t.setPressImage(artwork().large);
-            press(t);
-        }),
-        {artwork().normal, stretched(artwork().large, kIcon), stretched(artwork().large, kIcon)});
+            {large});
+    addLook(rows, "scaled, pressed", tileOfPictures([](SpHomeIcon &t) {
+                t.setRunningImage(artwork().large);
+                t.setIsRunning(true);
+                t.setPressImage(artwork().large);
+                press(t);
+            }),
+            {artwork().normal, large, large});
 }
 
 } // namespace
@@ -190,10 +196,8 @@ void addStates(Rows &rows)
 void defineRows(Rows &rows, Tag<SpHomeIcon>)
 {
     addStates(rows);
-    rows.paint("SpHomeIcon", "page of twelve", pageOf<SpHomeIcon>([](SpHomeIcon &tile) {
-                   tile.setNormalImage(artwork().normal);
-                   tile.setIconText(caption());
-               }),
+    addScaledLooks(rows);
+    rows.paint("SpHomeIcon", "page of twelve", pageOf<SpHomeIcon>(setUp),
                {pageFloor(tileDrawing({artwork().normal})), kFloorLimit},
                {{"QToolButtons style sheet", pageOf<QToolButton>(setUpStyled), kPageLimit}});
 }
