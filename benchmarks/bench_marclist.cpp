@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "canvas.h"
+#include "floors.h"
+#include "mouse.h"
 #include "pictures.h"
 #include "rows.h"
 
@@ -7,7 +9,6 @@
 #include <QApplication>
 #include <QGlyphRun>
 #include <QListWidget>
-#include <QMouseEvent>
 #include <QScrollBar>
 #include <QTextLayout>
 
@@ -26,12 +27,7 @@ constexpr double kPitch = 8; // degrees
 constexpr double kFloorLimit = 1.2;
 constexpr double kPeerLimit = 1;
 
-QFont letterFont()
-{
-    QFont font = QApplication::font();
-    font.setPixelSize(24);
-    return font;
-}
+QFont letterFont() { return fontOf(24); }
 
 const QPixmap &marker()
 {
@@ -75,12 +71,9 @@ struct Letter {
 };
 
 // The layout of a letter in a box, centred, and in the middle or at the bottom of it.
-Letter laidOut(const QTransform &transform, const QRectF &box, int flags, QChar letter)
+Letter letterIn(const QTransform &transform, const QRectF &box, int flags, QChar letter)
 {
     const QFont font = letterFont();
-    const auto cut = [](qreal value) {
-        return qreal(int(value * 64)) / 64; // where Qt begins lines
-    };
     QTextLayout layout(letter, font);
     layout.beginLayout();
     QTextLine line = layout.createLine();
@@ -89,20 +82,18 @@ Letter laidOut(const QTransform &transform, const QRectF &box, int flags, QChar 
     const qreal y = QFontMetricsF(font).boundingRect(box, flags, letter).top();
     return {transform,
             layout.glyphRuns().constFirst(),
-            {cut(box.left() + (box.width() - line.horizontalAdvance()) / 2), cut(y)}};
+            {lineStart(box.left() + (box.width() - line.horizontalAdvance()) / 2), lineStart(y)}};
 }
 
-// The marker turned to its place on the arc, as pixels.
-QImage turnedMarker()
+// The marker turned to its place on the arc.
+QPixmap turnedMarker()
 {
-    QImage image(kSize, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    painter.translate(0, 200);
-    painter.rotate(kCurrent * kPitch + kAngle + 2.5);
-    painter.drawPixmap(int(kRadius) - 32, -22, marker());
-    return image;
+    return drawn(kSize, [](QPainter &painter) {
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+        painter.translate(0, 200);
+        painter.rotate(kCurrent * kPitch + kAngle + 2.5);
+        painter.drawPixmap(int(kRadius) - 32, -22, marker());
+    });
 }
 
 PaintingMaker arcFloor()
@@ -115,12 +106,12 @@ PaintingMaker arcFloor()
         QTransform upright = turned;
         upright.translate(0, kRadius).rotate(90);
         if (upright.mapRect(box).intersects(QRectF(QPointF(), kSize)))
-            letters.push_back(laidOut(upright, box, Qt::AlignCenter, QLatin1Char(c)));
+            letters.push_back(letterIn(upright, box, Qt::AlignCenter, QLatin1Char(c)));
         turned.rotate(kPitch);
     }
     // Around the marker there is nothing to copy.
     const QRect place(390, 140, 170, 140);
-    const QImage turnedPicture = turnedMarker().copy(place);
+    const QImage turnedPicture = turnedMarker().toImage().copy(place);
     return bareWidget(kSize, [letters, turnedPicture, place](QPainter &painter) {
         painter.setFont(letterFont());
         painter.setPen(QApplication::palette().color(QPalette::WindowText));
@@ -138,9 +129,9 @@ PaintingMaker columnFloor()
     std::vector<Letter> letters;
     const int left = (kSize.width() - marker().width()) / 2;
     for (int row = 0; row < 10; ++row)
-        letters.push_back(laidOut({}, QRect(left, row * kRowHeight + 5, kBox, kBox),
-                                  Qt::AlignHCenter | Qt::AlignBottom,
-                                  QLatin1Char(char('A' + row))));
+        letters.push_back(letterIn({}, QRect(left, row * kRowHeight + 5, kBox, kBox),
+                                   Qt::AlignHCenter | Qt::AlignBottom,
+                                   QLatin1Char(char('A' + row))));
     return bareWidget(kSize, [letters, left](QPainter &painter) {
         painter.setPen(QApplication::palette().color(QPalette::WindowText));
         for (const Letter &letter : letters)
@@ -149,61 +140,69 @@ PaintingMaker columnFloor()
     });
 }
 
-void fillPeer(QListWidget &list)
+std::shared_ptr<QListWidget> makePeer()
 {
-    list.setFont(letterFont());
+    auto list = std::make_shared<QListWidget>();
+    list->setFont(letterFont());
     for (char c = 'A'; c <= 'Z'; ++c)
-        list.addItem(QString(QLatin1Char(c)));
-    for (int i = 0; i < list.count(); ++i) {
-        list.item(i)->setSizeHint(QSize(kBox, kRowHeight));
-        list.item(i)->setTextAlignment(Qt::AlignCenter);
+        list->addItem(QString(QLatin1Char(c)));
+    for (int i = 0; i < list->count(); ++i) {
+        list->item(i)->setSizeHint(QSize(kBox, kRowHeight));
+        list->item(i)->setTextAlignment(Qt::AlignCenter);
     }
-    list.item(kCurrent)->setIcon(QIcon(marker()));
-    list.setCurrentRow(kCurrent);
+    list->item(kCurrent)->setIcon(QIcon(marker()));
+    list->setCurrentRow(kCurrent);
+    showOffScreen(*list, kSize);
+    return list;
 }
 
 // Ten rows with the same letters; a list view paints in its viewport.
+void paintPeer(QListWidget &list, QImage &canvas)
+{
+    list.viewport()->render(&canvas, QPoint(), QRegion(), QWidget::DrawChildren);
+}
+
 PaintingMaker peer()
 {
     return []() -> Painting {
         const auto canvas = makeCanvas(kSize);
-        const auto list = std::make_shared<QListWidget>();
-        fillPeer(*list);
-        list->resize(kSize);
-        list->setAttribute(Qt::WA_DontShowOnScreen);
-        list->show();
-        return {canvas, [list, canvas] {
-                    list->viewport()->render(canvas.get(), QPoint(), QRegion(),
-                                             QWidget::DrawChildren);
-                }};
+        return {canvas, [list = makePeer(), canvas] { paintPeer(*list, *canvas); }};
     };
 }
 
-void send(QWidget &widget, QEvent::Type type, const QPoint &pos)
+// Where a finger is that goes up and down.
+class Finger
 {
-    QMouseEvent event(type, pos, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&widget, &event);
-}
+public:
+    int y() const { return m_y; }
 
-// One step of a drag, up and down, and the paint that it asks for.
+    void move()
+    {
+        m_y += m_way;
+        if (m_y < 60 || m_y > 340)
+            m_way = -m_way;
+    }
+
+private:
+    int m_y = 300; // px
+    int m_way = -4; // px
+};
+
+// One step of a drag, and the paint that it asks for.
 StepMaker drag(MArcList::ARCLIST_STYLE style)
 {
     return [style]() -> Step {
-        const auto canvas = makeCanvas(kSize);
-        const auto list = std::make_shared<OnCanvas<MArcList>>(canvas);
-        list->setAcrListStyle(style);
-        if (style == MArcList::ARCLIST_STYLE_1)
-            list->setItemHight(kRowHeight);
-        prepareList(*list);
-        list->resize(kSize);
-        list->setAttribute(Qt::WA_DontShowOnScreen);
-        list->show();
-        send(*list, QEvent::MouseButtonPress, {460, 300});
-        return [list, y = 300, way = -4]() mutable {
-            y += way;
-            if (y < 60 || y > 340)
-                way = -way;
-            send(*list, QEvent::MouseMove, {460, y});
+        const auto list = shownOn<MArcList>(makeCanvas(kSize), kSize, [style](MArcList &fresh) {
+            fresh.setAcrListStyle(style);
+            if (style == MArcList::ARCLIST_STYLE_1)
+                fresh.setItemHight(kRowHeight);
+            prepareList(fresh);
+        });
+        Finger finger;
+        sendMouse(*list, QEvent::MouseButtonPress, {460, finger.y()});
+        return [list, finger]() mutable {
+            finger.move();
+            sendMouse(*list, QEvent::MouseMove, {460, finger.y()});
             list->paint();
         };
     };
@@ -214,18 +213,12 @@ StepMaker peerDrag()
 {
     return []() -> Step {
         const auto canvas = makeCanvas(kSize);
-        const auto list = std::make_shared<QListWidget>();
-        fillPeer(*list);
+        const auto list = makePeer();
         list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-        list->resize(kSize);
-        list->setAttribute(Qt::WA_DontShowOnScreen);
-        list->show();
-        return [list, canvas, y = 300, way = -4]() mutable {
-            y += way;
-            if (y < 60 || y > 340)
-                way = -way;
-            list->verticalScrollBar()->setValue(y);
-            list->viewport()->render(canvas.get(), QPoint(), QRegion(), QWidget::DrawChildren);
+        return [list, canvas, finger = Finger()]() mutable {
+            finger.move();
+            list->verticalScrollBar()->setValue(finger.y());
+            paintPeer(*list, *canvas);
         };
     };
 }
@@ -239,9 +232,7 @@ void defineRows(Rows &rows, Tag<MArcList>)
     rows.paint("MArcList", "column", column(), {columnFloor(), kFloorLimit},
                {{"QListWidget", peer(), kPeerLimit}});
     rows.work("MArcList", "column dragged", drag(MArcList::ARCLIST_STYLE_1),
-              {[] { return columnFloor()().step; }, kNoLimit},
-              {{"QListWidget", peerDrag(), kPeerLimit}});
+              {stepOf(columnFloor()), kNoLimit}, {{"QListWidget", peerDrag(), kPeerLimit}});
     rows.work("MArcList", "arc dragged", drag(MArcList::ARCLIST_STYLE_0),
-              {[] { return arcFloor()().step; }, kNoLimit},
-              {{"QListWidget", peerDrag(), kNoLimit}});
+              {stepOf(arcFloor()), kNoLimit}, {{"QListWidget", peerDrag(), kNoLimit}});
 }

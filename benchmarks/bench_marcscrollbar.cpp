@@ -55,15 +55,14 @@ QRect inkRect(const QImage &image)
 
 template <class Draw> Stamp stamp(Draw draw)
 {
-    QImage image(kSize, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.setPen(QApplication::palette().color(QPalette::WindowText));
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    painter.translate(-460, 200);
-    painter.rotate(90);
-    draw(painter);
-    painter.end();
+    const QPixmap picture = drawn(kSize, [draw](QPainter &painter) {
+        painter.setPen(QApplication::palette().color(QPalette::WindowText));
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+        painter.translate(-460, 200);
+        painter.rotate(90);
+        draw(painter);
+    });
+    const QImage image = picture.toImage();
     const QRect ink = inkRect(image);
     return {ink.topLeft(), image.copy(ink)};
 }
@@ -132,11 +131,8 @@ PaintingMaker peer()
 StepMaker slide()
 {
     return []() -> Step {
-        const auto bar = std::make_shared<OnCanvas<MArcScrollBar>>(makeCanvas(kSize));
-        bar->setRange(0, kRange);
-        bar->resize(kSize);
-        bar->setAttribute(Qt::WA_DontShowOnScreen);
-        bar->show();
+        const auto bar = shownOn<MArcScrollBar>(
+            makeCanvas(kSize), kSize, [](MArcScrollBar &fresh) { fresh.setRange(0, kRange); });
         return [bar] {
             bar->setValue((bar->value() + 1) % kRange);
             bar->paint();
@@ -148,8 +144,8 @@ StepMaker slide()
 
 void defineRows(Rows &rows, Tag<MArcScrollBar>)
 {
-    rows.paint("MArcScrollBar", "arc", bar([](MArcScrollBar &) {}),
-               {floorOf(ticks(), triangle()), kFloorLimit}, {{"QScrollBar", peer(), kPeerLimit}});
+    rows.paint("MArcScrollBar", "arc", bar(AsItIs()), {floorOf(ticks(), triangle()), kFloorLimit},
+               {{"QScrollBar", peer(), kPeerLimit}});
     rows.paint("MArcScrollBar", "arc with picture",
                bar([](MArcScrollBar &b) { b.setPointPixmap(knob()); }),
                {floorOf(ticks(), turnedKnob()), kFloorLimit}, {{"QScrollBar", peer(), kPeerLimit}});
@@ -159,5 +155,5 @@ void defineRows(Rows &rows, Tag<MArcScrollBar>)
                }),
                {straightFloor(), kFloorLimit}, {{"QScrollBar", peer(), kPeerLimit}});
     rows.work("MArcScrollBar", "value moved", slide(),
-              {[] { return floorOf(ticks(), triangle())().step; }, kNoLimit}, {});
+              {stepOf(floorOf(ticks(), triangle())), kNoLimit}, {});
 }

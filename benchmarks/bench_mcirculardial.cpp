@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "canvas.h"
+#include "pictures.h"
 #include "rows.h"
 
 #include <mcirculardial.h>
@@ -62,13 +63,11 @@ void drawValue(QPainter &painter)
 // What a painter on the dial leaves, cut to a part of it.
 template <class Draw> QImage stamp(const QRect &part, Draw draw)
 {
-    QImage image(kSize, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    place(painter);
-    draw(painter);
-    painter.end();
-    return image.copy(part);
+    const QPixmap picture = drawn(kSize, [draw](QPainter &painter) {
+        place(painter);
+        draw(painter);
+    });
+    return picture.toImage().copy(part);
 }
 
 void drawPointer(QPainter &painter)
@@ -149,10 +148,7 @@ PaintingMaker qDial()
 StepMaker turned()
 {
     return []() -> Step {
-        const auto dial = std::make_shared<OnCanvas<MCircularDial>>(makeCanvas(kSize));
-        dial->resize(kSize);
-        dial->setAttribute(Qt::WA_DontShowOnScreen);
-        dial->show();
+        const auto dial = shownOn<MCircularDial>(makeCanvas(kSize), kSize, AsItIs());
         return [dial] {
             dial->setValue(dial->value() >= dial->maxValue() ? dial->minValue()
                                                              : dial->value() + 0.1);
@@ -169,6 +165,6 @@ void defineRows(Rows &rows, Tag<MCircularDial>)
                widgetOf<MCircularDial>(kSize, [](MCircularDial &dial) { dial.setValue(kValue); }),
                {floor(), kFloorLimit},
                {{"QwtDial", qwtDial(), kQwtLimit}, {"QDial", qDial(), kDialLimit}});
-    rows.work("MCircularDial", "turned", turned(), {[] { return floor()().step; }, kNoLimit},
-              {{"QwtDial", [] { return qwtDial()().step; }, kQwtLimit}});
+    rows.work("MCircularDial", "turned", turned(), {stepOf(floor()), kNoLimit},
+              {{"QwtDial", stepOf(qwtDial()), kQwtLimit}});
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "canvas.h"
 #include "files.h"
+#include "floors.h"
 #include "gifs.h"
 #include "rows.h"
 
@@ -104,11 +105,9 @@ void prepareLabel(WithMovie<QLabel> &label, int speed)
 
 void defineRows(Rows &rows, Tag<MGifPlay>)
 {
-    const QPixmap frame = firstFrame();
-    rows.paint(
-        "MGifPlay", "standing", standing<MGifPlay>(preparePlayer),
-        {bareWidget(kSize, [frame](QPainter &p) { p.drawPixmap(0, 0, frame); }), kFloorLimit},
-        {{"QLabel movie", standing<WithMovie<QLabel>>(prepareLabel), 0.5}});
+    rows.paint("MGifPlay", "standing", standing<MGifPlay>(preparePlayer),
+               {pictureFloor(firstFrame()), kFloorLimit},
+               {{"QLabel movie", standing<WithMovie<QLabel>>(prepareLabel), 0.5}});
     rows.paint("MGifPlay", "playing", playing<MGifPlay>(preparePlayer),
                {playing<BarePlayer>(prepareBare), kPlayingLimit},
                {{"QLabel movie", playing<WithMovie<QLabel>>(prepareLabel), 1.0}});

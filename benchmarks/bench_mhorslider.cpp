@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "canvas.h"
+#include "peers.h"
 #include "pictures.h"
 #include "rows.h"
 
 #include <mhorslider.h>
-#include <QSlider>
 
 namespace
 {
@@ -16,15 +16,9 @@ constexpr int kMiddle = kGroove.width() / 2; // px, of the knob at 0
 constexpr QSize kSize(kGroove.width(), kKnob.height());
 constexpr double kFloorLimit = 1.15;
 
-struct Artwork {
-    QPixmap groove = keyPicture(QColor(60, 60, 70), kGroove);
-    QPixmap fill = keyPicture(QColor(40, 90, 160), kGroove);
-    QPixmap knob = keyPicture(QColor(230, 120, 20), kKnob);
-};
-
-const Artwork &artwork()
+const SliderArtwork &artwork()
 {
-    static const Artwork instance;
+    static const SliderArtwork instance(kGroove, kKnob);
     return instance;
 }
 
@@ -49,16 +43,13 @@ PaintingMaker floorOf(int left, int right)
     });
 }
 
-// In plain colours: a style sheet has no picture that ends at the handle.
-PaintingMaker styledSlider()
+PaintingMaker peer()
 {
-    return widgetOf<QSlider>(kSize, [](QSlider &slider) {
-        slider.setOrientation(Qt::Horizontal);
-        slider.setStyleSheet(
-            QStringLiteral("QSlider::groove:horizontal { height: 20px; background: #3c3c46; }"
-                           "QSlider::sub-page:horizontal { background: #285aa0; }"
-                           "QSlider::handle:horizontal { width: 40px; background: #e67814; }"));
-    });
+    return styledSlider(
+        kSize, Qt::Horizontal,
+        QStringLiteral("QSlider::groove:horizontal { height: 20px; background: #3c3c46; }"
+                       "QSlider::sub-page:horizontal { background: #285aa0; }"
+                       "QSlider::handle:horizontal { width: 40px; background: #e67814; }"));
 }
 
 } // namespace
@@ -67,8 +58,8 @@ void defineRows(Rows &rows, Tag<MHorSlider>)
 {
     const int knobAtEnd = kSize.width() - kKnob.width();
     rows.paint("MHorSlider", "from the left", slider(true, 0),
-               {floorOf(0, kMiddle - 1), kFloorLimit}, {{"QSlider style sheet", styledSlider()}});
+               {floorOf(0, kMiddle - 1), kFloorLimit}, {{"QSlider style sheet", peer()}});
     rows.paint("MHorSlider", "from the middle", slider(false, 5),
                {floorOf(kMiddle + 2, knobAtEnd + kKnob.width() / 2 - 1), kFloorLimit},
-               {{"QSlider style sheet", styledSlider()}});
+               {{"QSlider style sheet", peer()}});
 }

@@ -13,18 +13,11 @@ constexpr int kUnit = 30; // px
 constexpr int kMargin = 90; // px, for 3 px a step
 constexpr int kGap = 3; // px
 
-QPixmap indicator()
-{
-    QPixmap picture(3, 60);
-    picture.fill(QColor(255, 120, 0));
-    return picture;
-}
-
 // 206 steps and 21 labels. Minor ticks are not drawn.
 void setUp(MKARVOSlider &slider)
 {
     slider.setFont(QApplication::font());
-    slider.setIndicatePix(indicator());
+    slider.setIndicatePix(indicatorPicture());
     slider.setIsFM(true);
     slider.setFreqStart(87.5F);
     slider.setFreqEnd(108.0F);
@@ -47,7 +40,7 @@ PaintingMaker floor()
             scale.solid += QRect(QPoint(x, kTop + kUnit), QPoint(x, kTop + 3 * kUnit));
         }
     }
-    scale.indicator = indicator();
+    scale.indicator = indicatorPicture();
     scale.indicatorPlace = QPointF(kMargin + 105 * kGap - 1, 50 + 46);
     return bareWidget(kSize, scale);
 }

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "canvas.h"
+#include "mouse.h"
 #include "pictures.h"
 #include "rows.h"
+#include "startup.h"
 
-#include <benchmark/benchmark.h>
 #include <monoffbutton.h>
 #include <QCheckBox>
-#include <QCoreApplication>
-#include <QMouseEvent>
 #include <QPainterPath>
 
 namespace
@@ -52,9 +51,7 @@ void setPictures(MOnOffButton &button)
 void moveKnob(MOnOffButton &button)
 {
     button.resize(kSize);
-    QMouseEvent move(QEvent::MouseMove, QPointF(kKnob, 10), Qt::NoButton, Qt::LeftButton,
-                     Qt::NoModifier);
-    QCoreApplication::sendEvent(&button, &move);
+    sendMouse(button, QEvent::MouseMove, {kKnob, 10});
 }
 
 QPainterPath roundedPath(const QRectF &r, qreal k)
@@ -227,17 +224,6 @@ void addPicturedLooks(Rows &rows)
                            }),
                 kFloorLimit},
                {{"QCheckBox", checkBox(true)}});
-}
-
-// What a settings page full of switches costs before its first paint.
-template <class Widget> StepMaker makeAndDelete()
-{
-    return [] {
-        return [] {
-            const Widget widget;
-            benchmark::DoNotOptimize(&widget);
-        };
-    };
 }
 
 } // namespace

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "canvas.h"
+#include "floors.h"
 #include "rows.h"
 
 #include <moprogress.h>
-#include <QFontMetricsF>
 #include <QPainterPath>
 #include <QProgressBar>
-#include <QStaticText>
 
 namespace
 {
@@ -19,8 +18,7 @@ struct Prepared {
     QPainterPath disc;
     QPainterPath ring;
     QPainterPath done;
-    QStaticText percentage{QStringLiteral("50%")};
-    QPointF percentageAt;
+    LaidOutText percentage;
 
     Prepared()
     {
@@ -32,11 +30,8 @@ struct Prepared {
         ring = disc - inside;
         done.arcTo(square, 90, -180);
         done = done - inside;
-        percentage.setTextFormat(Qt::PlainText);
-        percentageAt = QFontMetricsF(QFont())
-                           .boundingRect(QRectF(-100, -100, 200, 120),
-                                         Qt::AlignHCenter | Qt::AlignBottom, QStringLiteral("50%"))
-                           .topLeft();
+        percentage = laidOut(QStringLiteral("50%"), QFont(), QRectF(-100, -100, 200, 120),
+                             Qt::AlignHCenter | Qt::AlignBottom);
     }
 };
 
@@ -52,7 +47,7 @@ PaintingMaker floorRing()
         painter.drawPath(prepared.ring);
         painter.setBrush(QColor(255, 125, 0));
         painter.drawPath(prepared.done);
-        painter.drawStaticText(prepared.percentageAt, prepared.percentage);
+        painter.drawStaticText(prepared.percentage.at, prepared.percentage.layout);
     });
 }
 
@@ -60,8 +55,7 @@ PaintingMaker floorRing()
 
 void defineRows(Rows &rows, Tag<MOProgress>)
 {
-    rows.paint("MOProgress", "half done", widgetOf<MOProgress>(kSize, [](MOProgress &) {}),
-               {floorRing(), kFloorLimit},
+    rows.paint("MOProgress", "half done", widgetOf<MOProgress>(kSize), {floorRing(), kFloorLimit},
                {{"QProgressBar",
                  widgetOf<QProgressBar>(kSize, [](QProgressBar &bar) { bar.setValue(50); })}});
 }

@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "canvas.h"
+#include "floors.h"
+#include "peers.h"
 #include "pictures.h"
 #include "rows.h"
+#include "startup.h"
 
-#include <benchmark/benchmark.h>
 #include <mpresetbutton.h>
 #include <QApplication>
 #include <QCheckBox>
-#include <QFontMetricsF>
 #include <QPushButton>
-#include <QStaticText>
-#include <QTemporaryDir>
 
 namespace
 {
@@ -24,161 +23,84 @@ const QPoint kIconPos(8, 6);
 const QRect kFirst(0, 10, 120, 40);
 const QRect kSecond(0, 46, 120, 28);
 
-struct Artwork {
-    QPixmap normal = keyPicture(QColor(40, 90, 160), kSize);
-    QPixmap pressed = keyPicture(QColor(230, 120, 20), kSize);
-    QPixmap disabled = keyPicture(QColor(110, 110, 110), kSize);
-    QPixmap smallPressed = keyPicture(QColor(230, 120, 20), QSize(90, 60));
-    QPixmap icon = keyPicture(QColor(60, 170, 200), QSize(24, 24));
-};
+QString frequency() { return QStringLiteral("98.70"); }
 
-const Artwork &artwork()
+QString unit() { return QStringLiteral("MHz"); }
+
+const ButtonArtwork &artwork() { return buttonArtwork(kSize); }
+
+const QPixmap &icon()
 {
-    static const Artwork instance;
-    return instance;
+    static const QPixmap picture = keyPicture(QColor(60, 170, 200), QSize(24, 24));
+    return picture;
 }
 
-// Ours: a key with everything that it can show, in the state into which the function brings it.
-template <class Enter> PaintingMaker button(Enter enter)
+// A key with everything that it can show.
+void setUp(MPresetButton &button)
 {
-    return widgetOf<MPresetButton>(kSize, [enter](MPresetButton &button) {
-        button.setNormalImage(artwork().normal);
-        button.setPressImage(artwork().pressed);
-        button.setDisableImage(artwork().disabled);
-        button.setPresetIcon(artwork().icon);
-        button.setPresetIconPos(kIconPos);
-        button.setDisplayText(QStringLiteral("98.70"));
-        button.setDisplayText2(QStringLiteral("MHz"));
-        button.setdisplayTextRect(kFirst);
-        button.setdisplayTextRect2(kSecond);
-        button.setNormalTextColor(Qt::white);
-        button.setPressTextColor(Qt::yellow);
-        button.setDisableTextColor(Qt::gray);
-        button.setNormalTextColor2(Qt::cyan);
-        button.setPressTextColor2(Qt::blue);
-        button.setDisableTextColor2(Qt::darkGray);
-        enter(button);
-    });
-}
-
-// One line of text whose layout needs no more work.
-struct Line {
-    QPointF at;
-    QStaticText layout;
-    QFont font;
-    QColor color;
-};
-
-Line lineOf(const QString &text, const QFont &font, const QColor &color, const QRectF &rect)
-{
-    const QPointF at = QFontMetricsF(font).boundingRect(rect, Qt::AlignCenter, text).topLeft();
-    QStaticText layout(text);
-    layout.setTextFormat(Qt::PlainText);
-    layout.prepare(QTransform(), font);
-    return {at, layout, font, color};
-}
-
-QFont secondFont()
-{
-    QFont font = QApplication::font();
-    font.setPixelSize(24);
-    return font;
+    setImages(button, artwork());
+    button.setPresetIcon(icon());
+    button.setPresetIconPos(kIconPos);
+    button.setDisplayText(frequency());
+    button.setDisplayText2(unit());
+    button.setdisplayTextRect(kFirst);
+    button.setdisplayTextRect2(kSecond);
+    button.setNormalTextColor(Qt::white);
+    button.setPressTextColor(Qt::yellow);
+    button.setDisableTextColor(Qt::gray);
+    button.setNormalTextColor2(Qt::cyan);
+    button.setPressTextColor2(Qt::blue);
+    button.setDisableTextColor2(Qt::darkGray);
 }
 
 // Pictures and lines that need no more work.
 PaintingMaker floorOf(const QPixmap &picture, const QPixmap &icon, const QColor &first,
                       const QColor &second)
 {
-    const Line one = lineOf(QStringLiteral("98.70"), QApplication::font(), first, kFirst);
-    const Line two = lineOf(QStringLiteral("MHz"), secondFont(), second, kSecond);
+    const LaidOutText one = laidOut(frequency(), QApplication::font(), kFirst);
+    const LaidOutText two = laidOut(unit(), fontOf(24), kSecond);
+    const QFont font = fontOf(24);
     return bareWidget(kSize, [=](QPainter &painter) {
         painter.drawPixmap(0, 0, picture);
         if (!icon.isNull())
             painter.drawPixmap(kIconPos, icon);
-        painter.setPen(one.color);
-        painter.drawStaticText(one.at, one.layout);
-        painter.setFont(two.font);
-        painter.setPen(two.color);
-        painter.drawStaticText(two.at, two.layout);
-    });
-}
-
-// The picture as drawPixmap() stretches it.
-QPixmap stretched(const QPixmap &picture)
-{
-    QPixmap result(kSize);
-    result.fill(Qt::transparent);
-    QPainter painter(&result);
-    painter.drawPixmap(QRect(QPoint(), kSize), picture);
-    return result;
-}
-
-// Style sheets take pictures from files.
-QString fileOf(const QPixmap &picture)
-{
-    static const QTemporaryDir folder;
-    QString path = folder.filePath(QString::number(picture.cacheKey()) + QStringLiteral(".png"));
-    picture.save(path);
-    return path;
-}
-
-// Qt's own button in the same look.
-template <class Enter>
-PaintingMaker styled(const QPixmap &picture, const QString &caption, Enter enter)
-{
-    const QString sheet =
-        QStringLiteral("QPushButton { border-width: 0; color: white; border-image: url(%1); }")
-            .arg(fileOf(picture));
-    return widgetOf<QPushButton>(kSize, [=](QPushButton &button) {
-        button.setStyleSheet(sheet);
-        button.setText(caption);
-        enter(button);
+        one.draw(painter, first);
+        painter.setFont(font);
+        two.draw(painter, second);
     });
 }
 
 // A look beside its floor and the nearest that Qt's own button can show: one line, no icon.
-template <class Enter, class EnterPeer>
+template <class Enter>
 void addLook(Rows &rows, const char *state, Enter enter, const PaintingMaker &floor,
-             const QPixmap &picture, EnterPeer enterPeer)
+             const QPixmap &picture, PeerState peer = PeerState::Normal)
 {
-    rows.paint("MPresetButton", state, button(enter), {floor, kFloorLimit},
-               {{"QPushButton style sheet", styled(picture, QStringLiteral("98.70"), enterPeer),
-                 kStyleSheetLimit}});
-}
-
-// What a screen full of buttons costs before its first paint.
-template <class Widget> StepMaker makeAndDelete()
-{
-    return [] {
-        return [] {
-            const Widget widget;
-            benchmark::DoNotOptimize(&widget);
-        };
-    };
+    rows.paint("MPresetButton", state, widgetOf<MPresetButton>(kSize, setUp, enter),
+               {floor, kFloorLimit},
+               {{"QPushButton style sheet",
+                 styledButton(kSize, pictureSheet(picture), frequency(), peer), kStyleSheetLimit}});
 }
 
 } // namespace
 
 void defineRows(Rows &rows, Tag<MPresetButton>)
 {
-    const Artwork &art = artwork();
-    const auto asItIs = [](auto &) {};
-    const auto disable = [](auto &b) { b.setEnabled(false); };
+    const ButtonArtwork &art = artwork();
+    const auto disable = [](MPresetButton &b) { b.setEnabled(false); };
     const auto check = [](MPresetButton &b) { b.setChecked(true); };
-    addLook(rows, "normal", asItIs, floorOf(art.normal, art.icon, Qt::white, Qt::cyan), art.normal,
-            asItIs);
-    addLook(rows, "checked", check, floorOf(art.pressed, art.icon, Qt::yellow, Qt::blue),
-            art.pressed, asItIs);
+    addLook(rows, "normal", AsItIs(), floorOf(art.normal, icon(), Qt::white, Qt::cyan), art.normal);
+    addLook(rows, "checked", check, floorOf(art.pressed, icon(), Qt::yellow, Qt::blue),
+            art.pressed);
     addLook(
         rows, "stretched checked",
         [check](MPresetButton &b) {
             b.setPressImage(artwork().smallPressed);
             check(b);
         },
-        floorOf(stretched(art.smallPressed), art.icon, Qt::yellow, Qt::blue), art.smallPressed,
-        asItIs);
+        floorOf(stretched(art.smallPressed, kSize), icon(), Qt::yellow, Qt::blue),
+        art.smallPressed);
     addLook(rows, "disabled", disable, floorOf(art.disabled, {}, Qt::gray, Qt::darkGray),
-            art.disabled, disable);
+            art.disabled, PeerState::Disabled);
     rows.work("MPresetButton", "made and deleted", makeAndDelete<MPresetButton>(),
               {makeAndDelete<QCheckBox>(), kStartUpLimit},
               {{"QPushButton", makeAndDelete<QPushButton>()}});

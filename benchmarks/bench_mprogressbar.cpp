@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "canvas.h"
+#include "peers.h"
 #include "pictures.h"
 #include "rows.h"
 
 #include <mprogressbar.h>
-#include <QProgressBar>
-#include <QSlider>
 
 namespace
 {
@@ -17,23 +16,17 @@ constexpr int kLeft = (kSize.width() - kGroove.width()) / 2;
 constexpr int kTop = (kSize.height() - kGroove.height()) / 2;
 constexpr double kFloorLimit = 1.15;
 
-struct Artwork {
-    QPixmap groove = keyPicture(QColor(60, 60, 70), kGroove);
-    QPixmap played = keyPicture(QColor(40, 90, 160), kGroove);
-    QPixmap knob = keyPicture(QColor(230, 120, 20), kKnob);
-};
-
-const Artwork &artwork()
+const SliderArtwork &artwork()
 {
-    static const Artwork instance;
+    static const SliderArtwork instance(kGroove, kKnob);
     return instance;
 }
 
-PaintingMaker pictureFloor()
+PaintingMaker picturesFloor()
 {
     return bareWidget(kSize, [](QPainter &painter) {
         painter.drawPixmap(kLeft, kTop, artwork().groove);
-        painter.drawPixmap(kLeft, kTop, artwork().played, 0, 0, kGroove.width() / 2,
+        painter.drawPixmap(kLeft, kTop, artwork().fill, 0, 0, kGroove.width() / 2,
                            kGroove.height());
         painter.drawPixmap((kSize.width() - kKnob.width()) / 2, 0, artwork().knob);
     });
@@ -54,18 +47,15 @@ PaintingMaker plainFloor()
 }
 
 // A circle with soft edges costs several times its square one.
-PaintingMaker styledSlider()
+PaintingMaker peer()
 {
-    return widgetOf<QSlider>(kSize, [](QSlider &slider) {
-        slider.setOrientation(Qt::Horizontal);
-        slider.setRange(0, 100);
-        slider.setValue(50);
-        slider.setStyleSheet(
-            QStringLiteral("QSlider::groove:horizontal { height: 8px; background: #969696; }"
-                           "QSlider::sub-page:horizontal { background: #ff7d00; }"
-                           "QSlider::handle:horizontal { width: 20px; border-radius: 10px; "
-                           "background: #e6e6e6; }"));
-    });
+    return styledSlider(
+        kSize, Qt::Horizontal,
+        QStringLiteral("QSlider::groove:horizontal { height: 8px; background: #969696; }"
+                       "QSlider::sub-page:horizontal { background: #ff7d00; }"
+                       "QSlider::handle:horizontal { width: 20px; border-radius: 10px; "
+                       "background: #e6e6e6; }"),
+        50);
 }
 
 } // namespace
@@ -75,13 +65,13 @@ void defineRows(Rows &rows, Tag<MProgressBar>)
     rows.paint("MProgressBar", "pictures",
                widgetOf<MProgressBar>(kSize,
                                       [](MProgressBar &bar) {
-                                          bar.setSliderNormalImage(artwork().played);
+                                          bar.setSliderNormalImage(artwork().fill);
                                           bar.setSliderPressImage(artwork().groove);
                                           bar.setPointNormalImage(artwork().knob);
                                           bar.setPointPressImage(artwork().knob);
                                       }),
-               {pictureFloor(), kFloorLimit}, {{"QSlider style sheet", styledSlider()}});
+               {picturesFloor(), kFloorLimit}, {{"QSlider style sheet", peer()}});
     rows.paint("MProgressBar", "plain colours",
                widgetOf<MProgressBar>(kSize, [](MProgressBar &bar) { bar.setPonitRadius(20); }),
-               {plainFloor(), kFloorLimit}, {{"QSlider style sheet", styledSlider()}});
+               {plainFloor(), kFloorLimit}, {{"QSlider style sheet", peer()}});
 }

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "mouse.h"
 #include "rows.h"
 #include "scalefloor.h"
+#include "startup.h"
 
-#include <benchmark/benchmark.h>
 #include <mradioslider.h>
-#include <QMouseEvent>
 #include <QPushButton>
 
 namespace
@@ -16,18 +16,11 @@ constexpr int kFoot = 99 - 25; // px
 constexpr int kUnit = 8; // px
 constexpr double kStartUpLimit = 4;
 
-QPixmap indicator()
-{
-    QPixmap picture(3, 60);
-    picture.fill(QColor(255, 120, 0));
-    return picture;
-}
-
 void setUp(MRadioSlider &slider)
 {
     slider.setLineColor(Qt::white);
     slider.setLineGap(kGap);
-    slider.setIndicatePix(indicator());
+    slider.setIndicatePix(indicatorPicture());
     slider.setFont(QApplication::font());
     slider.resize(kSize);
     slider.initSliderRange();
@@ -47,7 +40,7 @@ PaintingMaker floor()
         if (i % 10 == 5)
             scale.addLabel(QRect(x - 30, kFoot, 60, 25), QString::number(88 + i / 10));
     }
-    scale.indicator = indicator();
+    scale.indicator = indicatorPicture();
     scale.indicatorPlace = QPointF((800 - 3) / 2, 20);
     return bareWidget(kSize, scale);
 }
@@ -56,26 +49,13 @@ PaintingMaker floor()
 StepMaker dragged()
 {
     return [] {
-        const auto canvas = makeCanvas(kSize);
-        const auto slider = std::make_shared<OnCanvas<MRadioSlider>>(canvas);
+        const auto slider = std::make_shared<OnCanvas<MRadioSlider>>(makeCanvas(kSize));
         setUp(*slider);
         qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
         return [slider, x = 400]() mutable {
             x = x == 400 ? 401 : 400;
-            QMouseEvent move(QEvent::MouseMove, QPoint(x, 50), Qt::NoButton, Qt::LeftButton,
-                             Qt::NoModifier);
-            QApplication::sendEvent(slider.get(), &move);
+            sendMouse(*slider, QEvent::MouseMove, {x, 50});
             slider->paint();
-        };
-    };
-}
-
-template <class Widget> StepMaker makeAndDelete()
-{
-    return [] {
-        return [] {
-            const Widget widget(nullptr);
-            benchmark::DoNotOptimize(&widget);
         };
     };
 }
@@ -86,8 +66,7 @@ void defineRows(Rows &rows, Tag<MRadioSlider>)
 {
     rows.paint("MRadioSlider", "full scale", widgetOf<MRadioSlider>(kSize, setUp),
                {floor(), kScaleFloorLimit}, {{"QwtSlider", qwtSlider(kSize), kQwtLimit}});
-    const PaintingMaker still = floor();
-    rows.work("MRadioSlider", "drag step", dragged(), {[still] { return still().step; }, 1.5}, {});
+    rows.work("MRadioSlider", "drag step", dragged(), {stepOf(floor()), 1.5}, {});
     rows.work("MRadioSlider", "made and deleted", makeAndDelete<MRadioSlider>(),
               {makeAndDelete<QWidget>(), kStartUpLimit},
               {{"QPushButton", makeAndDelete<QPushButton>()}});

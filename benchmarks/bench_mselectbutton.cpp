@@ -1,171 +1,42 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "canvas.h"
-#include "pictures.h"
+#include "imagebuttonrows.h"
+#include "mouse.h"
 #include "rows.h"
+#include "startup.h"
 
-#include <benchmark/benchmark.h>
 #include <mselectbutton.h>
-#include <QApplication>
-#include <QFontMetricsF>
-#include <QMouseEvent>
 #include <QPushButton>
-#include <QStaticText>
-#include <QTemporaryDir>
 
 namespace
 {
 
-constexpr QSize kSize(120, 80);
-constexpr double kFloorLimit = 1.15;
-constexpr double kStyleSheetLimit = 0.65;
 constexpr double kStartUpLimit = 2;
 
-struct Artwork {
-    QPixmap normal = keyPicture(QColor(40, 90, 160), kSize);
-    QPixmap pressed = keyPicture(QColor(230, 120, 20), kSize);
-    QPixmap disabled = keyPicture(QColor(110, 110, 110), kSize);
-    QPixmap smallPressed = keyPicture(QColor(230, 120, 20), QSize(90, 60));
-    QPixmap selected = keyPicture(QColor(60, 170, 200), kSize);
-    QString caption = QStringLiteral("Radio");
-};
-
-const Artwork &artwork()
-{
-    static const Artwork instance;
-    return instance;
-}
-
-// Ours: a button with all its pictures, in the state into which the function brings it.
-template <class Enter> PaintingMaker button(Enter enter)
-{
-    return widgetOf<MSelectButton>(kSize, [enter](MSelectButton &button) {
-        button.setNormalImage(artwork().normal);
-        button.setPressImage(artwork().pressed);
-        button.setDisableImage(artwork().disabled);
-        button.setNormalTextColor(Qt::white);
-        button.setPressTextColor(Qt::yellow);
-        button.setSelectImage(artwork().selected);
-        button.setSelectTextColor(Qt::cyan);
-        enter(button);
-    });
-}
-
-void press(MSelectButton &button)
-{
-    QMouseEvent event(QEvent::MouseButtonPress, QPointF(20, 20), Qt::LeftButton, Qt::LeftButton,
-                      Qt::NoModifier);
-    QApplication::sendEvent(&button, &event);
-}
-
-// A picture that needs no more work, and a caption over it whose layout needs none, if there is
-// one.
-PaintingMaker floorOf(const QPixmap &picture)
-{
-    return bareWidget(kSize, [picture](QPainter &painter) { painter.drawPixmap(0, 0, picture); });
-}
-
-PaintingMaker floorOf(const QPixmap &picture, const QColor &color)
-{
-    const QString caption = artwork().caption;
-    const QRectF rect(QPointF(), kSize);
-    const QPointF at =
-        QFontMetricsF(QApplication::font()).boundingRect(rect, Qt::AlignCenter, caption).topLeft();
-    QStaticText layout(caption);
-    layout.setTextFormat(Qt::PlainText);
-    layout.prepare(QTransform(), QApplication::font());
-    return bareWidget(kSize, [picture, color, layout, at](QPainter &painter) {
-        painter.drawPixmap(0, 0, picture);
-        painter.setPen(color);
-        painter.drawStaticText(at, layout);
-    });
-}
-
-// The picture as drawPixmap() stretches it.
-QPixmap stretched(const QPixmap &picture)
-{
-    QPixmap result(kSize);
-    result.fill(Qt::transparent);
-    QPainter painter(&result);
-    painter.drawPixmap(QRect(QPoint(), kSize), picture);
-    return result;
-}
-
-// Style sheets take pictures from files.
-QString fileOf(const QPixmap &picture)
-{
-    static const QTemporaryDir folder;
-    QString path = folder.filePath(QString::number(picture.cacheKey()) + QStringLiteral(".png"));
-    picture.save(path);
-    return path;
-}
-
-// Qt's own button in the same look.
-template <class Enter>
-PaintingMaker styled(const QPixmap &picture, const QString &caption, Enter enter)
-{
-    const QString sheet =
-        QStringLiteral("QPushButton { border-width: 0; color: white; border-image: url(%1); }")
-            .arg(fileOf(picture));
-    return widgetOf<QPushButton>(kSize, [=](QPushButton &button) {
-        button.setStyleSheet(sheet);
-        button.setText(caption);
-        enter(button);
-    });
-}
-
-// A look beside its floor and the same look of Qt's own button.
-template <class Enter, class EnterPeer>
-void addLook(Rows &rows, const char *state, Enter enter, const PaintingMaker &floor,
-             const QPixmap &picture, const QString &caption, EnterPeer enterPeer)
-{
-    rows.paint(
-        "MSelectButton", state, button(enter), {floor, kFloorLimit},
-        {{"QPushButton style sheet", styled(picture, caption, enterPeer), kStyleSheetLimit}});
-}
-
-// What a screen full of buttons costs before its first paint.
-template <class Widget> StepMaker makeAndDelete()
-{
-    return [] {
-        return [] {
-            const Widget widget;
-            benchmark::DoNotOptimize(&widget);
-        };
-    };
-}
+void press(MSelectButton &button) { sendMouse(button, QEvent::MouseButtonPress, {20, 20}); }
 
 } // namespace
 
 void defineRows(Rows &rows, Tag<MSelectButton>)
 {
-    const Artwork &art = artwork();
-    const auto asItIs = [](auto &) {};
-    const auto disable = [](QPushButton &peer) { peer.setEnabled(false); };
-    addLook(rows, "normal", asItIs, floorOf(art.normal), art.normal, {}, asItIs);
-    addLook(rows, "pressed", press, floorOf(art.pressed), art.pressed, {}, asItIs);
-    addLook(
-        rows, "selected", [](MSelectButton &b) { b.setSelectState(true); }, floorOf(art.selected),
-        art.selected, {}, asItIs);
-    addLook(
-        rows, "stretched pressed",
-        [](MSelectButton &b) {
-            b.setPressImage(artwork().smallPressed);
-            press(b);
-        },
-        floorOf(stretched(art.smallPressed)), art.smallPressed, {}, asItIs);
-    addLook(
-        rows, "disabled", [](MSelectButton &b) { b.setDisableState(true); }, floorOf(art.disabled),
-        art.disabled, {}, disable);
-    addLook(
-        rows, "captioned", [](MSelectButton &b) { b.setDisplayText(artwork().caption); },
-        floorOf(art.normal, Qt::white), art.normal, art.caption, asItIs);
-    addLook(
-        rows, "captioned selected",
-        [](MSelectButton &b) {
-            b.setDisplayText(artwork().caption);
-            b.setSelectState(true);
-        },
-        floorOf(art.selected, Qt::cyan), art.selected, art.caption, asItIs);
+    using Looks = ImageButtonRows<MSelectButton>;
+    const ButtonArtwork &art = Looks::artwork();
+    Looks looks(rows, "MSelectButton", [&art](MSelectButton &b) {
+        b.setSelectImage(art.highlighted);
+        b.setSelectTextColor(Qt::cyan);
+    });
+    const auto select = [](MSelectButton &b) { b.setSelectState(true); };
+    const auto disable = [](MSelectButton &b) { b.setDisableState(true); };
+    const auto pressStretched = [&art](MSelectButton &b) {
+        b.setPressImage(art.smallPressed);
+        press(b);
+    };
+    looks.addLook("normal", art.normal, AsItIs());
+    looks.addLook("pressed", art.pressed, press);
+    looks.addLook("selected", art.highlighted, select);
+    looks.addLook("stretched pressed", art.smallPressed, pressStretched);
+    looks.addLook("disabled", art.disabled, disable, PeerState::Disabled);
+    looks.addCaptionedLook("captioned", art.normal, Qt::white, AsItIs());
+    looks.addCaptionedLook("captioned selected", art.highlighted, Qt::cyan, select);
     rows.work("MSelectButton", "made and deleted", makeAndDelete<MSelectButton>(),
               {makeAndDelete<QWidget>(), kStartUpLimit},
               {{"QPushButton", makeAndDelete<QPushButton>()}});

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "canvas.h"
+#include "peers.h"
 #include "pictures.h"
 #include "rows.h"
 
 #include <multiplestatebutton.h>
-#include <QIcon>
 #include <QPushButton>
-#include <QTemporaryDir>
 
 namespace
 {
@@ -26,14 +25,6 @@ const QPixmap &icon()
 {
     static const QPixmap picture = keyPicture(QColor(230, 120, 20), kIcon);
     return picture;
-}
-
-QString fileOf(const QPixmap &picture)
-{
-    static const QTemporaryDir folder;
-    QString path = folder.filePath(QString::number(picture.cacheKey()) + QStringLiteral(".png"));
-    picture.save(path);
-    return path;
 }
 
 struct Button : MultipleStateButton {
@@ -56,8 +47,5 @@ void defineRows(Rows &rows, Tag<MultipleStateButton>)
                                painter.drawPixmap(kInset, kInset, icon());
                            }),
                 kFloorLimit},
-               {{"QPushButton icon", widgetOf<QPushButton>(kSize, [](QPushButton &button) {
-                     button.setIcon(QIcon(icon()));
-                     button.setIconSize(kIcon);
-                 })}});
+               {{"QPushButton icon", iconButton<QPushButton>(kSize, {icon(), kIcon})}});
 }

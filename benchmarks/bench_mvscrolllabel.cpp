@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "canvas.h"
+#include "floors.h"
 #include "rows.h"
 
 #include <mvscrolllabel.h>
@@ -56,8 +57,6 @@ int pitchOf(const QFontMetrics &metrics)
         - metrics.boundingRect(room, Qt::AlignTop, QStringLiteral("a")).height();
 }
 
-using Label = OnCanvas<MVScrollLabel>;
-
 void prepare(MVScrollLabel &label)
 {
     label.resize(kSize);
@@ -70,10 +69,7 @@ PaintingMaker scrolling()
 {
     return []() -> Painting {
         const auto canvas = makeCanvas(kSize);
-        const auto label = std::make_shared<Label>(canvas);
-        label->setAttribute(Qt::WA_DontShowOnScreen);
-        label->show();
-        prepare(*label);
+        const auto label = shownOn<MVScrollLabel>(canvas, kSize, prepare);
         label->setScrollSpeed(kNever);
         label->startScroll();
         const int timer =
@@ -90,11 +86,8 @@ PaintingMaker scrolling()
 PaintingMaker floor(int firstOffset, int speed)
 {
     std::vector<QStaticText> lines;
-    for (const QString &line : wrappedNotice()) {
-        lines.emplace_back(line);
-        lines.back().setTextFormat(Qt::PlainText);
-        lines.back().prepare(QTransform(), QApplication::font());
-    }
+    for (const QString &line : wrappedNotice())
+        lines.push_back(preparedText(line, QApplication::font()));
     const QFontMetrics metrics{QApplication::font()};
     const int pitch = pitchOf(metrics);
     const int cycle = int(lines.size()) * metrics.height() + 10 + kSize.height();
@@ -121,9 +114,7 @@ PaintingMaker scrollArea()
         area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         area->setWidget(label);
-        area->resize(kSize);
-        area->setAttribute(Qt::WA_DontShowOnScreen);
-        area->show();
+        showOffScreen(*area, kSize);
         return {canvas, [canvas, area] {
                     QScrollBar *bar = area->verticalScrollBar();
                     bar->setValue(bar->value() == bar->maximum() ? 0 : bar->value() + 1);

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "canvas.h"
+#include "floors.h"
+#include "peers.h"
 #include "pictures.h"
 #include "rows.h"
 
 #include <playbutton.h>
-#include <QIcon>
 #include <QPushButton>
-#include <QTemporaryDir>
 
 namespace
 {
@@ -21,30 +21,15 @@ const QPixmap &normal()
     return picture;
 }
 
-QString normalFile()
-{
-    static const QTemporaryDir folder;
-    QString path = folder.filePath(QStringLiteral("normal.png"));
-    normal().save(path);
-    return path;
-}
-
 struct Button : PlayButton {
-    Button() : PlayButton(0, 0, 1, normalFile(), normalFile()) { }
+    Button() : PlayButton(0, 0, 1, fileOf(normal()), fileOf(normal())) { }
 };
 
 } // namespace
 
 void defineRows(Rows &rows, Tag<PlayButton>)
 {
-    rows.paint("PlayButton", "normal", widgetOf<Button>(kSize, [](Button &) {}),
-               {bareWidget(kSize, [](QPainter &painter) { painter.drawPixmap(0, 0, normal()); }),
-                kFloorLimit},
-               {{"QPushButton icon",
-                 widgetOf<QPushButton>(kSize,
-                                       [](QPushButton &button) {
-                                           button.setIcon(QIcon(normal()));
-                                           button.setIconSize(kSize);
-                                       }),
-                 kPeerLimit}});
+    rows.paint(
+        "PlayButton", "normal", widgetOf<Button>(kSize), {pictureFloor(normal()), kFloorLimit},
+        {{"QPushButton icon", iconButton<QPushButton>(kSize, {normal(), kSize}), kPeerLimit}});
 }

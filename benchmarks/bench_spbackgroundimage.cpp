@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "canvas.h"
+#include "floors.h"
 #include "pictures.h"
 #include "rows.h"
 
@@ -30,15 +31,13 @@ const QPixmap &small()
 // The picture as it has to be painted, made once.
 QPixmap prepared(const QPixmap &picture, int angle)
 {
-    QPixmap result(kSize);
-    result.fill(Qt::transparent);
-    QPainter painter(&result);
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    painter.translate(QPoint(kSize.width() / 2, kSize.height() / 2));
-    painter.rotate(qreal(angle));
-    painter.translate(-QPoint(kSize.width() / 2, kSize.height() / 2));
-    painter.drawPixmap(QRect(QPoint(), kSize), picture);
-    return result;
+    return drawn(kSize, [&picture, angle](QPainter &painter) {
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+        painter.translate(QPoint(kSize.width() / 2, kSize.height() / 2));
+        painter.rotate(qreal(angle));
+        painter.translate(-QPoint(kSize.width() / 2, kSize.height() / 2));
+        painter.drawPixmap(QRect(QPoint(), kSize), picture);
+    });
 }
 
 // Qt's label stretches its picture too, and keeps it.
@@ -58,11 +57,7 @@ void addLook(Rows &rows, const char *state, const QPixmap &picture, int angle)
                                                backdrop.setPixmap(picture);
                                                backdrop.setRotateAngle(angle);
                                            }),
-               {bareWidget(kSize,
-                           [picture = prepared(picture, angle)](QPainter &painter) {
-                               painter.drawPixmap(0, 0, picture);
-                           }),
-                kFloorLimit},
+               {pictureFloor(prepared(picture, angle)), kFloorLimit},
                {{"QLabel", label(picture), kPeerLimit}});
 }
 

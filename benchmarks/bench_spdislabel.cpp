@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "canvas.h"
+#include "floors.h"
+#include "peers.h"
 #include "pictures.h"
 #include "rows.h"
+#include "startup.h"
 
-#include <benchmark/benchmark.h>
 #include <QApplication>
-#include <QFontMetricsF>
+#include <QFontMetrics>
 #include <QLabel>
 #include <QPushButton>
-#include <QStaticText>
 #include <spdislabel.h>
 
 namespace
@@ -47,41 +48,22 @@ template <class Enter> PaintingMaker label(Enter enter)
 
 QPixmap roundedGround(const QColor &color)
 {
-    QPixmap picture(kSize);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(color);
-    painter.drawRoundedRect(QRectF(picture.rect()), kRadius, kRadius);
-    return picture;
-}
-
-QStaticText preparedText(const QString &text)
-{
-    QStaticText layout(text);
-    layout.setTextFormat(Qt::PlainText);
-    layout.prepare(QTransform(), QApplication::font());
-    return layout;
-}
-
-QPointF textPos(const QString &text)
-{
-    return QFontMetricsF(QApplication::font())
-        .boundingRect(QRectF(QPointF(), kSize), Qt::AlignCenter, text)
-        .topLeft();
+    return drawn(kSize, [color](QPainter &painter) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(color);
+        painter.drawRoundedRect(QRectF(QPointF(), kSize), kRadius, kRadius);
+    });
 }
 
 // A ground and a layout that need no more work.
 template <class DrawGround>
 PaintingMaker floorOf(DrawGround drawGround, const QString &text = shortText())
 {
-    const QStaticText layout = preparedText(text);
-    const QPointF at = textPos(text);
+    const LaidOutText caption = laidOut(text, QApplication::font(), QRectF(QPointF(), kSize));
     return bareWidget(kSize, [=](QPainter &painter) {
         drawGround(painter);
-        painter.setPen(Qt::white);
-        painter.drawStaticText(at, layout);
+        caption.draw(painter, Qt::white);
     });
 }
 
@@ -104,10 +86,7 @@ PaintingMaker flatButton(const QString &text, const QColor &color, int radius)
                                          "border-radius: %2px;")
                               .arg(color.name(QColor::HexArgb))
                               .arg(radius);
-    return widgetOf<QPushButton>(kSize, [text, sheet](QPushButton &button) {
-        button.setStyleSheet(sheet);
-        button.setText(text);
-    });
+    return styledButton(kSize, sheet, text);
 }
 
 void addString(Rows &rows, const char *state, const PaintingMaker &ours, const PaintingMaker &floor,
@@ -130,16 +109,6 @@ QString shortened()
     return text.left(count) + QStringLiteral("...");
 }
 
-template <class Widget> StepMaker makeAndDelete()
-{
-    return [] {
-        return [] {
-            const Widget widget;
-            benchmark::DoNotOptimize(&widget);
-        };
-    };
-}
-
 } // namespace
 
 void defineRows(Rows &rows, Tag<SpDisLabel>)
@@ -157,7 +126,7 @@ void defineRows(Rows &rows, Tag<SpDisLabel>)
                   l.setIsDown(true);
               }),
               roundedFloor(kTranslucent), flatButton(shortText(), kTranslucent, kRadius));
-    addString(rows, "no ground", label([](SpDisLabel &) {}), floorOf([](QPainter &) {}),
+    addString(rows, "no ground", label(AsItIs()), floorOf([](QPainter &) {}),
               flatButton(shortText(), Qt::transparent, 0));
     addString(rows, "shortened", label([](SpDisLabel &l) { l.setText(longText()); }),
               floorOf([](QPainter &) {}, shortened()), flatButton(shortened(), Qt::transparent, 0));

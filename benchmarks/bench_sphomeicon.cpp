@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "canvas.h"
+#include "floors.h"
+#include "mouse.h"
+#include "peers.h"
 #include "pictures.h"
 #include "rows.h"
 
-#include <QApplication>
-#include <QFontMetricsF>
-#include <QIcon>
-#include <QMouseEvent>
-#include <QStaticText>
-#include <QTemporaryDir>
 #include <QToolButton>
 #include <sphomeicon.h>
 
@@ -30,119 +27,73 @@ constexpr double kPeerLimit = 0.6;
 constexpr double kPageLimit = 0.25; // of style sheets
 
 // The artwork of one tile, made once.
-struct Artwork {
-    QPixmap normal = keyPicture(QColor(40, 90, 160), kIcon);
-    QPixmap pressed = keyPicture(QColor(230, 120, 20), kIcon);
-    QPixmap running = keyPicture(QColor(60, 170, 200), kIcon);
-    QPixmap gray = keyPicture(QColor(110, 110, 110), kIcon);
+struct Artwork : ButtonArtwork {
+    using ButtonArtwork::ButtonArtwork;
+
     QPixmap current = keyPicture(QColor(40, 160, 80), kIcon);
     QPixmap large = keyPicture(QColor(40, 90, 160), kIcon * 2);
-    QString caption = QStringLiteral("Phone");
 };
 
 const Artwork &artwork()
 {
-    static const Artwork instance;
+    static const Artwork instance(kIcon);
     return instance;
 }
 
-QPixmap veiled(const QPixmap &picture, int alpha)
+QString caption() { return QStringLiteral("Phone"); }
+
+void setUp(SpHomeIcon &tile)
 {
-    QPixmap result = picture;
-    QPainter painter(&result);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceAtop);
-    painter.fillRect(result.rect(), QColor(0, 0, 0, alpha));
-    return result;
+    tile.setNormalImage(artwork().normal);
+    tile.setIconText(caption());
 }
 
-QPixmap stretched(const QPixmap &picture)
+template <class... Enter> PaintingMaker tile(Enter... enter)
 {
-    QPixmap result(kIcon);
-    result.fill(Qt::transparent);
-    QPainter painter(&result);
-    painter.drawPixmap(QRect(QPoint(), kIcon), picture);
-    return result;
-}
-
-template <class Enter> PaintingMaker tile(Enter enter)
-{
-    return widgetOf<SpHomeIcon>(kTile, [enter](SpHomeIcon &tile) {
-        tile.setNormalImage(artwork().normal);
-        tile.setIconText(artwork().caption);
-        enter(tile);
-    });
+    return widgetOf<SpHomeIcon>(kTile, setUp, enter...);
 }
 
 // A tile with a pressed picture of its own.
 template <class Enter> PaintingMaker tileOfPictures(Enter enter)
 {
-    return tile([enter](SpHomeIcon &tile) {
+    const auto setPressed = [](SpHomeIcon &tile) {
         tile.setImageAlpha(255);
         tile.setPressImage(artwork().pressed);
-        enter(tile);
-    });
+    };
+    return tile(setPressed, enter);
 }
 
-void press(SpHomeIcon &tile)
-{
-    QMouseEvent event(QEvent::MouseButtonPress, QPointF(5, 5), Qt::LeftButton, Qt::LeftButton,
-                      Qt::NoModifier);
-    QApplication::sendEvent(&tile, &event);
-}
+void press(SpHomeIcon &tile) { sendMouse(tile, QEvent::MouseButtonPress, {5, 5}); }
 
 QFont captionFont()
 {
-    QFont font;
-    font.setPixelSize(kFontSize);
+    QFont font = fontOf(kFontSize);
     font.resolve(~0U);
     return font;
 }
 
 // The pictures one over the other, and a layout that needs no more work.
-PaintingMaker floorOf(const QVector<QPixmap> &pictures)
+auto tileDrawing(const QVector<QPixmap> &pictures)
 {
     const QFont font = captionFont();
-    const QPointF at = QFontMetricsF(font)
-                           .boundingRect(QRectF(kCaption), Qt::AlignCenter, artwork().caption)
-                           .topLeft();
-    QStaticText layout(artwork().caption);
-    layout.setTextFormat(Qt::PlainText);
-    layout.prepare(QTransform(), font);
-    return bareWidget(kTile, [=](QPainter &painter) {
+    const LaidOutText text = laidOut(caption(), font, kCaption);
+    return [pictures, font, text](QPainter &painter) {
         for (const QPixmap &picture : pictures)
             painter.drawPixmap(0, 0, picture);
         painter.setFont(font);
-        painter.setPen(Qt::white);
-        painter.drawStaticText(at, layout);
-    });
-}
-
-void setUp(QToolButton &button, const QPixmap &picture)
-{
-    button.setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-    button.setIcon(QIcon(picture));
-    button.setIconSize(kIcon);
-    button.setText(artwork().caption);
-    button.setAutoRaise(true);
+        text.draw(painter, Qt::white);
+    };
 }
 
 PaintingMaker toolButton(const QPixmap &picture)
 {
-    return widgetOf<QToolButton>(kTile, [picture](QToolButton &button) {
+    const IconLook look{picture, kIcon, PeerState::Normal, caption()};
+    return iconButton<QToolButton>(kTile, look, [](QToolButton &button) {
         QFont font = button.font();
         font.setPixelSize(kFontSize);
         button.setFont(font);
-        setUp(button, picture);
+        button.setAutoRaise(true);
     });
-}
-
-// Style sheets take pictures from files.
-QString fileOf(const QPixmap &picture)
-{
-    static const QTemporaryDir folder;
-    QString path = folder.filePath(QString::number(picture.cacheKey()) + QStringLiteral(".png"));
-    picture.save(path);
-    return path;
 }
 
 // As a launcher in style sheets has it: a picture for each state, the caption under it.
@@ -153,7 +104,7 @@ void setUpStyled(QToolButton &button)
                        " border-image: url(%1); padding-top: 120px; }"
                        "QToolButton:pressed { border-image: url(%2); }")
             .arg(fileOf(artwork().normal), fileOf(artwork().pressed));
-    button.setText(artwork().caption);
+    button.setText(caption());
     button.setStyleSheet(sheet);
 }
 
@@ -162,18 +113,13 @@ template <class Widget, class Prepare> PaintingMaker pageOf(Prepare prepare)
 {
     return [prepare]() -> Painting {
         const auto canvas = makeCanvas(kPage);
-        auto widgets = std::make_shared<std::vector<std::unique_ptr<OnCanvas<Widget>>>>();
+        auto widgets = std::make_shared<std::vector<std::shared_ptr<OnCanvas<Widget>>>>();
         for (int i = 0; i < 12; ++i) {
             const QPoint at(i % 4 * kPitch.width(), i / 4 * kPitch.height());
             uchar *pixels = canvas->scanLine(at.y()) + at.x() * 4;
-            auto part = std::make_shared<QImage>(pixels, kTile.width(), kTile.height(),
-                                                 canvas->bytesPerLine(), canvas->format());
-            auto widget = std::make_unique<OnCanvas<Widget>>(std::move(part));
-            prepare(*widget);
-            widget->resize(kTile);
-            widget->setAttribute(Qt::WA_DontShowOnScreen);
-            widget->show();
-            widgets->push_back(std::move(widget));
+            const auto part = std::make_shared<QImage>(pixels, kTile.width(), kTile.height(),
+                                                       canvas->bytesPerLine(), canvas->format());
+            widgets->push_back(shownOn<Widget>(part, kTile, prepare));
         }
         return {canvas, [widgets] {
                     for (const auto &widget : *widgets)
@@ -192,7 +138,7 @@ void addLook(Rows &rows, const char *state, const PaintingMaker &ours,
              const QVector<QPixmap> &pictures)
 {
     const double limit = pictures.size() == 1 ? kPeerLimit : kNoLimit;
-    rows.paint("SpHomeIcon", state, ours, {floorOf(pictures), kFloorLimit},
+    rows.paint("SpHomeIcon", state, ours, {bareWidget(kTile, tileDrawing(pictures)), kFloorLimit},
                {{"QToolButton icon", toolButton(pictures.last()), limit},
                 {"QToolButton style sheet", widgetOf<QToolButton>(kTile, setUpStyled), limit}});
 }
@@ -200,44 +146,49 @@ void addLook(Rows &rows, const char *state, const PaintingMaker &ours,
 void addStates(Rows &rows)
 {
     const QPixmap normal = artwork().normal;
-    addLook(rows, "at rest", tile([](SpHomeIcon &) {}), {normal});
+    addLook(rows, "at rest", tile(), {normal});
     addLook(rows, "pressed, darkened", tile(press), {veiled(normal, kVeil)});
     addLook(rows, "pressed", tileOfPictures(press), {artwork().pressed});
     addLook(rows, "dimmed", tileOfPictures([](SpHomeIcon &t) { t.setHideText(true); }),
             {veiled(normal, kDimming)});
     addLook(rows, "not ready", tileOfPictures([](SpHomeIcon &t) {
-                t.setGrayImage(artwork().gray);
+                t.setGrayImage(artwork().disabled);
                 t.setIsReady(false);
             }),
-            {artwork().gray});
+            {artwork().disabled});
     addLook(rows, "running", tile([](SpHomeIcon &t) {
-                t.setRunningImage(artwork().running);
+                t.setRunningImage(artwork().highlighted);
                 t.setIsRunning(true);
             }),
-            {normal, artwork().running});
+            {normal, artwork().highlighted});
     addLook(rows, "current, pressed", tileOfPictures([](SpHomeIcon &t) {
-                t.setRunningImage(artwork().running);
+                t.setRunningImage(artwork().highlighted);
                 t.setSwitchImage(artwork().current);
                 t.setIsSwitchSrc(true);
                 press(t);
             }),
             {normal, artwork().current, artwork().pressed});
     addLook(rows, "frame of an animation",
-            tile([](SpHomeIcon &t) { t.setGifImage(fileOf(artwork().running)); }),
-            {artwork().running});
+            tile([](SpHomeIcon &t) { t.setGifImage(fileOf(artwork().highlighted)); }),
+            {artwork().highlighted});
+}
+
+void addScaledLooks(Rows &rows)
+{
+    const QPixmap large = stretched(artwork().large, kIcon);
     addLook(rows, "scaled", tile([](SpHomeIcon &t) {
                 t.setNormalImage(artwork().large);
                 t.setIconSize(kIcon);
                 t.setMinimumSize(kTile);
             }),
-            {stretched(artwork().large)});
+            {large});
     addLook(rows, "scaled, pressed", tileOfPictures([](SpHomeIcon &t) {
                 t.setRunningImage(artwork().large);
                 t.setIsRunning(true);
                 t.setPressImage(artwork().large);
                 press(t);
             }),
-            {artwork().normal, stretched(artwork().large), stretched(artwork().large)});
+            {artwork().normal, large, large});
 }
 
 } // namespace
@@ -245,20 +196,8 @@ void addStates(Rows &rows)
 void defineRows(Rows &rows, Tag<SpHomeIcon>)
 {
     addStates(rows);
-    rows.paint(
-        "SpHomeIcon", "page of twelve", pageOf<SpHomeIcon>([](SpHomeIcon &tile) {
-            tile.setNormalImage(artwork().normal);
-            tile.setIconText(artwork().caption);
-        }),
-        {pageFloor([layout = QStaticText(artwork().caption), font = captionFont(),
-                    at = QFontMetricsF(captionFont())
-                             .boundingRect(QRectF(kCaption), Qt::AlignCenter, artwork().caption)
-                             .topLeft()](QPainter &painter) {
-             painter.drawPixmap(0, 0, artwork().normal);
-             painter.setFont(font);
-             painter.setPen(Qt::white);
-             painter.drawStaticText(at, layout);
-         }),
-         kFloorLimit},
-        {{"QToolButtons style sheet", pageOf<QToolButton>(setUpStyled), kPageLimit}});
+    addScaledLooks(rows);
+    rows.paint("SpHomeIcon", "page of twelve", pageOf<SpHomeIcon>(setUp),
+               {pageFloor(tileDrawing({artwork().normal})), kFloorLimit},
+               {{"QToolButtons style sheet", pageOf<QToolButton>(setUpStyled), kPageLimit}});
 }

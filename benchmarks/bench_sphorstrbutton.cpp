@@ -1,16 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "canvas.h"
+#include "floors.h"
+#include "peers.h"
 #include "pictures.h"
 #include "rows.h"
+#include "startup.h"
 
-#include <benchmark/benchmark.h>
-#include <QFontMetricsF>
-#include <QIcon>
 #include <QPushButton>
-#include <QStaticText>
 #include <QStyle>
 #include <QStyleOption>
-#include <QToolButton>
 #include <sphorstrbutton.h>
 
 namespace
@@ -26,31 +24,15 @@ constexpr double kStartUpLimit = 2;
 
 const QColor kDisabledText(150, 150, 150, 150);
 
-// The artwork of one button, made once.
-struct Artwork {
-    QPixmap normal = keyPicture(QColor(40, 90, 160), kIcon);
-    QPixmap pressed = keyPicture(QColor(230, 120, 20), kIcon);
-    QPixmap disabled = keyPicture(QColor(110, 110, 110), kIcon);
-    QPixmap smallPressed = keyPicture(QColor(230, 120, 20), QSize(72, 72));
-    QString text = QStringLiteral("Navigation");
-};
+QString text() { return QStringLiteral("Navigation"); }
 
-const Artwork &artwork()
-{
-    static const Artwork instance;
-    return instance;
-}
+const ButtonArtwork &artwork() { return buttonArtwork(kIcon); }
 
-// Ours: a button with all its icons, in the state into which the function brings it.
-template <class Enter> PaintingMaker button(Enter enter)
+// A button with all its icons.
+void setUp(SpHorStrButton &button)
 {
-    return widgetOf<SpHorStrButton>(kSize, [enter](SpHorStrButton &button) {
-        button.setNormalPixmap(artwork().normal);
-        button.setPressPixmap(artwork().pressed);
-        button.setDisablePixmap(artwork().disabled);
-        button.setDisplayString(artwork().text);
-        enter(button);
-    });
+    setPixmaps(button, artwork());
+    button.setDisplayString(text());
 }
 
 // Where the parts of a look stand, and its colour.
@@ -70,12 +52,7 @@ public:
     void setParts(const Parts &parts)
     {
         m_parts = parts;
-        m_text = QStaticText(artwork().text);
-        m_text.setTextFormat(Qt::PlainText);
-        m_text.prepare(QTransform(), font());
-        m_at = QFontMetricsF(font())
-                   .boundingRect(QRectF(parts.text), parts.flags, artwork().text)
-                   .topLeft();
+        m_text = laidOut(text(), font(), parts.text, parts.flags);
     }
 
 protected:
@@ -86,14 +63,12 @@ protected:
         option.initFrom(this);
         style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
         painter.drawPixmap(m_parts.iconPos, m_parts.icon);
-        painter.setPen(m_parts.color);
-        painter.drawStaticText(m_at, m_text);
+        m_text.draw(painter, m_parts.color);
     }
 
 private:
     Parts m_parts;
-    QPointF m_at;
-    QStaticText m_text;
+    LaidOutText m_text;
 };
 
 PaintingMaker floorOf(const Parts &parts)
@@ -111,91 +86,52 @@ Parts leftParts(const QPixmap &icon, const QColor &color)
             color};
 }
 
-// The icon with black over its opaque pixels.
-QPixmap veiled(const QPixmap &picture)
-{
-    QPixmap result = picture;
-    QPainter painter(&result);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceAtop);
-    painter.fillRect(result.rect(), QColor(0, 0, 0, kVeil));
-    return result;
-}
-
-// The icon as drawPixmap() stretches it.
-QPixmap stretched(const QPixmap &picture)
-{
-    QPixmap result(kIcon);
-    result.fill(Qt::transparent);
-    QPainter painter(&result);
-    painter.drawPixmap(QRect(QPoint(), kIcon), picture);
-    return result;
-}
-
 // Qt's own buttons with an icon beside a text.
-template <class Button>
-PaintingMaker iconButton(const QPixmap &picture, bool isDown, bool isDisabled)
+template <class Enter>
+void addLook(Rows &rows, const char *state, Enter enter, const Parts &floor,
+             PeerState peer = PeerState::Normal)
 {
-    return widgetOf<Button>(kSize, [=](Button &button) {
-        QIcon icon(picture);
-        icon.addPixmap(picture, QIcon::Disabled);
-        button.setIcon(icon);
-        button.setIconSize(kIcon);
-        button.setText(artwork().text);
-        button.setDown(isDown);
-        button.setEnabled(!isDisabled);
-        if constexpr (std::is_same_v<Button, QToolButton>)
-            button.setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    });
-}
-
-void addLook(Rows &rows, const char *state, const PaintingMaker &ours, const Parts &floor,
-             bool isDown = false, bool isDisabled = false)
-{
-    rows.paint(
-        "SpHorStrButton", state, ours, {floorOf(floor), kFloorLimit},
-        {{"QPushButton icon", iconButton<QPushButton>(floor.icon, isDown, isDisabled), kPeerLimit},
-         {"QToolButton icon", iconButton<QToolButton>(floor.icon, isDown, isDisabled),
-          kPeerLimit}});
+    const IconLook look{floor.icon, kIcon, peer, text(), Qt::ToolButtonTextBesideIcon};
+    rows.paint("SpHorStrButton", state, widgetOf<SpHorStrButton>(kSize, setUp, enter),
+               {floorOf(floor), kFloorLimit},
+               {{"QPushButton icon", iconButton<QPushButton>(kSize, look), kPeerLimit},
+                {"QToolButton icon", iconButton<QToolButton>(kSize, look), kPeerLimit}});
 }
 
 void addLooks(Rows &rows)
 {
-    const Artwork &art = artwork();
-    addLook(rows, "normal", button([](SpHorStrButton &) {}), leftParts(art.normal, Qt::white));
-    addLook(rows, "pressed", button([](SpHorStrButton &b) { b.setPressState(true); }),
-            leftParts(art.pressed, Qt::red), true);
-    addLook(rows, "stretched pressed", button([](SpHorStrButton &b) {
-                b.setPressPixmap(artwork().smallPressed);
-                b.setPressState(true);
-            }),
-            leftParts(stretched(art.smallPressed), Qt::red), true);
-    addLook(rows, "disabled", button([](SpHorStrButton &b) { b.setBtnDisable(true); }),
-            leftParts(art.disabled, kDisabledText), false, true);
-    addLook(rows, "disabled darkened", button([](SpHorStrButton &b) {
-                b.setDisablePixmap({});
-                b.setBtnDisable(true);
-            }),
-            leftParts(veiled(art.normal), kDisabledText), false, true);
+    const ButtonArtwork &art = artwork();
+    addLook(rows, "normal", AsItIs(), leftParts(art.normal, Qt::white));
+    addLook(
+        rows, "pressed", [](SpHorStrButton &b) { b.setPressState(true); },
+        leftParts(art.pressed, Qt::red), PeerState::Pressed);
+    addLook(
+        rows, "stretched pressed",
+        [](SpHorStrButton &b) {
+            b.setPressPixmap(artwork().smallPressed);
+            b.setPressState(true);
+        },
+        leftParts(stretched(art.smallPressed, kIcon), Qt::red), PeerState::Pressed);
+    addLook(
+        rows, "disabled", [](SpHorStrButton &b) { b.setBtnDisable(true); },
+        leftParts(art.disabled, kDisabledText), PeerState::Disabled);
+    addLook(
+        rows, "disabled darkened",
+        [](SpHorStrButton &b) {
+            b.setDisablePixmap({});
+            b.setBtnDisable(true);
+        },
+        leftParts(veiled(art.normal, kVeil), kDisabledText), PeerState::Disabled);
     addLook(rows, "string at the right",
-            button([](SpHorStrButton &b) { b.setStringPosition(SpHorStrButton::StrRight); }),
+            [](SpHorStrButton &b) { b.setStringPosition(SpHorStrButton::StrRight); },
             {art.normal,
              {kSize.width() - kIcon.width(), 0},
              {0, 0, kSize.width() - kIcon.width() - kGap, kSize.height()},
              Qt::AlignRight | Qt::AlignVCenter,
              Qt::white});
     addLook(rows, "string over the icon",
-            button([](SpHorStrButton &b) { b.setStringPosition(SpHorStrButton::StrCenter); }),
+            [](SpHorStrButton &b) { b.setStringPosition(SpHorStrButton::StrCenter); },
             {art.normal, {0, 0}, QRect(QPoint(), kIcon), Qt::AlignCenter, Qt::white});
-}
-
-template <class Widget> StepMaker makeAndDelete()
-{
-    return [] {
-        return [] {
-            const Widget widget;
-            benchmark::DoNotOptimize(&widget);
-        };
-    };
 }
 
 } // namespace

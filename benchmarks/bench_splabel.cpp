@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "canvas.h"
+#include "floors.h"
 #include "pictures.h"
 #include "rows.h"
 
@@ -15,29 +16,19 @@ constexpr double kFloorLimit = 1.15;
 
 QPixmap picture(const QSize &size) { return keyPicture(QColor(40, 90, 160), size); }
 
-QPixmap veiled(QPixmap result)
-{
-    QPainter painter(&result);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceAtop);
-    painter.fillRect(result.rect(), QColor(0, 0, 0, kVeil));
-    return result;
-}
-
 void addLook(Rows &rows, const char *state, const QPixmap &image)
 {
     const QPixmap shown =
-        veiled(image.scaled(kSize, Qt::IgnoreAspectRatio, Qt::FastTransformation));
+        veiled(image.scaled(kSize, Qt::IgnoreAspectRatio, Qt::FastTransformation), kVeil);
     // A stretched label keeps no copy of a picture that is smaller than it: the peer is given what
     // ours has to make.
     const PaintingMaker peer = widgetOf<QLabel>(kSize, [shown](QLabel &label) {
         label.setPixmap(shown);
         label.setScaledContents(true);
     });
-    rows.paint(
-        "SpLabel", state,
-        widgetOf<SpLabel>(kSize, [image](SpLabel &label) { label.setImage(image); }),
-        {bareWidget(kSize, [shown](QPainter &p) { p.drawPixmap(0, 0, shown); }), kFloorLimit},
-        {{"QLabel pixmap", peer, 1.0}});
+    rows.paint("SpLabel", state,
+               widgetOf<SpLabel>(kSize, [image](SpLabel &label) { label.setImage(image); }),
+               {pictureFloor(shown), kFloorLimit}, {{"QLabel pixmap", peer, 1.0}});
 }
 
 } // namespace

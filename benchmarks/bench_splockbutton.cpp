@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "canvas.h"
+#include "floors.h"
+#include "peers.h"
 #include "pictures.h"
 #include "rows.h"
 
-#include <QIcon>
 #include <QPushButton>
 #include <QToolButton>
 #include <splockbutton.h>
@@ -21,55 +22,32 @@ const QPixmap &normal()
     return picture;
 }
 
-QPixmap faded()
-{
-    QPixmap result = normal();
-    QPainter painter(&result);
-    painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
-    painter.fillRect(result.rect(), QColor(0, 0, 0, kFade));
-    return result;
-}
+void setUp(SpLockButton &button) { button.setNormalImage(normal()); }
 
-template <class Enter> PaintingMaker button(Enter enter)
+template <class Enter>
+void addLook(Rows &rows, const char *state, Enter enter, const QPixmap &picture,
+             PeerState peer = PeerState::Normal)
 {
-    return widgetOf<SpLockButton>(kSize, [enter](SpLockButton &button) {
-        button.setNormalImage(normal());
-        enter(button);
-    });
-}
-
-PaintingMaker floorOf(const QPixmap &picture)
-{
-    return bareWidget(kSize, [picture](QPainter &painter) { painter.drawPixmap(0, 0, picture); });
-}
-
-template <class Button> PaintingMaker iconButton(const QPixmap &picture, bool isDown)
-{
-    return widgetOf<Button>(kSize, [picture, isDown](Button &button) {
-        button.setIcon(QIcon(picture));
-        button.setIconSize(kSize);
-        button.setCheckable(true);
-        button.setChecked(isDown);
-    });
-}
-
-void addLook(Rows &rows, const char *state, const PaintingMaker &ours, const QPixmap &picture,
-             bool isDown)
-{
-    rows.paint("SpLockButton", state, ours, {floorOf(picture), kFloorLimit},
-               {{"QPushButton icon", iconButton<QPushButton>(picture, isDown), 0.6},
-                {"QToolButton icon", iconButton<QToolButton>(picture, isDown), 0.6}});
+    const IconLook look{picture, kSize, peer};
+    rows.paint("SpLockButton", state, widgetOf<SpLockButton>(kSize, setUp, enter),
+               {pictureFloor(picture), kFloorLimit},
+               {{"QPushButton icon", iconButton<QPushButton>(kSize, look), 0.6},
+                {"QToolButton icon", iconButton<QToolButton>(kSize, look), 0.6}});
 }
 
 } // namespace
 
 void defineRows(Rows &rows, Tag<SpLockButton>)
 {
-    addLook(rows, "up", button([](SpLockButton &) {}), normal(), false);
-    addLook(rows, "faded down", button([](SpLockButton &b) { b.setIsDown(true); }), faded(), true);
-    addLook(rows, "faded disabled", button([](SpLockButton &b) {
-                b.setDisableMode(SpLockButton::Show_NormalImageAlpha);
-                b.setDisableState(true);
-            }),
-            faded(), false);
+    addLook(rows, "up", AsItIs(), normal());
+    addLook(
+        rows, "faded down", [](SpLockButton &b) { b.setIsDown(true); }, faded(normal(), kFade),
+        PeerState::Checked);
+    addLook(
+        rows, "faded disabled",
+        [](SpLockButton &b) {
+            b.setDisableMode(SpLockButton::Show_NormalImageAlpha);
+            b.setDisableState(true);
+        },
+        faded(normal(), kFade));
 }

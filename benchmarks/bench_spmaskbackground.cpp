@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "canvas.h"
+#include "peers.h"
 #include "rows.h"
 
-#include <QPushButton>
 #include <spmaskbackground.h>
 
 namespace
@@ -27,13 +27,12 @@ PaintingMaker mask(int radius)
     });
 }
 
-PaintingMaker styledButton(int radius)
+PaintingMaker peer(int radius)
 {
-    return widgetOf<QPushButton>(kSize, [radius](QPushButton &button) {
-        button.setStyleSheet(
-            QStringLiteral("border: none; background: rgba(0, 0, 0, 128); border-radius: %1px")
-                .arg(radius));
-    });
+    return styledButton(
+        kSize,
+        QStringLiteral("border: none; background: rgba(0, 0, 0, 128); border-radius: %1px")
+            .arg(radius));
 }
 
 } // namespace
@@ -45,7 +44,7 @@ void defineRows(Rows &rows, Tag<SpMaskBackground>)
         {bareWidget(kSize,
                     [](QPainter &painter) { painter.fillRect(QRect(QPoint(), kSize), dark()); }),
          kFloorLimit},
-        {{"QPushButton style sheet", styledButton(0)}});
+        {{"QPushButton style sheet", peer(0)}});
     rows.paint("SpMaskBackground", "rounded", mask(kRadius),
                {bareWidget(kSize,
                            [](QPainter &painter) {
@@ -55,5 +54,5 @@ void defineRows(Rows &rows, Tag<SpMaskBackground>)
                                painter.drawRoundedRect(QRectF(QPointF(), kSize), kRadius, kRadius);
                            }),
                 kFloorLimit},
-               {{"QPushButton style sheet", styledButton(kRadius)}});
+               {{"QPushButton style sheet", peer(kRadius)}});
 }

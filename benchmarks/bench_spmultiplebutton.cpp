@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "canvas.h"
+#include "mouse.h"
+#include "peers.h"
 #include "pictures.h"
 #include "rows.h"
+#include "startup.h"
 
-#include <benchmark/benchmark.h>
-#include <QApplication>
 #include <QGraphicsOpacityEffect>
-#include <QIcon>
-#include <QMouseEvent>
 #include <QPushButton>
-#include <QToolButton>
 #include <spmultiplebutton.h>
 
 namespace
@@ -39,22 +37,14 @@ const Artwork &artwork()
     return instance;
 }
 
-// Ours: a button with all its pictures, in the state into which the function brings it.
-template <class Enter> PaintingMaker button(Enter enter)
+// A button with all its pictures.
+void setUp(SpMultipleButton &button)
 {
-    return widgetOf<SpMultipleButton>(kSize, [enter](SpMultipleButton &button) {
-        button.setPixmapList(artwork().normal, artwork().pressed);
-        button.setBackgroundImage(artwork().background);
-        enter(button);
-    });
+    button.setPixmapList(artwork().normal, artwork().pressed);
+    button.setBackgroundImage(artwork().background);
 }
 
-void press(SpMultipleButton &button)
-{
-    QMouseEvent event(QEvent::MouseButtonPress, QPointF(60, 60), Qt::LeftButton, Qt::LeftButton,
-                      Qt::NoModifier);
-    QApplication::sendEvent(&button, &event);
-}
+void press(SpMultipleButton &button) { sendMouse(button, QEvent::MouseButtonPress, {60, 60}); }
 
 // One picture on the other, where both need no more work.
 PaintingMaker floorOf(const QPixmap &background, const QPixmap &picture)
@@ -67,32 +57,16 @@ PaintingMaker floorOf(const QPixmap &background, const QPixmap &picture)
     });
 }
 
-// Qt's own button with a picture; it has one layer less to paint than ours.
-template <class Button> PaintingMaker iconButton(const QPixmap &picture, bool isDown)
+// Qt's own buttons with a picture; they have one layer less to paint than ours.
+template <class Enter>
+void addLook(Rows &rows, const char *state, Enter enter, const PaintingMaker &floor,
+             const QPixmap &picture, PeerState peer = PeerState::Normal)
 {
-    return widgetOf<Button>(kSize, [=](Button &button) {
-        button.setIcon(QIcon(picture));
-        button.setIconSize(kPicture);
-        button.setDown(isDown);
-    });
-}
-
-void addLook(Rows &rows, const char *state, const PaintingMaker &ours, const PaintingMaker &floor,
-             const QPixmap &picture, bool isDown = false)
-{
-    rows.paint("SpMultipleButton", state, ours, {floor, kFloorLimit},
-               {{"QPushButton icon", iconButton<QPushButton>(picture, isDown), kPeerLimit},
-                {"QToolButton icon", iconButton<QToolButton>(picture, isDown), kPeerLimit}});
-}
-
-template <class Widget> StepMaker makeAndDelete()
-{
-    return [] {
-        return [] {
-            const Widget widget;
-            benchmark::DoNotOptimize(&widget);
-        };
-    };
+    const IconLook look{picture, kPicture, peer};
+    rows.paint("SpMultipleButton", state, widgetOf<SpMultipleButton>(kSize, setUp, enter),
+               {floor, kFloorLimit},
+               {{"QPushButton icon", iconButton<QPushButton>(kSize, look), kPeerLimit},
+                {"QToolButton icon", iconButton<QToolButton>(kSize, look), kPeerLimit}});
 }
 
 // What is dimmed by an effect of its own.
@@ -107,18 +81,21 @@ public:
 void defineRows(Rows &rows, Tag<SpMultipleButton>)
 {
     const Artwork &art = artwork();
-    addLook(rows, "normal", button([](SpMultipleButton &) {}),
-            floorOf(art.background, art.normal.at(0)), art.normal.at(0));
-    addLook(rows, "last state", button([](SpMultipleButton &b) { b.setCurrentValue(2); }),
-            floorOf(art.background, art.normal.at(2)), art.normal.at(2));
-    addLook(rows, "pressed", button(press), floorOf(art.background, art.pressed.at(0)),
-            art.pressed.at(0), true);
-    addLook(rows, "disabled", button([](SpMultipleButton &b) { b.setDisableState(true); }),
-            floorOf(art.background, art.normal.at(0)), art.normal.at(0));
-    addLook(rows, "no background", button([](SpMultipleButton &b) { b.setBackgroundImage({}); }),
-            floorOf({}, art.normal.at(0)), art.normal.at(0));
-    addLook(rows, "incomplete", button([](SpMultipleButton &b) { b.setNormalImage1({}); }),
-            floorOf(art.background, {}), art.normal.at(0));
+    addLook(rows, "normal", AsItIs(), floorOf(art.background, art.normal.at(0)), art.normal.at(0));
+    addLook(
+        rows, "last state", [](SpMultipleButton &b) { b.setCurrentValue(2); },
+        floorOf(art.background, art.normal.at(2)), art.normal.at(2));
+    addLook(rows, "pressed", press, floorOf(art.background, art.pressed.at(0)), art.pressed.at(0),
+            PeerState::Pressed);
+    addLook(
+        rows, "disabled", [](SpMultipleButton &b) { b.setDisableState(true); },
+        floorOf(art.background, art.normal.at(0)), art.normal.at(0));
+    addLook(
+        rows, "no background", [](SpMultipleButton &b) { b.setBackgroundImage({}); },
+        floorOf({}, art.normal.at(0)), art.normal.at(0));
+    addLook(
+        rows, "incomplete", [](SpMultipleButton &b) { b.setNormalImage1({}); },
+        floorOf(art.background, {}), art.normal.at(0));
     rows.work("SpMultipleButton", "made and deleted", makeAndDelete<SpMultipleButton>(),
               {makeAndDelete<Dimmable<QWidget>>(), kStartUpLimit},
               {{"QPushButton with an effect", makeAndDelete<Dimmable<QPushButton>>(), 1.0}});

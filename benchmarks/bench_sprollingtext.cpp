@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "canvas.h"
+#include "floors.h"
 #include "rows.h"
 
 #include <QApplication>
 #include <QCoreApplication>
 #include <QFontMetrics>
 #include <QLabel>
-#include <QStaticText>
 #include <sprollingtext.h>
 
 #include <vector>
@@ -24,12 +24,7 @@ QString shortText() { return QStringLiteral("Radio One"); }
 
 QString longText() { return QStringLiteral("Midnight Lanterns, from the album Maps for Sundays"); }
 
-QFont textFont()
-{
-    QFont font = QApplication::font();
-    font.setPixelSize(kFontSize);
-    return font;
-}
+QFont textFont() { return fontOf(kFontSize); }
 
 void prepare(SpRollingText &text, const QString &content)
 {
@@ -48,49 +43,35 @@ QPen fadingPen()
     return {QBrush(fade), 1};
 }
 
-// One picture of a text: its layout and its place.
-struct Frame {
-    QStaticText layout;
-    QPointF at;
-};
-
-Frame frameOf(const QRect &rect, const QString &text)
+// One picture of a text.
+LaidOutText frameOf(const QRect &rect, const QString &text)
 {
-    const auto cut = [](qreal value) {
-        return qreal(int(value * 64)) / 64; // where Qt begins lines
-    };
     QTextOption option;
     option.setWrapMode(QTextOption::NoWrap);
     option.setTextDirection(Qt::LeftToRight);
-    Frame frame;
-    frame.layout = QStaticText(text);
-    frame.layout.setTextFormat(Qt::PlainText);
-    frame.layout.setTextOption(option);
-    frame.layout.prepare(QTransform(), textFont());
-    const QPointF topLeft =
-        QFontMetricsF(textFont()).boundingRect(QRectF(rect), Qt::AlignCenter, text).topLeft();
-    const qreal spare = qreal(rect.width()) - QFontMetricsF(textFont()).horizontalAdvance(text);
-    frame.at = {cut(qreal(rect.x()) + spare / 2), cut(topLeft.y())};
-    return frame;
+    const QFontMetricsF metrics(textFont());
+    const qreal top = metrics.boundingRect(QRectF(rect), Qt::AlignCenter, text).top();
+    const qreal spare = qreal(rect.width()) - metrics.horizontalAdvance(text);
+    return {preparedText(text, textFont(), option),
+            {lineStart(qreal(rect.x()) + spare / 2), lineStart(top)}};
 }
 
 PaintingMaker restingFloor(const QString &text)
 {
-    const Frame frame = frameOf(QRect(QPoint(), kSize), text);
+    const LaidOutText frame = frameOf(QRect(QPoint(), kSize), text);
     return bareWidget(kSize, [frame](QPainter &painter) {
         painter.setFont(textFont());
-        painter.setPen(Qt::white);
-        painter.drawStaticText(frame.at, frame.layout);
+        frame.draw(painter, Qt::white);
     });
 }
 
 // All pictures of a whole cycle, one for each step.
-std::vector<Frame> cycle()
+std::vector<LaidOutText> cycle()
 {
     const QFontMetrics metrics(textFont());
     const QString source = longText() + QString(16, QLatin1Char(' '));
     const int count = kSize.width() / metrics.horizontalAdvance(QLatin1Char('.')) + 3;
-    std::vector<Frame> frames;
+    std::vector<LaidOutText> frames;
     for (int first = 0; first < source.size(); ++first) {
         QString shown;
         for (int i = 0; i < count; ++i)
@@ -108,11 +89,11 @@ std::vector<Frame> cycle()
 PaintingMaker rollingFloor()
 {
     return [] {
-        static const std::vector<Frame> frames = cycle();
+        static const std::vector<LaidOutText> frames = cycle();
         const QPen pen = fadingPen();
         const QFont font = textFont();
         return bareWidget(kSize, [=, step = std::size_t(0)](QPainter &painter) mutable {
-            const Frame &frame = frames[step++ % frames.size()];
+            const LaidOutText &frame = frames[step++ % frames.size()];
             painter.setFont(font);
             painter.setPen(pen);
             painter.drawStaticText(frame.at, frame.layout);
@@ -126,8 +107,7 @@ PaintingMaker rolling()
     return []() -> Painting {
         const auto canvas = makeCanvas(kSize);
         const auto text = std::make_shared<OnCanvas<SpRollingText>>(canvas);
-        text->setAttribute(Qt::WA_DontShowOnScreen);
-        text->show();
+        showOffScreen(*text, kSize);
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(text.get()); // no step is left over from the first paint
         prepare(*text, longText());

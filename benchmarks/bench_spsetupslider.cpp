@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "canvas.h"
+#include "peers.h"
 #include "pictures.h"
 #include "rows.h"
 
-#include <QSlider>
 #include <spsetupslider.h>
 
 namespace
@@ -17,21 +17,15 @@ constexpr int kLeft = (kSize.width() - kTrack.width()) / 2;
 constexpr int kMiddle = kBand + kTrack.height() / 2; // px, of the knob at 0
 constexpr double kFloorLimit = 1.15;
 
-struct Artwork {
-    QPixmap track = keyPicture(QColor(60, 60, 70), kTrack);
-    QPixmap fill = keyPicture(QColor(40, 90, 160), kTrack);
-    QPixmap knob = keyPicture(QColor(230, 120, 20), kKnob);
-};
-
-const Artwork &artwork()
+const SliderArtwork &artwork()
 {
-    static const Artwork instance;
+    static const SliderArtwork instance(kTrack, kKnob);
     return instance;
 }
 
 void prepare(SpSetupSlider &slider)
 {
-    slider.setSliderNormalImage(artwork().track);
+    slider.setSliderNormalImage(artwork().groove);
     slider.setSliderPressImage(artwork().fill);
     slider.setPointNormalImage(artwork().knob);
     slider.setPointPressImage(artwork().knob);
@@ -45,17 +39,16 @@ void defineRows(Rows &rows, Tag<SpSetupSlider>)
     rows.paint("SpSetupSlider", "track and fill", widgetOf<SpSetupSlider>(kSize, prepare),
                {bareWidget(kSize,
                            [=](QPainter &painter) {
-                               painter.drawPixmap(kLeft, kBand, artwork().track);
+                               painter.drawPixmap(kLeft, kBand, artwork().groove);
                                painter.drawPixmap(kLeft, kMiddle, artwork().fill, 0,
                                                   kMiddle - kBand, kTrack.width(), rowsBelow);
                            }),
                 kFloorLimit},
-               // In plain colours: a style sheet has no picture that ends at the handle.
-               {{"QSlider style sheet", widgetOf<QSlider>(kSize, [](QSlider &slider) {
-                     slider.setOrientation(Qt::Vertical);
-                     slider.setStyleSheet(QStringLiteral(
-                         "QSlider::groove:vertical { width: 20px; background: #3c3c46; }"
-                         "QSlider::add-page:vertical { background: #285aa0; }"
-                         "QSlider::handle:vertical { height: 30px; background: #e67814; }"));
-                 })}});
+               {{"QSlider style sheet",
+                 styledSlider(
+                     kSize, Qt::Vertical,
+                     QStringLiteral("QSlider::groove:vertical { width: 20px; background: #3c3c46; }"
+                                    "QSlider::add-page:vertical { background: #285aa0; }"
+                                    "QSlider::handle:vertical { height: 30px; background: "
+                                    "#e67814; }"))}});
 }

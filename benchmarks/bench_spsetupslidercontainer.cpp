@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "rows.h"
+#include "startup.h"
 
-#include <benchmark/benchmark.h>
 #include <QFrame>
 #include <spsetupslidercontainer.h>
 
@@ -10,21 +10,11 @@ namespace
 
 constexpr double kFloorLimit = 2.5; // two lists of their own
 
-// The page paints nothing; what it costs is its making.
-template <class Widget> StepMaker makeAndDelete()
-{
-    return [] {
-        return [] {
-            const Widget widget;
-            benchmark::DoNotOptimize(&widget);
-        };
-    };
-}
-
 } // namespace
 
 void defineRows(Rows &rows, Tag<SpSetupSliderContainer>)
 {
+    // The page paints nothing; what it costs is its making.
     rows.work("SpSetupSliderContainer", "made and deleted", makeAndDelete<SpSetupSliderContainer>(),
               {makeAndDelete<QWidget>(), kFloorLimit}, {{"QFrame", makeAndDelete<QFrame>()}});
 }

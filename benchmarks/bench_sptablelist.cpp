@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "canvas.h"
 #include "listrows.h"
+#include "mouse.h"
 #include "rows.h"
+#include "startup.h"
 
-#include <benchmark/benchmark.h>
 #include <QApplication>
 #include <QListView>
-#include <QMouseEvent>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <QThread>
@@ -36,9 +36,7 @@ PaintingMaker viewOf(const std::shared_ptr<ListRows> &model, Prepare prepare)
         view->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         view->setModel(model.get());
         prepare(*view);
-        view->resize(kSize);
-        view->setAttribute(Qt::WA_DontShowOnScreen);
-        view->show();
+        showOffScreen(*view, kSize);
         QApplication::processEvents();
         return {canvas, [model, view, viewport] {
                     QPaintEvent everything(viewport->rect());
@@ -105,10 +103,9 @@ PaintingMaker listViewOf(int count)
     });
 }
 
-void sendMouse(QWidget *target, QEvent::Type type, int y)
+void touch(SpTableList &list, QEvent::Type type, int y)
 {
-    QMouseEvent event(type, QPoint(100, y), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(target, &event);
+    sendMouse(*list.viewport(), type, {100, y});
 }
 
 // A list with so many rows, as it is touched.
@@ -120,9 +117,7 @@ std::shared_ptr<SpTableList> shownList(int count)
     });
     list->setModel(model.get());
     prepare(*list);
-    list->resize(kSize);
-    list->setAttribute(Qt::WA_DontShowOnScreen);
-    list->show();
+    showOffScreen(*list, kSize);
     QApplication::processEvents();
     return list;
 }
@@ -132,11 +127,11 @@ StepMaker dragSteps(int count)
 {
     return [count] {
         const auto list = shownList(count);
-        sendMouse(list->viewport(), QEvent::MouseButtonPress, 300);
+        touch(*list, QEvent::MouseButtonPress, 300);
         const auto isUp = std::make_shared<bool>(false);
         return [list, isUp] {
             *isUp = !*isUp;
-            sendMouse(list->viewport(), QEvent::MouseMove, *isUp ? 100 : 103);
+            touch(*list, QEvent::MouseMove, *isUp ? 100 : 103);
         };
     };
 }
@@ -151,10 +146,10 @@ void fling(SpTableList &list)
     int before = 0;
     do {
         list.verticalScrollBar()->setValue(0);
-        sendMouse(list.viewport(), QEvent::MouseButtonPress, kSize.height() - 1);
-        sendMouse(list.viewport(), QEvent::MouseMove, 0);
+        touch(list, QEvent::MouseButtonPress, kSize.height() - 1);
+        touch(list, QEvent::MouseMove, 0);
         QThread::msleep(5);
-        sendMouse(list.viewport(), QEvent::MouseButtonRelease, 0);
+        touch(list, QEvent::MouseButtonRelease, 0);
         before = bar->value();
         tick(list);
     } while (bar->value() == before);
@@ -176,11 +171,6 @@ StepMaker flingTicks(int count)
     };
 }
 
-StepMaker stepsOf(const PaintingMaker &make)
-{
-    return [make] { return make().step; };
-}
-
 StepMaker tenOf(const StepMaker &make)
 {
     return [make] {
@@ -188,16 +178,6 @@ StepMaker tenOf(const StepMaker &make)
         return [step] {
             for (int i = 0; i < 10; ++i)
                 step();
-        };
-    };
-}
-
-template <class Widget> StepMaker makeAndDelete()
-{
-    return [] {
-        return [] {
-            const Widget widget;
-            benchmark::DoNotOptimize(&widget);
         };
     };
 }
@@ -213,8 +193,8 @@ void defineRows(Rows &rows, Tag<SpTableList>)
         {{"QListView with QStyledItemDelegate", listViewOf(kFew), kPeerLimit}});
     // These have the same with a hundred rows for their floor. Making a million rows leaves a trace
     // of a million instructions in the counts, which ten at a time make small.
-    rows.work("SpTableList", "ten frames of a million rows", tenOf(stepsOf(listOf(kMany))),
-              {tenOf(stepsOf(listOf(kFew))), kGrowthLimit}, {});
+    rows.work("SpTableList", "ten frames of a million rows", tenOf(stepOf(listOf(kMany))),
+              {tenOf(stepOf(listOf(kFew))), kGrowthLimit}, {});
     rows.work("SpTableList", "ten drag steps of a million rows", tenOf(dragSteps(kMany)),
               {tenOf(dragSteps(kFew)), kGrowthLimit}, {});
     rows.work("SpTableList", "ten fling ticks of a million rows", tenOf(flingTicks(kMany)),

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "canvas.h"
+#include "floors.h"
+#include "peers.h"
 #include "pictures.h"
 #include "rows.h"
+#include "startup.h"
 
-#include <benchmark/benchmark.h>
-#include <QFontMetricsF>
-#include <QIcon>
 #include <QPushButton>
-#include <QStaticText>
 #include <QToolButton>
 #include <spverstrbutton.h>
 
@@ -25,37 +24,21 @@ constexpr double kFloorLimit = 1.15;
 constexpr double kPeerLimit = 0.8;
 constexpr double kStartUpLimit = 2;
 
-// The artwork of one button, made once.
-struct Artwork {
-    QPixmap normal = keyPicture(QColor(40, 90, 160), kIcon);
-    QPixmap pressed = keyPicture(QColor(230, 120, 20), kIcon);
-    QPixmap focused = keyPicture(QColor(60, 170, 200), kIcon);
-    QPixmap disabled = keyPicture(QColor(110, 110, 110), kIcon);
-    QPixmap smallPressed = keyPicture(QColor(230, 120, 20), QSize(72, 72));
-    QString text = QStringLiteral("Phone");
-};
+QString text() { return QStringLiteral("Phone"); }
 
-const Artwork &artwork()
+const ButtonArtwork &artwork() { return buttonArtwork(kIcon); }
+
+// A button with all its icons.
+void setUp(SpVerStrButton &button)
 {
-    static const Artwork instance;
-    return instance;
+    setPixmaps(button, artwork());
+    button.setFocusPixmap(artwork().highlighted);
+    button.setDisplayString(text());
+    button.setStringHeight(kStringHeight);
+    button.setFontSize(kFontSize);
 }
 
-// Ours: a button with all its icons, in the state into which the function brings it.
-template <class Enter> PaintingMaker button(Enter enter)
-{
-    return widgetOf<SpVerStrButton>(kSize, [enter](SpVerStrButton &button) {
-        button.setNormalPixmap(artwork().normal);
-        button.setPressPixmap(artwork().pressed);
-        button.setFocusPixmap(artwork().focused);
-        button.setDisablePixmap(artwork().disabled);
-        button.setDisplayString(artwork().text);
-        button.setStringHeight(kStringHeight);
-        button.setFontSize(kFontSize);
-        enter(button);
-    });
-}
-
+// Nothing but its size is its own.
 QFont captionFont()
 {
     QFont font;
@@ -64,94 +47,59 @@ QFont captionFont()
 }
 
 // An icon and a layout that need no more work.
-PaintingMaker floorOf(const QPixmap &icon, const QPoint &pos, const QRect &text,
+PaintingMaker floorOf(const QPixmap &icon, const QPoint &pos, const QRect &rect,
                       const QColor &color)
 {
     const QFont font = captionFont();
-    const QPointF at =
-        QFontMetricsF(font).boundingRect(QRectF(text), kTextFlags, artwork().text).topLeft();
-    QStaticText layout(artwork().text);
-    layout.setTextFormat(Qt::PlainText);
-    layout.prepare(QTransform(), font);
+    const LaidOutText caption = laidOut(text(), font, rect, kTextFlags);
     return bareWidget(kSize, [=](QPainter &painter) {
         painter.drawPixmap(pos, icon);
         painter.setFont(font);
-        painter.setPen(color);
-        painter.drawStaticText(at, layout);
+        caption.draw(painter, color);
     });
 }
 
-// The icon as drawPixmap() stretches it.
-QPixmap stretched(const QPixmap &picture)
+// Beside Qt's own button with an icon above a text.
+template <class Enter>
+void addLook(Rows &rows, const char *state, Enter enter, const PaintingMaker &floor,
+             const QPixmap &icon, PeerState peer = PeerState::Normal)
 {
-    QPixmap result(kIcon);
-    result.fill(Qt::transparent);
-    QPainter painter(&result);
-    painter.drawPixmap(QRect(QPoint(), kIcon), picture);
-    return result;
-}
-
-enum PeerState { Normal, Pressed, Checked, Disabled };
-
-// Qt's own button with an icon above a text. It has no focused look with a picture of its own; the
-// checked one stands for it.
-PaintingMaker toolButton(const QPixmap &picture, PeerState state)
-{
-    return widgetOf<QToolButton>(kSize, [=](QToolButton &button) {
-        QIcon icon(picture);
-        icon.addPixmap(picture, QIcon::Disabled);
-        button.setIcon(icon);
-        button.setIconSize(kIcon);
-        button.setText(artwork().text);
-        button.setFont(captionFont());
-        button.setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-        button.setCheckable(state == Checked);
-        button.setChecked(state == Checked);
-        button.setDown(state == Pressed);
-        button.setEnabled(state != Disabled);
-    });
-}
-
-void addLook(Rows &rows, const char *name, const PaintingMaker &ours, const PaintingMaker &floor,
-             const QPixmap &icon, PeerState state)
-{
-    rows.paint("SpVerStrButton", name, ours, {floor, kFloorLimit},
-               {{"QToolButton icon", toolButton(icon, state), kPeerLimit}});
-}
-
-template <class Widget> StepMaker makeAndDelete()
-{
-    return [] {
-        return [] {
-            const Widget widget;
-            benchmark::DoNotOptimize(&widget);
-        };
-    };
+    const auto setFont = [](QToolButton &button) { button.setFont(captionFont()); };
+    rows.paint(
+        "SpVerStrButton", state, widgetOf<SpVerStrButton>(kSize, setUp, enter),
+        {floor, kFloorLimit},
+        {{"QToolButton icon", iconButton<QToolButton>(kSize, {icon, kIcon, peer, text()}, setFont),
+          kPeerLimit}});
 }
 
 } // namespace
 
 void defineRows(Rows &rows, Tag<SpVerStrButton>)
 {
-    const Artwork &art = artwork();
-    addLook(rows, "normal", button([](SpVerStrButton &) {}),
-            floorOf(art.normal, kIconPos, kText, Qt::black), art.normal, Normal);
-    addLook(rows, "pressed", button([](SpVerStrButton &b) { b.setIsDown(true); }),
-            floorOf(art.pressed, kIconPos, kText, Qt::red), art.pressed, Pressed);
-    addLook(rows, "stretched pressed", button([](SpVerStrButton &b) {
-                b.setPressPixmap(artwork().smallPressed);
-                b.setIsDown(true);
-            }),
-            floorOf(stretched(art.smallPressed), kIconPos, kText, Qt::red), art.smallPressed,
-            Pressed);
-    addLook(rows, "focused", button([](SpVerStrButton &b) { b.setFocus(true); }),
-            floorOf(art.focused, kIconPos, kText, Qt::white), art.focused, Checked);
-    addLook(rows, "disabled", button([](SpVerStrButton &b) { b.setDisable(true); }),
-            floorOf(art.disabled, {kIconPos.x(), 0}, kText, Qt::darkGray), art.disabled, Disabled);
+    const ButtonArtwork &art = artwork();
+    addLook(rows, "normal", AsItIs(), floorOf(art.normal, kIconPos, kText, Qt::black), art.normal);
     addLook(
-        rows, "overlap", button([](SpVerStrButton &b) { b.setWidgetGain(-40); }),
+        rows, "pressed", [](SpVerStrButton &b) { b.setIsDown(true); },
+        floorOf(art.pressed, kIconPos, kText, Qt::red), art.pressed, PeerState::Pressed);
+    addLook(
+        rows, "stretched pressed",
+        [](SpVerStrButton &b) {
+            b.setPressPixmap(artwork().smallPressed);
+            b.setIsDown(true);
+        },
+        floorOf(stretched(art.smallPressed, kIcon), kIconPos, kText, Qt::red), art.smallPressed,
+        PeerState::Pressed);
+    addLook(
+        rows, "focused", [](SpVerStrButton &b) { b.setFocus(true); },
+        floorOf(art.highlighted, kIconPos, kText, Qt::white), art.highlighted, PeerState::Checked);
+    addLook(
+        rows, "disabled", [](SpVerStrButton &b) { b.setDisable(true); },
+        floorOf(art.disabled, {kIconPos.x(), 0}, kText, Qt::darkGray), art.disabled,
+        PeerState::Disabled);
+    addLook(
+        rows, "overlap", [](SpVerStrButton &b) { b.setWidgetGain(-40); },
         floorOf(art.normal, {kIconPos.x(), 22}, {0, 56, kSize.width(), kStringHeight}, Qt::black),
-        art.normal, Normal);
+        art.normal);
     rows.work("SpVerStrButton", "made and deleted", makeAndDelete<SpVerStrButton>(),
               {makeAndDelete<QWidget>(), kStartUpLimit},
               {{"QPushButton", makeAndDelete<QPushButton>(), 1.0}});

@@ -61,16 +61,37 @@ private:
     std::shared_ptr<QImage> m_canvas;
 };
 
-/// Paintings of a widget that was made, prepared by the function, and given its size.
-template <class Widget, class Prepare> PaintingMaker widgetOf(const QSize &size, Prepare prepare)
+/// Makes the widget visible to itself: with style, layout and size.
+inline void showOffScreen(QWidget &widget, const QSize &size)
 {
-    return [size, prepare]() -> Painting {
+    widget.resize(size);
+    widget.setAttribute(Qt::WA_DontShowOnScreen);
+    widget.show();
+}
+
+/// A widget on the canvas that was made, prepared by each of the functions, and given its size.
+template <class Widget, class... Prepare>
+std::shared_ptr<OnCanvas<Widget>> shownOn(const std::shared_ptr<QImage> &canvas, const QSize &size,
+                                          Prepare... prepare)
+{
+    auto widget = std::make_shared<OnCanvas<Widget>>(canvas);
+    (prepare(*widget), ...);
+    showOffScreen(*widget, size);
+    return widget;
+}
+
+/// Prepares nothing.
+struct AsItIs {
+    template <class Widget> void operator()(Widget &) const { }
+};
+
+/// Paintings of such a widget.
+template <class Widget, class... Prepare>
+PaintingMaker widgetOf(const QSize &size, Prepare... prepare)
+{
+    return [size, prepare...]() -> Painting {
         const auto canvas = makeCanvas(size);
-        const auto widget = std::make_shared<OnCanvas<Widget>>(canvas);
-        prepare(*widget);
-        widget->resize(size);
-        widget->setAttribute(Qt::WA_DontShowOnScreen);
-        widget->show(); // visible to itself: with style, layout and size
+        const auto widget = shownOn<Widget>(canvas, size, prepare...);
         return {canvas, [widget] { widget->paint(); }};
     };
 }

@@ -4,10 +4,8 @@
 #include "pictures.h"
 
 #include <QColor>
-#include <QFontMetricsF>
 #include <QPainter>
 #include <QRect>
-#include <QTransform>
 
 namespace
 {
@@ -25,21 +23,7 @@ QRect linesRect(int row)
     return {QPoint(left, row * kRowHeight + 12), QPoint(right, (row + 1) * kRowHeight - 1 - 9)};
 }
 
-QPointF laidOut(QStaticText &layout, const QFont &font, const QRect &rect, int flags)
-{
-    layout.setTextFormat(Qt::PlainText);
-    layout.prepare(QTransform(), font);
-    return QFontMetricsF(font).boundingRect(QRectF(rect), flags, layout.text()).topLeft();
-}
-
 } // namespace
-
-QFont fontOf(int px)
-{
-    QFont font(QStringLiteral("DejaVu Sans"));
-    font.setPixelSize(px);
-    return font;
-}
 
 const QPixmap &headerIcon()
 {
@@ -83,13 +67,11 @@ QVariant ListRows::data(const QModelIndex &index, int role) const
 ListFloor::ListFloor(int count) : m_upperFont(fontOf(kCentreSize)), m_lowerFont(fontOf(kLowerSize))
 {
     for (int index = 0; index < count; ++index) {
-        Row row;
-        row.upper.setText(upperText(index));
-        row.lower.setText(lowerText(index));
         const QRect rect = linesRect(index);
-        row.upperAt = laidOut(row.upper, m_upperFont, rect, Qt::AlignLeft | Qt::AlignTop);
-        row.lowerAt = laidOut(row.lower, m_lowerFont, rect, Qt::AlignLeft | Qt::AlignBottom);
-        m_rows.push_back(row);
+        m_rows.push_back({
+            laidOut(upperText(index), m_upperFont, rect, Qt::AlignLeft | Qt::AlignTop),
+            laidOut(lowerText(index), m_lowerFont, rect, Qt::AlignLeft | Qt::AlignBottom),
+        });
     }
 }
 
@@ -101,12 +83,10 @@ void ListFloor::draw(QPainter &painter) const
         painter.fillRect(20, top + kRowHeight - 1, kRowWidth - 19, 1, QColor(100, 100, 100));
         painter.drawPixmap(kHeaderLeft, top + iconTop, headerIcon());
         painter.drawPixmap(kRowWidth - kIconSize - kTailRight, top + iconTop, tailIcon());
-        painter.setPen(Qt::white);
         painter.setFont(m_upperFont);
-        painter.drawStaticText(row.upperAt, row.upper);
-        painter.setPen(Qt::darkGray);
+        row.upper.draw(painter, Qt::white);
         painter.setFont(m_lowerFont);
-        painter.drawStaticText(row.lowerAt, row.lower);
+        row.lower.draw(painter, Qt::darkGray);
         top += kRowHeight;
     }
 }

@@ -2,10 +2,11 @@
 #ifndef PANELKIT_BENCHMARKS_LISTROWS_H
 #define PANELKIT_BENCHMARKS_LISTROWS_H
 
+#include "floors.h"
+
 #include <QAbstractListModel>
 #include <QFont>
 #include <QPixmap>
-#include <QStaticText>
 #include <QString>
 
 #include <vector>
@@ -19,7 +20,6 @@ constexpr int kRowHeight = 60; // px
 constexpr int kCentreSize = 20; // px
 constexpr int kLowerSize = 26; // px
 
-QFont fontOf(int px);
 const QPixmap &headerIcon();
 const QPixmap &tailIcon();
 QString upperText(int row);
@@ -48,10 +48,8 @@ public:
 
 private:
     struct Row {
-        QStaticText upper;
-        QPointF upperAt;
-        QStaticText lower;
-        QPointF lowerAt;
+        LaidOutText upper;
+        LaidOutText lower;
     };
 
     std::vector<Row> m_rows;

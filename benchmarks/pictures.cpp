@@ -6,7 +6,11 @@
 #include <QPainterPath>
 #include <QPointF>
 #include <QPolygonF>
+#include <QTemporaryDir>
 #include <QTransform>
+
+#include <map>
+#include <utility>
 
 namespace
 {
@@ -49,18 +53,73 @@ void drawStar(QPainter &painter, const QRectF &key)
     painter.drawPolygon(star);
 }
 
+QPixmap withBlack(QPixmap picture, QPainter::CompositionMode mode, int alpha)
+{
+    QPainter painter(&picture);
+    painter.setCompositionMode(mode);
+    painter.fillRect(picture.rect(), QColor(0, 0, 0, alpha));
+    painter.end();
+    return picture;
+}
+
 } // namespace
 
 QPixmap keyPicture(const QColor &color, const QSize &size)
 {
-    QPixmap picture(size);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    const QRectF key = QRectF(QPointF(), size).adjusted(kShadow, kShadow, -kShadow, -kShadow);
-    drawShadow(painter, key);
-    drawKey(painter, key, color);
-    drawStar(painter, key);
-    return picture;
+    return drawn(size, [&](QPainter &painter) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        const QRectF key = QRectF(QPointF(), size).adjusted(kShadow, kShadow, -kShadow, -kShadow);
+        drawShadow(painter, key);
+        drawKey(painter, key, color);
+        drawStar(painter, key);
+    });
+}
+
+QPixmap stretched(const QPixmap &picture, const QSize &size)
+{
+    if (picture.size() == size)
+        return picture;
+    return drawn(size,
+                 [&](QPainter &painter) { painter.drawPixmap(QRect(QPoint(), size), picture); });
+}
+
+QPixmap veiled(const QPixmap &picture, int alpha)
+{
+    return withBlack(picture, QPainter::CompositionMode_SourceAtop, alpha);
+}
+
+QPixmap faded(const QPixmap &picture, int alpha)
+{
+    return withBlack(picture, QPainter::CompositionMode_DestinationIn, alpha);
+}
+
+QString fileOf(const QPixmap &picture)
+{
+    static const QTemporaryDir folder;
+    QString path = folder.filePath(QString::number(picture.cacheKey()) + QStringLiteral(".png"));
+    picture.save(path);
+    return path;
+}
+
+ButtonArtwork::ButtonArtwork(const QSize &size)
+    : normal(keyPicture(QColor(40, 90, 160), size)),
+      pressed(keyPicture(QColor(230, 120, 20), size)),
+      highlighted(keyPicture(QColor(60, 170, 200), size)),
+      disabled(keyPicture(QColor(110, 110, 110), size)),
+      smallPressed(keyPicture(QColor(230, 120, 20), size * 3 / 4))
+{
+}
+
+SliderArtwork::SliderArtwork(const QSize &grooveSize, const QSize &knobSize)
+    : groove(keyPicture(QColor(60, 60, 70), grooveSize)),
+      fill(keyPicture(QColor(40, 90, 160), grooveSize)),
+      knob(keyPicture(QColor(230, 120, 20), knobSize))
+{
+}
+
+const ButtonArtwork &buttonArtwork(const QSize &size)
+{
+    static std::map<std::pair<int, int>, ButtonArtwork> made;
+    return made.try_emplace({size.width(), size.height()}, size).first->second;
 }

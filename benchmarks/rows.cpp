@@ -8,12 +8,6 @@
 namespace
 {
 
-// Whoever paints may only point into the canvas: it stays as long as the step.
-StepMaker stepOf(const PaintingMaker &make)
-{
-    return [make]() -> Step { return [painting = make()] { painting.step(); }; };
-}
-
 // What differs between two canvases of one size; empty if they are the same picture.
 std::string difference(const QImage &ours, const QImage &floor)
 {
@@ -57,6 +51,11 @@ std::string complaint(const PaintingMaker &makeOurs, const PaintingMaker &makeFl
 }
 
 } // namespace
+
+StepMaker stepOf(const PaintingMaker &make)
+{
+    return [make]() -> Step { return [painting = make()] { painting.step(); }; };
+}
 
 std::string Row::nameOf(const std::string &subject) const
 {

@@ -24,6 +24,10 @@ struct Painting {
 
 using PaintingMaker = std::function<Painting()>;
 
+/// The steps of the paintings. The canvas stays as long as the step: whoever paints may only point
+/// into it.
+StepMaker stepOf(const PaintingMaker &make);
+
 constexpr double kNoLimit = std::numeric_limits<double>::infinity();
 
 /// What ours is measured against. The limit is the largest acceptable ratio of our cost to this

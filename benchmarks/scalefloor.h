@@ -3,13 +3,12 @@
 #define PANELKIT_BENCHMARKS_SCALEFLOOR_H
 
 #include "canvas.h"
+#include "floors.h"
 
 #include <QApplication>
 #include <QColor>
-#include <QFontMetricsF>
 #include <QPixmap>
 #include <QRectF>
-#include <QStaticText>
 #include <QVector>
 #include <qwt_scale_div.h>
 #include <qwt_slider.h>
@@ -22,20 +21,13 @@ struct ScaleFloor {
     QColor color;
     QVector<QRect> faint;
     QVector<QRect> solid;
-    QVector<QPointF> places;
-    QVector<QStaticText> texts;
+    QVector<LaidOutText> texts;
     QPointF indicatorPlace;
     QPixmap indicator;
 
     void addLabel(const QRectF &box, const QString &text)
     {
-        const QFontMetricsF metrics(QApplication::font());
-        places += box.topLeft()
-            + metrics.boundingRect(QRectF(QPointF(), box.size()), Qt::AlignCenter, text).topLeft();
-        QStaticText layout(text);
-        layout.setTextFormat(Qt::PlainText);
-        layout.prepare(QTransform(), QApplication::font());
-        texts += layout;
+        texts += laidOut(text, QApplication::font(), box);
     }
 
     void operator()(QPainter &painter) const
@@ -50,12 +42,20 @@ struct ScaleFloor {
         painter.setBrush(color);
         painter.drawRects(solid);
         painter.setPen(color);
-        for (int i = 0; i < texts.size(); ++i)
-            painter.drawStaticText(places[i], texts[i]);
+        for (const LaidOutText &text : texts)
+            painter.drawStaticText(text.at, text.layout);
         if (!indicator.isNull())
             painter.drawPixmap(indicatorPlace, indicator);
     }
 };
+
+/// The mark of the current place on a scale.
+inline QPixmap indicatorPicture()
+{
+    QPixmap picture(3, 60);
+    picture.fill(QColor(255, 120, 0));
+    return picture;
+}
 
 /// A slider of Qwt's with as many ticks and labels.
 inline PaintingMaker qwtSlider(const QSize &size)
