@@ -13,10 +13,7 @@
 #include "widgettest.h"
 
 #include <QButtonGroup>
-#include <QMouseEvent>
 #include <QPainter>
-#include <QPointer>
-#include <QTimerEvent>
 
 #include <climits>
 #include <memory>

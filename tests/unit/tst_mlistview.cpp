@@ -7,7 +7,6 @@
 #include "touch.h"
 #include "widgettest.h"
 
-#include <QMouseEvent>
 #include <QPainter>
 
 #include <memory>

@@ -11,7 +11,6 @@
 #include "touch.h"
 #include "widgettest.h"
 
-#include <QMouseEvent>
 #include <QPainter>
 
 #include <climits>

@@ -16,9 +16,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPointer>
 
-#include <climits>
 #include <memory>
 
 namespace

@@ -8,7 +8,6 @@
 #include "widgettest.h"
 
 #include <QBitmap>
-#include <QMouseEvent>
 #include <QPainter>
 
 #include <climits>

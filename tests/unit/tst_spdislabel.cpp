@@ -18,7 +18,6 @@
 #include <QFontMetrics>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPointer>
 #include <QTranslator>
 
 #include <climits>

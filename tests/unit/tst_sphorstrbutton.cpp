@@ -16,11 +16,7 @@
 #include "virtualtime.h"
 #include "widgettest.h"
 
-#include <QBitmap>
-#include <QKeyEvent>
-#include <QMouseEvent>
 #include <QPainter>
-#include <QPointer>
 #include <QProxyStyle>
 #include <QStyleOption>
 #include <QTemporaryDir>

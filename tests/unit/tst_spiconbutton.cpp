@@ -14,7 +14,6 @@
 #include "virtualtime.h"
 #include "widgettest.h"
 
-#include <QBitmap>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>

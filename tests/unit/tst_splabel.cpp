@@ -10,7 +10,6 @@
 #include "widgettest.h"
 
 #include <QBitmap>
-#include <QMouseEvent>
 #include <QPainter>
 
 #include <climits>

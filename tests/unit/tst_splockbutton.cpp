@@ -11,7 +11,6 @@
 #include "widgettest.h"
 
 #include <QBitmap>
-#include <QMouseEvent>
 #include <QPainter>
 
 #include <climits>

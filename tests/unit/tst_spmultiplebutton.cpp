@@ -14,10 +14,8 @@
 
 #include <QBitmap>
 #include <QGraphicsOpacityEffect>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QPaintEvent>
-#include <QPointer>
 #include <QScreen>
 #include <QTemporaryDir>
 

@@ -12,7 +12,6 @@
 #include <QAbstractEventDispatcher>
 #include <QFontMetrics>
 #include <QGraphicsDropShadowEffect>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QPaintEvent>
 #include <QTimer>

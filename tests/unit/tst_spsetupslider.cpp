@@ -10,11 +10,9 @@
 #include "sliderpictures.h"
 #include "tablerows.h"
 #include "touch.h"
-#include "virtualtime.h"
 #include "widgettest.h"
 
 #include <QLabel>
-#include <QMouseEvent>
 #include <QPainter>
 #include <SpIconButton>
 

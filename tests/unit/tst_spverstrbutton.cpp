@@ -15,10 +15,7 @@
 #include "virtualtime.h"
 #include "widgettest.h"
 
-#include <QBitmap>
-#include <QMouseEvent>
 #include <QPainter>
-#include <QPointer>
 
 #include <climits>
 #include <memory>
