@@ -23,6 +23,7 @@
 #include <SpVerStrButton>
 
 #include <algorithm>
+#include <iterator>
 #include <memory>
 
 namespace
@@ -60,7 +61,9 @@ template <class Button> IsDown isDown()
     return [](const QWidget &button) { return static_cast<const Button &>(button).isDown(); };
 }
 
-// One line of the table: what a button says, in order; a request for a click sound counts as said
+constexpr int kSlides[] = {1, 10, 11, 20, 21, 49, 50, 51}; // px, sideways
+
+// One row of the table: what a button says, in order; a request for a click sound counts as said
 // when it is delivered, which is after the event that asked for it. "-" stands for a kind that the
 // class does not have.
 struct Behaviour {
@@ -68,14 +71,8 @@ struct Behaviour {
     Make make;
     const char *press; // and nothing more
     const char *tap;
-    const char *slid49; // sideways, released there
-    const char *slid50;
-    const char *slid51;
-    const char *moved1;
-    const char *moved10;
-    const char *moved11;
-    const char *moved20;
-    const char *moved21;
+    const char *slides; // for each of kSlides: 't' if it is a tap all the same, 's' if it is not
+    const char *slide; // one that is no tap
     const char *longHold;
     const char *disabledTap; // by its own flag
     const char *latchedTap;
@@ -153,14 +150,6 @@ private slots:
         const Cell cells[] = {
             {&Behaviour::press, Ready, [](Touch &finger) { finger.press(kFinger); }},
             {&Behaviour::tap, Ready, tap},
-            {&Behaviour::slid49, Ready, slideBy(49)},
-            {&Behaviour::slid50, Ready, slideBy(50)},
-            {&Behaviour::slid51, Ready, slideBy(51)},
-            {&Behaviour::moved1, Ready, slideBy(1)},
-            {&Behaviour::moved10, Ready, slideBy(10)},
-            {&Behaviour::moved11, Ready, slideBy(11)},
-            {&Behaviour::moved20, Ready, slideBy(20)},
-            {&Behaviour::moved21, Ready, slideBy(21)},
             {&Behaviour::longHold, Ready, holdLong},
             {&Behaviour::disabledTap, Disabled, tap},
             {&Behaviour::latchedTap, Latched, tap},
@@ -171,6 +160,11 @@ private slots:
             if (expected == QLatin1String("-"))
                 continue; // there is no such kind of this button
             QCOMPARE(said(*behaviour->make(cell.kind), cell.action), expected);
+        }
+        QCOMPARE(qstrlen(behaviour->slides), uint(std::size(kSlides)));
+        for (std::size_t i = 0; i < std::size(kSlides); ++i) {
+            const char *expected = behaviour->slides[i] == 't' ? behaviour->tap : behaviour->slide;
+            QCOMPARE(said(*behaviour->make(Ready), slideBy(kSlides[i])), QLatin1String(expected));
         }
     }
 
@@ -318,27 +312,39 @@ void tst_ButtonFamily::fillTable()
     });
 
     const char *const iconTap = "btnPressed btnClicked btnReleased beep";
-    const char *const iconSlid = "btnPressed btnReleased beep";
+    const char *const vertTap = "pressed clicked beep";
+    const char *const disTap = "pressed released beep";
     const char *const switchTap = "buttonClicked onoffStatusChanged beep";
     const char *const lockTap = "btnPressed btnReleased beep";
+    const char *const always = "tttttttt";
+    const char *const none = "-";
 
-    // clang-format off
     m_table = {
-        //                                press                 tap        by 49      50         51         1          10         11         20         21         long hold                                                       disabled         latched           without image
-        {"SpIconButton",        icon,       "btnPressed beep",    iconTap,   iconTap,   iconSlid,  iconSlid,  iconTap,   iconTap,   iconTap,   iconTap,   iconTap,   "btnPressed beep btnLongPress btnLongRelease btnReleased",      "",              iconTap,          iconTap},
-        {"SpHorStrButton",      horizontal, "beep",               "clicked beep", "clicked beep", "clicked beep", "clicked beep", "clicked beep", "clicked beep", "clicked beep", "clicked beep", "clicked beep", "beep clicked", "clicked",       "-",              "clicked beep"},
-        {"SpVerStrButton",      vertical,   "pressed beep",       "pressed clicked beep", "pressed clicked beep", "pressed clicked beep", "pressed clicked beep", "pressed clicked beep", "pressed clicked beep", "pressed clicked beep", "pressed clicked beep", "pressed clicked beep", "pressed beep clicked", "", "pressed clicked beep", "pressed clicked beep"},
-        {"SpDisLabel",          label,      "pressed beep",       "pressed released beep", "pressed released beep", "pressed released beep", "pressed released beep", "pressed released beep", "pressed released beep", "pressed released beep", "pressed released beep", "pressed released beep", "pressed beep released", "-", "pressed released beep", "pressed released beep"},
-        {"MOnOffButton",        onOff,      "buttonClicked beep", switchTap, switchTap, switchTap, switchTap, switchTap, switchTap, switchTap, switchTap, "buttonClicked beep", "buttonClicked beep onoffStatusChanged",             "buttonClicked", "-",              switchTap},
-        {"MFocusButton",        focus,      "",                   "btnClicked beep", "btnClicked beep", "btnClicked beep", "btnClicked beep", "btnClicked beep", "btnClicked beep", "btnClicked beep", "btnClicked beep", "btnClicked beep", "btnLongClicked", "-", "-",       "btnClicked beep"},
-        {"MPresetButton",       preset,     "beep",               "btnClicked beep", "beep", "beep", "beep", "beep", "beep", "beep", "beep", "beep", "beep btnLongClicked",                                                        "-",             "-",              "btnClicked beep"},
-        {"MSelectButton",       select,     "beep",               "btnClicked beep", "beep", "beep", "beep", "btnClicked beep", "btnClicked beep", "beep", "beep", "beep", "beep btnLongClicked",                                  "",              "-",              "btnClicked beep"},
-        {"SpMultipleButton",    multiple,   "beep",               "clicked beep", "clicked beep", "clicked beep", "clicked beep", "clicked beep", "clicked beep", "clicked beep", "clicked beep", "clicked beep", "beep clicked", "",              "-",              ""},
-        {"MultipleStateButton", states,     "",                   "clicked", "clicked", "clicked", "clicked", "clicked", "clicked", "clicked", "clicked", "clicked", "clicked",                                                       "",              "-",              ""},
-        {"PlayButton",          play,       "",                   "clicked", "clicked", "clicked", "clicked", "clicked", "clicked", "clicked", "clicked", "clicked", "clicked",                                                       "",              "-",              ""},
-        {"SpLockButton",        lock,       "btnPressed beep",    lockTap,   lockTap,   lockTap,   lockTap,   lockTap,   lockTap,   lockTap,   lockTap,   lockTap,   "btnPressed beep btnReleased",                                  "",              lockTap,          lockTap},
+        // name, press, tap, slides, slide, long hold, disabled, latched, without an image
+        {"SpIconButton", icon, "btnPressed beep", iconTap, "ttttttss",
+         "btnPressed btnReleased beep", "btnPressed beep btnLongPress btnLongRelease btnReleased",
+         "", iconTap, iconTap},
+        {"SpHorStrButton", horizontal, "beep", "clicked beep", always, none, "beep clicked",
+         "clicked", none, "clicked beep"},
+        {"SpVerStrButton", vertical, "pressed beep", vertTap, always, none, "pressed beep clicked",
+         "", vertTap, vertTap},
+        {"SpDisLabel", label, "pressed beep", disTap, always, none, "pressed beep released", none,
+         disTap, disTap},
+        {"MOnOffButton", onOff, "buttonClicked beep", switchTap, "ttttsttt", "buttonClicked beep",
+         "buttonClicked beep onoffStatusChanged", "buttonClicked", none, switchTap},
+        {"MFocusButton", focus, "", "btnClicked beep", always, none, "btnLongClicked", none, none,
+         "btnClicked beep"},
+        {"MPresetButton", preset, "beep", "btnClicked beep", "ssssssss", "beep",
+         "beep btnLongClicked", none, none, "btnClicked beep"},
+        {"MSelectButton", select, "beep", "btnClicked beep", "ttssssss", "beep",
+         "beep btnLongClicked", "", none, "btnClicked beep"},
+        {"SpMultipleButton", multiple, "beep", "clicked beep", always, none, "beep clicked", "",
+         none, ""},
+        {"MultipleStateButton", states, "", "clicked", always, none, "clicked", "", none, ""},
+        {"PlayButton", play, "", "clicked", always, none, "clicked", "", none, ""},
+        {"SpLockButton", lock, "btnPressed beep", lockTap, always, none,
+         "btnPressed beep btnReleased", "", lockTap, lockTap},
     };
-    // clang-format on
 }
 
 WIDGET_TEST_MAIN(tst_ButtonFamily)

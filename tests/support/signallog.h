@@ -35,4 +35,10 @@ private:
     std::function<void(const QString &)> m_reaction;
 };
 
+/// The line of a signal with a point.
+inline QString at(const char *signal, int x, int y)
+{
+    return QStringLiteral("%1(QPoint(%2,%3))").arg(QLatin1String(signal)).arg(x).arg(y);
+}
+
 #endif // SIGNALLOG_H

@@ -11,7 +11,6 @@
 #include <QWidget>
 
 #include <cstdio>
-#include <ctime>
 #include <memory>
 
 namespace
@@ -130,13 +129,6 @@ void WidgetTest::cleanup()
     qInstallMessageHandler(testLibHandler);
     const QStringList unexpected = unexpectedMessages();
     QVERIFY2(unexpected.isEmpty(), qPrintable(unexpected.join(QLatin1Char('\n'))));
-}
-
-int cpuTime(const std::function<void()> &action)
-{
-    const std::clock_t start = std::clock();
-    action();
-    return int((std::clock() - start) * 1000 / CLOCKS_PER_SEC);
 }
 
 QImage painted(QWidget &widget)

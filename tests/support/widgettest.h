@@ -17,6 +17,13 @@ class WidgetTest : public QObject
 {
     Q_OBJECT
 
+public:
+    /// Shows a widget on the offscreen screen and lets it settle.
+    static void show(QWidget &widget);
+
+    /// How many paint events an action makes the widget get, once the event loop has run.
+    static int paints(QWidget &widget, const std::function<void()> &action);
+
 protected:
     /// One line for each message logged since the last call, of any type: "debug: text".
     static QStringList takeMessages();
@@ -24,19 +31,10 @@ protected:
     /// Those of the lines not taken yet that fail a test; all of them are taken.
     static QStringList unexpectedMessages();
 
-    /// Shows a widget on the offscreen screen and lets it settle.
-    static void show(QWidget &widget);
-
-    /// How many paint events an action makes the widget get, once the event loop has run.
-    static int paints(QWidget &widget, const std::function<void()> &action);
-
 private slots:
     void init();
     void cleanup();
 };
-
-/// How many ms of the processor an action takes, by the one clock that is not virtual.
-int cpuTime(const std::function<void()> &action);
 
 /// What a widget paints by itself, its children included, on a transparent ground.
 QImage painted(QWidget &widget);

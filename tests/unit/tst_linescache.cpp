@@ -2,6 +2,7 @@
 #include "detail/linescache.h"
 
 #include "randomtexts.h"
+#include "textcanvas.h"
 #include "widgettest.h"
 
 #include <QPainter>
@@ -16,19 +17,7 @@ const QRect kCanvas(0, 0, 180, 160);
 
 QImage onCanvas(const std::function<void(QPainter &)> &paint)
 {
-    QImage image(kCanvas.size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(QColor(10, 60, 90));
-    QPainter painter(&image);
-    painter.setPen(Qt::white);
-    paint(painter);
-    return image;
-}
-
-QFont fontOf(int px)
-{
-    QFont font(QStringLiteral("DejaVu Sans"));
-    font.setPixelSize(px);
-    return font;
+    return onCanvas(kCanvas.size(), paint);
 }
 
 QVector<QFont> fonts()

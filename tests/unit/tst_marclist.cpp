@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <MArcList>
 
+#include "parent.h"
+#include "setters.h"
 #include "signallog.h"
+#include "tablerows.h"
 #include "touch.h"
 #include "virtualtime.h"
 #include "widgettest.h"
@@ -119,17 +122,6 @@ QString alphabet(int count = 26)
 }
 
 // A parent that counts the mouse events which come up to it.
-class Parent : public QWidget
-{
-public:
-    int mouseEvents = 0;
-
-protected:
-    void mousePressEvent(QMouseEvent *) override { ++mouseEvents; }
-    void mouseMoveEvent(QMouseEvent *) override { ++mouseEvents; }
-    void mouseReleaseEvent(QMouseEvent *) override { ++mouseEvents; }
-};
-
 class Handlers : public MArcList
 {
 public:
@@ -177,11 +169,7 @@ private slots:
 
     void everyPropertyKeepsWhatItIsGiven_data()
     {
-        QTest::addColumn<QByteArray>("name");
-        QTest::addColumn<QVariant>("value");
-        const auto row = [](const char *name, const QVariant &value) {
-            QTest::newRow(name) << QByteArray(name) << value;
-        };
+        const TableRows<QVariant> row("value");
         row("radius", -3.5);
         row("startAngle", 400.25);
         row("itemHight", -1.5);
@@ -191,15 +179,7 @@ private slots:
         row("pixXOffset", -0.5);
     }
 
-    void everyPropertyKeepsWhatItIsGiven()
-    {
-        QFETCH(QByteArray, name);
-        QFETCH(QVariant, value);
-        MArcList list;
-        QVERIFY(list.property(name) != value);
-        QVERIFY(list.setProperty(name, value));
-        QCOMPARE(list.property(name), value);
-    }
+    void everyPropertyKeepsWhatItIsGiven() { checkKeepsProperty(MArcList()); }
 
     void theTextOffsetIsKeptToo()
     {
@@ -210,11 +190,7 @@ private slots:
 
     void onlyTheMarkerAndTheContentRepaint_data()
     {
-        QTest::addColumn<Action>("action");
-        QTest::addColumn<int>("expected");
-        const auto row = [](const char *name, int expected, const Action &action) {
-            QTest::newRow(name) << action << expected;
-        };
+        const TableRows<int, Action> row("expected", "action");
         row("radius", 0, [](auto &l) { l.setRadius(300); });
         row("pointPixmap", 1, [](auto &l) { l.setPointPixmap(marker()); });
         row("pointPixmap null", 1, [](auto &l) { l.setPointPixmap({}); });
@@ -233,13 +209,7 @@ private slots:
         row("moveList", 1, [](auto &l) { l.moveList({0, 0}); });
     }
 
-    void onlyTheMarkerAndTheContentRepaint()
-    {
-        QFETCH(Action, action);
-        const auto list = makeList(kArc);
-        show(*list);
-        QTEST(paints(*list, [&] { action(*list); }), "expected");
-    }
+    void onlyTheMarkerAndTheContentRepaint() { checkRepaints(*makeList(kArc)); }
 
     // --- Content --------------------------------------------------------------------------------
 
@@ -351,10 +321,7 @@ private slots:
 
     void theArcIsTheDocumentedOne_data()
     {
-        QTest::addColumn<Action>("action");
-        const auto row = [](const char *name, const Action &action) {
-            QTest::newRow(name) << action;
-        };
+        const TableRows<Action> row("action");
         row("default", [](auto &) {});
         row("turned", [](auto &l) { l.setStartAngle(-37.3); });
         row("turned before its start", [](auto &l) { l.setStartAngle(13.9); });
@@ -555,10 +522,7 @@ private slots:
 
     void theColumnIsTheDocumentedOne_data()
     {
-        QTest::addColumn<Action>("action");
-        const auto row = [](const char *name, const Action &action) {
-            QTest::newRow(name) << action;
-        };
+        const TableRows<Action> row("action");
         row("default", [](auto &) {});
         row("scrolled", [](auto &l) { l.setStartAngle(5); });
         row("scrolled by a part of a row", [](auto &l) { l.setStartAngle(5.99); });
@@ -1344,7 +1308,7 @@ private slots:
         fill(*list);
         SignalLog log(list);
         touch(list).press(10, 10).moveTo(12, 12).release().hold(100);
-        QCOMPARE(parent.mouseEvents, 0);
+        QCOMPARE(parent.events, QStringList());
         QVERIFY(!log.take().contains(QStringLiteral("beep")));
     }
 

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <MArcScrollBar>
 
+#include "parent.h"
+#include "setters.h"
+#include "tablerows.h"
 #include "touch.h"
 #include "virtualtime.h"
 #include "widgettest.h"
@@ -183,21 +186,6 @@ private:
 const QString kAction = QStringLiteral("action(7)"); // QAbstractSlider::SliderMove
 
 // A parent that counts the mouse and key events which come up to it.
-class Parent : public QWidget
-{
-public:
-    int events = 0;
-
-protected:
-    bool event(QEvent *e) override
-    {
-        if (e->type() == QEvent::MouseButtonPress || e->type() == QEvent::MouseMove
-            || e->type() == QEvent::MouseButtonRelease || e->type() == QEvent::KeyPress)
-            ++events;
-        return QWidget::event(e);
-    }
-};
-
 // A plain widget with a picture.
 class PaintedBy : public QWidget
 {
@@ -269,11 +257,7 @@ private slots:
 
     void settersThatRepaintDoItOnceAndOthersDoNot_data()
     {
-        QTest::addColumn<Action>("action");
-        QTest::addColumn<int>("expected");
-        const auto row = [](const char *name, int expected, const Action &action) {
-            QTest::newRow(name) << action << expected;
-        };
+        const TableRows<int, Action> row("expected", "action");
         row("radius", 0, [](auto &b) { b.setRadius(300); });
         row("radius of a straight bar", 0, [](auto &b) { b.setRadius(0.5); });
         row("lineColor", 1, [](auto &b) { b.setLineColor(Qt::red); });
@@ -290,21 +274,11 @@ private slots:
         row("value", 1, [](auto &b) { b.setValue(30); });
     }
 
-    void settersThatRepaintDoItOnceAndOthersDoNot()
-    {
-        QFETCH(Action, action);
-        const auto bar = makeBar();
-        show(*bar);
-        QTEST(paints(*bar, [&] { action(*bar); }), "expected");
-    }
+    void settersThatRepaintDoItOnceAndOthersDoNot() { checkRepaints(*makeBar()); }
 
     void everyPropertyKeepsWhatItIsGiven_data()
     {
-        QTest::addColumn<QByteArray>("name");
-        QTest::addColumn<QVariant>("value");
-        const auto row = [](const char *name, const QVariant &value) {
-            QTest::newRow(name) << QByteArray(name) << value;
-        };
+        const TableRows<QVariant> row("value");
         row("radius", -3.5);
         row("lineColor", QColor(1, 2, 3, 4));
         row("pointColor", QColor(2, 2, 3, 4));
@@ -314,15 +288,7 @@ private slots:
         row("centerPoint", QPointF(1.5, -2.5));
     }
 
-    void everyPropertyKeepsWhatItIsGiven()
-    {
-        QFETCH(QByteArray, name);
-        QFETCH(QVariant, value);
-        MArcScrollBar bar;
-        QVERIFY(bar.property(name) != value);
-        QVERIFY(bar.setProperty(name, value));
-        QCOMPARE(bar.property(name), value);
-    }
+    void everyPropertyKeepsWhatItIsGiven() { checkKeepsProperty(MArcScrollBar()); }
 
     void whichAnglesAreTaken_data()
     {
@@ -363,10 +329,7 @@ private slots:
 
     void theArcIsTheDocumentedOne_data()
     {
-        QTest::addColumn<Action>("action");
-        const auto row = [](const char *name, const Action &action) {
-            QTest::newRow(name) << action;
-        };
+        const TableRows<Action> row("action");
         row("default", [](auto &) {});
         row("at its maximum", [](auto &b) { b.setValue(100); });
         row("between", [](auto &b) { b.setValue(37); });
@@ -617,10 +580,7 @@ private slots:
 
     void theStraightBarIsTheDocumentedOne_data()
     {
-        QTest::addColumn<Action>("action");
-        const auto row = [](const char *name, const Action &action) {
-            QTest::newRow(name) << action;
-        };
+        const TableRows<Action> row("action");
         row("default", [](auto &) {});
         row("picture", [](auto &b) { b.setPointPixmap(marker()); });
         row("picture of even height", [](auto &b) { b.setPointPixmap(marker({20, 30})); });
@@ -1029,7 +989,7 @@ private slots:
         Parent parent;
         const auto bar = makeBar(&parent);
         touch(bar.get()).press(110, 201).moveTo(110, 220).release().hold(100);
-        QCOMPARE(parent.events, 0);
+        QCOMPARE(parent.events, QStringList());
         bar->setParent(nullptr);
     }
 

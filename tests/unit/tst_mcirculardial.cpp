@@ -2,7 +2,9 @@
 #include <MCircularDial>
 
 #include "fusedcount.h"
+#include "setters.h"
 #include "signallog.h"
+#include "tablerows.h"
 #include "touch.h"
 #include "widgettest.h"
 
@@ -281,13 +283,7 @@ private slots:
 
     void settersRepaint_data()
     {
-        QTest::addColumn<QByteArray>("name");
-        QTest::addColumn<QVariant>("value");
-        QTest::addColumn<int>("repaintsOnChange");
-        QTest::addColumn<int>("repaintsOtherwise");
-        const auto row = [](const char *name, const QVariant &value, int change, int otherwise) {
-            QTest::newRow(name) << QByteArray(name) << value << change << otherwise;
-        };
+        const TableRows<QVariant, int, int> row("value", "repaintsOnChange", "repaintsOtherwise");
         row("radius", 90.0, 0, 0);
         row("minValue", 80.0, 1, 0);
         row("maxValue", 110.0, 1, 0);
@@ -304,15 +300,9 @@ private slots:
 
     void settersRepaint()
     {
-        QFETCH(QByteArray, name);
-        QFETCH(QVariant, value);
         const auto dial = makeDial();
-        show(*dial);
         SignalLog log(dial.get());
-        const auto set = [&] { dial->setProperty(name.constData(), value); };
-        QTEST(paints(*dial, set), "repaintsOnChange");
-        QCOMPARE(dial->property(name.constData()), value);
-        QTEST(paints(*dial, set), "repaintsOtherwise");
+        checkRepaintsOfProperty(*dial);
         QCOMPARE(log.take(), QStringList());
     }
 
@@ -510,10 +500,7 @@ private slots:
 
     void pictures_data()
     {
-        QTest::addColumn<Action>("prepare");
-        const auto row = [](const char *name, const Action &prepare) {
-            QTest::newRow(name) << prepare;
-        };
+        const TableRows<Action> row("prepare");
         row("as it comes", [](auto &) {});
         row("value", [](auto &d) { d.setValue(98.5); });
         row("highest", [](auto &d) { d.setValue(108); });

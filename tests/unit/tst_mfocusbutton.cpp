@@ -1,18 +1,19 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <MFocusButton>
 
+#include "buttonimages.h"
 #include "hostile.h"
+#include "longpress.h"
 #include "pictures.h"
+#include "setters.h"
 #include "signallog.h"
+#include "tablerows.h"
 #include "touch.h"
 #include "virtualtime.h"
 #include "widgettest.h"
 
 #include <QButtonGroup>
-#include <QMouseEvent>
 #include <QPainter>
-#include <QPointer>
-#include <QTimerEvent>
 
 #include <climits>
 #include <memory>
@@ -26,6 +27,7 @@ using Paint = std::function<void(QPainter &)>;
 const QString kClicked = QStringLiteral("btnClicked(\"MFocusButton_ID\")");
 const QString kLongClicked = QStringLiteral("btnLongClicked(\"MFocusButton_ID\")");
 const QString kBeep = QStringLiteral("beep");
+const LongPress kLongPress{2500, {}, {kClicked, kBeep}, kClicked, kLongClicked};
 
 const QColor kNormal = Qt::green;
 const QColor kPress = Qt::yellow;
@@ -37,20 +39,7 @@ const QString kText = QStringLiteral("Radio");
 
 const QRect kImageRect(30, 25, 40, 30); // of makeButton()
 
-// Handlers are called with what a subclass may hand them.
-class Button : public MFocusButton
-{
-public:
-    using MFocusButton::MFocusButton;
-
-    int ticks = 0;
-
-    void timerEvent(QTimerEvent *e) override
-    {
-        ++ticks;
-        MFocusButton::timerEvent(e);
-    }
-};
+using Button = TickingButton<MFocusButton>;
 
 // A button of 100 x 80 with a picture and a text colour for each look.
 std::unique_ptr<Button> makeButton(QWidget *parent = nullptr)
@@ -93,9 +82,7 @@ private slots:
         QWidget parent;
         const MFocusButton button(&parent);
         QCOMPARE(button.parentWidget(), &parent);
-        QVERIFY(button.normalImage().isNull());
-        QVERIFY(button.pressImage().isNull());
-        QVERIFY(button.disableImage().isNull());
+        checkHasNoPictures(button, {"normalImage", "pressImage", "disableImage"});
         QCOMPARE(button.displayText(), QString());
         QVERIFY(!button.normalTextColor().isValid());
         QVERIFY(!button.pressTextColor().isValid());
@@ -110,11 +97,7 @@ private slots:
 
     void settersThatRepaintDoItOnceAndOthersDoNot_data()
     {
-        QTest::addColumn<Action>("action");
-        QTest::addColumn<int>("expected");
-        const auto row = [](const char *name, int expected, const Action &action) {
-            QTest::newRow(name) << action << expected;
-        };
+        const TableRows<int, Action> row("expected", "action");
         row("normalImage", 1, [](auto &b) { b.setNormalImage(picture(Qt::red)); });
         row("normalImage null", 0, [](auto &b) { b.setNormalImage(QPixmap()); });
         row("pressImage", 0, [](auto &b) { b.setPressImage(picture(Qt::red)); });
@@ -130,21 +113,11 @@ private slots:
         row("longPressIntal", 0, [](auto &b) { b.setLongPressIntal(7); });
     }
 
-    void settersThatRepaintDoItOnceAndOthersDoNot()
-    {
-        QFETCH(Action, action);
-        const auto button = makeButton();
-        show(*button);
-        QTEST(paints(*button, [&] { action(*button); }), "expected");
-    }
+    void settersThatRepaintDoItOnceAndOthersDoNot() { checkRepaints<MFocusButton>(*makeButton()); }
 
     void everyPropertyKeepsWhatItIsGiven_data()
     {
-        QTest::addColumn<QByteArray>("name");
-        QTest::addColumn<QVariant>("value");
-        const auto row = [](const char *name, const QVariant &value) {
-            QTest::newRow(name) << QByteArray(name) << value;
-        };
+        const TableRows<QVariant> row("value");
         row("displayText", QStringLiteral("text"));
         row("normalTextColor", QColor(1, 2, 3, 4));
         row("pressTextColor", QColor(2, 2, 3, 4));
@@ -153,74 +126,29 @@ private slots:
         row("buttonID", QStringLiteral("left"));
     }
 
-    void everyPropertyKeepsWhatItIsGiven()
-    {
-        QFETCH(QByteArray, name);
-        QFETCH(QVariant, value);
-        MFocusButton button;
-        QVERIFY(button.property(name) != value);
-        QVERIFY(button.setProperty(name, value));
-        QCOMPARE(button.property(name), value);
-    }
+    void everyPropertyKeepsWhatItIsGiven() { checkKeepsProperty(MFocusButton()); }
 
     void everyPictureIsKept()
     {
         MFocusButton button;
-        for (const char *name : {"normalImage", "pressImage", "disableImage"}) {
-            const QPixmap image = picture(Qt::red);
-            QVERIFY(button.setProperty(name, image));
-            QCOMPARE(button.property(name).value<QPixmap>().cacheKey(), image.cacheKey());
-        }
+        checkKeepsPictures(button, {"normalImage", "pressImage", "disableImage"});
     }
 
     void onlyANormalImageSetsTheMinimumSize()
     {
-        MFocusButton button;
-        button.setPressImage(picture(kPress, {170, 144}));
-        button.setDisableImage(picture(kDisable, {171, 145}));
-        QCOMPARE(button.minimumSize(), QSize(0, 0));
-        button.setNormalImage(picture(kNormal, {70, 44}));
-        QCOMPARE(button.minimumSize(), QSize(70, 44));
-        button.setNormalImage(QPixmap());
-        QVERIFY(button.normalImage().isNull());
-        QCOMPARE(button.minimumSize(), QSize(70, 44));
+        checkOnlyTheNormalImageSetsTheMinimumSize<MFocusButton>({"pressImage", "disableImage"});
     }
 
-    void setFontSizeChangesOnlyThePixelSize()
-    {
-        MFocusButton button;
-        QFont expected = button.font();
-        expected.setPixelSize(29);
-        button.setFontSize(29);
-        QCOMPARE(button.font(), expected);
-        for (int px : {0, -1, INT_MIN}) {
-            button.setFontSize(px);
-            QCOMPARE(button.font(), expected);
-        }
-    }
+    void setFontSizeChangesOnlyThePixelSize() { checkSetFontSize(MFocusButton()); }
 
     // --- Looks ----------------------------------------------------------------------------------
 
     void looks_data()
     {
-        QTest::addColumn<Action>("state");
-        QTest::addColumn<Paint>("expected");
-        const auto row = [](const char *name, const Action &state, const Paint &expected) {
-            QTest::newRow(name) << state << expected;
-        };
-        row(
-            "normal", [](auto &) {}, look(kNormal, kNormalText));
-        row(
-            "down", [](auto &b) { b.setDown(true); }, look(kPress, kPressText));
-        row(
-            "checked", [](auto &b) { b.setChecked(true); }, look(kPress, kPressText));
-        row(
-            "down without press image",
-            [](auto &b) {
-                b.setDown(true);
-                b.setPressImage(QPixmap());
-            },
-            look(QColor(), kPressText));
+        const TableRows<Action, Paint> row("state", "expected");
+        addLooksOfCheckable<MFocusButton, Paint>(
+            row, look(kNormal, kNormalText), look(kPress, kPressText), look(QColor(), kPressText),
+            look(kDisable, kDisableText), look(kNormal, kDisableText));
         row(
             "checked without press image",
             [](auto &b) {
@@ -229,26 +157,9 @@ private slots:
             },
             look(QColor(), kPressText));
         row(
-            "disabled", [](auto &b) { b.setEnabled(false); }, look(kDisable, kDisableText));
-        row(
-            "disabled and checked",
-            [](auto &b) {
-                b.setChecked(true);
-                b.setEnabled(false);
-            },
-            look(kDisable, kDisableText));
-        row(
             "disabled without disable image",
             [](auto &b) {
                 b.setDisableImage(QPixmap());
-                b.setEnabled(false);
-            },
-            look(kNormal, kDisableText));
-        row(
-            "disabled and checked without disable image",
-            [](auto &b) {
-                b.setDisableImage(QPixmap());
-                b.setChecked(true);
                 b.setEnabled(false);
             },
             look(kNormal, kDisableText));
@@ -282,39 +193,11 @@ private slots:
         COMPARE_PICTURES(painted(*button), reference(*button, stretched));
     }
 
-    void theImageIsCentredTowardZero_data()
-    {
-        QTest::addColumn<QSize>("size");
-        QTest::addColumn<QPoint>("topLeft");
-        QTest::newRow("even") << QSize(100, 80) << QPoint(30, 25);
-        QTest::newRow("odd") << QSize(101, 81) << QPoint(30, 25);
-        QTest::newRow("smaller") << QSize(35, 25) << QPoint(-2, -2);
-    }
+    void theImageIsCentredTowardZero_data() { addPlacesTowardZero(); }
 
-    void theImageIsCentredTowardZero()
-    {
-        QFETCH(QSize, size);
-        QFETCH(QPoint, topLeft);
-        const auto button = makeButton();
-        button->setMinimumSize(0, 0);
-        button->resize(size);
-        COMPARE_PICTURES(painted(*button), reference(*button, [&](QPainter &p) {
-                             p.drawPixmap(topLeft, picture(kNormal));
-                         }));
-    }
+    void theImageIsCentredTowardZero() { checkImageStandsAtTopLeft<MFocusButton>(); }
 
-    void captionRectangle_data()
-    {
-        QTest::addColumn<QRect>("rect");
-        QTest::addColumn<QRect>("expected");
-        const QRect whole(0, 0, 100, 80);
-        QTest::newRow("none") << QRect() << whole;
-        QTest::newRow("valid") << QRect(20, 50, 70, 25) << QRect(20, 50, 70, 25);
-        QTest::newRow("one pixel") << QRect(50, 40, 1, 1) << QRect(50, 40, 1, 1);
-        QTest::newRow("beside") << QRect(-30, -20, 70, 60) << QRect(-30, -20, 70, 60);
-        QTest::newRow("no width") << QRect(20, 50, 0, 25) << whole;
-        QTest::newRow("no height") << QRect(20, 50, 70, 0) << whole;
-    }
+    void captionRectangle_data() { addCaptionRectangles({0, 0, 100, 80}); }
 
     void captionRectangle()
     {
@@ -358,18 +241,11 @@ private slots:
 
     void withoutANormalImageItIsAPlainRadioButton()
     {
-        for (bool checked : {false, true}) {
-            const auto button = makeButton();
+        checkIsPlainWithoutNormalImage<QRadioButton>([] {
+            auto button = makeButton();
             button->setDisplayText(QStringLiteral("not shown"));
-            button->setText(kText);
-            button->setChecked(checked);
-            button->setNormalImage(QPixmap());
-            QRadioButton plain;
-            plain.setText(kText);
-            plain.setChecked(checked);
-            plain.resize(button->size());
-            COMPARE_PICTURES(painted(*button), painted(plain));
-        }
+            return button;
+        });
     }
 
     // --- Touch ----------------------------------------------------------------------------------
@@ -526,41 +402,14 @@ private slots:
         QCOMPARE(log.take(), QStringList{kBeep});
     }
 
-    void aReleaseEndsTheTiming()
-    {
-        const auto button = makeButton();
-        SignalLog log(button.get());
-        Touch finger = touch(button.get());
-        finger.press(10, 10).hold(2400).release();
-        virtualtime::advance(10000);
-        QCOMPARE(log.take(), (QStringList{kClicked, kBeep}));
-        QCOMPARE(button->ticks, 0);
-    }
+    void aReleaseEndsTheTiming() { checkReleaseEndsTheTiming(*makeButton(), kLongPress); }
 
     void aPressAfterALostReleaseStartsAnew()
     {
-        const auto button = makeButton();
-        SignalLog log(button.get());
-        Touch finger = touch(button.get());
-        finger.press(10, 10).hold(2500).press(10, 10).hold(0);
-        log.take();
-        finger.release();
-        QCOMPARE(log.take(), QStringList{kClicked});
+        checkPressAfterALostReleaseStartsAnew(*makeButton(), kLongPress);
     }
 
-    void aSecondPressTimesAnew()
-    {
-        const auto button = makeButton();
-        SignalLog log(button.get());
-        Touch finger = touch(button.get());
-        finger.press(10, 10).hold(2000).press(10, 10).hold(2000);
-        QCOMPARE(log.take(), QStringList());
-        finger.hold(500);
-        QCOMPARE(log.take(), QStringList{kLongClicked});
-        finger.hold(20000);
-        QCOMPARE(log.take(), QStringList());
-        QCOMPARE(button->ticks, 1);
-    }
+    void aSecondPressTimesAnew() { checkSecondPressTimesAnew(*makeButton(), kLongPress); }
 
     void theIntervalIsThatOfThePress()
     {
@@ -639,25 +488,9 @@ private slots:
         button->setParent(nullptr);
     }
 
-    void aSlotMayDeleteTheButton_data()
-    {
-        QTest::addColumn<QString>("line");
-        QTest::newRow("at a click") << kClicked;
-        QTest::newRow("at a long press") << kLongClicked;
-    }
+    void aSlotMayDeleteTheButton_data() { addLinesOfDeletion(kLongPress); }
 
-    void aSlotMayDeleteTheButton()
-    {
-        QFETCH(QString, line);
-        QPointer<Button> button = makeButton().release();
-        SignalLog log(button);
-        log.onLine([&](const QString &said) {
-            if (said == line)
-                delete button;
-        });
-        touch(button).press(10, 10).hold(line == kClicked ? 0 : 2500).release();
-        QVERIFY(!button);
-    }
+    void aSlotMayDeleteTheButton() { checkSlotMayDelete(makeButton().release(), kLongPress); }
 };
 
 WIDGET_TEST_MAIN(tst_MFocusButton)

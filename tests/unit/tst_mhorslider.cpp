@@ -2,8 +2,12 @@
 #include <MHorSlider>
 
 #include "baseorder.h"
+#include "deletion.h"
 #include "pictures.h"
+#include "setters.h"
 #include "signallog.h"
+#include "sliderpictures.h"
+#include "tablerows.h"
 #include "touch.h"
 #include "widgettest.h"
 
@@ -17,13 +21,10 @@
 namespace
 {
 
-struct Pictures {
-    QPixmap groove = filled(Qt::gray, {200, 20});
-    QPixmap fill = filled(Qt::blue, {200, 20});
+struct Pictures : SliderPictures {
+    Pictures() : SliderPictures(Qt::Horizontal) { }
     QPixmap grooveDisabled = filled(Qt::lightGray, {200, 20});
     QPixmap fillDisabled = filled(Qt::darkBlue, {200, 20});
-    QPixmap knob = filled(Qt::green, {30, 40});
-    QPixmap knobPressed = filled(Qt::yellow, {30, 40});
     QPixmap knobDisabled = filled(Qt::white, {30, 40});
 };
 
@@ -33,20 +34,12 @@ const Pictures &pictures()
     return instance;
 }
 
-void givePictures(MHorSlider &slider, const Pictures &p = pictures())
-{
-    slider.setSliderNormalImage(p.groove);
-    slider.setSliderPressImage(p.fill);
-    slider.setPointNormalImage(p.knob);
-    slider.setPointPressImage(p.knobPressed);
-}
-
 // A slider of 260 x 40 with its groove from 0 to 199 in rows 10 to 29; the knob has 170 px to go.
 std::unique_ptr<MHorSlider> makeSlider(QWidget *parent = nullptr)
 {
     auto slider = std::make_unique<MHorSlider>(parent);
     slider->setTextWidth(60);
-    givePictures(*slider);
+    pictures().giveTo(*slider);
     return slider;
 }
 
@@ -196,7 +189,7 @@ private slots:
         p.groove = filled(Qt::gray, {200, groove});
         p.fill = filled(Qt::blue, {200, groove});
         p.knob = filled(Qt::green, {30, knob});
-        givePictures(slider, p);
+        p.giveTo(slider);
         QCOMPARE(slider.size(), QSize(200, height));
         QCOMPARE(knobOf(slider)->y(), (height - knob) / 2);
         COMPARE_PICTURES(paintedItself(slider), shown(slider, 0, 99, p.groove, p.fill));
@@ -210,7 +203,7 @@ private slots:
         slider.setFont(font);
         slider.setAlignment(Qt::AlignRight | Qt::AlignBottom);
         slider.setCurrentValue(-3);
-        givePictures(slider);
+        pictures().giveTo(slider);
         QCOMPARE(valueOf(slider)->styleSheet(),
                  QStringLiteral("QLabel:disabled{color:Gray;}                                   "
                                 "QLabel:enabled{color:rgb(255,255,255);}"));
@@ -241,7 +234,7 @@ private slots:
         QFETCH(int, width);
         MHorSlider slider;
         slider.setTextWidth(textWidth);
-        givePictures(slider);
+        pictures().giveTo(slider);
         QCOMPARE(slider.getTextWidth(), textWidth);
         QCOMPARE(slider.minimumSize(), QSize(width, 40));
         QCOMPARE(slider.maximumSize(), QSize(width, 40));
@@ -275,11 +268,7 @@ private slots:
 
     void settersThatRepaintDoItOnceAndOthersDoNot_data()
     {
-        QTest::addColumn<Action>("action");
-        QTest::addColumn<int>("expected");
-        const auto row = [](const char *name, int expected, const Action &action) {
-            QTest::newRow(name) << action << expected;
-        };
+        const TableRows<int, Action> row("expected", "action");
         const QPixmap &any = pictures().groove;
         row("font", 0, [](auto &s) { s.setFont(QFont()); });
         row("textWidth", 0, [](auto &s) { s.setTextWidth(9); });
@@ -301,33 +290,23 @@ private slots:
         row("setTouchPos refused", 0, [](auto &s) { s.setTouchPos(-6); });
     }
 
-    void settersThatRepaintDoItOnceAndOthersDoNot()
-    {
-        QFETCH(Action, action);
-        const auto slider = makeSlider();
-        show(*slider);
-        QTEST(paints(*slider, [&] { action(*slider); }), "expected");
-    }
+    void settersThatRepaintDoItOnceAndOthersDoNot() { checkRepaints(*makeSlider()); }
 
     void everyPropertyKeepsWhatItIsGiven()
     {
         MHorSlider slider;
-        const QVector<QPair<const char *, QVariant>> values{
-            {"textWidth", 70},   {"alignment", int(Qt::AlignRight)},
-            {"itemID", -7},      {"maxValue", 30},
-            {"minValue", 3},     {"currentValue", 12},
-            {"normalUse", false}};
-        for (const auto &value : values)
-            QVERIFY(slider.setProperty(value.first, value.second));
-        for (const auto &value : values)
-            QCOMPARE(slider.property(value.first).toInt(), value.second.toInt());
-        for (const char *name : {"sliderNormalImage", "sliderPressImage",
-                                 "sliderNormalDisableImage", "sliderPressDisableImage",
-                                 "pointNormalImage", "pointPressImage", "pointDisableImage"}) {
-            const QPixmap pixmap = filled(Qt::red, {3, 4});
-            QVERIFY(slider.setProperty(name, pixmap));
-            QCOMPARE(slider.property(name).value<QPixmap>().cacheKey(), pixmap.cacheKey());
-        }
+        checkKeepsProperties(slider,
+                             {{"textWidth", 70},
+                              {"alignment", int(Qt::AlignRight)},
+                              {"itemID", -7},
+                              {"maxValue", 30},
+                              {"minValue", 3},
+                              {"currentValue", 12},
+                              {"normalUse", false}});
+        checkKeepsPictures(slider,
+                           {"sliderNormalImage", "sliderPressImage", "sliderNormalDisableImage",
+                            "sliderPressDisableImage", "pointNormalImage", "pointPressImage",
+                            "pointDisableImage"});
     }
 
     void theValueIsCheckedAgainstTheMaximumOnly()
@@ -398,7 +377,7 @@ private slots:
         slider.setIsNormal(isNormal);
         slider.setMinValue(minimum);
         slider.setMaxValue(maximum);
-        givePictures(slider, p);
+        p.giveTo(slider);
         const QPoint unplaced = knobOf(slider)->pos();
         for (int value = -110; value <= 110; ++value) {
             if (value < minimum || value > maximum) {
@@ -463,7 +442,7 @@ private slots:
         slider.setTextWidth(60);
         slider.setAlignment(Qt::AlignCenter);
         slider.setCurrentValue(3);
-        givePictures(slider);
+        pictures().giveTo(slider);
         const int x = 170 * 8 / 10;
         COMPARE_PICTURES(painted(slider), reference(slider, [&](QPainter &painter) {
                              painter.drawPixmap(0, 10, pictures().groove);
@@ -496,7 +475,7 @@ private slots:
         slider.setItemID(9);
         slider.setMinValue(minimum);
         slider.setMaxValue(maximum);
-        givePictures(slider, p);
+        p.giveTo(slider);
         SignalLog log(&slider);
         int value = slider.currentValue();
         for (int x = -20; x < grooveWidth + 20; ++x) {
@@ -558,18 +537,13 @@ private slots:
 
     void theKnobIsPressedWhileTouched()
     {
-        const auto slider = makeSlider();
-        Touch finger = touch(slider.get());
-        finger.press(100, 5);
-        QCOMPARE(knobPicture(*slider), pictures().knobPressed.toImage());
-        finger.release();
-        QCOMPARE(knobPicture(*slider), pictures().knob.toImage());
+        const Pictures &p = pictures();
+        checkKnobWhileTouched(*makeSlider(), {100, 5}, knobPicture, p.knobPressed, p.knob);
+        Pictures withoutPressed;
+        withoutPressed.knobPressed = QPixmap();
         MHorSlider plain;
-        Pictures p;
-        p.knobPressed = QPixmap();
-        givePictures(plain, p);
-        touch(&plain).press(100, 5);
-        QCOMPARE(knobPicture(plain), pictures().knob.toImage());
+        withoutPressed.giveTo(plain);
+        checkKnobWhileTouched(plain, {100, 5}, knobPicture, p.knob, p.knob);
     }
 
     void pressAndReleasePaintOnceAndAMoveWithoutChangeNever()
@@ -635,7 +609,7 @@ private slots:
     void theHandlersOfADisabledSliderSetTheValueAndAskForASound()
     {
         Handlers slider;
-        givePictures(slider);
+        pictures().giveTo(slider);
         slider.setPointDisableImage(pictures().knobDisabled);
         slider.setEnabled(false);
         SignalLog log(&slider);
@@ -664,7 +638,7 @@ private slots:
                 slider.setMaxValue(maximum);
                 for (const int width : {minimum, maximum}) {
                     slider.setTextWidth(width);
-                    givePictures(slider);
+                    pictures().giveTo(slider);
                     QCOMPARE(slider.width(),
                              int(qBound(qint64(0), qint64(200) + width, qint64(QWIDGETSIZE_MAX))));
                     for (const int value : numbers) {
@@ -689,18 +663,9 @@ private slots:
 
     void aSliderMayBeDeletedByAnyReport()
     {
-        for (int number = 0; number < 3; ++number) {
-            auto *slider = makeSlider().release();
-            const QPointer<MHorSlider> guard(slider);
-            int count = 0;
-            SignalLog log(slider);
-            log.onLine([&](const QString &) {
-                if (count++ == number)
-                    delete slider;
-            });
-            touch(slider).press(5, 5).moveTo(250, 5).release();
-            QVERIFY(!guard);
-        }
+        checkMayBeDeletedByAnyReport(
+            [] { return makeSlider(); }, 3,
+            [](QWidget *s) { touch(s).press(5, 5).moveTo(250, 5).release(); });
     }
 };
 

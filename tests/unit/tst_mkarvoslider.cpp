@@ -6,11 +6,15 @@
 
 #include <MKARVOSlider>
 
+#include "deletion.h"
 #include "fusedcount.h"
 #include "logrecord.h"
 #include "parent.h"
 #include "radiobands.h"
+#include "radiosetters.h"
+#include "setters.h"
 #include "signallog.h"
+#include "tablerows.h"
 #include "touch.h"
 #include "widgettest.h"
 
@@ -38,17 +42,6 @@ QPixmap indicator(const QSize &size = QSize(9, 60))
 float displayed(const RadioBand &band, int freq)
 {
     return band.isFM ? float(freq) / 100.0F : float(freq);
-}
-
-void call(MKARVOSlider &slider, float freq)
-{
-    QMetaObject::invokeMethod(&slider, "curFreqChangedSlot", Q_ARG(float, freq));
-}
-
-void call(MKARVOSlider &slider, bool isFM, float min, float max, float step)
-{
-    QMetaObject::invokeMethod(&slider, "freqParamChangedSlot", Q_ARG(bool, isFM), Q_ARG(float, min),
-                              Q_ARG(float, max), Q_ARG(float, step));
 }
 
 std::unique_ptr<MKARVOSlider> makeSlider(const QSize &size = QSize(680, 160))
@@ -197,72 +190,29 @@ private slots:
 
     void repaintsOfSetters_data()
     {
-        QTest::addColumn<Action>("action");
-        QTest::addColumn<int>("expected");
-        const auto row = [](const char *name, int expected, const Action &action) {
-            QTest::newRow(name) << action << expected;
-        };
-        row("indicatePix", 0, [](auto &s) { s.setIndicatePix(indicator()); });
-        row("lineColor", 0, [](auto &s) { s.setLineColor(Qt::red); });
-        row("font", 0, [](auto &s) { s.setFont(QFont()); });
-        row("lineH", 0, [](auto &s) { s.setLineH(3); });
-        row("lineW", 0, [](auto &s) { s.setLineW(3); });
-        row("lineGap", 0, [](auto &s) { s.setLineGap(3); });
-        row("freqStart", 0, [](auto &s) { s.setFreqStart(3); });
-        row("freqEnd", 0, [](auto &s) { s.setFreqEnd(3); });
-        row("freqStep", 1, [](auto &s) { s.setFreqStep(3); });
-        row("isFM", 1, [](auto &s) { s.setIsFM(false); });
-        row("marginY", 1, [](auto &s) { s.setMarginY(0); });
+        const TableRows<int, Action> row("expected", "action");
+        addRadioSetters<MKARVOSlider>(row, indicator(), 1);
         row("marginX", 1, [](auto &s) { s.setMarginX(35); });
-        row("scaleMode", 0, [](auto &s) { s.setScaleAlign(MKARVOSlider::AlignTop); });
         row("textPosition", 0, [](auto &s) { s.setTextPosition(MKARVOSlider::TextBottom); });
-        row("textMarginY", 0, [](auto &s) { s.setTextMarginY(3); });
-        row("scaleMarginY", 0, [](auto &s) { s.setScaleMarginY(3); });
-        row("PointMarginY", 0, [](auto &s) { s.setPointMarginY(3); });
         row("RealMinFreq", 0, [](auto &s) { s.setRealMinFreq(3); });
         row("RealMaxFreq", 0, [](auto &s) { s.setRealMaxFreq(3); });
         row("RealFreqStep", 0, [](auto &s) { s.setRealFreqStep(3); });
         row("curFreq", 1, [](auto &s) { s.setCurFreq(1000.0F); });
         row("curFreq unchanged", 1, [](auto &s) { s.setCurFreq(800.0F); });
         row("curFreq outside", 0, [](auto &s) { s.setCurFreq(499.0F); });
-        row("a band", 1, [](auto &s) { call(s, true, 76.0F, 95.0F, 0.1F); });
         row("a tuned frequency", 1, [](auto &s) { call(s, 900.0F); });
-        row("a press", 0, [](auto &s) { touch(&s).press(9, 9); });
     }
 
-    void repaintsOfSetters()
-    {
-        QFETCH(Action, action);
-        const auto slider = makeSlider();
-        show(*slider);
-        QTEST(paints(*slider, [&] { action(*slider); }), "expected");
-    }
+    void repaintsOfSetters() { checkRepaints(*makeSlider()); }
 
     void everyPropertyKeepsWhatItIsGiven_data()
     {
-        QTest::addColumn<QByteArray>("name");
-        QTest::addColumn<QVariant>("value");
-        int value = 600;
-        for (const char *name :
-             {"lineH", "lineW", "freqStart", "freqEnd", "freqStep", "curFreq", "marginY", "marginX",
-              "textMarginY", "scaleMarginY", "PointMarginY"})
-            QTest::newRow(name) << QByteArray(name) << QVariant(++value);
-        QTest::newRow("isFM") << QByteArray("isFM") << QVariant(true);
-        QTest::newRow("scaleMode") << QByteArray("scaleMode") << QVariant(1);
-        QTest::newRow("textPosition") << QByteArray("textPosition") << QVariant(0);
-        QTest::newRow("lineColor") << QByteArray("lineColor") << QVariant(QColor(1, 2, 3));
-        QTest::newRow("font") << QByteArray("font") << QVariant(QFont());
+        const TableRows<QVariant> row("value");
+        addRadioProperties<MKARVOSlider>(row, 600, QFont());
+        row("marginX", 600);
     }
 
-    void everyPropertyKeepsWhatItIsGiven()
-    {
-        QFETCH(QByteArray, name);
-        QFETCH(QVariant, value);
-        MKARVOSlider slider(nullptr);
-        QVERIFY(slider.property(name) != value);
-        QVERIFY(slider.setProperty(name, value));
-        QCOMPARE(slider.property(name), value);
-    }
+    void everyPropertyKeepsWhatItIsGiven() { checkKeepsProperty(MKARVOSlider(nullptr)); }
 
     void asPropertiesFrequenciesAreWholeNumbers()
     {
@@ -937,18 +887,9 @@ private slots:
 
     void aSliderMayBeDeletedByAnyReport()
     {
-        for (int signal = 0; signal < 3; ++signal) {
-            auto *slider = makeAm().release();
-            const QPointer<MKARVOSlider> guard(slider);
-            int count = 0;
-            SignalLog log(slider);
-            log.onLine([&](const QString &) {
-                if (count++ == signal)
-                    delete slider;
-            });
-            touch(slider).press(285, 5).moveTo(285, 5).release();
-            QVERIFY(!guard);
-        }
+        checkMayBeDeletedByAnyReport(
+            [] { return makeAm(); }, 3,
+            [](QWidget *s) { touch(s).press(285, 5).moveTo(285, 5).release(); });
         auto *slider = makeAm().release();
         const QPointer<MKARVOSlider> guard(slider);
         connect(slider, &MKARVOSlider::mousePressed, slider, [slider](bool isPressed) {

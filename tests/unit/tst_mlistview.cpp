@@ -2,11 +2,11 @@
 #include <MListView>
 #include <SpIconButton>
 
+#include "parent.h"
 #include "signallog.h"
 #include "touch.h"
 #include "widgettest.h"
 
-#include <QMouseEvent>
 #include <QPainter>
 
 #include <memory>
@@ -68,17 +68,6 @@ SpTableList *someTableList()
     static int place;
     return reinterpret_cast<SpTableList *>(&place);
 }
-
-class Parent : public QWidget
-{
-public:
-    QStringList events;
-
-protected:
-    void mousePressEvent(QMouseEvent *) override { events += QStringLiteral("press"); }
-    void mouseMoveEvent(QMouseEvent *) override { events += QStringLiteral("move"); }
-    void mouseReleaseEvent(QMouseEvent *) override { events += QStringLiteral("release"); }
-};
 
 // The mouse event that a view is handling.
 class EventInHand : public QObject

@@ -3,7 +3,9 @@
 
 #include "baseorder.h"
 #include "parent.h"
+#include "setters.h"
 #include "signallog.h"
+#include "tablerows.h"
 #include "touch.h"
 #include "virtualtime.h"
 #include "widgettest.h"
@@ -327,11 +329,7 @@ private slots:
 
     void settersThatRepaintDoItOnceAndOthersDoNot_data()
     {
-        QTest::addColumn<Action>("action");
-        QTest::addColumn<int>("expected");
-        const auto row = [](const char *name, int expected, const Action &action) {
-            QTest::newRow(name) << action << expected;
-        };
+        const TableRows<int, Action> row("expected", "action");
         row("onColor", 1, [](auto &b) { b.setOnColor(Qt::red); });
         row("onColor unchanged", 1, [](auto &b) { b.setOnColor(b.onColor()); });
         row("offColor", 1, [](auto &b) { b.setOffColor(Qt::red); });
@@ -352,21 +350,11 @@ private slots:
         row("changeStatus", 0, [](auto &b) { b.changeStatus(true); });
     }
 
-    void settersThatRepaintDoItOnceAndOthersDoNot()
-    {
-        QFETCH(Action, action);
-        const auto button = makeSwitch();
-        show(*button);
-        QTEST(paints(*button, [&] { action(*button); }), "expected");
-    }
+    void settersThatRepaintDoItOnceAndOthersDoNot() { checkRepaints<MOnOffButton>(*makeSwitch()); }
 
     void everyPropertyKeepsWhatItIsGiven_data()
     {
-        QTest::addColumn<QByteArray>("name");
-        QTest::addColumn<QVariant>("value");
-        const auto row = [](const char *name, const QVariant &value) {
-            QTest::newRow(name) << QByteArray(name) << value;
-        };
+        const TableRows<QVariant> row("value");
         row("onColor", QColor(1, 2, 3, 4));
         row("offColor", QColor(2, 2, 3, 4));
         row("btnID", QStringLiteral("left"));
@@ -377,15 +365,7 @@ private slots:
         row("UIStyle", 77);
     }
 
-    void everyPropertyKeepsWhatItIsGiven()
-    {
-        QFETCH(QByteArray, name);
-        QFETCH(QVariant, value);
-        MOnOffButton button;
-        QVERIFY(button.property(name) != value);
-        QVERIFY(button.setProperty(name, value));
-        QCOMPARE(button.property(name), value);
-    }
+    void everyPropertyKeepsWhatItIsGiven() { checkKeepsProperty(MOnOffButton()); }
 
     void everyPictureIsKept()
     {
@@ -1316,22 +1296,11 @@ private slots:
 
     // --- Handlers -------------------------------------------------------------------------------
 
-    void mouseEventsGoOnToTheParent_data()
-    {
-        QTest::addColumn<bool>("disabled");
-        QTest::newRow("enabled") << false;
-        QTest::newRow("disabled in software") << true;
-    }
+    void mouseEventsGoOnToTheParent_data() { addDisabled(); }
 
     void mouseEventsGoOnToTheParent()
     {
-        QFETCH(bool, disabled);
-        Parent parent;
-        const auto button = makeSwitch(&parent);
-        button->setBtnDisable(disabled);
-        touch(button.get()).press(10, 10).moveTo(12, 12).release();
-        QCOMPARE(parent.events, (QStringList{"press", "move", "release"}));
-        button->setParent(nullptr);
+        checkMouseEventsGoOn(makeSwitch, &MOnOffButton::setBtnDisable);
     }
 
     void theBaseHandlerComesAfterTheSignals()

@@ -2,7 +2,9 @@
 #include <MOProgress>
 
 #include "baseorder.h"
+#include "setters.h"
 #include "signallog.h"
+#include "tablerows.h"
 #include "touch.h"
 #include "widgettest.h"
 
@@ -81,8 +83,6 @@ using Action = std::function<void(MOProgress &)>;
 
 } // namespace
 
-Q_DECLARE_METATYPE(Action)
-
 class tst_MOProgress : public WidgetTest
 {
     Q_OBJECT
@@ -107,13 +107,7 @@ private slots:
 
     void settersRepaintOnAChangeOnly_data()
     {
-        QTest::addColumn<QByteArray>("name");
-        QTest::addColumn<QVariant>("value");
-        QTest::addColumn<int>("repaintsOnChange");
-        QTest::addColumn<int>("repaintsOtherwise");
-        const auto row = [](const char *name, const QVariant &value, int change, int otherwise) {
-            QTest::newRow(name) << QByteArray(name) << value << change << otherwise;
-        };
+        const TableRows<QVariant, int, int> row("value", "repaintsOnChange", "repaintsOtherwise");
         row("itemID", 3, 0, 0);
         row("currentValue", 51, 1, 0);
         row("radius", 90, 1, 0);
@@ -128,17 +122,7 @@ private slots:
         row("displayTextColor", QColor(Qt::red), 1, 0);
     }
 
-    void settersRepaintOnAChangeOnly()
-    {
-        QFETCH(QByteArray, name);
-        QFETCH(QVariant, value);
-        const auto ring = makeRing();
-        show(*ring);
-        const auto set = [&] { ring->setProperty(name.constData(), value); };
-        QTEST(paints(*ring, set), "repaintsOnChange");
-        QCOMPARE(ring->property(name.constData()), value);
-        QTEST(paints(*ring, set), "repaintsOtherwise");
-    }
+    void settersRepaintOnAChangeOnly() { checkRepaintsOfProperty(*makeRing()); }
 
     void anyFontSizeIsStoredAndBelowOneItIsThatOfTheApplication_data()
     {

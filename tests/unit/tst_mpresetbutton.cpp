@@ -2,9 +2,14 @@
 #include <MPresetButton>
 
 #include "baseorder.h"
+#include "buttonimages.h"
+#include "hostile.h"
+#include "longpress.h"
 #include "parent.h"
 #include "pictures.h"
+#include "setters.h"
 #include "signallog.h"
+#include "tablerows.h"
 #include "touch.h"
 #include "virtualtime.h"
 #include "widgettest.h"
@@ -26,6 +31,7 @@ using Paint = std::function<void(QPainter &)>;
 const QString kClicked = QStringLiteral("btnClicked(\"MPresetButton_ID\")");
 const QString kLongClicked = QStringLiteral("btnLongClicked(\"MPresetButton_ID\")");
 const QString kBeep = QStringLiteral("beep");
+const LongPress kLongPress{1500, {kBeep}, {kBeep, kClicked}, kClicked, kLongClicked};
 
 const QColor kNormal = Qt::green;
 const QColor kPress = Qt::yellow;
@@ -48,22 +54,7 @@ const Colors kNormalColors{QColor(10, 20, 30), QColor(11, 90, 31)};
 const Colors kPressColors{QColor(40, 50, 160), QColor(41, 151, 61)};
 const Colors kDisableColors{QColor(100, 110, 120, 130), QColor(200, 111, 121, 131)};
 
-// Handlers are called with what a subclass may hand them.
-class Button : public MPresetButton
-{
-public:
-    using MPresetButton::mousePressEvent;
-    using MPresetButton::mouseReleaseEvent;
-    using MPresetButton::MPresetButton;
-
-    int ticks = 0;
-
-    void timerEvent(QTimerEvent *e) override
-    {
-        ++ticks;
-        MPresetButton::timerEvent(e);
-    }
-};
+using Button = TickingButton<MPresetButton>;
 
 // A key of 100 x 80 with everything that it can show.
 std::unique_ptr<Button> makeButton(QWidget *parent = nullptr)
@@ -128,10 +119,7 @@ private slots:
         QWidget parent;
         const MPresetButton button(&parent);
         QCOMPARE(button.parentWidget(), &parent);
-        QVERIFY(button.normalImage().isNull());
-        QVERIFY(button.pressImage().isNull());
-        QVERIFY(button.disableImage().isNull());
-        QVERIFY(button.presetIcon().isNull());
+        checkHasNoPictures(button, {"normalImage", "pressImage", "disableImage", "presetIcon"});
         QCOMPARE(button.presetIconPos(), QPoint(0, 0));
         QCOMPARE(button.displayText(), QString());
         QCOMPARE(button.displayText2(), QString());
@@ -150,11 +138,7 @@ private slots:
 
     void settersThatRepaintDoItOnceAndOthersDoNot_data()
     {
-        QTest::addColumn<Action>("action");
-        QTest::addColumn<int>("expected");
-        const auto row = [](const char *name, int expected, const Action &action) {
-            QTest::newRow(name) << action << expected;
-        };
+        const TableRows<int, Action> row("expected", "action");
         row("normalImage", 1, [](auto &b) { b.setNormalImage(picture(Qt::red)); });
         row("normalImage null", 0, [](auto &b) { b.setNormalImage(QPixmap()); });
         row("pressImage", 1, [](auto &b) { b.setPressImage(picture(Qt::red)); });
@@ -178,21 +162,11 @@ private slots:
         row("buttonID", 0, [](auto &b) { b.setButtonID(QStringLiteral("x")); });
     }
 
-    void settersThatRepaintDoItOnceAndOthersDoNot()
-    {
-        QFETCH(Action, action);
-        const auto button = makeButton();
-        show(*button);
-        QTEST(paints(*button, [&] { action(*button); }), "expected");
-    }
+    void settersThatRepaintDoItOnceAndOthersDoNot() { checkRepaints<MPresetButton>(*makeButton()); }
 
     void everyPropertyKeepsWhatItIsGiven_data()
     {
-        QTest::addColumn<QByteArray>("name");
-        QTest::addColumn<QVariant>("value");
-        const auto row = [](const char *name, const QVariant &value) {
-            QTest::newRow(name) << QByteArray(name) << value;
-        };
+        const TableRows<QVariant> row("value");
         row("presetIconPos", QPoint(-3, 4));
         row("displayText", QStringLiteral("text"));
         row("displayText2", QStringLiteral("text 2"));
@@ -208,83 +182,32 @@ private slots:
         row("buttonID", QStringLiteral("left"));
     }
 
-    void everyPropertyKeepsWhatItIsGiven()
-    {
-        QFETCH(QByteArray, name);
-        QFETCH(QVariant, value);
-        MPresetButton button;
-        QVERIFY(button.property(name) != value);
-        QVERIFY(button.setProperty(name, value));
-        QCOMPARE(button.property(name), value);
-    }
+    void everyPropertyKeepsWhatItIsGiven() { checkKeepsProperty(MPresetButton()); }
 
     void everyPictureIsKept()
     {
         MPresetButton button;
-        for (const char *name : {"normalImage", "pressImage", "disableImage", "presetIcon"}) {
-            const QPixmap image = picture(Qt::red);
-            QVERIFY(button.setProperty(name, image));
-            QCOMPARE(button.property(name).value<QPixmap>().cacheKey(), image.cacheKey());
-        }
+        checkKeepsPictures(button, {"normalImage", "pressImage", "disableImage", "presetIcon"});
     }
 
     void onlyANormalImageSetsTheMinimumSize()
     {
-        MPresetButton button;
-        button.setPressImage(picture(kPress, {170, 144}));
-        button.setDisableImage(picture(kDisable, {171, 145}));
-        button.setPresetIcon(picture(Qt::red, {172, 146}));
-        QCOMPARE(button.minimumSize(), QSize(0, 0));
-        button.setNormalImage(picture(kNormal, {70, 44}));
-        QCOMPARE(button.minimumSize(), QSize(70, 44));
-        button.setNormalImage(QPixmap());
-        QVERIFY(button.normalImage().isNull());
-        QCOMPARE(button.minimumSize(), QSize(70, 44));
+        checkOnlyTheNormalImageSetsTheMinimumSize<MPresetButton>(
+            {"pressImage", "disableImage", "presetIcon"});
     }
 
     // --- Looks ----------------------------------------------------------------------------------
 
     void looks_data()
     {
-        QTest::addColumn<Action>("state");
-        QTest::addColumn<Paint>("expected");
-        const auto row = [](const char *name, const Action &state, const Paint &expected) {
-            QTest::newRow(name) << state << expected;
-        };
-        row(
-            "normal", [](auto &) {}, look(kNormal, kNormalColors));
-        row(
-            "down", [](auto &b) { b.setDown(true); }, look(kPress, kPressColors));
-        row(
-            "checked", [](auto &b) { b.setChecked(true); }, look(kPress, kPressColors));
-        row(
-            "down without press image",
-            [](auto &b) {
-                b.setDown(true);
-                b.setPressImage(QPixmap());
-            },
-            look(QColor(), kPressColors));
+        const TableRows<Action, Paint> row("state", "expected");
+        addLooksOfCheckable<MPresetButton, Paint>(
+            row, look(kNormal, kNormalColors), look(kPress, kPressColors),
+            look(QColor(), kPressColors), look(kDisable, kDisableColors, false),
+            look(kNormal, kDisableColors, false));
         row(
             "without icon", [](auto &b) { b.setPresetIcon(QPixmap()); },
             look(kNormal, kNormalColors, false));
-        row(
-            "disabled", [](auto &b) { b.setEnabled(false); },
-            look(kDisable, kDisableColors, false));
-        row(
-            "disabled and checked",
-            [](auto &b) {
-                b.setChecked(true);
-                b.setEnabled(false);
-            },
-            look(kDisable, kDisableColors, false));
-        row(
-            "disabled without disable image",
-            [](auto &b) {
-                b.setDisableImage(QPixmap());
-                b.setChecked(true);
-                b.setEnabled(false);
-            },
-            look(kNormal, kDisableColors, false));
         // What a painter makes of a colour that was never set.
         row(
             "colours not set",
@@ -324,39 +247,11 @@ private slots:
                          reference(*button, [&](QPainter &p) { p.drawPixmap(kImageRect, large); }));
     }
 
-    void theImageIsCentredTowardZero_data()
-    {
-        QTest::addColumn<QSize>("size");
-        QTest::addColumn<QPoint>("topLeft");
-        QTest::newRow("even") << QSize(100, 80) << QPoint(30, 25);
-        QTest::newRow("odd") << QSize(101, 81) << QPoint(30, 25);
-        QTest::newRow("smaller") << QSize(35, 25) << QPoint(-2, -2);
-    }
+    void theImageIsCentredTowardZero_data() { addPlacesTowardZero(); }
 
-    void theImageIsCentredTowardZero()
-    {
-        QFETCH(QSize, size);
-        QFETCH(QPoint, topLeft);
-        MPresetButton button;
-        button.setNormalImage(picture(kNormal));
-        button.setMinimumSize(0, 0);
-        button.resize(size);
-        COMPARE_PICTURES(painted(button), reference(button, [&](QPainter &p) {
-                             p.drawPixmap(topLeft, picture(kNormal));
-                         }));
-    }
+    void theImageIsCentredTowardZero() { checkImageStandsAtTopLeft<MPresetButton>(); }
 
-    void textRectangles_data()
-    {
-        QTest::addColumn<QRect>("rect");
-        QTest::addColumn<QRect>("expected");
-        const QRect whole(0, 0, 100, 80);
-        QTest::newRow("none") << QRect() << whole;
-        QTest::newRow("valid") << QRect(20, 50, 70, 25) << QRect(20, 50, 70, 25);
-        QTest::newRow("one pixel") << QRect(50, 40, 1, 1) << QRect(50, 40, 1, 1);
-        QTest::newRow("no width") << QRect(20, 50, 0, 25) << whole;
-        QTest::newRow("no height") << QRect(20, 50, 70, 0) << whole;
-    }
+    void textRectangles_data() { addCaptionRectangles({0, 0, 100, 80}); }
 
     void textRectangles()
     {
@@ -478,17 +373,7 @@ private slots:
 
     void withoutANormalImageItIsAPlainCheckBox()
     {
-        for (bool checked : {false, true}) {
-            const auto button = makeButton();
-            button->setText(kText);
-            button->setChecked(checked);
-            button->setNormalImage(QPixmap());
-            QCheckBox plain;
-            plain.setText(kText);
-            plain.setChecked(checked);
-            plain.resize(button->size());
-            COMPARE_PICTURES(painted(*button), painted(plain));
-        }
+        checkIsPlainWithoutNormalImage<QCheckBox>([] { return makeButton(); });
     }
 
     // --- Touch ----------------------------------------------------------------------------------
@@ -586,50 +471,20 @@ private slots:
     {
         const auto button = makeButton();
         SignalLog log(button.get());
-        const auto send = [&](QEvent::Type type, int at) {
-            QMouseEvent event(type, QPointF(QPoint(at, at)), Qt::LeftButton, Qt::LeftButton,
-                              Qt::NoModifier);
-            QCoreApplication::sendEvent(button.get(), &event);
-        };
-        send(QEvent::MouseButtonPress, -2000000000);
-        send(QEvent::MouseMove, 2000000000);
+        Touch finger = touch(button.get());
+        finger.press(-2000000000, -2000000000).moveTo(2000000000, 2000000000);
         virtualtime::advance(5000);
         QCOMPARE(log.take(), QStringList{kBeep});
     }
 
-    void aReleaseEndsTheTiming()
-    {
-        const auto button = makeButton();
-        SignalLog log(button.get());
-        touch(button.get()).press(10, 10).hold(1400).release().hold(5000);
-        QCOMPARE(log.take(), (QStringList{kBeep, kClicked}));
-        QCOMPARE(button->ticks, 0);
-    }
+    void aReleaseEndsTheTiming() { checkReleaseEndsTheTiming(*makeButton(), kLongPress); }
 
     void aPressAfterALostReleaseStartsAnew()
     {
-        const auto button = makeButton();
-        SignalLog log(button.get());
-        Touch finger = touch(button.get());
-        finger.press(10, 10).hold(1500).press(10, 10).hold(0);
-        log.take();
-        finger.release();
-        QCOMPARE(log.take(), QStringList{kClicked});
+        checkPressAfterALostReleaseStartsAnew(*makeButton(), kLongPress);
     }
 
-    void aSecondPressTimesAnew()
-    {
-        const auto button = makeButton();
-        SignalLog log(button.get());
-        Touch finger = touch(button.get());
-        finger.press(10, 10).hold(1000).press(10, 10).hold(1000);
-        QCOMPARE(log.take(), (QStringList{kBeep, kBeep}));
-        finger.hold(500);
-        QCOMPARE(log.take(), QStringList{kLongClicked});
-        finger.hold(20000);
-        QCOMPARE(log.take(), QStringList());
-        QCOMPARE(button->ticks, 1);
-    }
+    void aSecondPressTimesAnew() { checkSecondPressTimesAnew(*makeButton(), kLongPress); }
 
     void theWholeWidgetTakesTouches()
     {
@@ -724,25 +579,9 @@ private slots:
         QVERIFY(button->isChecked());
     }
 
-    void aSlotMayDeleteTheButton_data()
-    {
-        QTest::addColumn<QString>("line");
-        QTest::newRow("at a click") << kClicked;
-        QTest::newRow("at a long press") << kLongClicked;
-    }
+    void aSlotMayDeleteTheButton_data() { addLinesOfDeletion(kLongPress); }
 
-    void aSlotMayDeleteTheButton()
-    {
-        QFETCH(QString, line);
-        QPointer<Button> button = makeButton().release();
-        SignalLog log(button);
-        log.onLine([&](const QString &said) {
-            if (said == line)
-                delete button;
-        });
-        touch(button).press(10, 10).hold(line == kClicked ? 0 : 1500).release();
-        QVERIFY(!button);
-    }
+    void aSlotMayDeleteTheButton() { checkSlotMayDelete(makeButton().release(), kLongPress); }
 
     void aSlotOfTheBaseClassMayDeleteTheButton()
     {

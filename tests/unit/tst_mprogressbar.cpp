@@ -2,8 +2,11 @@
 #include <MProgressBar>
 
 #include "baseorder.h"
+#include "deletion.h"
 #include "pictures.h"
+#include "setters.h"
 #include "signallog.h"
+#include "tablerows.h"
 #include "touch.h"
 #include "widgettest.h"
 
@@ -214,11 +217,7 @@ private slots:
 
     void settersThatRepaintDoItOnceAndOthersDoNot_data()
     {
-        QTest::addColumn<Action>("action");
-        QTest::addColumn<int>("expected");
-        const auto row = [](const char *name, int expected, const Action &action) {
-            QTest::newRow(name) << action << expected;
-        };
+        const TableRows<int, Action> row("expected", "action");
         row("sliderNormalImage", 1, [](auto &b) { b.setSliderNormalImage(QPixmap()); });
         row("sliderPressImage", 1, [](auto &b) { b.setSliderPressImage(QPixmap()); });
         row("sliderDisableImage", 1, [](auto &b) { b.setSliderDisableImage(QPixmap()); });
@@ -241,39 +240,27 @@ private slots:
         row("realValue", 1, [](auto &b) { b.setRealValue(3); });
     }
 
-    void settersThatRepaintDoItOnceAndOthersDoNot()
-    {
-        QFETCH(Action, action);
-        const auto bar = makeBar();
-        show(*bar);
-        QTEST(paints(*bar, [&] { action(*bar); }), "expected");
-    }
+    void settersThatRepaintDoItOnceAndOthersDoNot() { checkRepaints(*makeBar()); }
 
     void everyPropertyKeepsWhatItIsGiven()
     {
         MProgressBar bar;
-        const QVector<QPair<const char *, QVariant>> values{{"itemID", -7},
-                                                            {"maxValue", 30},
-                                                            {"minValue", 3},
-                                                            {"currentValue", 12},
-                                                            {"ponitRadius", -4},
-                                                            {"normalColor", QColor(1, 2, 3)},
-                                                            {"pointNormalColor", QColor(4, 5, 6)},
-                                                            {"pointPressColor", QColor(7, 8, 9)},
-                                                            {"pressColor", QColor(10, 11, 12)},
-                                                            {"showValue", true},
-                                                            {"boundary", true},
-                                                            {"boundaryColor", QColor(13, 14, 15)}};
-        for (const auto &value : values)
-            QVERIFY(bar.setProperty(value.first, value.second));
-        for (const auto &value : values)
-            QCOMPARE(bar.property(value.first), value.second);
-        for (const char *name : {"sliderNormalImage", "sliderPressImage", "sliderDisableImage",
-                                 "pointNormalImage", "pointPressImage", "pointDisableImage"}) {
-            const QPixmap pixmap = filled(Qt::red, {3, 4});
-            QVERIFY(bar.setProperty(name, pixmap));
-            QCOMPARE(bar.property(name).value<QPixmap>().cacheKey(), pixmap.cacheKey());
-        }
+        checkKeepsProperties(bar,
+                             {{"itemID", -7},
+                              {"maxValue", 30},
+                              {"minValue", 3},
+                              {"currentValue", 12},
+                              {"ponitRadius", -4},
+                              {"normalColor", QColor(1, 2, 3)},
+                              {"pointNormalColor", QColor(4, 5, 6)},
+                              {"pointPressColor", QColor(7, 8, 9)},
+                              {"pressColor", QColor(10, 11, 12)},
+                              {"showValue", true},
+                              {"boundary", true},
+                              {"boundaryColor", QColor(13, 14, 15)}});
+        checkKeepsPictures(bar,
+                           {"sliderNormalImage", "sliderPressImage", "sliderDisableImage",
+                            "pointNormalImage", "pointPressImage", "pointDisableImage"});
     }
 
     void valuesOutsideTheRangeAreIgnored()
@@ -628,18 +615,9 @@ private slots:
 
     void aBarMayBeDeletedByAnyReport()
     {
-        for (int number = 0; number < 4; ++number) {
-            auto *bar = makeBar().release();
-            const QPointer<MProgressBar> guard(bar);
-            int count = 0;
-            SignalLog log(bar);
-            log.onLine([&](const QString &) {
-                if (count++ == number)
-                    delete bar;
-            });
-            touch(bar).press(5, 5).moveTo(250, 5).release();
-            QVERIFY(!guard);
-        }
+        checkMayBeDeletedByAnyReport(
+            [] { return makeBar(); }, 4,
+            [](QWidget *s) { touch(s).press(5, 5).moveTo(250, 5).release(); });
     }
 };
 

@@ -5,11 +5,12 @@
 #include "paintwork.h"
 #include "parent.h"
 #include "radiobands.h"
+#include "setters.h"
 #include "signallog.h"
+#include "tablerows.h"
 #include "touch.h"
 #include "widgettest.h"
 
-#include <QMouseEvent>
 #include <QPainter>
 
 #include <climits>
@@ -78,17 +79,16 @@ void checkOwnCounts(ScaleBkg &scale)
 }
 
 // Those that only store, with a new value for each.
-void addPlainProperties()
+TableRows<QVariant> addPlainProperties()
 {
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<QVariant>("value");
-    int value = 100;
-    for (const char *name : {"freqStep", "freqStart", "suggestFreqStart", "suggestFreqEnd",
-                             "freqEnd", "lineStart", "lineEnd", "pixCountMeta", "bMid", "bLarge",
-                             "totalCountMeta", "txtYpos", "lineYpos", "pointYpos"})
-        QTest::newRow(name) << QByteArray(name) << QVariant(++value);
-    QTest::newRow("bandType") << QByteArray("bandType") << QVariant(1);
-    QTest::newRow("lineColor") << QByteArray("lineColor") << QVariant(QColor(1, 2, 3));
+    const TableRows<QVariant> row("value");
+    addNumbers(row, 100,
+               {"freqStep", "freqStart", "suggestFreqStart", "suggestFreqEnd", "freqEnd",
+                "lineStart", "lineEnd", "pixCountMeta", "bMid", "bLarge", "totalCountMeta",
+                "txtYpos", "lineYpos", "pointYpos"});
+    row("bandType", 1);
+    row("lineColor", QColor(1, 2, 3));
+    return row;
 }
 
 } // namespace
@@ -229,25 +229,17 @@ private slots:
 
     void everyPropertyKeepsWhatItIsGiven_data()
     {
-        addPlainProperties();
-        QTest::newRow("initByCustomeValue") << QByteArray("initByCustomeValue") << QVariant(true);
+        const TableRows<QVariant> row = addPlainProperties();
+        row("initByCustomeValue", true);
     }
 
-    void everyPropertyKeepsWhatItIsGiven()
-    {
-        QFETCH(QByteArray, name);
-        QFETCH(QVariant, value);
-        MRadioMovePoint tuner;
-        QVERIFY(tuner.property(name) != value);
-        QVERIFY(tuner.setProperty(name, value));
-        QCOMPARE(tuner.property(name), value);
-    }
+    void everyPropertyKeepsWhatItIsGiven() { checkKeepsProperty(MRadioMovePoint()); }
 
     void plainSettersNeitherRepaintNorMove_data() { addPlainProperties(); }
 
     void plainSettersNeitherRepaintNorMove()
     {
-        QFETCH(QByteArray, name);
+        const char *name = QTest::currentDataTag();
         QFETCH(QVariant, value);
         MRadioMovePoint tuner;
         setUp(tuner);

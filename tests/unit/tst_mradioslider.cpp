@@ -9,7 +9,10 @@
 #include "logrecord.h"
 #include "parent.h"
 #include "radiobands.h"
+#include "radiosetters.h"
+#include "setters.h"
 #include "signallog.h"
+#include "tablerows.h"
 #include "touch.h"
 #include "widgettest.h"
 
@@ -58,17 +61,6 @@ std::unique_ptr<MRadioSlider> makeSlider(const RadioBand &band = kRadioBands[0],
     slider->setFreqStep(displayed(band, band.step));
     slider->initSliderRange();
     return slider;
-}
-
-void call(MRadioSlider &slider, float freq)
-{
-    QMetaObject::invokeMethod(&slider, "curFreqChangedSlot", Q_ARG(float, freq));
-}
-
-void call(MRadioSlider &slider, bool isFM, float min, float max, float step)
-{
-    QMetaObject::invokeMethod(&slider, "freqParamChangedSlot", Q_ARG(bool, isFM), Q_ARG(float, min),
-                              Q_ARG(float, max), Q_ARG(float, step));
 }
 
 // Every tick, line after line and label after label, with the pens as they are set.
@@ -159,67 +151,24 @@ private slots:
 
     void onlyMarginYRepaints_data()
     {
-        QTest::addColumn<Action>("action");
-        QTest::addColumn<int>("expected");
-        const auto row = [](const char *name, int expected, const Action &action) {
-            QTest::newRow(name) << action << expected;
-        };
-        row("indicatePix", 0, [](auto &s) { s.setIndicatePix(indicator()); });
-        row("lineColor", 0, [](auto &s) { s.setLineColor(Qt::red); });
-        row("font", 0, [](auto &s) { s.setFont(QFont()); });
-        row("lineH", 0, [](auto &s) { s.setLineH(3); });
-        row("lineW", 0, [](auto &s) { s.setLineW(3); });
-        row("lineGap", 0, [](auto &s) { s.setLineGap(3); });
-        row("freqStart", 0, [](auto &s) { s.setFreqStart(3); });
-        row("freqEnd", 0, [](auto &s) { s.setFreqEnd(3); });
-        row("freqStep", 0, [](auto &s) { s.setFreqStep(3); });
-        row("isFM", 0, [](auto &s) { s.setIsFM(false); });
-        row("marginY", 1, [](auto &s) { s.setMarginY(0); });
-        row("scaleMode", 0, [](auto &s) { s.setScaleAlign(MRadioSlider::AlignTop); });
+        const TableRows<int, Action> row("expected", "action");
+        addRadioSetters<MRadioSlider>(row, indicator(), 0);
         row("textPosition", 0, [](auto &s) { s.setTextPosition(MRadioSlider::TextTop); });
-        row("textMarginY", 0, [](auto &s) { s.setTextMarginY(3); });
-        row("scaleMarginY", 0, [](auto &s) { s.setScaleMarginY(3); });
-        row("PointMarginY", 0, [](auto &s) { s.setPointMarginY(3); });
         row("curFreq", 1, [](auto &s) { s.setCurFreq(100.0F); });
         row("curFreq outside", 0, [](auto &s) { s.setCurFreq(108.1F); });
-        row("a band", 1, [](auto &s) { call(s, true, 76.0F, 95.0F, 0.1F); });
         row("a tuned frequency", 1, [](auto &s) { call(s, 9850.0F); });
-        row("a press", 0, [](auto &s) { touch(&s).press(9, 9); });
     }
 
-    void onlyMarginYRepaints()
-    {
-        QFETCH(Action, action);
-        const auto slider = makeSlider();
-        show(*slider);
-        QTEST(paints(*slider, [&] { action(*slider); }), "expected");
-    }
+    void onlyMarginYRepaints() { checkRepaints(*makeSlider()); }
 
     void everyPropertyKeepsWhatItIsGiven_data()
     {
-        QTest::addColumn<QByteArray>("name");
-        QTest::addColumn<QVariant>("value");
-        int value = 90;
-        for (const char *name :
-             {"lineH", "lineW", "lineGap", "freqStart", "freqEnd", "freqStep", "curFreq", "marginY",
-              "textMarginY", "scaleMarginY", "PointMarginY"})
-            QTest::newRow(name) << QByteArray(name) << QVariant(++value);
-        QTest::newRow("isFM") << QByteArray("isFM") << QVariant(false);
-        QTest::newRow("scaleMode") << QByteArray("scaleMode") << QVariant(2);
-        QTest::newRow("textPosition") << QByteArray("textPosition") << QVariant(1);
-        QTest::newRow("lineColor") << QByteArray("lineColor") << QVariant(QColor(1, 2, 3));
-        QTest::newRow("font") << QByteArray("font") << QVariant(labelFont());
+        const TableRows<QVariant> row("value");
+        addRadioProperties<MRadioSlider>(row, 90, labelFont());
+        row("lineGap", 90);
     }
 
-    void everyPropertyKeepsWhatItIsGiven()
-    {
-        QFETCH(QByteArray, name);
-        QFETCH(QVariant, value);
-        MRadioSlider slider(nullptr);
-        QVERIFY(slider.property(name) != value);
-        QVERIFY(slider.setProperty(name, value));
-        QCOMPARE(slider.property(name), value);
-    }
+    void everyPropertyKeepsWhatItIsGiven() { checkKeepsProperty(MRadioSlider(nullptr)); }
 
     void asPropertiesFrequenciesAreWholeNumbers()
     {
@@ -491,10 +440,7 @@ private slots:
 
     void nothingElseComputesTheRange_data()
     {
-        QTest::addColumn<Action>("action");
-        const auto row = [](const char *name, const Action &action) {
-            QTest::newRow(name) << action;
-        };
+        const TableRows<Action> row("action");
         row("indicatePix", [](auto &s) { s.setIndicatePix(indicator()); });
         row("lineColor", [](auto &s) { s.setLineColor(Qt::red); });
         row("font", [](auto &s) { s.setFont(QFont()); });

@@ -2,19 +2,21 @@
 #include <MSelectButton>
 
 #include "baseorder.h"
+#include "buttonimages.h"
 #include "hostile.h"
+#include "longpress.h"
 #include "parent.h"
 #include "pictures.h"
+#include "setters.h"
 #include "signallog.h"
+#include "tablerows.h"
 #include "touch.h"
 #include "virtualtime.h"
 #include "widgettest.h"
 
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPointer>
 
-#include <climits>
 #include <memory>
 
 namespace
@@ -26,6 +28,7 @@ using Paint = std::function<void(QPainter &)>;
 const QString kClicked = QStringLiteral("btnClicked(\"MSelectButton_ID\")");
 const QString kLongClicked = QStringLiteral("btnLongClicked(\"MSelectButton_ID\")");
 const QString kBeep = QStringLiteral("beep");
+const LongPress kLongPress{1500, {kBeep}, {kBeep, kClicked}, kClicked, kLongClicked};
 
 const QColor kNormal = Qt::green;
 const QColor kPress = Qt::yellow;
@@ -39,22 +42,7 @@ const QString kText = QStringLiteral("Radio");
 
 const QRect kImageRect(30, 25, 40, 30); // of makeButton()
 
-// Handlers are called with what a subclass may hand them.
-class Button : public MSelectButton
-{
-public:
-    using MSelectButton::mousePressEvent;
-    using MSelectButton::mouseReleaseEvent;
-    using MSelectButton::MSelectButton;
-
-    int ticks = 0;
-
-    void timerEvent(QTimerEvent *e) override
-    {
-        ++ticks;
-        MSelectButton::timerEvent(e);
-    }
-};
+using Button = TickingButton<MSelectButton>;
 
 // A button of 100 x 80 with a picture and a text colour for each look.
 std::unique_ptr<Button> makeButton(QWidget *parent = nullptr)
@@ -102,10 +90,7 @@ private slots:
         QWidget parent;
         const MSelectButton button(&parent);
         QCOMPARE(button.parentWidget(), &parent);
-        QVERIFY(button.normalImage().isNull());
-        QVERIFY(button.pressImage().isNull());
-        QVERIFY(button.selectImage().isNull());
-        QVERIFY(button.disableImage().isNull());
+        checkHasNoPictures(button, {"normalImage", "pressImage", "selectImage", "disableImage"});
         QCOMPARE(button.displayText(), QString());
         QCOMPARE(button.normalTextColor(), QColor(255, 255, 255, 255));
         QCOMPARE(button.pressTextColor(), QColor(255, 255, 255, 255));
@@ -130,23 +115,16 @@ private slots:
 
     void settersThatRepaintDoItOnceAndOthersDoNot_data()
     {
-        QTest::addColumn<Action>("action");
-        QTest::addColumn<int>("expected");
-        const auto row = [](const char *name, int expected, const Action &action) {
-            QTest::newRow(name) << action << expected;
-        };
-        row("normalImage", 1, [](auto &b) { b.setNormalImage(picture(Qt::red)); });
+        const TableRows<int, Action> row("expected", "action");
+        for (const char *name : {"normalImage", "pressImage", "selectImage", "disableImage"})
+            row(name, 1, [=](auto &b) { b.setProperty(name, picture(Qt::red)); });
+        for (const char *name :
+             {"normalTextColor", "pressTextColor", "selectTextColor", "disableTextColor"})
+            row(name, 1, [=](auto &b) { b.setProperty(name, QColor(Qt::red)); });
         row("normalImage null", 0, [](auto &b) { b.setNormalImage(QPixmap()); });
-        row("pressImage", 1, [](auto &b) { b.setPressImage(picture(Qt::red)); });
         row("pressImage null", 1, [](auto &b) { b.setPressImage(QPixmap()); });
-        row("selectImage", 1, [](auto &b) { b.setSelectImage(picture(Qt::red)); });
-        row("disableImage", 1, [](auto &b) { b.setDisableImage(picture(Qt::red)); });
         row("displayText", 1, [](auto &b) { b.setDisplayText(QStringLiteral("x")); });
         row("displayText unchanged", 1, [](auto &b) { b.setDisplayText(kText); });
-        row("normalTextColor", 1, [](auto &b) { b.setNormalTextColor(Qt::red); });
-        row("pressTextColor", 1, [](auto &b) { b.setPressTextColor(Qt::red); });
-        row("selectTextColor", 1, [](auto &b) { b.setSelectTextColor(Qt::red); });
-        row("disableTextColor", 1, [](auto &b) { b.setDisableTextColor(Qt::red); });
         row("displayTextRect", 1, [](auto &b) { b.setdisplayTextRect(QRect(1, 2, 3, 4)); });
         row("buttonID", 0, [](auto &b) { b.setButtonID(QStringLiteral("x")); });
         row("selectState", 1, [](auto &b) { b.setSelectState(true); });
@@ -155,21 +133,11 @@ private slots:
         row("disableState unchanged", 1, [](auto &b) { b.setDisableState(false); });
     }
 
-    void settersThatRepaintDoItOnceAndOthersDoNot()
-    {
-        QFETCH(Action, action);
-        const auto button = makeButton();
-        show(*button);
-        QTEST(paints(*button, [&] { action(*button); }), "expected");
-    }
+    void settersThatRepaintDoItOnceAndOthersDoNot() { checkRepaints<MSelectButton>(*makeButton()); }
 
     void everyPropertyKeepsWhatItIsGiven_data()
     {
-        QTest::addColumn<QByteArray>("name");
-        QTest::addColumn<QVariant>("value");
-        const auto row = [](const char *name, const QVariant &value) {
-            QTest::newRow(name) << QByteArray(name) << value;
-        };
+        const TableRows<QVariant> row("value");
         row("displayText", QStringLiteral("text"));
         row("normalTextColor", QColor(1, 2, 3, 4));
         row("pressTextColor", QColor(2, 2, 3, 4));
@@ -179,15 +147,7 @@ private slots:
         row("buttonID", QStringLiteral("left"));
     }
 
-    void everyPropertyKeepsWhatItIsGiven()
-    {
-        QFETCH(QByteArray, name);
-        QFETCH(QVariant, value);
-        MSelectButton button;
-        QVERIFY(button.property(name) != value);
-        QVERIFY(button.setProperty(name, value));
-        QCOMPARE(button.property(name), value);
-    }
+    void everyPropertyKeepsWhatItIsGiven() { checkKeepsProperty(MSelectButton()); }
 
     void theStatesAreKeptAndAreNoProperties()
     {
@@ -205,49 +165,22 @@ private slots:
     void everyPictureIsKept()
     {
         MSelectButton button;
-        for (const char *name : {"normalImage", "pressImage", "selectImage", "disableImage"}) {
-            const QPixmap image = picture(Qt::red);
-            QVERIFY(button.setProperty(name, image));
-            QCOMPARE(button.property(name).value<QPixmap>().cacheKey(), image.cacheKey());
-        }
+        checkKeepsPictures(button, {"normalImage", "pressImage", "selectImage", "disableImage"});
     }
 
     void onlyANormalImageSetsTheMinimumSize()
     {
-        MSelectButton button;
-        button.setPressImage(picture(kPress, {170, 144}));
-        button.setSelectImage(picture(kSelect, {172, 146}));
-        button.setDisableImage(picture(kDisable, {171, 145}));
-        QCOMPARE(button.minimumSize(), QSize(0, 0));
-        button.setNormalImage(picture(kNormal, {70, 44}));
-        QCOMPARE(button.minimumSize(), QSize(70, 44));
-        button.setNormalImage(QPixmap());
-        QVERIFY(button.normalImage().isNull());
-        QCOMPARE(button.minimumSize(), QSize(70, 44));
+        checkOnlyTheNormalImageSetsTheMinimumSize<MSelectButton>(
+            {"pressImage", "selectImage", "disableImage"});
     }
 
-    void setFontSizeChangesOnlyThePixelSize()
-    {
-        MSelectButton button;
-        QFont expected = button.font();
-        expected.setPixelSize(29);
-        button.setFontSize(29);
-        QCOMPARE(button.font(), expected);
-        for (int px : {0, -1, INT_MIN}) {
-            button.setFontSize(px);
-            QCOMPARE(button.font(), expected);
-        }
-    }
+    void setFontSizeChangesOnlyThePixelSize() { checkSetFontSize(MSelectButton()); }
 
     // --- Looks ----------------------------------------------------------------------------------
 
     void looks_data()
     {
-        QTest::addColumn<Action>("state");
-        QTest::addColumn<Paint>("expected");
-        const auto row = [](const char *name, const Action &state, const Paint &expected) {
-            QTest::newRow(name) << state << expected;
-        };
+        const TableRows<Action, Paint> row("state", "expected");
         row(
             "normal", [](auto &) {}, look(kNormal, kNormalText));
         row(
@@ -337,10 +270,7 @@ private slots:
 
     void picturesAreStretchedToTheSizeOfTheNormalOne_data()
     {
-        QTest::addColumn<Action>("state");
-        const auto row = [](const char *name, const Action &state) {
-            QTest::newRow(name) << state;
-        };
+        const TableRows<Action> row("state");
         row("press", [](auto &b) { press(b); });
         row("select", [](auto &b) { b.setSelectState(true); });
         row("disable", [](auto &b) { b.setDisableState(true); });
@@ -360,27 +290,9 @@ private slots:
                          reference(*button, [&](QPainter &p) { p.drawPixmap(kImageRect, large); }));
     }
 
-    void theImageIsCentredTowardZero_data()
-    {
-        QTest::addColumn<QSize>("size");
-        QTest::addColumn<QPoint>("topLeft");
-        QTest::newRow("even") << QSize(100, 80) << QPoint(30, 25);
-        QTest::newRow("odd") << QSize(101, 81) << QPoint(30, 25);
-        QTest::newRow("smaller") << QSize(35, 25) << QPoint(-2, -2);
-    }
+    void theImageIsCentredTowardZero_data() { addPlacesTowardZero(); }
 
-    void theImageIsCentredTowardZero()
-    {
-        QFETCH(QSize, size);
-        QFETCH(QPoint, topLeft);
-        MSelectButton button;
-        button.setNormalImage(picture(kNormal));
-        button.setMinimumSize(0, 0);
-        button.resize(size);
-        COMPARE_PICTURES(painted(button), reference(button, [&](QPainter &p) {
-                             p.drawPixmap(topLeft, picture(kNormal));
-                         }));
-    }
+    void theImageIsCentredTowardZero() { checkImageStandsAtTopLeft<MSelectButton>(); }
 
     void beforeAnyNormalImageTheOthersStandInTheirOwnSize()
     {
@@ -396,18 +308,7 @@ private slots:
                          }));
     }
 
-    void captionRectangle_data()
-    {
-        QTest::addColumn<QRect>("rect");
-        QTest::addColumn<QRect>("expected");
-        const QRect whole(0, 0, 100, 80);
-        QTest::newRow("none") << QRect() << whole;
-        QTest::newRow("valid") << QRect(20, 50, 70, 25) << QRect(20, 50, 70, 25);
-        QTest::newRow("one pixel") << QRect(50, 40, 1, 1) << QRect(50, 40, 1, 1);
-        QTest::newRow("beside") << QRect(-30, -20, 70, 60) << QRect(-30, -20, 70, 60);
-        QTest::newRow("no width") << QRect(20, 50, 0, 25) << whole;
-        QTest::newRow("no height") << QRect(20, 50, 70, 0) << whole;
-    }
+    void captionRectangle_data() { addCaptionRectangles({0, 0, 100, 80}); }
 
     void captionRectangle()
     {
@@ -559,14 +460,8 @@ private slots:
     {
         const auto button = makeButton();
         SignalLog log(button.get());
-        const auto send = [&](QEvent::Type type, int at) {
-            QMouseEvent event(type, QPointF(QPoint(at, at)), Qt::LeftButton, Qt::LeftButton,
-                              Qt::NoModifier);
-            QCoreApplication::sendEvent(button.get(), &event);
-        };
-        send(QEvent::MouseButtonPress, -2000000000);
-        send(QEvent::MouseMove, 2000000000);
-        send(QEvent::MouseButtonRelease, 2000000000);
+        Touch finger = touch(button.get());
+        finger.press(-2000000000, -2000000000).moveTo(2000000000, 2000000000).release();
         virtualtime::advance(5000);
         QCOMPARE(log.take(), QStringList{kBeep});
     }
@@ -590,39 +485,14 @@ private slots:
         QCOMPARE(log.take(), QStringList());
     }
 
-    void aReleaseEndsTheTiming()
-    {
-        const auto button = makeButton();
-        SignalLog log(button.get());
-        touch(button.get()).press(10, 10).hold(1400).release().hold(5000);
-        QCOMPARE(log.take(), (QStringList{kBeep, kClicked}));
-        QCOMPARE(button->ticks, 0);
-    }
+    void aReleaseEndsTheTiming() { checkReleaseEndsTheTiming(*makeButton(), kLongPress); }
 
     void aPressAfterALostReleaseStartsAnew()
     {
-        const auto button = makeButton();
-        SignalLog log(button.get());
-        Touch finger = touch(button.get());
-        finger.press(10, 10).hold(1500).press(10, 10).hold(0);
-        log.take();
-        finger.release();
-        QCOMPARE(log.take(), QStringList{kClicked});
+        checkPressAfterALostReleaseStartsAnew(*makeButton(), kLongPress);
     }
 
-    void aSecondPressTimesAnew()
-    {
-        const auto button = makeButton();
-        SignalLog log(button.get());
-        Touch finger = touch(button.get());
-        finger.press(10, 10).hold(1000).press(10, 10).hold(1000);
-        QCOMPARE(log.take(), (QStringList{kBeep, kBeep}));
-        finger.hold(500);
-        QCOMPARE(log.take(), QStringList{kLongClicked});
-        finger.hold(20000);
-        QCOMPARE(log.take(), QStringList());
-        QCOMPARE(button->ticks, 1);
-    }
+    void aSecondPressTimesAnew() { checkSecondPressTimesAnew(*makeButton(), kLongPress); }
 
     // --- Disabled -------------------------------------------------------------------------------
 
@@ -709,22 +579,11 @@ private slots:
 
     // --- Handlers -------------------------------------------------------------------------------
 
-    void mouseEventsGoOnToTheParent_data()
-    {
-        QTest::addColumn<bool>("disabled");
-        QTest::newRow("enabled") << false;
-        QTest::newRow("disabled in software") << true;
-    }
+    void mouseEventsGoOnToTheParent_data() { addDisabled(); }
 
     void mouseEventsGoOnToTheParent()
     {
-        QFETCH(bool, disabled);
-        Parent parent;
-        const auto button = makeButton(&parent);
-        button->setDisableState(disabled);
-        touch(button.get()).press(10, 10).moveTo(12, 12).moveTo(50, 12).release();
-        QCOMPARE(parent.events, (QStringList{"press", "move", "move", "release"}));
-        button->setParent(nullptr);
+        checkMouseEventsGoOn(makeButton, &MSelectButton::setDisableState);
     }
 
     void theBaseHandlerComesAfterTheSignal()
@@ -760,25 +619,9 @@ private slots:
         QCOMPARE(log.take(), QStringList{kBeep});
     }
 
-    void aSlotMayDeleteTheButton_data()
-    {
-        QTest::addColumn<QString>("line");
-        QTest::newRow("at a click") << kClicked;
-        QTest::newRow("at a long press") << kLongClicked;
-    }
+    void aSlotMayDeleteTheButton_data() { addLinesOfDeletion(kLongPress); }
 
-    void aSlotMayDeleteTheButton()
-    {
-        QFETCH(QString, line);
-        QPointer<Button> button = makeButton().release();
-        SignalLog log(button);
-        log.onLine([&](const QString &said) {
-            if (said == line)
-                delete button;
-        });
-        touch(button).press(10, 10).hold(line == kClicked ? 0 : 1500).release();
-        QVERIFY(!button);
-    }
+    void aSlotMayDeleteTheButton() { checkSlotMayDelete(makeButton().release(), kLongPress); }
 };
 
 WIDGET_TEST_MAIN(tst_MSelectButton)

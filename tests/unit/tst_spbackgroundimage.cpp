@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <SpBackgroundImage>
 
+#include "setters.h"
 #include "signallog.h"
+#include "tablerows.h"
 #include "touch.h"
 #include "widgettest.h"
 
 #include <QBitmap>
-#include <QMouseEvent>
 #include <QPainter>
 
 #include <climits>
@@ -82,11 +83,7 @@ private slots:
 
     void settersThatRepaintDoItOnceAndOthersDoNot_data()
     {
-        QTest::addColumn<Action>("action");
-        QTest::addColumn<int>("expected");
-        const auto row = [](const char *name, int expected, const Action &action) {
-            QTest::newRow(name) << action << expected;
-        };
+        const TableRows<int, Action> row("expected", "action");
         row("pixmap", 1, [](auto &b) { b.setPixmap(b.pixmap()); });
         row("pixmap null", 1, [](auto &b) { b.setPixmap({}); });
         row("holdMouseEvent", 0, [](auto &b) { b.setholdMouseEvent(true); });
@@ -98,11 +95,8 @@ private slots:
 
     void settersThatRepaintDoItOnceAndOthersDoNot()
     {
-        QFETCH(Action, action);
         QWidget window;
-        const auto backdrop = makeBackdrop({60, 40}, &window);
-        show(window);
-        QTEST(paints(*backdrop, [&] { action(*backdrop); }), "expected");
+        checkRepaints(*makeBackdrop({60, 40}, &window));
     }
 
     void propertiesKeepTheirValues()

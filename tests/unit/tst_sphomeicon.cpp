@@ -2,7 +2,9 @@
 #include <SpHomeIcon>
 
 #include "parent.h"
+#include "setters.h"
 #include "signallog.h"
+#include "tablerows.h"
 #include "touch.h"
 #include "virtualtime.h"
 #include "widgettest.h"
@@ -432,11 +434,7 @@ private slots:
 
     void settersThatRepaintDoItOnceAndOthersDoNot_data()
     {
-        QTest::addColumn<Action>("action");
-        QTest::addColumn<int>("expected");
-        const auto row = [](const char *name, int expected, const Action &action) {
-            QTest::newRow(name) << action << expected;
-        };
+        const TableRows<int, Action> row("expected", "action");
         row("normalImage", 1, [](auto &t) { t.setNormalImage(normalPicture()); });
         row("normalImage null", 0, [](auto &t) { t.setNormalImage({}); });
         row("pressImage", 0, [](auto &t) { t.setPressImage(pressPicture()); });
@@ -477,13 +475,7 @@ private slots:
         });
     }
 
-    void settersThatRepaintDoItOnceAndOthersDoNot()
-    {
-        QFETCH(Action, action);
-        const auto tile = makeTile();
-        show(*tile);
-        QTEST(paints(*tile, [&] { action(*tile); }), "expected");
-    }
+    void settersThatRepaintDoItOnceAndOthersDoNot() { checkRepaints(*makeTile()); }
 
     void withoutAPictureTheSettersOfTheSizeDoNotRepaint()
     {
@@ -525,11 +517,7 @@ private slots:
 
     void theTileFitsItsPictureMarginsAndCaption_data()
     {
-        QTest::addColumn<Action>("action");
-        QTest::addColumn<QSize>("expected");
-        const auto row = [](const char *name, const QSize &expected, const Action &action) {
-            QTest::newRow(name) << action << expected;
-        };
+        const TableRows<QSize, Action> row("expected", "action");
         row("as it is", {120, 122}, [](auto &) {});
         row("caption in the picture", {120, 80}, [](auto &t) { t.setTextInPic(true); });
         row("and below again", {120, 122}, [](auto &t) {
@@ -810,10 +798,7 @@ private slots:
 
     void theCaptionStandsInItsRectangle_data()
     {
-        QTest::addColumn<Action>("action");
-        const auto row = [](const char *name, const Action &action) {
-            QTest::newRow(name) << action;
-        };
+        const TableRows<Action> row("action");
         row("centred", [](auto &) {});
         row("to the left", [](auto &t) { t.setTextAlignment(Qt::AlignLeft | Qt::AlignTop); });
         row("to the right", [](auto &t) { t.setTextAlignment(Qt::AlignRight | Qt::AlignBottom); });

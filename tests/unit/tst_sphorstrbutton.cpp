@@ -2,20 +2,21 @@
 #include <SpHorStrButton>
 
 #include "baseorder.h"
+#include "buttonimages.h"
+#include "deletion.h"
 #include "hostile.h"
 #include "logrecord.h"
+#include "newwidget.h"
 #include "parent.h"
 #include "pictures.h"
+#include "setters.h"
 #include "signallog.h"
+#include "tablerows.h"
 #include "touch.h"
 #include "virtualtime.h"
 #include "widgettest.h"
 
-#include <QBitmap>
-#include <QKeyEvent>
-#include <QMouseEvent>
 #include <QPainter>
-#include <QPointer>
 #include <QProxyStyle>
 #include <QStyleOption>
 #include <QTemporaryDir>
@@ -138,21 +139,7 @@ private slots:
         QCOMPARE(takeMessages(), QStringList());
     }
 
-    void aNewButtonIsAPlainWidgetOtherwise()
-    {
-        QWidget parent;
-        const SpHorStrButton button(&parent);
-        const QWidget plainWidget(&parent);
-        QCOMPARE(button.parentWidget(), &parent);
-        QCOMPARE(button.windowFlags(), plainWidget.windowFlags());
-        QCOMPARE(button.sizePolicy(), plainWidget.sizePolicy());
-        QCOMPARE(button.font(), plainWidget.font());
-        QCOMPARE(button.minimumSize(), plainWidget.minimumSize());
-        for (int i = 0; i < Qt::WA_AttributeCount; ++i) {
-            const auto attribute = Qt::WidgetAttribute(i);
-            QCOMPARE(button.testAttribute(attribute), plainWidget.testAttribute(attribute));
-        }
-    }
+    void aNewButtonIsAPlainWidgetOtherwise() { checkIsAPlainWidget<SpHorStrButton>(); }
 
     void aNewButtonPaintsItsStringTenPixelsFromTheLeft()
     {
@@ -295,11 +282,7 @@ private slots:
 
     void settersThatRepaintDoItOnceAndOthersDoNot_data()
     {
-        QTest::addColumn<Action>("action");
-        QTest::addColumn<int>("expected");
-        const auto row = [](const char *name, int expected, const Action &action) {
-            QTest::newRow(name) << action << expected;
-        };
+        const TableRows<int, Action> row("expected", "action");
         row("stringPosition", 0, [](auto &b) { b.setStringPosition(SpHorStrButton::StrRight); });
         row("buttonId", 0, [](auto &b) { b.setButtonId(QStringLiteral("x")); });
         row("displayString", 1, [](auto &b) { b.setDisplayString(QStringLiteral("x")); });
@@ -323,10 +306,8 @@ private slots:
 
     void settersThatRepaintDoItOnceAndOthersDoNot()
     {
-        QFETCH(Action, action);
         const auto button = makeButton();
-        show(*button);
-        QTEST(paints(*button, [&] { action(*button); }), "expected");
+        checkRepaints(*button);
         QCOMPARE(button->size(), QSize(160, 81));
         QCOMPARE(button->minimumSize(), QSize(0, 0));
         QCOMPARE(button->maximumSize(), QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
@@ -341,11 +322,7 @@ private slots:
 
     void everyPropertyKeepsWhatItIsGiven_data()
     {
-        QTest::addColumn<QByteArray>("name");
-        QTest::addColumn<QVariant>("value");
-        const auto row = [](const char *name, const QVariant &value) {
-            QTest::newRow(name) << QByteArray(name) << value;
-        };
+        const TableRows<QVariant> row("value");
         row("stringPosition", 2);
         row("buttonId", QStringLiteral("left"));
         row("displayString", QStringLiteral("text"));
@@ -357,15 +334,7 @@ private slots:
         row("textWidth", 8);
     }
 
-    void everyPropertyKeepsWhatItIsGiven()
-    {
-        QFETCH(QByteArray, name);
-        QFETCH(QVariant, value);
-        SpHorStrButton button;
-        QVERIFY(button.property(name) != value);
-        QVERIFY(button.setProperty(name, value));
-        QCOMPARE(button.property(name), value);
-    }
+    void everyPropertyKeepsWhatItIsGiven() { checkKeepsProperty(SpHorStrButton()); }
 
     void picturesAreKept()
     {
@@ -399,18 +368,7 @@ private slots:
                          }));
     }
 
-    void setFontSizeChangesOnlyThePixelSize()
-    {
-        SpHorStrButton button;
-        QFont expected = button.font();
-        expected.setPixelSize(29);
-        button.setFontSize(29);
-        QCOMPARE(button.font(), expected);
-        for (int px : {0, -1, INT_MIN}) {
-            button.setFontSize(px);
-            QCOMPARE(button.font(), expected);
-        }
-    }
+    void setFontSizeChangesOnlyThePixelSize() { checkSetFontSize(SpHorStrButton()); }
 
     void theStringIsPaintedInTheWidgetsFont()
     {
@@ -656,32 +614,19 @@ private slots:
         COMPARE_PICTURES(painted(*button), expected);
     }
 
-    void picturesAreStretchedToTheSizeOfTheNormalOne_data()
-    {
-        QTest::addColumn<bool>("disabled");
-        QTest::addColumn<QSize>("size");
-        for (const QSize &size : {QSize(131, 77), QSize(7, 3)}) {
-            QTest::addRow("press %d", size.width()) << false << size;
-            QTest::addRow("disable %d", size.width()) << true << size;
-        }
-    }
+    void picturesAreStretchedToTheSizeOfTheNormalOne_data() { addStretchedPictures("disable"); }
 
     void picturesAreStretchedToTheSizeOfTheNormalOne()
     {
-        QFETCH(bool, disabled);
+        QFETCH(bool, pressed);
         QFETCH(QSize, size);
+        const QPixmap image = picture(Qt::red, size);
         const auto button = makeButton();
         button->setDisplayString({});
-        if (disabled)
-            button->setDisablePixmap(picture(Qt::red, size));
-        else
-            button->setPressPixmap(picture(Qt::red, size));
-        button->setBtnDisable(disabled);
-        button->setPressState(!disabled);
-        const QImage expected = reference(
-            *button, [&](QPainter &p) { p.drawPixmap(kIconRect, picture(Qt::red, size)); });
-        COMPARE_PICTURES(painted(*button), expected);
-        COMPARE_PICTURES(painted(*button), expected);
+        pressed ? button->setPressPixmap(image) : button->setDisablePixmap(image);
+        button->setBtnDisable(!pressed);
+        button->setPressState(pressed);
+        checkPaintsStretched(*button, image, kIconRect);
     }
 
     void withoutANormalIconTheOthersHaveNoRoom()
@@ -849,22 +794,11 @@ private slots:
         COMPARE_PICTURES(painted(*button), reference(*button, plain(kPress)));
     }
 
-    void mouseEventsGoOnToTheParent_data()
-    {
-        QTest::addColumn<bool>("disabled");
-        QTest::newRow("enabled") << false;
-        QTest::newRow("disabled") << true;
-    }
+    void mouseEventsGoOnToTheParent_data() { addDisabled(); }
 
     void mouseEventsGoOnToTheParent()
     {
-        QFETCH(bool, disabled);
-        Parent parent;
-        const auto button = makeButton(&parent);
-        button->setBtnDisable(disabled);
-        touch(button.get()).press(10, 10).moveTo(12, 12).release();
-        QCOMPARE(parent.events, (QStringList{"press", "move", "release"}));
-        button->setParent(nullptr);
+        checkMouseEventsGoOn(makeButton, &SpHorStrButton::setBtnDisable);
     }
 
     void theBaseHandlerComesAfterTheSignal()
@@ -900,44 +834,14 @@ private slots:
 
     // --- Hard to break --------------------------------------------------------------------------
 
-    void theButtonMayBeDeletedInItsSignal_data()
-    {
-        QTest::addColumn<bool>("inParent");
-        QTest::newRow("alone") << false;
-        QTest::newRow("with its parent") << true;
-    }
+    void theButtonMayBeDeletedInItsSignal_data() { addDeletionsAt({"clicked"}); }
 
     void theButtonMayBeDeletedInItsSignal()
     {
-        QFETCH(bool, inParent);
-        auto *parent = new QWidget;
-        QPointer<QWidget> parentGuard(parent);
-        SpHorStrButton *button = makeButton(parent).release();
-        QPointer<SpHorStrButton> guard(button);
-        connect(button, &SpHorStrButton::clicked, this,
-                [&] { delete (inParent ? parent : static_cast<QWidget *>(button)); });
-        touch(button).tap(10, 10).hold(10);
-        QVERIFY(!guard);
-        delete parentGuard;
+        checkMayBeDeleted(makeButton(new QWidget).release());
     }
 
-    void hostilePicturesAreShown_data()
-    {
-        QTest::addColumn<QPixmap>("image");
-        QBitmap bitmap(16, 16);
-        bitmap.fill(Qt::color1);
-        QPixmap dense(64, 64);
-        dense.setDevicePixelRatio(2);
-        dense.fill(Qt::red);
-        QTest::newRow("20,000 wide") << picture(kNormal, {20000, 4});
-        QTest::newRow("20,000 high") << picture(kNormal, {4, 20000});
-        QTest::newRow("one pixel") << picture(kNormal, {1, 1});
-        QTest::newRow("bitmap") << QPixmap(bitmap);
-        QPixmap opaque(30, 30);
-        opaque.fill(Qt::red);
-        QTest::newRow("opaque") << opaque;
-        QTest::newRow("high resolution") << dense;
-    }
+    void hostilePicturesAreShown_data() { addHostilePictures(); }
 
     void hostilePicturesAreShown()
     {

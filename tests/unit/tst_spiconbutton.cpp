@@ -3,14 +3,17 @@
 
 #include "baseorder.h"
 #include "detail/imagelook.h"
+#include "hostile.h"
+#include "newwidget.h"
 #include "parent.h"
 #include "pictures.h"
+#include "setters.h"
 #include "signallog.h"
+#include "tablerows.h"
 #include "touch.h"
 #include "virtualtime.h"
 #include "widgettest.h"
 
-#include <QBitmap>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -131,21 +134,7 @@ private slots:
         QVERIFY(button.findChildren<QObject *>().isEmpty());
     }
 
-    void aNewButtonIsAPlainWidgetOtherwise()
-    {
-        QWidget parent;
-        const SpIconButton button(&parent);
-        const QWidget plainWidget(&parent);
-        QCOMPARE(button.parentWidget(), &parent);
-        QCOMPARE(button.windowFlags(), plainWidget.windowFlags());
-        QCOMPARE(button.sizePolicy(), plainWidget.sizePolicy());
-        QCOMPARE(button.font(), plainWidget.font());
-        QCOMPARE(button.minimumSize(), plainWidget.minimumSize());
-        for (int i = 0; i < Qt::WA_AttributeCount; ++i) {
-            const auto attribute = Qt::WidgetAttribute(i);
-            QCOMPARE(button.testAttribute(attribute), plainWidget.testAttribute(attribute));
-        }
-    }
+    void aNewButtonIsAPlainWidgetOtherwise() { checkIsAPlainWidget<SpIconButton>(); }
 
     void aNewButtonPaintsNothing()
     {
@@ -165,26 +154,13 @@ private slots:
                          }));
     }
 
-    void instancesComeAndGo()
-    {
-        SpIconButton *button = SpIconButton::GetInstance();
-        QPointer<SpIconButton> guard(button);
-        QVERIFY(guard);
-        QVERIFY(!button->parent());
-        SpIconButton::ReleaseInstance(button);
-        QVERIFY(!guard);
-        SpIconButton::ReleaseInstance(nullptr);
-    }
+    void instancesComeAndGo() { checkInstancesComeAndGo<SpIconButton>(); }
 
     // --- Setters --------------------------------------------------------------------------------
 
     void settersThatRepaintDoItOnceAndOthersDoNot_data()
     {
-        QTest::addColumn<Action>("action");
-        QTest::addColumn<int>("expected");
-        const auto row = [](const char *name, int expected, const Action &action) {
-            QTest::newRow(name) << action << expected;
-        };
+        const TableRows<int, Action> row("expected", "action");
         row("normalImage", 1, [](auto &b) { b.setNormalImage(picture(Qt::red)); });
         row("normalImage null", 0, [](auto &b) { b.setNormalImage(QPixmap()); });
         row("pressImage", 0, [](auto &b) { b.setPressImage(picture(Qt::red)); });
@@ -219,21 +195,11 @@ private slots:
         row("isLock", 0, [](auto &b) { b.setIsLock(true); });
     }
 
-    void settersThatRepaintDoItOnceAndOthersDoNot()
-    {
-        QFETCH(Action, action);
-        const auto button = makeButton();
-        show(*button);
-        QTEST(paints(*button, [&] { action(*button); }), "expected");
-    }
+    void settersThatRepaintDoItOnceAndOthersDoNot() { checkRepaints(*makeButton()); }
 
     void everyPropertyKeepsWhatItIsGiven_data()
     {
-        QTest::addColumn<QByteArray>("name");
-        QTest::addColumn<QVariant>("value");
-        const auto row = [](const char *name, const QVariant &value) {
-            QTest::newRow(name) << QByteArray(name) << value;
-        };
+        const TableRows<QVariant> row("value");
         row("imageAlpha", -7);
         row("disableAlpha", 300);
         row("disableState", true);
@@ -257,15 +223,7 @@ private slots:
         row("disableMode", 1);
     }
 
-    void everyPropertyKeepsWhatItIsGiven()
-    {
-        QFETCH(QByteArray, name);
-        QFETCH(QVariant, value);
-        SpIconButton button;
-        QVERIFY(button.property(name) != value);
-        QVERIFY(button.setProperty(name, value));
-        QCOMPARE(button.property(name), value);
-    }
+    void everyPropertyKeepsWhatItIsGiven() { checkKeepsProperty(SpIconButton()); }
 
     void aNormalImageSetsTheMinimumSize()
     {
@@ -336,28 +294,13 @@ private slots:
         QTEST(SpIconButton().getAlphaOpacity(alpha), "opacity");
     }
 
-    void setFontSizeChangesOnlyThePixelSize()
-    {
-        SpIconButton button;
-        QFont expected = button.font();
-        expected.setPixelSize(29);
-        button.setFontSize(29);
-        QCOMPARE(button.font(), expected);
-        for (int px : {0, -1, INT_MIN}) {
-            button.setFontSize(px);
-            QCOMPARE(button.font(), expected);
-        }
-    }
+    void setFontSizeChangesOnlyThePixelSize() { checkSetFontSize(SpIconButton()); }
 
     // --- Pictures -------------------------------------------------------------------------------
 
     void looks_data()
     {
-        QTest::addColumn<Action>("state");
-        QTest::addColumn<Paint>("expected");
-        const auto row = [](const char *name, const Action &state, const Paint &expected) {
-            QTest::newRow(name) << state << expected;
-        };
+        const TableRows<Action, Paint> row("state", "expected");
         const auto alphaMode = [](SpIconButton &b) { b.setShowMode(SpIconButton::AlphaMode); };
         const auto noNormal = [](SpIconButton &b) { b.setNormalImage(QPixmap()); };
 
@@ -1233,23 +1176,7 @@ private slots:
             delete parent;
     }
 
-    void hostilePicturesAreShown_data()
-    {
-        QTest::addColumn<QPixmap>("image");
-        QBitmap bitmap(16, 16);
-        bitmap.fill(Qt::color1);
-        QPixmap dense(64, 64);
-        dense.setDevicePixelRatio(2);
-        dense.fill(Qt::red);
-        QTest::newRow("20,000 wide") << picture(kNormal, {20000, 4});
-        QTest::newRow("20,000 high") << picture(kNormal, {4, 20000});
-        QTest::newRow("one pixel") << picture(kNormal, {1, 1});
-        QTest::newRow("bitmap") << QPixmap(bitmap);
-        QPixmap opaque(30, 30);
-        opaque.fill(Qt::red);
-        QTest::newRow("opaque") << opaque;
-        QTest::newRow("high resolution") << dense;
-    }
+    void hostilePicturesAreShown_data() { addHostilePictures(); }
 
     void hostilePicturesAreShown()
     {

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <SpLabel>
 
+#include "allocations.h"
 #include "parent.h"
+#include "setters.h"
 #include "signallog.h"
+#include "tablerows.h"
 #include "touch.h"
 #include "widgettest.h"
 
 #include <QBitmap>
-#include <QMouseEvent>
 #include <QPainter>
 
 #include <climits>
@@ -103,24 +105,14 @@ private slots:
 
     void settersThatRepaintDoItOnceAndOthersDoNot_data()
     {
-        QTest::addColumn<Action>("action");
-        QTest::addColumn<int>("expected");
-        const auto row = [](const char *name, int expected, const Action &action) {
-            QTest::newRow(name) << action << expected;
-        };
+        const TableRows<int, Action> row("expected", "action");
         row("image", 1, [](auto &l) { l.setImage(opaquePicture()); });
         row("the same image", 1, [](auto &l) { l.setImage(l.image()); });
         row("image null", 0, [](auto &l) { l.setImage(QPixmap()); });
         row("imageAlpha", 0, [](auto &l) { l.setImageAlpha(20); });
     }
 
-    void settersThatRepaintDoItOnceAndOthersDoNot()
-    {
-        QFETCH(Action, action);
-        const auto label = makeLabel();
-        show(*label);
-        QTEST(paints(*label, [&] { action(*label); }), "expected");
-    }
+    void settersThatRepaintDoItOnceAndOthersDoNot() { checkRepaints(*makeLabel()); }
 
     // --- The picture ----------------------------------------------------------------------------
 
@@ -347,7 +339,7 @@ private slots:
         const auto label = makeLabel(&window);
         for (const QSize &size : {QSize(16385, 16384), QSize(16384, 16385), QSize(20000, 20000)}) {
             label->resize(size);
-            QVERIFY(cpuTime([&] { painted(window); }) < 1000);
+            QVERIFY(allocations::during([&] { painted(window); }) < 1000000);
             QCOMPARE(label->image().size(), QSize(40, 30));
             const QImage veiled = documented(*makeLabel(), picture());
             COMPARE_PICTURES(painted(window), reference(window, [&](QPainter &p) {

@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <SpLockButton>
 
+#include "baseorder.h"
 #include "parent.h"
 #include "pictures.h"
+#include "setters.h"
 #include "signallog.h"
+#include "tablerows.h"
 #include "touch.h"
 #include "widgettest.h"
 
 #include <QBitmap>
-#include <QMouseEvent>
 #include <QPainter>
 
 #include <climits>
@@ -61,14 +63,6 @@ QImage shown(const SpLockButton &button, const QPixmap &pixmap)
     return reference(button, [&](QPainter &p) { p.drawPixmap(kImageRect, pixmap); });
 }
 
-// Handlers are called with what a subclass may hand them.
-class Handlers : public SpLockButton
-{
-public:
-    using SpLockButton::mousePressEvent;
-    using SpLockButton::mouseReleaseEvent;
-};
-
 } // namespace
 
 Q_DECLARE_METATYPE(Action)
@@ -104,11 +98,7 @@ private slots:
 
     void settersThatRepaintDoItOnceAndOthersDoNot_data()
     {
-        QTest::addColumn<Action>("action");
-        QTest::addColumn<int>("expected");
-        const auto row = [](const char *name, int expected, const Action &action) {
-            QTest::newRow(name) << action << expected;
-        };
+        const TableRows<int, Action> row("expected", "action");
         row("normalImage", 1, [](auto &b) { b.setNormalImage(picture(Qt::red)); });
         row("normalImage null", 0, [](auto &b) { b.setNormalImage(QPixmap()); });
         row("pressImage", 0, [](auto &b) { b.setPressImage(picture(Qt::red)); });
@@ -136,13 +126,7 @@ private slots:
         row("fontSize below 1", 0, [](auto &b) { b.setFontSize(0); });
     }
 
-    void settersThatRepaintDoItOnceAndOthersDoNot()
-    {
-        QFETCH(Action, action);
-        const auto button = makeButton();
-        show(*button);
-        QTEST(paints(*button, [&] { action(*button); }), "expected");
-    }
+    void settersThatRepaintDoItOnceAndOthersDoNot() { checkRepaints(*makeButton()); }
 
     void everyPropertyKeepsWhatItIsGiven()
     {
@@ -481,19 +465,11 @@ private slots:
 
     void theBaseHandlerComesBeforeTheSignals()
     {
-        Handlers button;
-        QMouseEvent press(QEvent::MouseButtonPress, QPointF(5, 5), Qt::LeftButton, Qt::LeftButton,
-                          Qt::NoModifier);
-        QMouseEvent release(QEvent::MouseButtonRelease, QPointF(5, 5), Qt::LeftButton, Qt::NoButton,
-                            Qt::NoModifier);
-        QVector<bool> accepted;
-        connect(&button, &SpLockButton::btnPressed, &button,
-                [&] { accepted += press.isAccepted(); });
-        connect(&button, &SpLockButton::btnReleased, &button,
-                [&] { accepted += release.isAccepted(); });
-        button.mousePressEvent(&press);
-        button.mouseReleaseEvent(&release);
-        QCOMPARE(accepted, (QVector<bool>{false, false})); // QWidget has left them to the parent
+        const auto button = makeButton();
+        BaseOrder order(button.get());
+        touch(button.get()).tap(5, 5);
+        QCOMPARE(order.before, QStringList());
+        QCOMPARE(order.after, (QStringList{"btnPressed", "btnReleased"}));
     }
 
     // --- Robustness -----------------------------------------------------------------------------

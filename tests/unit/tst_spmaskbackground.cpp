@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <SpMaskBackground>
 
+#include "baseorder.h"
+#include "setters.h"
 #include "signallog.h"
+#include "tablerows.h"
 #include "touch.h"
 #include "widgettest.h"
 
@@ -33,19 +36,6 @@ QImage documented(const SpMaskBackground &mask)
     });
 }
 
-QString at(const char *signal, int x, int y)
-{
-    return QStringLiteral("%1(QPoint(%2,%3))").arg(QLatin1String(signal)).arg(x).arg(y);
-}
-
-// Handlers are called with what a subclass may hand them.
-class Handlers : public SpMaskBackground
-{
-public:
-    using SpMaskBackground::mousePressEvent;
-    using SpMaskBackground::mouseReleaseEvent;
-};
-
 using Action = std::function<void(SpMaskBackground &)>;
 
 } // namespace
@@ -59,33 +49,23 @@ class tst_SpMaskBackground : public WidgetTest
 private slots:
     void defaults()
     {
-        SpMaskBackground mask;
-        QCOMPARE(mask.painterColor(), QColor(Qt::black));
-        QCOMPARE(mask.roundX(), 0);
-        QCOMPARE(mask.roundY(), 0);
-        QCOMPARE(mask.holdMouseEvent(), false);
+        checkProperties(SpMaskBackground(),
+                        {{"painterColor", QColor(Qt::black)},
+                         {"roundX", 0},
+                         {"roundY", 0},
+                         {"holdMouseEvent", false}});
     }
 
     void settersThatRepaintDoItOnceAndTheOtherDoesNot_data()
     {
-        QTest::addColumn<Action>("action");
-        QTest::addColumn<int>("expected");
-        const auto row = [](const char *name, int expected, const Action &action) {
-            QTest::newRow(name) << action << expected;
-        };
+        const TableRows<int, Action> row("expected", "action");
         row("painterColor", 1, [](auto &m) { m.setPainterColor(Qt::black); });
         row("roundX", 1, [](auto &m) { m.setRoundX(0); });
         row("roundY", 1, [](auto &m) { m.setRoundY(0); });
         row("holdMouseEvent", 0, [](auto &m) { m.setholdMouseEvent(true); });
     }
 
-    void settersThatRepaintDoItOnceAndTheOtherDoesNot()
-    {
-        QFETCH(Action, action);
-        const auto mask = makeMask();
-        show(*mask);
-        QTEST(paints(*mask, [&] { action(*mask); }), "expected");
-    }
+    void settersThatRepaintDoItOnceAndTheOtherDoesNot() { checkRepaints(*makeMask()); }
 
     void propertiesKeepAnyValue()
     {
@@ -166,14 +146,14 @@ private slots:
 
     void positionsAreRoundedToWholePixels()
     {
-        Handlers mask;
+        SpMaskBackground mask;
         SignalLog log(&mask);
         QMouseEvent press(QEvent::MouseButtonPress, QPointF(4.625, 5.375), Qt::LeftButton,
                           Qt::LeftButton, Qt::NoModifier);
         QMouseEvent release(QEvent::MouseButtonRelease, QPointF(7.5, -2.25), Qt::LeftButton,
                             Qt::NoButton, Qt::NoModifier);
-        mask.mousePressEvent(&press);
-        mask.mouseReleaseEvent(&release);
+        QCoreApplication::sendEvent(&mask, &press);
+        QCoreApplication::sendEvent(&mask, &release);
         QCOMPARE(log.take().mid(0, 2),
                  (QStringList{at("pressMask", 5, 5), at("releaseMask", 8, -2)}));
     }
@@ -192,19 +172,11 @@ private slots:
 
     void theBaseHandlerComesBeforeTheSignals()
     {
-        Handlers mask;
-        QMouseEvent press(QEvent::MouseButtonPress, QPointF(5, 5), Qt::LeftButton, Qt::LeftButton,
-                          Qt::NoModifier);
-        QMouseEvent release(QEvent::MouseButtonRelease, QPointF(5, 5), Qt::LeftButton, Qt::NoButton,
-                            Qt::NoModifier);
-        QVector<bool> accepted;
-        connect(&mask, &SpMaskBackground::pressMask, &mask,
-                [&] { accepted += press.isAccepted(); });
-        connect(&mask, &SpMaskBackground::releaseMask, &mask,
-                [&] { accepted += release.isAccepted(); });
-        mask.mousePressEvent(&press);
-        mask.mouseReleaseEvent(&release);
-        QCOMPARE(accepted, (QVector<bool>{false, false})); // QWidget has left them to the parent
+        const auto mask = makeMask();
+        BaseOrder order(mask.get());
+        touch(mask.get()).tap(5, 5);
+        QCOMPARE(order.before, QStringList());
+        QCOMPARE(order.after, (QStringList{"pressMask", "releaseMask", "clicked"}));
     }
 
     void aTouchNeverRepaints()

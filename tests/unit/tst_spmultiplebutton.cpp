@@ -1,19 +1,21 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <SpMultipleButton>
 
+#include "deletion.h"
+#include "newwidget.h"
 #include "parent.h"
 #include "pictures.h"
+#include "setters.h"
 #include "signallog.h"
+#include "tablerows.h"
 #include "touch.h"
 #include "virtualtime.h"
 #include "widgettest.h"
 
 #include <QBitmap>
 #include <QGraphicsOpacityEffect>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QPaintEvent>
-#include <QPointer>
 #include <QScreen>
 #include <QTemporaryDir>
 
@@ -136,6 +138,17 @@ protected:
     }
 };
 
+// Rows of a "value" that is taken, or is not and leaves the one before, and of what is "expected".
+void addNumbers(const QVector<int> &taken, const QVector<int> &refused, int before)
+{
+    QTest::addColumn<int>("value");
+    QTest::addColumn<int>("expected");
+    for (int value : taken)
+        QTest::addRow("%d is taken", value) << value << value;
+    for (int value : refused)
+        QTest::addRow("%d is refused", value) << value << before;
+}
+
 } // namespace
 
 Q_DECLARE_METATYPE(Action)
@@ -172,21 +185,7 @@ private slots:
         QCOMPARE(opacityOf(button), QGraphicsOpacityEffect().opacity());
     }
 
-    void aNewButtonIsAPlainWidgetOtherwise()
-    {
-        QWidget parent;
-        const SpMultipleButton button(&parent);
-        const QWidget plainWidget(&parent);
-        QCOMPARE(button.parentWidget(), &parent);
-        QCOMPARE(button.windowFlags(), plainWidget.windowFlags());
-        QCOMPARE(button.sizePolicy(), plainWidget.sizePolicy());
-        QCOMPARE(button.font(), plainWidget.font());
-        QCOMPARE(button.minimumSize(), plainWidget.minimumSize());
-        for (int i = 0; i < Qt::WA_AttributeCount; ++i) {
-            const auto attribute = Qt::WidgetAttribute(i);
-            QCOMPARE(button.testAttribute(attribute), plainWidget.testAttribute(attribute));
-        }
-    }
+    void aNewButtonIsAPlainWidgetOtherwise() { checkIsAPlainWidget<SpMultipleButton>(); }
 
     void aNewButtonPaintsNothingAndIgnoresTouches()
     {
@@ -234,12 +233,11 @@ private slots:
 
     void settersThatRepaintDoItOnceAndOthersDoNot()
     {
-        QFETCH(Action, action);
         QWidget parent;
         const auto button = makeButton(&parent);
         show(parent);
         virtualtime::advance(10);
-        QTEST(paints(*button, [&] { action(*button); }), "expected");
+        checkRepaints(*button);
         QCOMPARE(button->size(), QSize(101, 80));
         button->setParent(nullptr);
     }
@@ -258,26 +256,14 @@ private slots:
 
     void everyPropertyKeepsWhatItIsGiven_data()
     {
-        QTest::addColumn<QByteArray>("name");
-        QTest::addColumn<QVariant>("value");
-        const auto row = [](const char *name, const QVariant &value) {
-            QTest::newRow(name) << QByteArray(name) << value;
-        };
+        const TableRows<QVariant> row("value");
         row("buttonId", INT_MIN);
         row("totalValue", 7);
         row("currentValue", 19);
         row("disableState", true);
     }
 
-    void everyPropertyKeepsWhatItIsGiven()
-    {
-        QFETCH(QByteArray, name);
-        QFETCH(QVariant, value);
-        SpMultipleButton button;
-        QVERIFY(button.property(name) != value);
-        QVERIFY(button.setProperty(name, value));
-        QCOMPARE(button.property(name), value);
-    }
+    void everyPropertyKeepsWhatItIsGiven() { checkKeepsProperty(SpMultipleButton()); }
 
     void eachPictureHasItsOwnPlace()
     {
@@ -304,15 +290,7 @@ private slots:
 
     void theTotalIsFromOneToTheLengthOfTheList_data()
     {
-        QTest::addColumn<int>("value");
-        QTest::addColumn<int>("expected");
-        QTest::newRow("smallest") << INT_MIN << 2;
-        QTest::newRow("negative") << -1 << 2;
-        QTest::newRow("none") << 0 << 2;
-        QTest::newRow("one") << 1 << 1;
-        QTest::newRow("all") << 3 << 3;
-        QTest::newRow("one more") << 4 << 2;
-        QTest::newRow("largest") << INT_MAX << 2;
+        addNumbers({1, 3}, {INT_MIN, -1, 0, 4, INT_MAX}, 2);
     }
 
     void theTotalIsFromOneToTheLengthOfTheList()
@@ -335,17 +313,7 @@ private slots:
         QCOMPARE(button.totalValue(), 20);
     }
 
-    void theCurrentStateIsBelowTheTotal_data()
-    {
-        QTest::addColumn<int>("value");
-        QTest::addColumn<int>("expected");
-        QTest::newRow("smallest") << INT_MIN << 1;
-        QTest::newRow("negative") << -1 << 1;
-        QTest::newRow("first") << 0 << 0;
-        QTest::newRow("last") << 2 << 2;
-        QTest::newRow("one more") << 3 << 1;
-        QTest::newRow("largest") << INT_MAX << 1;
-    }
+    void theCurrentStateIsBelowTheTotal_data() { addNumbers({0, 2}, {INT_MIN, -1, 3, INT_MAX}, 1); }
 
     void theCurrentStateIsBelowTheTotal()
     {
@@ -459,11 +427,7 @@ private slots:
     // A list may hold null pictures until the next check finds them.
     void whatChecksTheSet_data()
     {
-        QTest::addColumn<Action>("action");
-        QTest::addColumn<bool>("checks");
-        const auto row = [](const char *name, bool checks, const Action &action) {
-            QTest::newRow(name) << action << checks;
-        };
+        const TableRows<bool, Action> row("checks", "action");
         row("nothing", false, [](auto &) {});
         row("buttonId", false, [](auto &b) { b.setButtonId(3); });
         row("totalValue", true, [](auto &b) { b.setTotalValue(3); });
@@ -652,13 +616,7 @@ private slots:
 
     void looks_data()
     {
-        QTest::addColumn<Action>("state");
-        QTest::addColumn<qreal>("opacity");
-        QTest::addColumn<Paint>("expected");
-        const auto row = [](const char *name, qreal opacity, const Paint &expected,
-                            const Action &state) {
-            QTest::newRow(name) << state << opacity << expected;
-        };
+        const TableRows<qreal, Paint, Action> row("opacity", "expected", "state");
         const Paint over = [](QPainter &p) {
             p.drawPixmap(20, 15, picture(Qt::blue, {61, 50}));
             p.drawPixmap(kPos, normal(0));
@@ -970,25 +928,11 @@ private slots:
 
     // --- Hard to break --------------------------------------------------------------------------
 
-    void theButtonMayBeDeletedInItsSignal_data()
-    {
-        QTest::addColumn<bool>("inParent");
-        QTest::newRow("alone") << false;
-        QTest::newRow("with its parent") << true;
-    }
+    void theButtonMayBeDeletedInItsSignal_data() { addDeletionsAt({"clicked"}); }
 
     void theButtonMayBeDeletedInItsSignal()
     {
-        QFETCH(bool, inParent);
-        auto *parent = new QWidget;
-        QPointer<QWidget> parentGuard(parent);
-        SpMultipleButton *button = makeButton(parent).release();
-        QPointer<SpMultipleButton> guard(button);
-        connect(button, &SpMultipleButton::clicked, this,
-                [&] { delete (inParent ? parent : static_cast<QWidget *>(button)); });
-        touch(button).tap(10, 10).hold(10);
-        QVERIFY(!guard);
-        delete parentGuard;
+        checkMayBeDeleted(makeButton(new QWidget).release());
     }
 
     void anotherEffectMayReplaceItsOwn()

@@ -2,15 +2,17 @@
 #include <SpSetupSlider>
 
 #include "baseorder.h"
+#include "deletion.h"
 #include "parent.h"
 #include "pictures.h"
+#include "setters.h"
 #include "signallog.h"
+#include "sliderpictures.h"
+#include "tablerows.h"
 #include "touch.h"
-#include "virtualtime.h"
 #include "widgettest.h"
 
 #include <QLabel>
-#include <QMouseEvent>
 #include <QPainter>
 #include <SpIconButton>
 
@@ -20,11 +22,8 @@
 namespace
 {
 
-struct Pictures {
-    QPixmap track = filled(Qt::gray, {20, 200});
-    QPixmap fill = filled(Qt::blue, {20, 200});
-    QPixmap knob = filled(Qt::green, {40, 30});
-    QPixmap knobPressed = filled(Qt::yellow, {40, 30});
+struct Pictures : SliderPictures {
+    Pictures() : SliderPictures(Qt::Vertical) { }
     QPixmap add = filled(Qt::red, {30, 24});
     QPixmap addPressed = filled(Qt::magenta, {30, 24});
     QPixmap dec = filled(Qt::cyan, {31, 25});
@@ -37,19 +36,11 @@ const Pictures &pictures()
     return instance;
 }
 
-void givePictures(SpSetupSlider &slider, const Pictures &p = pictures())
-{
-    slider.setSliderNormalImage(p.track);
-    slider.setSliderPressImage(p.fill);
-    slider.setPointNormalImage(p.knob);
-    slider.setPointPressImage(p.knobPressed);
-}
-
 // A slider of 50 x 230 whose track is from 30 to 229; the knob has 170 px to go.
 std::unique_ptr<SpSetupSlider> makeSlider(QWidget *parent = nullptr)
 {
     auto slider = std::make_unique<SpSetupSlider>(parent);
-    givePictures(*slider);
+    pictures().giveTo(*slider);
     return slider;
 }
 
@@ -57,7 +48,7 @@ std::unique_ptr<SpSetupSlider> makeSliderWithButtons()
 {
     auto slider = std::make_unique<SpSetupSlider>(nullptr);
     slider->setHasAddDecBtn(1);
-    givePictures(*slider);
+    pictures().giveTo(*slider);
     slider->setAddBtnNormalImage(pictures().add);
     slider->setAddBtnPressImage(pictures().addPressed);
     slider->setDecBtnNormalImage(pictures().dec);
@@ -149,7 +140,7 @@ private slots:
     void theLastPictureLaysTheSliderOut()
     {
         SpSetupSlider slider;
-        slider.setSliderNormalImage(pictures().track);
+        slider.setSliderNormalImage(pictures().groove);
         slider.setSliderPressImage(pictures().fill);
         slider.setPointNormalImage(pictures().knob);
         slider.setAddBtnNormalImage(pictures().add);
@@ -172,7 +163,7 @@ private slots:
         SpSetupSlider slider;
         slider.setHasAddDecBtn(-1);
         QCOMPARE(slider.getHasAddDecBtn(), true);
-        givePictures(slider);
+        pictures().giveTo(slider);
         slider.setAddBtnNormalImage(pictures().add);
         slider.setAddBtnPressImage(pictures().addPressed);
         slider.setDecBtnNormalImage(pictures().dec);
@@ -207,7 +198,7 @@ private slots:
         for (const bool hasAdd : {true, false}) {
             SpSetupSlider slider;
             slider.setHasAddDecBtn(1);
-            givePictures(slider);
+            pictures().giveTo(slider);
             if (hasAdd)
                 slider.setAddBtnNormalImage(pictures().add);
             else
@@ -221,7 +212,7 @@ private slots:
     void withoutTrackOrKnobNothingIsLaidOut()
     {
         SpSetupSlider withoutKnob;
-        withoutKnob.setSliderNormalImage(pictures().track);
+        withoutKnob.setSliderNormalImage(pictures().groove);
         withoutKnob.setPointPressImage(pictures().knobPressed);
         QCOMPARE(withoutKnob.minimumSize(), QSize(0, 0));
         SpSetupSlider withoutTrack;
@@ -251,13 +242,13 @@ private slots:
         QFETCH(int, width);
         SpSetupSlider slider;
         Pictures p;
-        p.track = filled(Qt::gray, {track, 100});
+        p.groove = filled(Qt::gray, {track, 100});
         p.knob = filled(Qt::green, {knob, 20});
-        givePictures(slider, p);
+        p.giveTo(slider);
         QCOMPARE(slider.width(), width);
         QCOMPARE(knobOf(slider)->x(), (width - knob) / 2);
         COMPARE_PICTURES(paintedItself(slider), reference(slider, [&](QPainter &painter) {
-                             painter.drawPixmap(width / 2 - track / 2, 30, p.track);
+                             painter.drawPixmap(width / 2 - track / 2, 30, p.groove);
                              painter.drawPixmap(QRect(width / 2 - track / 2, 80, track, 49), p.fill,
                                                 QRect(0, 50, 20, 49));
                          }));
@@ -269,7 +260,7 @@ private slots:
         SpSetupSlider slider(&page);
         show(page);
         slider.setHasAddDecBtn(1);
-        givePictures(slider);
+        pictures().giveTo(slider);
         slider.setAddBtnNormalImage(pictures().add);
         slider.setDecBtnNormalImage(pictures().dec);
         slider.setDecBtnPressImage(pictures().decPressed);
@@ -304,11 +295,7 @@ private slots:
 
     void settersThatRepaintDoItOnceAndOthersDoNot_data()
     {
-        QTest::addColumn<Action>("action");
-        QTest::addColumn<int>("expected");
-        const auto row = [](const char *name, int expected, const Action &action) {
-            QTest::newRow(name) << action << expected;
-        };
+        const TableRows<int, Action> row("expected", "action");
         const QPixmap &any = pictures().add;
         row("hasAddDecBtn", 0, [](auto &s) { s.setHasAddDecBtn(1); });
         row("sliderNormalImage", 0, [&](auto &s) { s.setSliderNormalImage(any); });
@@ -336,31 +323,22 @@ private slots:
         row("setTouchPos refused", 0, [](auto &s) { s.setTouchPos(-6); });
     }
 
-    void settersThatRepaintDoItOnceAndOthersDoNot()
-    {
-        QFETCH(Action, action);
-        const auto slider = makeSlider();
-        show(*slider);
-        QTEST(paints(*slider, [&] { action(*slider); }), "expected");
-    }
+    void settersThatRepaintDoItOnceAndOthersDoNot() { checkRepaints(*makeSlider()); }
 
     void everyPropertyKeepsWhatItIsGiven()
     {
         SpSetupSlider slider;
-        const QVector<QPair<const char *, QVariant>> values{
-            {"hasAddDecBtn", true}, {"itemID", -7},       {"maxValue", 30},
-            {"minValue", 3},        {"currentValue", 12}, {"topValue", INT_MIN}};
-        for (const auto &value : values)
-            QVERIFY(slider.setProperty(value.first, value.second));
-        for (const auto &value : values)
-            QCOMPARE(slider.property(value.first), value.second);
-        for (const char *name :
-             {"sliderNormalImage", "sliderPressImage", "pointNormalImage", "pointPressImage",
-              "addBtnNormalImage", "addBtnPressImage", "decBtnNormalImage", "decBtnPressImage"}) {
-            const QPixmap pixmap = filled(Qt::red, {3, 4});
-            QVERIFY(slider.setProperty(name, pixmap));
-            QCOMPARE(slider.property(name).value<QPixmap>().cacheKey(), pixmap.cacheKey());
-        }
+        checkKeepsProperties(slider,
+                             {{"hasAddDecBtn", true},
+                              {"itemID", -7},
+                              {"maxValue", 30},
+                              {"minValue", 3},
+                              {"currentValue", 12},
+                              {"topValue", INT_MIN}});
+        checkKeepsPictures(slider,
+                           {"sliderNormalImage", "sliderPressImage", "pointNormalImage",
+                            "pointPressImage", "addBtnNormalImage", "addBtnPressImage",
+                            "decBtnNormalImage", "decBtnPressImage"});
     }
 
     void theValueIsCheckedAgainstTheMaximumOnly()
@@ -460,13 +438,13 @@ private slots:
         QFETCH(int, trackHeight);
         QFETCH(int, knobHeight);
         Pictures p;
-        p.track = filled(Qt::gray, {20, trackHeight});
+        p.groove = filled(Qt::gray, {20, trackHeight});
         p.fill = filled(Qt::blue, {24, trackHeight});
         p.knob = filled(Qt::green, {40, knobHeight});
         SpSetupSlider slider;
         slider.setMinValue(minimum);
         slider.setMaxValue(maximum);
-        givePictures(slider, p);
+        p.giveTo(slider);
         QPoint pos = knobOf(slider)->pos();
         for (int value = -110; value <= 110; ++value) {
             slider.setTouchPos(value);
@@ -482,7 +460,7 @@ private slots:
                 continue;
             const int middle = pos.y() + knobHeight / 2;
             COMPARE_PICTURES(paintedItself(slider), reference(slider, [&](QPainter &painter) {
-                                 painter.drawPixmap(15, 30, p.track);
+                                 painter.drawPixmap(15, 30, p.groove);
                                  const int rows = 30 + trackHeight - 1 - middle;
                                  if (rows > 0)
                                      painter.drawPixmap(QRect(15, middle, 20, rows), p.fill,
@@ -497,7 +475,7 @@ private slots:
         SpSetupSlider slider;
         slider.setMinValue(1);
         slider.setHasAddDecBtn(1);
-        givePictures(slider);
+        pictures().giveTo(slider);
         slider.setAddBtnNormalImage(pictures().add);
         slider.setDecBtnNormalImage(pictures().dec);
         slider.setDecBtnPressImage(pictures().decPressed);
@@ -511,9 +489,9 @@ private slots:
         SpSetupSlider slider;
         Pictures p;
         p.fill = QPixmap();
-        givePictures(slider, p);
+        p.giveTo(slider);
         COMPARE_PICTURES(paintedItself(slider), reference(slider, [&](QPainter &painter) {
-                             painter.drawPixmap(15, 30, p.track);
+                             painter.drawPixmap(15, 30, p.groove);
                          }));
     }
 
@@ -525,7 +503,7 @@ private slots:
         const int y = 30 + 170 - 170 * 8 / 10;
         COMPARE_PICTURES(
             painted(*slider), reference(*slider, [&](QPainter &painter) {
-                painter.drawPixmap(15, 30, pictures().track);
+                painter.drawPixmap(15, 30, pictures().groove);
                 painter.drawPixmap(15, y + 15, pictures().fill, 0, y + 15 - 30, 20, 229 - y - 15);
                 painter.drawPixmap(5, y, pictures().knob);
                 painter.setPen(Qt::white);
@@ -549,13 +527,13 @@ private slots:
         QFETCH(int, trackHeight);
         QFETCH(int, knobHeight);
         Pictures p;
-        p.track = filled(Qt::gray, {20, trackHeight});
+        p.groove = filled(Qt::gray, {20, trackHeight});
         p.knob = filled(Qt::green, {40, knobHeight});
         SpSetupSlider slider;
         slider.setItemID(9);
         slider.setMinValue(minimum);
         slider.setMaxValue(maximum);
-        givePictures(slider, p);
+        p.giveTo(slider);
         SignalLog log(&slider);
         const int first = 30;
         const int last = 30 + trackHeight - 1;
@@ -630,18 +608,13 @@ private slots:
 
     void theKnobIsPressedWhileTouched()
     {
-        const auto slider = makeSlider();
-        Touch finger = touch(slider.get());
-        finger.press(25, 5);
-        QCOMPARE(knobPicture(*slider), pictures().knobPressed.toImage());
-        finger.release();
-        QCOMPARE(knobPicture(*slider), pictures().knob.toImage());
+        const Pictures &p = pictures();
+        checkKnobWhileTouched(*makeSlider(), {25, 5}, knobPicture, p.knobPressed, p.knob);
+        Pictures withoutPressed;
+        withoutPressed.knobPressed = QPixmap();
         SpSetupSlider plain;
-        Pictures p;
-        p.knobPressed = QPixmap();
-        givePictures(plain, p);
-        touch(&plain).press(25, 5);
-        QCOMPARE(knobPicture(plain), pictures().knob.toImage());
+        withoutPressed.giveTo(plain);
+        checkKnobWhileTouched(plain, {25, 5}, knobPicture, p.knob, p.knob);
     }
 
     void aFingerTooFarAsideDragsNoMore_data()
@@ -835,18 +808,8 @@ private slots:
 
     void aSliderMayBeDeletedByAnyReport()
     {
-        for (int number = 0; number < 3; ++number) {
-            auto *slider = makeSlider().release();
-            const QPointer<SpSetupSlider> guard(slider);
-            int count = 0;
-            SignalLog log(slider);
-            log.onLine([&](const QString &) {
-                if (count++ == number)
-                    delete slider;
-            });
-            touch(slider).tap(25, 31);
-            QVERIFY(!guard);
-        }
+        checkMayBeDeletedByAnyReport([] { return makeSlider(); }, 3,
+                                     [](QWidget *s) { touch(s).tap(25, 31); });
         auto *slider = makeSliderWithButtons().release();
         const QPointer<SpSetupSlider> guard(slider);
         connect(slider, &SpSetupSlider::valueChangeSig, slider, [slider] { delete slider; });

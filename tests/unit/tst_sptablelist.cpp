@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <SpTableList>
 
+#include "setters.h"
 #include "signallog.h"
+#include "tablerows.h"
 #include "touch.h"
 #include "virtualtime.h"
 #include "widgettest.h"
@@ -168,6 +170,9 @@ styleDelegate *delegateOf(const SpTableList &list)
 int scrolled(const SpTableList &list) { return list.verticalScrollBar()->value(); }
 
 // Signals with the index as "row", which is what can be compared.
+const QString kSelected = QStringLiteral("haveItemSelect(true)");
+const QString kNotSelected = QStringLiteral("haveItemSelect(false)");
+
 QStringList taken(SignalLog &log)
 {
     QStringList lines = log.take();
@@ -243,6 +248,20 @@ void QTableView::timerEvent(QTimerEvent *e)
     original(this, e);
 }
 
+void checkGeometryIsThatOfANewList(const SpTableList &list)
+{
+    QVERIFY(list.normalImage().isNull());
+    QVERIFY(list.pressImage().isNull());
+    QCOMPARE(list.headerIconGain(), 20);
+    QCOMPARE(list.headerIconWidth(), 0);
+    QCOMPARE(list.centerStrGain(), 15);
+    QCOMPARE(list.tailIconGain(), 47);
+    QCOMPARE(list.tailIconWidth(), 0);
+    QCOMPARE(list.pixmapGain(), 0);
+    QCOMPARE(list.tailStrWidth(), 100);
+    QCOMPARE(list.UIStyle(), SpTableList::LIST_STYLE_0);
+}
+
 class tst_SpTableList : public WidgetTest
 {
     Q_OBJECT
@@ -260,16 +279,7 @@ private slots:
         QVERIFY(!list.hightColor().isValid());
         QCOMPARE(list.pressColor(), QColor(255, 255, 255, 255));
         QCOMPARE(list.useDefaultStyle(), true);
-        QVERIFY(list.normalImage().isNull());
-        QVERIFY(list.pressImage().isNull());
-        QCOMPARE(list.headerIconGain(), 20);
-        QCOMPARE(list.headerIconWidth(), 0);
-        QCOMPARE(list.centerStrGain(), 15);
-        QCOMPARE(list.tailIconGain(), 47);
-        QCOMPARE(list.tailIconWidth(), 0);
-        QCOMPARE(list.pixmapGain(), 0);
-        QCOMPARE(list.tailStrWidth(), 100);
-        QCOMPARE(list.UIStyle(), SpTableList::LIST_STYLE_0);
+        checkGeometryIsThatOfANewList(list);
         QCOMPARE(list.getBIsBeep(), true);
         QCOMPARE(list.getHighlightFlag(), false);
         QVERIFY(!list.model());
@@ -316,11 +326,7 @@ private slots:
 
     void everyPropertyKeepsWhatItIsGiven_data()
     {
-        QTest::addColumn<QByteArray>("name");
-        QTest::addColumn<QVariant>("value");
-        const auto row = [](const char *name, const QVariant &value) {
-            QTest::newRow(name) << QByteArray(name) << value;
-        };
+        const TableRows<QVariant> row("value");
         row("itemHeight", 61);
         row("itemWidth", 401);
         row("centerFontSize", 23);
@@ -338,15 +344,7 @@ private slots:
         row("UIStyle", 4);
     }
 
-    void everyPropertyKeepsWhatItIsGiven()
-    {
-        QFETCH(QByteArray, name);
-        QFETCH(QVariant, value);
-        SpTableList list;
-        QVERIFY(list.property(name) != value);
-        QVERIFY(list.setProperty(name, value));
-        QCOMPARE(list.property(name), value);
-    }
+    void everyPropertyKeepsWhatItIsGiven() { checkKeepsProperty(SpTableList()); }
 
     void propertiesReachTheDelegate()
     {
@@ -494,16 +492,7 @@ private slots:
         QCOMPARE(list.hightColor(), QColor(255, 255, 255, 255));
         QCOMPARE(list.pressColor(), QColor(255, 255, 255, 255));
         QCOMPARE(list.useDefaultStyle(), false);
-        QVERIFY(list.normalImage().isNull());
-        QVERIFY(list.pressImage().isNull());
-        QCOMPARE(list.headerIconGain(), 20);
-        QCOMPARE(list.headerIconWidth(), 0);
-        QCOMPARE(list.centerStrGain(), 15);
-        QCOMPARE(list.tailIconGain(), 47);
-        QCOMPARE(list.tailIconWidth(), 0);
-        QCOMPARE(list.pixmapGain(), 0);
-        QCOMPARE(list.tailStrWidth(), 100);
-        QCOMPARE(list.UIStyle(), SpTableList::LIST_STYLE_0);
+        checkGeometryIsThatOfANewList(list);
         list.setHighlightFlag(true);
         list.resize(200, 200);
         show(list);
@@ -1412,6 +1401,21 @@ private slots:
         return list;
     }
 
+    // Highlights the second row.
+    static void select(SpTableList &list)
+    {
+        tap(list, 100, 70);
+        virtualtime::advance(50);
+    }
+
+    // What a list says last of a tap.
+    static QString selectionAfterTap(SpTableList &list, int x, int y)
+    {
+        SignalLog log(&list);
+        tap(list, x, y);
+        return taken(log).last();
+    }
+
     void aClickedRowStaysHighlighted()
     {
         Rows rows(100);
@@ -1467,26 +1471,19 @@ private slots:
     {
         std::optional<Rows> rows(std::in_place, 100);
         const auto list = makeHighlighting(&*rows);
-        tap(*list, 100, 70);
-        virtualtime::advance(50);
+        select(*list);
         rows.emplace(100);
         list->setModel(&*rows);
-        SignalLog log(list.get());
-        tap(*list, 100, 70);
-        QCOMPARE(taken(log).last(), "haveItemSelect(true)");
+        QCOMPARE(selectionAfterTap(*list, 100, 70), kSelected);
     }
 
     void anotherRowTakesTheHighlightOver()
     {
         Rows rows(100);
         const auto list = makeHighlighting(&rows);
-        tap(*list, 100, 70);
-        virtualtime::advance(50);
-        SignalLog log(list.get());
-        tap(*list, 100, 130);
-        QCOMPARE(taken(log).last(), "haveItemSelect(true)");
-        tap(*list, 100, 70);
-        QCOMPARE(taken(log).last(), "haveItemSelect(true)");
+        select(*list);
+        QCOMPARE(selectionAfterTap(*list, 100, 130), kSelected);
+        QCOMPARE(selectionAfterTap(*list, 100, 70), kSelected);
     }
 
     void thePressInHighlightModeHasTheOldPoint()
@@ -1524,28 +1521,23 @@ private slots:
 
     void aTouchOnTheTailForgetsTheSelectedRow()
     {
-        Rows rows(100);
-        const auto list = makeHighlighting(&rows);
-        tap(*list, 100, 70);
-        virtualtime::advance(50);
-        tap(*list, 350, 130);
-        virtualtime::advance(50);
-        SignalLog log(list.get());
-        tap(*list, 100, 70);
-        QCOMPARE(taken(log).last(), "haveItemSelect(true)");
+        for (int y : {70, 130}) {
+            Rows rows(100);
+            const auto list = makeHighlighting(&rows);
+            select(*list);
+            tap(*list, 350, 130);
+            virtualtime::advance(50);
+            QCOMPARE(selectionAfterTap(*list, 100, y), kSelected);
+        }
     }
 
     void aTouchBesideTheRowsForgetsTheSelectedRow()
     {
         Rows rows(3);
         const auto list = makeHighlighting(&rows);
-        tap(*list, 100, 70);
-        virtualtime::advance(50);
-        SignalLog log(list.get());
-        tap(*list, 100, 250);
-        QCOMPARE(taken(log).last(), "haveItemSelect(false)");
-        tap(*list, 100, 70);
-        QCOMPARE(taken(log).last(), "haveItemSelect(true)");
+        select(*list);
+        QCOMPARE(selectionAfterTap(*list, 100, 250), kNotSelected);
+        QCOMPARE(selectionAfterTap(*list, 100, 70), kSelected);
     }
 
     void outsideHighlightModeNoSelectionIsReported()

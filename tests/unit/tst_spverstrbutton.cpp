@@ -1,18 +1,21 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <SpVerStrButton>
 
+#include "buttonimages.h"
+#include "deletion.h"
 #include "hostile.h"
+#include "newwidget.h"
 #include "parent.h"
 #include "pictures.h"
+#include "pressedlook.h"
+#include "setters.h"
 #include "signallog.h"
+#include "tablerows.h"
 #include "touch.h"
 #include "virtualtime.h"
 #include "widgettest.h"
 
-#include <QBitmap>
-#include <QMouseEvent>
 #include <QPainter>
-#include <QPointer>
 
 #include <climits>
 #include <memory>
@@ -103,21 +106,7 @@ private slots:
         QVERIFY(button.findChildren<QObject *>().isEmpty());
     }
 
-    void aNewButtonIsAPlainWidgetOtherwise()
-    {
-        QWidget parent;
-        const SpVerStrButton button(&parent);
-        const QWidget plainWidget(&parent);
-        QCOMPARE(button.parentWidget(), &parent);
-        QCOMPARE(button.windowFlags(), plainWidget.windowFlags());
-        QCOMPARE(button.sizePolicy(), plainWidget.sizePolicy());
-        QCOMPARE(button.font(), plainWidget.font());
-        QCOMPARE(button.minimumSize(), plainWidget.minimumSize());
-        for (int i = 0; i < Qt::WA_AttributeCount; ++i) {
-            const auto attribute = Qt::WidgetAttribute(i);
-            QCOMPARE(button.testAttribute(attribute), plainWidget.testAttribute(attribute));
-        }
-    }
+    void aNewButtonIsAPlainWidgetOtherwise() { checkIsAPlainWidget<SpVerStrButton>(); }
 
     void aNewButtonKeepsRoomForAnIconOf32Square()
     {
@@ -138,11 +127,7 @@ private slots:
 
     void settersThatRepaintDoItOnceAndOthersDoNot_data()
     {
-        QTest::addColumn<Action>("action");
-        QTest::addColumn<int>("expected");
-        const auto row = [](const char *name, int expected, const Action &action) {
-            QTest::newRow(name) << action << expected;
-        };
+        const TableRows<int, Action> row("expected", "action");
         row("normalPixmap", 1, [](auto &b) { b.setNormalPixmap(picture(Qt::red)); });
         row("normalPixmap null", 0, [](auto &b) { b.setNormalPixmap(QPixmap()); });
         row("pressPixmap", 1, [](auto &b) { b.setPressPixmap(picture(Qt::red)); });
@@ -168,11 +153,9 @@ private slots:
 
     void settersThatRepaintDoItOnceAndOthersDoNot()
     {
-        QFETCH(Action, action);
         const auto button = makeButton();
-        show(*button);
         const QFont font = button->font();
-        QTEST(paints(*button, [&] { action(*button); }), "expected");
+        checkRepaints(*button);
         QCOMPARE(button->size(), QSize(101, 100));
         QCOMPARE(button->minimumSize(), QSize(40, 30));
         QCOMPARE(button->maximumSize(), QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
@@ -188,11 +171,7 @@ private slots:
 
     void everyPropertyKeepsWhatItIsGiven_data()
     {
-        QTest::addColumn<QByteArray>("name");
-        QTest::addColumn<QVariant>("value");
-        const auto row = [](const char *name, const QVariant &value) {
-            QTest::newRow(name) << QByteArray(name) << value;
-        };
+        const TableRows<QVariant> row("value");
         row("displayString", QStringLiteral("text"));
         row("normalColor", QColor(1, 2, 3, 4));
         row("pressColor", QColor(2, 2, 3, 4));
@@ -207,15 +186,7 @@ private slots:
         row("fontSize", -4);
     }
 
-    void everyPropertyKeepsWhatItIsGiven()
-    {
-        QFETCH(QByteArray, name);
-        QFETCH(QVariant, value);
-        SpVerStrButton button;
-        QVERIFY(button.property(name) != value);
-        QVERIFY(button.setProperty(name, value));
-        QCOMPARE(button.property(name), value);
-    }
+    void everyPropertyKeepsWhatItIsGiven() { checkKeepsProperty(SpVerStrButton()); }
 
     void picturesAreKept()
     {
@@ -265,15 +236,8 @@ private slots:
 
     void layouts_data()
     {
-        QTest::addColumn<QSize>("size");
-        QTest::addColumn<int>("gap");
-        QTest::addColumn<int>("stringHeight");
-        QTest::addColumn<QPoint>("icon");
-        QTest::addColumn<QRect>("text");
-        const auto row = [](const char *name, const QSize &size, int gap, int stringHeight,
-                            const QPoint &icon, const QRect &text) {
-            QTest::newRow(name) << size << gap << stringHeight << icon << text;
-        };
+        const TableRows<QSize, int, int, QPoint, QRect> row("size", "gap", "stringHeight", "icon",
+                                                            "text");
         row("as made", {101, 100}, 5, 16, {30, 24}, {0, 59, 101, 41});
         row("even", {100, 101}, 5, 16, {30, 25}, {0, 60, 100, 41});
         row("a wide gap", {101, 100}, 21, 16, {30, 16}, {0, 67, 101, 33});
@@ -420,30 +384,20 @@ private slots:
 
     void theIconsOfTouchesAreStretchedToTheSizeOfTheNormalOne_data()
     {
-        QTest::addColumn<bool>("down");
-        QTest::addColumn<QSize>("size");
-        for (const QSize &size : {QSize(131, 77), QSize(7, 3)}) {
-            QTest::addRow("press %d", size.width()) << true << size;
-            QTest::addRow("focus %d", size.width()) << false << size;
-        }
+        addStretchedPictures("focus");
     }
 
     void theIconsOfTouchesAreStretchedToTheSizeOfTheNormalOne()
     {
-        QFETCH(bool, down);
+        QFETCH(bool, pressed);
         QFETCH(QSize, size);
+        const QPixmap image = picture(Qt::red, size);
         const auto button = makeButton();
         button->setDisplayString({});
-        if (down)
-            button->setPressPixmap(picture(Qt::red, size));
-        else
-            button->setFocusPixmap(picture(Qt::red, size));
-        button->setIsDown(down);
-        button->setFocus(!down);
-        const QImage expected = reference(
-            *button, [&](QPainter &p) { p.drawPixmap(kIconRect, picture(Qt::red, size)); });
-        COMPARE_PICTURES(painted(*button), expected);
-        COMPARE_PICTURES(painted(*button), expected);
+        pressed ? button->setPressPixmap(image) : button->setFocusPixmap(image);
+        button->setIsDown(pressed);
+        button->setFocus(!pressed);
+        checkPaintsStretched(*button, image, kIconRect);
     }
 
     void theDisabledIconHasItsOwnSizeAtTheTop_data()
@@ -556,14 +510,7 @@ private slots:
     {
         const auto button = makeButton();
         button->setButtonId(7);
-        SignalLog log(button.get());
-        Touch finger = touch(button.get());
-        finger.press(10, 10);
-        QCOMPARE(log.take(), QStringList{"pressed(7)"});
-        finger.hold(10);
-        QCOMPARE(log.take(), QStringList{"beep"});
-        finger.release().hold(10);
-        QCOMPARE(log.take(), QStringList{"clicked(7)"});
+        checkReportsOfTap(*button, "pressed(7)", "clicked(7)");
     }
 
     void aReleaseAnywhereIsAClick()
@@ -588,40 +535,14 @@ private slots:
 
     void aPressShowsAndAReleaseEndsThePressedLook()
     {
-        const auto button = makeButton();
-        show(*button);
-        Touch finger = touch(button.get());
-        QCOMPARE(paints(*button, [&] { finger.press(10, 10); }), 1);
-        QVERIFY(button->isDown());
-        QCOMPARE(paints(*button, [&] { finger.moveTo(500, 500); }), 0);
-        QVERIFY(button->isDown());
-        QCOMPARE(paints(*button, [&] { finger.release(); }), 1);
-        QVERIFY(!button->isDown());
+        checkAPressShowsUntilTheRelease(*makeButton());
     }
 
-    void thePressedLookIsThatOfTheSignal()
-    {
-        const auto button = makeButton();
-        SignalLog log(button.get());
-        QVector<bool> down;
-        log.onLine([&](const QString &) { down += button->isDown(); });
-        touch(button.get()).tap(10, 10);
-        QCOMPARE(down, (QVector<bool>{true, false}));
-    }
+    void thePressedLookIsThatOfTheSignal() { checkReportsComeWithTheLook(*makeButton()); }
 
     void aLatchedButtonStaysDown()
     {
-        const auto button = makeButton();
-        button->setIsLock(true);
-        show(*button);
-        SignalLog log(button.get());
-        Touch finger = touch(button.get());
-        QCOMPARE(paints(*button, [&] { finger.press(10, 10); }), 1);
-        QCOMPARE(paints(*button, [&] { finger.release(); }), 1);
-        QVERIFY(button->isDown());
-        QCOMPARE(log.take(), (QStringList{"pressed(-1)", "beep", "clicked(-1)"}));
-        button->setIsDown(false);
-        QVERIFY(!button->isDown());
+        checkLatches(*makeButton(), {"pressed(-1)", "beep", "clicked(-1)"});
     }
 
     void aDisabledButtonIsSilent()
@@ -671,14 +592,7 @@ private slots:
         button->setParent(nullptr);
     }
 
-    void theRequestForAClickSoundGoesUpToTheParent()
-    {
-        Parent parent;
-        const auto button = makeButton(&parent);
-        touch(button.get()).press(10, 10).hold(10);
-        QCOMPARE(parent.events, QStringList{"beep"});
-        button->setParent(nullptr);
-    }
+    void theRequestForAClickSoundGoesUpToTheParent() { checkSoundGoesUp(makeButton); }
 
     void theIdentifierIsTheOneOfTheMoment()
     {
@@ -691,52 +605,14 @@ private slots:
 
     // --- Hard to break --------------------------------------------------------------------------
 
-    void theButtonMayBeDeletedInAnyOfItsSignals_data()
-    {
-        QTest::addColumn<QString>("signal");
-        QTest::addColumn<bool>("inParent");
-        for (const char *signal : {"pressed", "clicked"}) {
-            for (bool inParent : {false, true})
-                QTest::addRow("%s%s", signal, inParent ? " with its parent" : "")
-                    << QString::fromLatin1(signal) << inParent;
-        }
-    }
+    void theButtonMayBeDeletedInAnyOfItsSignals_data() { addDeletionsAt({"pressed", "clicked"}); }
 
     void theButtonMayBeDeletedInAnyOfItsSignals()
     {
-        QFETCH(QString, signal);
-        QFETCH(bool, inParent);
-        auto *parent = new QWidget;
-        QPointer<QWidget> parentGuard(parent);
-        SpVerStrButton *button = makeButton(parent).release();
-        QPointer<SpVerStrButton> guard(button);
-        SignalLog log(button);
-        log.onLine([&](const QString &line) {
-            if (guard && line.startsWith(signal))
-                delete (inParent ? parent : static_cast<QWidget *>(button));
-        });
-        touch(button).tap(10, 10).hold(10);
-        QVERIFY(!guard);
-        delete parentGuard;
+        checkMayBeDeleted(makeButton(new QWidget).release());
     }
 
-    void hostilePicturesAreShown_data()
-    {
-        QTest::addColumn<QPixmap>("image");
-        QBitmap bitmap(16, 16);
-        bitmap.fill(Qt::color1);
-        QPixmap dense(64, 64);
-        dense.setDevicePixelRatio(2);
-        dense.fill(Qt::red);
-        QTest::newRow("20,000 wide") << picture(kNormal, {20000, 4});
-        QTest::newRow("20,000 high") << picture(kNormal, {4, 20000});
-        QTest::newRow("one pixel") << picture(kNormal, {1, 1});
-        QTest::newRow("bitmap") << QPixmap(bitmap);
-        QPixmap opaque(30, 30);
-        opaque.fill(Qt::red);
-        QTest::newRow("opaque") << opaque;
-        QTest::newRow("high resolution") << dense;
-    }
+    void hostilePicturesAreShown_data() { addHostilePictures(); }
 
     void hostilePicturesAreShown()
     {

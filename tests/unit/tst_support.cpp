@@ -2,11 +2,15 @@
 // The support of the tests is itself tested: a log that misses a line, a comparison that always
 // agrees or a clock that stands still would turn every other test into decoration.
 
+#include "allocations.h"
 #include "gifs.h"
+#include "measuredtext.h"
 #include "signallog.h"
 #include "touch.h"
 #include "virtualtime.h"
 #include "widgettest.h"
+
+#include <SpDisLabel>
 
 #include <QBuffer>
 #include <QDateTime>
@@ -15,6 +19,8 @@
 #include <QMouseEvent>
 #include <QTimer>
 #include <QWidget>
+
+#include <cstdlib>
 
 class Talker : public QWidget
 {
@@ -165,6 +171,22 @@ private slots:
         QCOMPARE(unexpectedMessages(),
                  (QStringList{"warning: nobody expects this", "critical: nor this"}));
         QCOMPARE(unexpectedMessages(), QStringList());
+    }
+
+    void askedForMemoryIsCounted()
+    {
+        QCOMPARE(allocations::during([] { std::free(std::malloc(1000)); }), 1000);
+        QCOMPARE(allocations::during([] { std::free(std::calloc(10, 100)); }), 1000);
+        QVERIFY(allocations::during([] { QByteArray(1000000, 'x'); }) >= 1000000);
+        QCOMPARE(allocations::during([] {}), 0);
+    }
+
+    void measuredTextsOfTheLibraryAreCounted()
+    {
+        SpDisLabel label;
+        label.resize(500, 20);
+        QCOMPARE(measured::during([&] { label.setText(QStringLiteral("Radio")); }), 5);
+        QCOMPARE(measured::during([] { QFontMetrics(QFont()).horizontalAdvance(u'x'); }), 1);
     }
 
     void aGifIsReadBackAsItWasWritten_data()

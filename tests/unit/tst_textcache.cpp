@@ -2,6 +2,7 @@
 #include "detail/textcache.h"
 
 #include "randomtexts.h"
+#include "textcanvas.h"
 #include "widgettest.h"
 
 #include <QPainter>
@@ -13,22 +14,7 @@ namespace
 
 const QRect kRect(7, 5, 150, 40);
 
-QImage onCanvas(const std::function<void(QPainter &)> &paint)
-{
-    QImage image(180, 60, QImage::Format_ARGB32_Premultiplied);
-    image.fill(QColor(10, 60, 90));
-    QPainter painter(&image);
-    painter.setPen(Qt::white);
-    paint(painter);
-    return image;
-}
-
-QFont fontOf(int px)
-{
-    QFont font(QStringLiteral("DejaVu Sans"));
-    font.setPixelSize(px);
-    return font;
-}
+QImage onCanvas(const std::function<void(QPainter &)> &paint) { return onCanvas({180, 60}, paint); }
 
 QVector<QFont> fonts()
 {

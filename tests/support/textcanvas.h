@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: Apache-2.0
+#ifndef TEXTCANVAS_H
+#define TEXTCANVAS_H
+
+#include <QFont>
+#include <QImage>
+#include <QPainter>
+
+#include <functional>
+
+/// What is painted in white on a dark ground of this size.
+inline QImage onCanvas(const QSize &size, const std::function<void(QPainter &)> &paint)
+{
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(QColor(10, 60, 90));
+    QPainter painter(&image);
+    painter.setPen(Qt::white);
+    paint(painter);
+    return image;
+}
+
+inline QFont fontOf(int px)
+{
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(px);
+    return font;
+}
+
+#endif // TEXTCANVAS_H
