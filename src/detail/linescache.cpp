@@ -113,12 +113,11 @@ void LinesCache::drawLines(QPainter &painter, const QRect &rect, const QRect &in
         const qreal top = topLeft.y() + line.y();
         if (top - line.height() > qreal(inSight.bottom()))
             return;
-        if (top + 2 * line.height() > qreal(inSight.top()))
-            line.draw(&painter,
-                      topLeft
-                          + QPointF(leftShare(m_setting->direction, m_setting->flags,
-                                              m_setting->size.width() - line.horizontalAdvance()),
-                                    0));
+        if (top + 2 * line.height() <= qreal(inSight.top()))
+            continue;
+        const qreal spare = qreal(m_setting->size.width()) - line.horizontalAdvance();
+        const qreal left = leftShare(m_setting->direction, m_setting->flags, spare);
+        line.draw(&painter, topLeft + QPointF(left, 0));
     }
 }
 
