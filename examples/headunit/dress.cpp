@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "dress.h"
+
+#include <spiconbutton.h>
+
+#include <algorithm>
+
+namespace headunit
+{
+
+namespace
+{
+
+struct Arrangement {
+    int iconPx = 0;
+    int rise = 0; // px of the icon above the middle
+    QRect caption;
+};
+
+// The caption of a key with an icon has a line below it.
+Arrangement arranged(const QSize &size, const Theme &theme, bool hasIcon, bool hasCaption)
+{
+    Arrangement result;
+    const int most = std::min(theme.px(44), size.height() * 6 / 10);
+    const int lineHeight = theme.textPx(Theme::Small) * 3 / 2;
+    result.iconPx = hasIcon ? most : 0;
+    result.caption = QRect(QPoint(), size);
+    if (hasIcon && hasCaption) {
+        result.iconPx = std::min(most, size.height() - lineHeight - theme.px(14));
+        const int total = result.iconPx + lineHeight;
+        const int top = (size.height() - total) / 2;
+        result.rise = (size.height() - result.iconPx) / 2 - top;
+        result.caption = QRect(0, top + result.iconPx, size.width(), lineHeight);
+    }
+    return result;
+}
+
+} // namespace
+
+void dressKey(SpIconButton &button, const Theme &theme, Theme::Style style, const QString &icon)
+{
+    const QSize size = button.size();
+    const Arrangement place =
+        arranged(size, theme, !icon.isEmpty(), !button.displayText().isEmpty());
+    const auto face = [&](Theme::State state) {
+        return theme.key(size, style, state, icon, place.iconPx, place.rise);
+    };
+    button.setShowMode(SpIconButton::HighlightMode);
+    button.setDisableMode(SpIconButton::Show_DisableImage);
+    button.setNormalImage(face(Theme::Normal));
+    button.setPressImage(face(Theme::Pressed));
+    button.setFocusPixmap(face(Theme::Selected));
+    button.setDisableImage(face(Theme::Disabled));
+    button.setNormalTextColor(theme.ink(style, Theme::Normal));
+    button.setPressTextColor(theme.ink(style, Theme::Pressed));
+    button.setFocusTextColor(theme.ink(style, Theme::Selected));
+    button.setDisableTextColor(theme.ink(style, Theme::Disabled));
+    button.setFontSize(theme.textPx(icon.isEmpty() ? Theme::Body : Theme::Small));
+    button.setTextTopMargin(place.caption.top());
+    button.setTextHeight(place.caption.height());
+}
+
+void dressLabel(QLabel &label, const Theme &theme, Theme::TextSize size, bool quiet)
+{
+    label.setFont(theme.font(size, size == Theme::Title));
+    QPalette palette = label.palette();
+    palette.setColor(QPalette::WindowText, quiet ? theme.quietText : theme.text);
+    label.setPalette(palette);
+}
+
+} // namespace headunit

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: Apache-2.0
+// A car's screen made of PanelKit.
+#include "headunit.h"
+#include "models/contacts.h"
+#include "models/musiclibrary.h"
+#include "models/player.h"
+#include "models/samples.h"
+#include "models/stations.h"
+#include "models/trackmodel.h"
+#include "models/tuner.h"
+#include "options.h"
+
+#include <QApplication>
+#include <QSettings>
+
+using namespace headunit;
+
+namespace
+{
+
+// Whatever a model cannot show it says in a sentence, which goes on the screen.
+template <typename Model> void hear(HeadUnit &screen, const Model &model, const QString &title)
+{
+    QObject::connect(&model, &Model::problem, &screen,
+                     [&screen, title](const QString &sentence) { screen.say(title, sentence); });
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("PanelKit head unit"));
+    QApplication::setOrganizationName(QStringLiteral("PanelKit"));
+    const Options options(app.arguments());
+
+    QSettings settings(options.settingsFile, QSettings::IniFormat);
+    MusicLibrary music;
+    Player player;
+    Stations stations;
+    Tuner tuner(&stations, &settings);
+    Contacts contacts;
+    Context context{settings, music, player, tuner, contacts};
+    HeadUnit screen(context, options.size, options.isNight ? Theme::Night : Theme::Day);
+
+    hear(screen, music, HeadUnit::tr("Music"));
+    hear(screen, player, HeadUnit::tr("Player"));
+    hear(screen, stations, HeadUnit::tr("Radio"));
+    hear(screen, contacts, HeadUnit::tr("Contacts"));
+    stations.load(options.stationsFile);
+    contacts.load(options.contactsFile);
+    player.setModel(music.tracks());
+    music.open(options.musicFolder);
+
+    screen.show();
+    return QApplication::exec();
+}

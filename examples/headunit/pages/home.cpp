@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "pages/home.h"
+
+#include "dress.h"
+#include "models/player.h"
+#include "models/track.h"
+#include "ui_home.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+namespace headunit
+{
+
+namespace
+{
+
+constexpr int kCorner = 28; // units, of a tile's face
+constexpr int kOwnPictures = 255; // alpha from which a tile takes the pressed picture it is given
+
+// A badge in the upper right corner of nothing: it lies over the face of a tile.
+QPixmap badge(const Theme &theme, int side)
+{
+    QPixmap pixmap(side, side);
+    pixmap.fill(Qt::transparent);
+    const int size = theme.px(16);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(theme.accent);
+    painter.drawEllipse(side - size - theme.px(14), theme.px(14), size, size);
+    return pixmap;
+}
+
+QPixmap face(const Theme &theme, int side, const QString &icon, const QColor &fill,
+             const QColor &ink)
+{
+    QPixmap pixmap = theme.panel({side, side}, fill, theme.line, theme.px(kCorner));
+    const int iconSide = side / 2;
+    QPainter painter(&pixmap);
+    painter.drawPixmap((side - iconSide) / 2, (side - iconSide) / 2,
+                       theme.icon(icon, iconSide, ink));
+    return pixmap;
+}
+
+} // namespace
+
+HomePage::HomePage(Context &context, QWidget *parent)
+    : Page(context, parent), m_ui(std::make_unique<Ui::Home>())
+{
+    m_ui->setupUi(this);
+    for (SpHomeIcon *tile : findChildren<SpHomeIcon *>()) {
+        connect(tile, &SpHomeIcon::itemPress, this, [this](int index) { m_pressed = index; });
+        connect(tile, &SpHomeIcon::itemMove, this, [this, tile](int) {
+            if (!tile->rect().contains(tile->mapFromGlobal(QCursor::pos())))
+                m_pressed = -1;
+        });
+        connect(tile, &SpHomeIcon::itemRelease, this, &HomePage::openTile);
+    }
+    for (SpHomeIcon *tile : {m_ui->navigationTile, m_ui->cameraTile, m_ui->weatherTile})
+        tile->setIsReady(false);
+    connectPlayer();
+    retranslate();
+}
+
+HomePage::~HomePage() = default;
+
+QString HomePage::title() const { return tr("Home"); }
+
+void HomePage::dress()
+{
+    const int caption = theme().textPx(Theme::Small) + theme().px(20);
+    const int row = (m_ui->tiles->geometry().height() - theme().gap()) / 2;
+    const int column = m_ui->tiles->geometry().width() / 4 - theme().gap();
+    const int side = std::min(row - caption, column);
+    for (SpHomeIcon *tile : findChildren<SpHomeIcon *>())
+        dressTile(*tile, side);
+
+    const int height = theme().touch() + theme().px(32);
+    m_ui->strip->setFixedHeight(height);
+    m_ui->strip->setPixmap(theme().panel({m_ui->columns->geometry().width(), height}, theme().face,
+                                         theme().line, theme().radius()));
+    m_ui->nowPlaying->setContentsMargins(theme().gap(), theme().px(8), theme().gap(),
+                                         theme().px(8));
+    m_ui->nowPlaying->setSpacing(theme().gap());
+    m_ui->cover->setFixedSize(theme().touch(), theme().touch());
+    m_ui->title->setFontSize(theme().textPx(Theme::Body));
+    m_ui->title->setTextColor(theme().text);
+    m_ui->title->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    dressLabel(*m_ui->artist, theme(), Theme::Small, true);
+    for (SpIconButton *key : {m_ui->previousKey, m_ui->playKey, m_ui->nextKey})
+        key->setFixedSize(theme().touch(), theme().touch());
+    dressKey(*m_ui->previousKey, theme(), Theme::Bare, QStringLiteral("previous"));
+    dressKey(*m_ui->nextKey, theme(), Theme::Bare, QStringLiteral("next"));
+    showPlaying();
+    showTrack();
+}
+
+void HomePage::retranslate()
+{
+    m_ui->retranslateUi(this);
+    m_ui->radioTile->setIconText(tr("Radio"));
+    m_ui->mediaTile->setIconText(tr("Media"));
+    m_ui->phoneTile->setIconText(tr("Phone"));
+    m_ui->navigationTile->setIconText(tr("Navigation"));
+    m_ui->soundTile->setIconText(tr("Sound"));
+    m_ui->settingsTile->setIconText(tr("Settings"));
+    m_ui->cameraTile->setIconText(tr("Camera"));
+    m_ui->weatherTile->setIconText(tr("Weather"));
+}
+
+void HomePage::connectPlayer()
+{
+    Player &player = context().player;
+    connect(&player, &Player::trackChanged, this, &HomePage::showTrack);
+    connect(&player, &Player::playingChanged, this, &HomePage::showPlaying);
+    connect(m_ui->previousKey, &SpIconButton::btnClicked, &player, &Player::previous);
+    connect(m_ui->playKey, &SpIconButton::btnClicked, &player, &Player::toggle);
+    connect(m_ui->nextKey, &SpIconButton::btnClicked, &player, &Player::next);
+}
+
+// A release on the tile that was pressed opens its application; a finger that slid off opens none.
+void HomePage::openTile(int index)
+{
+    const auto tiles = findChildren<SpHomeIcon *>();
+    const auto tile = std::find_if(tiles.begin(), tiles.end(), [index](const SpHomeIcon *other) {
+        return other->itemIndex() == index;
+    });
+    if (m_pressed == index && tile != tiles.end())
+        emit pageWanted((*tile)->iconName());
+    m_pressed = -1;
+}
+
+void HomePage::showTrack()
+{
+    const Track track = context().player.track();
+    const bool isSomething = !track.path.isEmpty();
+    m_ui->title->setText(isSomething ? track.title : tr("Nothing is playing"));
+    m_ui->artist->setText(isSomething ? track.artist : tr("Choose a track in Media"));
+    m_ui->cover->setImage(
+        theme().drawing(QStringLiteral("cover"), {theme().touch(), theme().touch()}));
+}
+
+void HomePage::showPlaying()
+{
+    const bool isPlaying = context().player.isPlaying();
+    dressKey(*m_ui->playKey, theme(), Theme::Primary,
+             isPlaying ? QStringLiteral("pause") : QStringLiteral("play"));
+    m_ui->mediaTile->setIsRunning(isPlaying);
+}
+
+void HomePage::dressTile(SpHomeIcon &tile, int side)
+{
+    const Theme &t = theme();
+    tile.setImageAlpha(kOwnPictures);
+    tile.setFontSize(t.textPx(Theme::Small));
+    tile.setTextMargin(t.px(8));
+    for (const auto setColor : {&SpHomeIcon::setFontColor, &SpHomeIcon::setPressTextColor,
+                                &SpHomeIcon::setRunningTextColor})
+        (tile.*setColor)(t.text);
+    tile.setGrayTextColor(t.quietText);
+    tile.setNormalImage(face(t, side, tile.iconName(), t.face, t.accent));
+    tile.setPressImage(face(t, side, tile.iconName(), t.pressedFace, t.accent));
+    tile.setGrayImage(face(t, side, tile.iconName(), t.face, t.line));
+    tile.setRunningImage(badge(t, side));
+}
+
+} // namespace headunit

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: Apache-2.0
+#ifndef HEADUNIT_HOME_H
+#define HEADUNIT_HOME_H
+
+#include "page.h"
+
+#include <memory>
+
+class SpHomeIcon;
+
+namespace Ui
+{
+class Home;
+}
+
+namespace headunit
+{
+
+/// The launcher: a tile for each application, and what is playing.
+class HomePage : public Page
+{
+    Q_OBJECT
+
+public:
+    explicit HomePage(Context &context, QWidget *parent = nullptr);
+    ~HomePage() override;
+
+    QString title() const override;
+
+protected:
+    void dress() override;
+    void retranslate() override;
+
+private:
+    void connectPlayer();
+    void openTile(int index);
+    void showTrack();
+    void showPlaying();
+    void dressTile(SpHomeIcon &tile, int side);
+
+    const std::unique_ptr<Ui::Home> m_ui;
+    int m_pressed = -1; // the tile under the finger, until the finger leaves it
+};
+
+} // namespace headunit
+
+#endif // HEADUNIT_HOME_H

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "popup.h"
+
+#include "dress.h"
+#include "theme.h"
+
+#include <spiconbutton.h>
+
+#include <QVBoxLayout>
+
+namespace headunit
+{
+
+Popup::Popup(QWidget *parent)
+    : SpMaskBackground(parent), m_panel(new QLabel(this)), m_title(new QLabel(m_panel)),
+      m_sentence(new QLabel(m_panel)), m_close(new SpIconButton(m_panel))
+{
+    setObjectName(QStringLiteral("popup"));
+    m_close->setObjectName(QStringLiteral("popupClose"));
+    setholdMouseEvent(true); // the page below is out of reach
+    m_title->setAlignment(Qt::AlignCenter);
+    m_sentence->setAlignment(Qt::AlignCenter);
+    m_sentence->setWordWrap(true);
+    m_sentence->setTextFormat(Qt::PlainText);
+    auto *layout = new QVBoxLayout(m_panel);
+    layout->addWidget(m_title);
+    layout->addWidget(m_sentence, 1);
+    layout->addWidget(m_close, 0, Qt::AlignHCenter);
+    connect(m_close, &SpIconButton::btnClicked, this, &Popup::showNext);
+    connect(this, &SpMaskBackground::clicked, this, &Popup::showNext);
+    hide();
+}
+
+void Popup::setTheme(const Theme &theme)
+{
+    setPainterColor(theme.veil);
+    m_panel->setFixedSize(theme.px(620), theme.px(320));
+    m_panel->setPixmap(theme.panel(m_panel->size(), theme.ground, theme.line, theme.px(20)));
+    m_panel->layout()->setContentsMargins(theme.margin(), theme.margin(), theme.margin(),
+                                          theme.margin());
+    dressLabel(*m_title, theme, Theme::Title);
+    dressLabel(*m_sentence, theme, Theme::Body);
+    m_close->setDisplayText(tr("Close"));
+    m_close->setFixedSize(theme.px(220), theme.touch());
+    dressKey(*m_close, theme, Theme::Primary);
+    place();
+}
+
+void Popup::say(const QString &title, const QString &sentence)
+{
+    m_waiting.append({title, sentence});
+    if (!isVisible())
+        showNext();
+}
+
+void Popup::resizeEvent(QResizeEvent *e)
+{
+    SpMaskBackground::resizeEvent(e);
+    place();
+}
+
+void Popup::showNext()
+{
+    setVisible(!m_waiting.isEmpty());
+    if (m_waiting.isEmpty())
+        return;
+    const auto next = m_waiting.takeFirst();
+    m_title->setText(next.first);
+    m_sentence->setText(next.second);
+    raise();
+}
+
+void Popup::place() { m_panel->move(rect().center() - m_panel->rect().center()); }
+
+} // namespace headunit

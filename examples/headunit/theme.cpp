@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "theme.h"
+
+#include <QPainter>
+#include <QPixmapCache>
+#include <QSvgRenderer>
+
+#include <algorithm>
+#include <array>
+
+namespace headunit
+{
+
+namespace
+{
+
+constexpr double kUnits = 600; // of the screen's height
+constexpr int kLeastTouch = 57; // px, 9 mm at 160 dpi
+
+// Renders once what is asked for again, on every page that shows it.
+template <typename Render>
+QPixmap cached(const QString &key, const QSize &size, const Render &render)
+{
+    QPixmap pixmap;
+    if (QPixmapCache::find(key, &pixmap))
+        return pixmap;
+    pixmap = QPixmap(size);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    render(painter);
+    painter.end();
+    QPixmapCache::insert(key, pixmap);
+    return pixmap;
+}
+
+QString sizeKey(const QSize &size)
+{
+    return QStringLiteral("%1x%2").arg(size.width()).arg(size.height());
+}
+
+} // namespace
+
+Theme::Theme(const QSize &screen, Look look) : m_screen(screen), m_look(look)
+{
+    const bool isDay = look == Day;
+    ground = isDay ? QColor(0xe9, 0xee, 0xf3) : QColor(0x0c, 0x11, 0x18);
+    face = isDay ? QColor(0xff, 0xff, 0xff, 225) : QColor(0x1b, 0x24, 0x30, 225);
+    pressedFace = isDay ? QColor(0xcf, 0xdb, 0xe8) : QColor(0x2f, 0x3e, 0x52);
+    line = isDay ? QColor(0xc3, 0xcd, 0xd8) : QColor(0x33, 0x40, 0x50);
+    text = isDay ? QColor(0x14, 0x1c, 0x26) : QColor(0xf3, 0xf6, 0xfa);
+    quietText = isDay ? QColor(0x51, 0x5f, 0x70) : QColor(0x9d, 0xac, 0xbe);
+    accent = isDay ? QColor(0x0b, 0x6b, 0xd0) : QColor(0x4a, 0xa8, 0xff);
+    onAccent = isDay ? QColor(0xff, 0xff, 0xff) : QColor(0x06, 0x14, 0x22);
+    danger = isDay ? QColor(0xc9, 0x26, 0x34) : QColor(0xf0, 0x5a, 0x64);
+    veil = isDay ? QColor(0x20, 0x2c, 0x3a, 150) : QColor(0, 0, 0, 170);
+    QPixmapCache::setCacheLimit(64 * 1024); // KiB, all of one screen's pictures
+}
+
+int Theme::px(double units) const { return qRound(units * m_screen.height() / kUnits); }
+
+int Theme::touch() const { return std::max(kLeastTouch, px(64)); }
+
+int Theme::textPx(TextSize size) const
+{
+    constexpr std::array<double, 4> kSizes{18, 23, 30, 68};
+    return px(kSizes[std::size_t(size)]);
+}
+
+QFont Theme::font(TextSize size, bool bold) const
+{
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(textPx(size));
+    font.setBold(bold);
+    return font;
+}
+
+QString Theme::file(const QString &name) { return QStringLiteral(":/panelkit/headunit/") + name; }
+
+QPixmap Theme::icon(const QString &name, int px, const QColor &color) const
+{
+    const QSize size(px, px);
+    const QString key = QStringLiteral("icon %1 %2 %3").arg(name).arg(px).arg(color.rgba());
+    return cached(key, size, [&](QPainter &painter) {
+        QSvgRenderer(file(name + QStringLiteral(".svg"))).render(&painter);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        painter.fillRect(QRect(QPoint(), size), color);
+    });
+}
+
+QPixmap Theme::drawing(const QString &name, const QSize &size) const
+{
+    const QString key = QStringLiteral("drawing %1 %2").arg(name, sizeKey(size));
+    return cached(key, size, [&](QPainter &painter) {
+        QSvgRenderer drawing(file(name + QStringLiteral(".svg")));
+        drawing.setAspectRatioMode(Qt::KeepAspectRatioByExpanding);
+        drawing.render(&painter);
+    });
+}
+
+QPixmap Theme::panel(const QSize &size, const QColor &fill, const QColor &border, int radius) const
+{
+    const QString key = QStringLiteral("panel %1 %2 %3 %4")
+                            .arg(sizeKey(size))
+                            .arg(fill.rgba())
+                            .arg(border.isValid() ? border.rgba() : 0)
+                            .arg(radius);
+    return cached(key, size, [&](QPainter &painter) {
+        painter.setPen(border.isValid() ? QPen(border, 1) : QPen(Qt::NoPen));
+        painter.setBrush(fill);
+        painter.drawRoundedRect(QRectF(QPointF(), size).adjusted(0.5, 0.5, -0.5, -0.5), radius,
+                                radius);
+    });
+}
+
+QColor Theme::faceColor(Style style, State state) const
+{
+    if (style == Bare)
+        return state == Pressed ? pressedFace : QColor(Qt::transparent);
+    if (state == Disabled)
+        return face;
+    if (state == Selected)
+        return accent;
+    if (style == Key)
+        return state == Pressed ? pressedFace : face;
+    const QColor color = style == Primary ? accent : danger;
+    return state == Pressed ? color.darker(125) : color;
+}
+
+QColor Theme::ink(Style style, State state) const
+{
+    if (state == Disabled) {
+        QColor faint = quietText;
+        faint.setAlphaF(0.55);
+        return faint;
+    }
+    if (style == Bare)
+        return state == Selected ? accent : text;
+    return state == Selected || style != Key ? onAccent : text;
+}
+
+QPixmap Theme::key(const QSize &size, Style style, State state, const QString &icon, int iconPx,
+                   int rise) const
+{
+    const QColor fill = faceColor(style, state);
+    const QColor border = style == Key && state != Selected ? line : QColor();
+    const QPixmap ground = panel(size, fill, border, radius());
+    if (icon.isEmpty())
+        return ground;
+    const QString key =
+        QStringLiteral("key %1 %2 %3 %4").arg(ground.cacheKey()).arg(icon).arg(iconPx).arg(rise)
+        + QString::number(ink(style, state).rgba());
+    return cached(key, size, [&](QPainter &painter) {
+        painter.drawPixmap(0, 0, ground);
+        painter.drawPixmap((size.width() - iconPx) / 2, (size.height() - iconPx) / 2 - rise,
+                           this->icon(icon, iconPx, ink(style, state)));
+    });
+}
+
+} // namespace headunit
