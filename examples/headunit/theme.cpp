@@ -144,14 +144,14 @@ QPixmap Theme::key(const QSize &size, Style style, State state, const QString &i
 {
     const QColor fill = faceColor(style, state);
     const QColor border = style == Key && state != Selected ? line : QColor();
-    const QPixmap ground = panel(size, fill, border, radius());
+    const QPixmap blank = panel(size, fill, border, radius());
     if (icon.isEmpty())
-        return ground;
+        return blank;
     const QString key =
-        QStringLiteral("key %1 %2 %3 %4").arg(ground.cacheKey()).arg(icon).arg(iconPx).arg(rise)
+        QStringLiteral("key %1 %2 %3 %4").arg(blank.cacheKey()).arg(icon).arg(iconPx).arg(rise)
         + QString::number(ink(style, state).rgba());
     return cached(key, size, [&](QPainter &painter) {
-        painter.drawPixmap(0, 0, ground);
+        painter.drawPixmap(0, 0, blank);
         painter.drawPixmap((size.width() - iconPx) / 2, (size.height() - iconPx) / 2 - rise,
                            this->icon(icon, iconPx, ink(style, state)));
     });
