@@ -323,8 +323,8 @@ private slots:
                 &layer, [](QPainter &p) { p.translate(-31, 0); }, kContent, counted);
             onCanvas(
                 &layer, [](QPainter &p) { p.translate(0, 131); }, kContent, counted);
-            onCanvas(&layer, turn,
-                     {QRectF(std::numeric_limits<qreal>::quiet_NaN(), 0, 9, 9), {0}}, counted);
+            onCanvas(&layer, turn, {QRectF(std::numeric_limits<qreal>::quiet_NaN(), 0, 9, 9), {0}},
+                     counted);
         }
         QCOMPARE(paints, 0);
         onCanvas(
