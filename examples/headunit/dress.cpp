@@ -3,6 +3,8 @@
 
 #include <spiconbutton.h>
 
+#include <QLayout>
+
 #include <algorithm>
 
 namespace headunit
@@ -58,6 +60,16 @@ void dressKey(SpIconButton &button, const Theme &theme, Theme::Style style, cons
     button.setFontSize(theme.textPx(icon.isEmpty() ? Theme::Body : Theme::Small));
     button.setTextTopMargin(place.caption.top());
     button.setTextHeight(place.caption.height());
+}
+
+void dressPanel(QLabel &panel, const Theme &theme)
+{
+    if (QLayout *layout = panel.layout()) {
+        layout->setContentsMargins(theme.gap(), theme.px(8), theme.gap(), theme.px(8));
+        layout->setSpacing(theme.gap());
+        layout->activate();
+    }
+    panel.setPixmap(theme.panel(panel.size(), theme.face, theme.line, theme.radius()));
 }
 
 void dressLabel(QLabel &label, const Theme &theme, Theme::TextSize size, bool quiet)

@@ -20,6 +20,10 @@ namespace headunit
 void dressKey(SpIconButton &button, const Theme &theme, Theme::Style style,
               const QString &icon = {});
 
+/// Gives a label the face of a panel, and what is laid out on it its distances. The panel has to be
+/// free of a size of its own: its size policy is to be "Ignored".
+void dressPanel(QLabel &panel, const Theme &theme);
+
 /// Gives a label a font and a colour.
 void dressLabel(QLabel &label, const Theme &theme, Theme::TextSize size, bool quiet = false);
 

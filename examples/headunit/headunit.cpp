@@ -3,6 +3,8 @@
 
 #include "page.h"
 #include "pages/home.h"
+#include "pages/radio.h"
+#include "pages/sound.h"
 #include "popup.h"
 #include "statusbar.h"
 
@@ -33,6 +35,8 @@ HeadUnit::HeadUnit(Context &context, const QSize &screen, Theme::Look look, QWid
     connect(m_statusBar, &StatusBar::backWanted, this, &HeadUnit::goBack);
 
     addPage(QStringLiteral("home"), new HomePage(context));
+    addPage(QStringLiteral("radio"), new RadioPage(context));
+    addPage(QStringLiteral("sound"), new SoundPage(context));
     setLook(look);
     openPage(QStringLiteral("home"));
 }

@@ -8,6 +8,10 @@
 #include <algorithm>
 #include <array>
 
+// The linker leaves resources of a static library out unless they are asked for, which works
+// outside of namespaces only.
+static void initialiseArt() { Q_INIT_RESOURCE(headunit_screen_headunit); }
+
 namespace headunit
 {
 
@@ -43,6 +47,7 @@ QString sizeKey(const QSize &size)
 
 Theme::Theme(const QSize &screen, Look look) : m_screen(screen), m_look(look)
 {
+    initialiseArt();
     const bool isDay = look == Day;
     ground = isDay ? QColor(0xe9, 0xee, 0xf3) : QColor(0x0c, 0x11, 0x18);
     face = isDay ? QColor(0xff, 0xff, 0xff, 225) : QColor(0x1b, 0x24, 0x30, 225);
