@@ -149,7 +149,9 @@ void RadioPage::showBand()
 void RadioPage::showFrequency()
 {
     const Tuner &tuner = context().tuner;
-    m_ui->frequency->setText(QStringLiteral("%1%2 <span style=\"font-size:%3px\">%4</span>")
+    if (theme().screen().isEmpty())
+        return; // not dressed yet
+    m_ui->frequency->setText(QStringLiteral("%1%2<span style=\"font-size:%3px\"> %4</span>")
                                  .arg(QChar(0x200E)) // left to right
                                  .arg(tuner.frequencyText())
                                  .arg(theme().textPx(Theme::Title))
@@ -181,6 +183,7 @@ void RadioPage::showPreset(int place)
     key.setDisplayText2(isStored        ? tr("Stored")
                             : frequency ? Tuner::textOf(tuner.band(), frequency)
                                         : QString());
+    key.setNormalTextColor(frequency ? theme().text : theme().quietText);
     key.setChecked(frequency && place == tuner.presetInUse());
 }
 
@@ -230,9 +233,8 @@ void RadioPage::dressPreset(MPresetButton &key)
     const QSize size = key.size();
     key.setNormalImage(theme().key(size, Theme::Key, Theme::Normal));
     key.setPressImage(theme().key(size, Theme::Key, Theme::Selected));
-    key.setFont(theme().font(Theme::Small, true));
+    key.setFont(theme().font(Theme::Small));
     key.setFontSize2(theme().textPx(Theme::Small));
-    key.setNormalTextColor(theme().text);
     key.setNormalTextColor2(theme().quietText);
     key.setPressTextColor(theme().onAccent);
     key.setPressTextColor2(theme().onAccent);

@@ -120,6 +120,7 @@ void SoundBalance::retranslate()
     m_ui->faderRear->setText(tr("Rear"));
     m_ui->faderFront->setText(tr("Front"));
     m_ui->centreKey->setDisplayText(tr("To the middle"));
+    showValues();
 }
 
 void SoundBalance::centre()
@@ -133,9 +134,23 @@ void SoundBalance::centre()
 
 void SoundBalance::showPlace()
 {
-    m_ui->balanceValue->setNum(m_ui->balance->currentValue());
-    m_ui->faderValue->setNum(m_ui->fader->currentValue());
+    showValues();
+    showCabin();
+}
 
+void SoundBalance::showValues()
+{
+    showValue(*m_ui->balanceValue, m_ui->balance->currentValue(), tr("Left %1"), tr("Right %1"));
+    showValue(*m_ui->faderValue, m_ui->fader->currentValue(), tr("Rear %1"), tr("Front %1"));
+}
+
+void SoundBalance::showValue(QLabel &label, int value, const QString &below, const QString &above)
+{
+    label.setText(value == 0 ? tr("Middle") : (value < 0 ? below : above).arg(qAbs(value)));
+}
+
+void SoundBalance::showCabin()
+{
     QPixmap picture =
         theme().panel(m_ui->cabin->size(), theme().face, theme().line, theme().radius());
     const QRect room = picture.rect().adjusted(0, theme().gap(), 0, -theme().gap());

@@ -7,6 +7,7 @@
 #include <memory>
 
 class MHorSlider;
+class QLabel;
 
 namespace Ui
 {
@@ -32,6 +33,9 @@ protected:
 private:
     void centre();
     void showPlace();
+    void showValues();
+    void showValue(QLabel &label, int value, const QString &below, const QString &above);
+    void showCabin();
     void dressSlider(MHorSlider &slider, int width);
 
     const std::unique_ptr<Ui::SoundBalance> m_ui;

@@ -4,6 +4,7 @@
 #include "dress.h"
 #include "ui_soundeffects.h"
 
+#include <QRegularExpression>
 #include <QSettings>
 
 namespace headunit
@@ -22,7 +23,6 @@ SoundEffects::SoundEffects(Context &context, QWidget *parent)
     m_ui->setupUi(this);
     QSettings &settings = context.settings;
     for (MOnOffButton *button : findChildren<MOnOffButton *>()) {
-        button->setUIStyle(MOnOffButton::ONOFF_STYLE_1);
         button->setOnoffStatus(settings.value(keyOf(button->btnID())).toBool());
         connect(button, &MOnOffButton::onoffStatusChanged, this,
                 [&settings](const QString &id, bool isOn) { settings.setValue(keyOf(id), isOn); });
@@ -34,11 +34,8 @@ SoundEffects::~SoundEffects() = default;
 
 void SoundEffects::dress()
 {
-    for (MOnOffButton *button : findChildren<MOnOffButton *>()) {
-        button->setFixedSize(theme().touch() * 7 / 4, theme().touch());
-        button->setOnColor(theme().accent);
-        button->setOffColor(theme().quietText);
-    }
+    for (MOnOffButton *button : findChildren<MOnOffButton *>())
+        dressSwitch(*button, theme());
     for (QLabel *label :
          {m_ui->loudnessLabel, m_ui->surroundLabel, m_ui->speedVolumeLabel, m_ui->keyClicksLabel})
         dressLabel(*label, theme(), Theme::Body);
@@ -49,6 +46,9 @@ void SoundEffects::dress()
     for (QLabel *panel :
          {m_ui->loudnessPanel, m_ui->surroundPanel, m_ui->speedVolumePanel, m_ui->keyClicksPanel})
         dressPanel(*panel, theme());
+    for (QVBoxLayout *texts :
+         findChildren<QVBoxLayout *>(QRegularExpression(QStringLiteral("Texts$"))))
+        texts->setSpacing(theme().px(4));
 }
 
 void SoundEffects::retranslate()

@@ -19,9 +19,8 @@ namespace
 const QString kVolumeKey = QStringLiteral("sound/volume");
 const QString kMutedKey = QStringLiteral("sound/muted");
 constexpr int kRepeat = 150; // ms, of a key that is held
-constexpr int kDialText = 12; // px, what the dial has room for beside its ticks
-constexpr double kKnob = 0.62; // of the dial's radius
-constexpr double kMark = 0.54; // likewise, from the middle
+constexpr double kKnob = 0.85; // of the dial's radius: up to its ticks
+constexpr double kMark = 0.74; // likewise, from the middle
 constexpr double kArc = 120; // degrees from the lowest volume to the highest, around the top
 
 } // namespace
@@ -100,7 +99,7 @@ void SoundVolume::showVolume()
     m_ui->muteLock->setIsDown(player.isMuted());
     m_ui->level->setNum(player.volume());
     m_ui->state->setText(player.isMuted() ? tr("Muted") : tr("Volume"));
-    dressLabel(*m_ui->level, theme(), Theme::Huge, player.isMuted());
+    m_ui->level->setEnabled(!player.isMuted());
 
     const QRect dial = m_ui->dial->geometry();
     const double angle =
@@ -112,7 +111,8 @@ void SoundVolume::showVolume()
     m_ui->mark->setGeometry(mark);
 }
 
-// The dial is larger than its panel: what is seen of it is the half with the arc.
+// The dial is larger than its panel: what is seen of it is the half with the arc. Its numbers would
+// be too small in a car: a knob with a large one covers them, and leaves the ticks.
 void SoundVolume::layOutDial()
 {
     const QSize panel = m_ui->dialPanel->size();
@@ -124,9 +124,6 @@ void SoundVolume::layOutDial()
     };
     m_ui->dial->setGeometry(around(radius));
     m_ui->dial->setRadius(radius);
-    QFont font = theme().font(Theme::Small);
-    font.setPixelSize(kDialText);
-    m_ui->dial->setFont(font);
     m_ui->dial->setBgColor(theme().pressedFace);
     m_ui->dial->setTextColor(theme().text);
     m_ui->dial->setCenterColor(theme().accent);
@@ -136,7 +133,7 @@ void SoundVolume::layOutDial()
     face.setAlpha(255);
     m_ui->knob->setGeometry(around(knob));
     m_ui->knob->setPixmap(theme().panel({2 * knob, 2 * knob}, face, theme().line, knob));
-    const int mark = theme().px(18);
+    const int mark = theme().px(26);
     m_ui->mark->resize(mark, mark);
     m_ui->mark->setPixmap(theme().panel({mark, mark}, theme().accent, QColor(), mark / 2));
     const int line = theme().textPx(Theme::Huge) * 4 / 3;
@@ -144,6 +141,10 @@ void SoundVolume::layOutDial()
     const int top = middle.y() - theme().gap() - state - line;
     m_ui->level->setGeometry(middle.x() - knob / 2, top, knob, line);
     m_ui->state->setGeometry(middle.x() - knob / 2, top + line, knob, state);
+    dressLabel(*m_ui->level, theme(), Theme::Huge);
+    QPalette palette = m_ui->level->palette();
+    palette.setColor(QPalette::Disabled, QPalette::WindowText, theme().quietText);
+    m_ui->level->setPalette(palette);
     dressLabel(*m_ui->state, theme(), Theme::Body, true);
 }
 

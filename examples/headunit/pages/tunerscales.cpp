@@ -81,6 +81,8 @@ void TunerScales::dress(const Theme &theme)
 
 void TunerScales::layOut()
 {
+    if (m_size.isEmpty())
+        return;
     layOutNeedle();
     layOutTape();
     layOutPointer();
