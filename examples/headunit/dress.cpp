@@ -97,11 +97,19 @@ void dressPanel(QLabel &panel, const Theme &theme)
     panel.setPixmap(theme.panel(panel.size(), theme.face, theme.line, theme.radius()));
 }
 
+QColor grooveColor(const Theme &theme)
+{
+    QColor color = theme.quietText;
+    color.setAlphaF(0.4);
+    return color;
+}
+
 void dressSwitch(MOnOffButton &button, const Theme &theme)
 {
     const QSize size(theme.px(92), theme.touch());
     const int pill = theme.px(46);
     button.setFixedSize(size);
+    button.setReverse(button.isRightToLeft());
     button.setNormalBkgPix(switchTrack(theme, size, pill, theme.accent));
     button.setPressBkgPix(switchTrack(theme, size, pill, theme.quietText));
     button.setNormalChunkPix(switchKnob(theme, pill, Qt::white));

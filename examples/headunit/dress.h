@@ -25,6 +25,9 @@ void dressKey(SpIconButton &button, const Theme &theme, Theme::Style style,
 /// free of a size of its own: its size policy is to be "Ignored".
 void dressPanel(QLabel &panel, const Theme &theme);
 
+/// The colour of the part of a slider that is not filled.
+QColor grooveColor(const Theme &theme);
+
 /// Gives a switch a track and a knob in the colours of the look, and room for a finger.
 void dressSwitch(MOnOffButton &button, const Theme &theme);
 

@@ -26,7 +26,7 @@ template <typename Render>
 QPixmap cached(const QString &key, const QSize &size, const Render &render)
 {
     QPixmap pixmap;
-    if (QPixmapCache::find(key, &pixmap))
+    if (size.isEmpty() || QPixmapCache::find(key, &pixmap))
         return pixmap;
     pixmap = QPixmap(size);
     pixmap.fill(Qt::transparent);

@@ -19,7 +19,7 @@ namespace
 
 constexpr int kConfirmation = 1500; // ms
 constexpr int kStepRepeat = 120; // ms, of a step key that is held
-constexpr int kColumns = 6; // of presets
+constexpr int kReading = 3000; // ms that a text stands before it rolls
 const QString kScaleKey = QStringLiteral("radio/scale");
 
 } // namespace
@@ -151,11 +151,12 @@ void RadioPage::showFrequency()
     const Tuner &tuner = context().tuner;
     if (theme().screen().isEmpty())
         return; // not dressed yet
-    m_ui->frequency->setText(QStringLiteral("%1%2<span style=\"font-size:%3px\"> %4</span>")
-                                 .arg(QChar(0x200E)) // left to right
+    m_ui->frequency->setText(QStringLiteral("%1%2<span style=\"font-size:%3px\"> %4</span>%5")
+                                 .arg(QChar(0x2066)) // from left to right, by itself
                                  .arg(tuner.frequencyText())
                                  .arg(theme().textPx(Theme::Title))
-                                 .arg(tuner.unitText()));
+                                 .arg(tuner.unitText())
+                                 .arg(QChar(0x2069)));
 }
 
 void RadioPage::showStation()
@@ -183,6 +184,10 @@ void RadioPage::showPreset(int place)
     key.setDisplayText2(isStored        ? tr("Stored")
                             : frequency ? Tuner::textOf(tuner.band(), frequency)
                                         : QString());
+    const int line = theme().textPx(Theme::Small) * 3 / 2;
+    const int top = key.height() / 2 - line;
+    key.setdisplayTextRect(frequency || isStored ? QRect(0, top, key.width(), line) : key.rect());
+    key.setdisplayTextRect2({0, top + line, key.width(), line});
     key.setNormalTextColor(frequency ? theme().text : theme().quietText);
     key.setChecked(frequency && place == tuner.presetInUse());
 }
@@ -208,13 +213,17 @@ void RadioPage::layOut()
 void RadioPage::dressTexts()
 {
     dressLabel(*m_ui->frequency, theme(), Theme::Huge);
+    const Qt::Alignment start = isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
+    m_ui->frequency->setAlignment(start | Qt::AlignAbsolute | Qt::AlignVCenter);
     m_ui->displayTexts->setSpacing(0);
     m_ui->station->setFontSize(theme().textPx(Theme::Title));
     m_ui->station->setTextColor(theme().accent);
     m_ui->radioText->setFontSize(theme().textPx(Theme::Body));
     m_ui->radioText->setTextColor(theme().quietText);
-    for (SpRollingText *text : {m_ui->station, m_ui->radioText})
+    for (SpRollingText *text : {m_ui->station, m_ui->radioText}) {
         text->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+        text->setWaitRoll(kReading);
+    }
 }
 
 void RadioPage::dressBand(MSelectButton &key)
@@ -238,10 +247,6 @@ void RadioPage::dressPreset(MPresetButton &key)
     key.setNormalTextColor2(theme().quietText);
     key.setPressTextColor(theme().onAccent);
     key.setPressTextColor2(theme().onAccent);
-    const int line = theme().textPx(Theme::Small) * 3 / 2;
-    const int top = (size.height() - 2 * line) / 2;
-    key.setdisplayTextRect({0, top, size.width(), line});
-    key.setdisplayTextRect2({0, top + line, size.width(), line});
 }
 
 } // namespace headunit

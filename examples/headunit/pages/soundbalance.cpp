@@ -173,7 +173,7 @@ void SoundBalance::dressSlider(MHorSlider &slider, int width)
     const auto groove = [&](const QColor &color) {
         return theme().panel({width, bar}, color, QColor(), bar / 2);
     };
-    slider.setSliderNormalImage(groove(theme().line));
+    slider.setSliderNormalImage(groove(grooveColor(theme())));
     slider.setSliderPressImage(groove(theme().accent));
     slider.setPointNormalImage(circle(theme(), touch, theme().accent));
     slider.setPointPressImage(circle(theme(), touch, theme().accent.darker(125)));

@@ -153,7 +153,7 @@ void SoundEqualiser::dressSlider(SpSetupSlider &slider, int height)
     const QSize size(theme().px(120), height);
     const int values = slider.maxValue() - slider.getMinValue() + 1;
     const QPixmap ground = track(theme(), size, knob.height(), values);
-    slider.setSliderNormalImage(withGroove(theme(), ground, theme().line));
+    slider.setSliderNormalImage(withGroove(theme(), ground, grooveColor(theme())));
     slider.setSliderPressImage(withGroove(theme(), ground, theme().accent));
     slider.setPointNormalImage(knobPicture(theme(), knob, theme().accent));
     slider.setFontSize(std::min(theme().textPx(Theme::Body), kLargestValue));

@@ -8,6 +8,8 @@
 #include <mradioslider.h>
 
 #include <QFontMetrics>
+#include <QGraphicsOpacityEffect>
+#include <QLinearGradient>
 #include <QPainter>
 
 #include <algorithm>
@@ -46,6 +48,21 @@ QPixmap marker(const Theme &theme, int height, int grip)
 
 // The margin that brings the top of a picture, which stands in the middle by itself, to a row.
 int marginFor(int top, int pictureHeight, int height) { return top - (height - pictureHeight) / 2; }
+
+// A scale that goes on beyond its ends is not cut off there.
+void fadeEnds(QWidget &scale, int reach)
+{
+    const qreal part = qreal(reach) / scale.width();
+    QLinearGradient mask(0, 0, scale.width(), 0);
+    mask.setColorAt(0, Qt::transparent);
+    mask.setColorAt(part, Qt::black);
+    mask.setColorAt(1 - part, Qt::black);
+    mask.setColorAt(1, Qt::transparent);
+    auto *effect = new QGraphicsOpacityEffect(&scale);
+    effect->setOpacity(1);
+    effect->setOpacityMask(mask);
+    scale.setGraphicsEffect(effect); // the one before goes with it
+}
 
 } // namespace
 
@@ -111,8 +128,8 @@ void TunerScales::layOutNeedle()
     scale.setSuggestFreqEnd(units * unit);
     scale.setTotalCountMeta(units);
     scale.setPixCountMeta(1);
-    scale.setBMid(isFm ? 10 : 5); // a number every 2 MHz or 45 kHz
-    scale.setBLarge(isFm ? 1 : 2);
+    scale.setBMid(10); // a number every 2 MHz or 90 kHz
+    scale.setBLarge(1);
 
     const int grip = m_theme.px(13);
     const int text = QFontMetrics(scale.font()).height();
@@ -147,6 +164,7 @@ void TunerScales::layOutTape()
     const QPixmap picture = marker(m_theme, height, m_theme.px(13));
     scale.setIndicatePix(picture);
     scale.setPointMarginY(marginFor(ticks, picture.height(), m_size.height()));
+    fadeEnds(scale, m_theme.px(72));
 }
 
 // Its scale has rounder ends than the band, to which the pointer snaps.
