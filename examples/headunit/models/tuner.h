@@ -70,11 +70,12 @@ private:
     void restore();
     void save();
     void moveTo(int frequency);
-    bool seek(int direction);
+    void seek(int direction);
     void stepBy(int direction);
     void scanOn();
     void updateStation();
     void onStationsChanged();
+    static QString textOf(Band band, int frequency);
     int presetOf(Band band, int place) const;
     static QString keyOf(Band band, const QString &what);
 
