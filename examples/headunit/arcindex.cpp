@@ -47,9 +47,14 @@ ArcIndex::ArcIndex(QWidget *parent)
 
 void ArcIndex::setList(SpTableList *list, const ListLetters &letters)
 {
+    if (m_model)
+        disconnect(m_model, nullptr, this, nullptr);
+    if (m_list)
+        disconnect(m_list->verticalScrollBar(), nullptr, this, nullptr);
     m_list = list;
     m_letters = letters;
-    const QAbstractItemModel *model = list->model();
+    m_model = list->model();
+    const QAbstractItemModel *model = m_model;
     connect(model, &QAbstractItemModel::modelReset, this, &ArcIndex::readLetters);
     connect(model, &QAbstractItemModel::layoutChanged, this, &ArcIndex::readLetters);
     connect(model, &QAbstractItemModel::rowsInserted, this, &ArcIndex::readLetters);

@@ -10,6 +10,7 @@
 
 class MArcList;
 class MArcScrollBar;
+class QAbstractItemModel;
 class SpTableList;
 
 namespace headunit
@@ -63,6 +64,7 @@ private:
     MArcScrollBar *const m_bar;
     MArcList *const m_arc;
     QPointer<SpTableList> m_list;
+    QPointer<QAbstractItemModel> m_model;
     ListLetters m_letters;
     QPointF m_center; // of both arcs
     QChar m_letter; // that is shown as the current one

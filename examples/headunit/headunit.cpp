@@ -3,6 +3,7 @@
 
 #include "page.h"
 #include "pages/home.h"
+#include "pages/media.h"
 #include "popup.h"
 #include "statusbar.h"
 
@@ -33,6 +34,7 @@ HeadUnit::HeadUnit(Context &context, const QSize &screen, Theme::Look look, QWid
     connect(m_statusBar, &StatusBar::backWanted, this, &HeadUnit::goBack);
 
     addPage(QStringLiteral("home"), new HomePage(context));
+    addPage(QStringLiteral("media"), new MediaPage(context));
     setLook(look);
     openPage(QStringLiteral("home"));
 }
