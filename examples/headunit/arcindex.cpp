@@ -82,15 +82,16 @@ void ArcIndex::dress(const Theme &theme)
 void ArcIndex::dressLetters(const Theme &theme, double radius)
 {
     constexpr int kBox = 40; // px, room of a letter
+    constexpr int kLeastPitch = 57; // px, that of keys
     const int reach = qRound(radius) + theme.px(24);
     m_arc->setGeometry(int(m_center.x()), 0, reach, height());
     const QPoint center(0, height() / 2);
     m_arc->setMask(QRegion(QRect(center - QPoint(reach, reach), QSize(2 * reach, 2 * reach)),
                            QRegion::Ellipse));
-    const double pitch = qRadiansToDegrees(std::max(theme.touch(), kBox) / radius);
+    const int pitch = std::max(kLeastPitch, theme.px(kLeastPitch));
     m_arc->setRadius(radius);
-    m_arc->setItemHight(pitch);
-    m_arc->setShowItem(int(qRadiansToDegrees(qAsin(height() / 2.0 / radius)) / pitch) + 2);
+    m_arc->setItemHight(qRadiansToDegrees(pitch / radius));
+    m_arc->setShowItem((height() / 2 - kBox) / pitch); // on either side; all of them whole
     QFont font = theme.font(Theme::Body, true);
     font.setPixelSize(std::min(font.pixelSize(), kBox * 3 / 4));
     m_arc->setFont(font);
@@ -114,8 +115,8 @@ void ArcIndex::dressBar(const Theme &theme, double radius)
     QPalette colors = m_bar->palette();
     colors.setColor(m_bar->foregroundRole(), theme.quietText);
     m_bar->setPalette(colors);
-    m_bar->setPointPixmap(theme.panel({theme.px(8), qRound(outer * (1 - kTickStart))},
-                                      theme.accent, {}, theme.px(4)));
+    m_bar->setPointPixmap(theme.panel({theme.px(8), qRound(outer * (1 - kTickStart))}, theme.accent,
+                                      {}, theme.px(4)));
 }
 
 void ArcIndex::readLetters()

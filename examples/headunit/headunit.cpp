@@ -4,6 +4,7 @@
 #include "page.h"
 #include "pages/home.h"
 #include "pages/media.h"
+#include "pages/phone.h"
 #include "popup.h"
 #include "statusbar.h"
 
@@ -35,6 +36,7 @@ HeadUnit::HeadUnit(Context &context, const QSize &screen, Theme::Look look, QWid
 
     addPage(QStringLiteral("home"), new HomePage(context));
     addPage(QStringLiteral("media"), new MediaPage(context));
+    addPage(QStringLiteral("phone"), new PhonePage(context));
     setLook(look);
     openPage(QStringLiteral("home"));
 }

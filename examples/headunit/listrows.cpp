@@ -137,7 +137,7 @@ void RowPainter::drawTexts(QPainter &painter, const QRect &whole, int left,
     painter.setFont(m_theme.font(Theme::Small));
     painter.setPen(m_theme.quietText);
     if (!row.tail.isEmpty()) {
-        const int width = painter.fontMetrics().horizontalAdvance(row.tail);
+        const int width = painter.fontMetrics().horizontalAdvance(row.tail) + m_theme.px(2);
         right -= width;
         drawLine(painter, mirrored({right, whole.top(), width, whole.height()}, whole), row.tail);
         right -= m_theme.gap();

@@ -140,7 +140,7 @@ void Library::readFolders()
         ListRow row;
         row.icon = QStringLiteral("folder");
         row.title = folder.name;
-        row.tail = tr("%n track(s)", nullptr, folder.tracks);
+        row.tail = tr("Tracks: %1").arg(folder.tracks);
         const QString place = root.relativeFilePath(QFileInfo(folder.path).path());
         if (!place.startsWith(QLatin1Char('.')))
             row.detail = place;
@@ -161,7 +161,7 @@ void Library::showHeading()
     if (music.isWalked() && !music.isFinished())
         showProgress(music.readCount(), total);
     else
-        m_ui->progress->setText(tr("%n track(s)", nullptr, total));
+        m_ui->progress->setText(tr("Tracks: %1").arg(total));
 }
 
 void Library::showProgress(int read, int total)

@@ -141,9 +141,9 @@ void NowPlaying::dressKeys()
     const int side = m_ui->keys->height();
     m_ui->keyRow->setContentsMargins(0, 0, 0, 0);
     m_ui->keyRow->setSpacing(theme().margin());
-    for (QWidget *place : {static_cast<QWidget *>(m_ui->previousKey),
-                           static_cast<QWidget *>(m_ui->nextKey), m_ui->playPlace,
-                           m_ui->shufflePlace, static_cast<QWidget *>(m_ui->repeatKey)})
+    for (QWidget *place :
+         {static_cast<QWidget *>(m_ui->previousKey), static_cast<QWidget *>(m_ui->nextKey),
+          m_ui->playPlace, m_ui->shufflePlace, static_cast<QWidget *>(m_ui->repeatKey)})
         place->setFixedSize(side, side);
     dressKey(*m_ui->previousKey, theme(), Theme::Bare, QStringLiteral("previous"));
     dressKey(*m_ui->nextKey, theme(), Theme::Bare, QStringLiteral("next"));
@@ -176,13 +176,12 @@ void NowPlaying::makePlayKeys(int side)
 PlayButton *NowPlaying::makePlayKey(const QString &icon, int side)
 {
     const auto file = [&](const QString &name, Theme::State state) {
-        const QPixmap face =
-            theme().key({side, side}, Theme::Primary, state, icon, theme().px(48));
+        const QPixmap face = theme().key({side, side}, Theme::Primary, state, icon, theme().px(48));
         return m_files.write(name, face);
     };
-    auto *key = new PlayButton(0, 0, 0, file(icon, Theme::Normal),
-                               file(icon + QStringLiteral("-pressed"), Theme::Pressed),
-                               m_ui->playPlace);
+    auto *key =
+        new PlayButton(0, 0, 0, file(icon, Theme::Normal),
+                       file(icon + QStringLiteral("-pressed"), Theme::Pressed), m_ui->playPlace);
     key->setObjectName(icon + QStringLiteral("Key"));
     connect(key, &PlayButton::clicked, &context().player, &Player::toggle);
     return key;
@@ -234,11 +233,9 @@ void NowPlaying::showCover(const QString &path, const QImage &cover)
     const QSize size = m_ui->cover->size();
     if (path != m_coverPath || size.isEmpty())
         return;
-    if (cover.isNull()) {
-        m_ui->cover->setImage(theme().drawing(QStringLiteral("cover"), size));
-        return;
-    }
-    m_ui->cover->setImage(theme().rounded(cover, size));
+    const QImage shown =
+        cover.isNull() ? theme().drawing(QStringLiteral("cover"), size).toImage() : cover;
+    m_ui->cover->setImage(theme().rounded(shown, size));
 }
 
 void NowPlaying::showPlaying()
@@ -272,10 +269,7 @@ void NowPlaying::showDuration()
     showPosition();
 }
 
-void NowPlaying::showRepeat()
-{
-    m_ui->repeatKey->setCurrentValue(int(context().player.repeat()));
-}
+void NowPlaying::showRepeat() { m_ui->repeatKey->setCurrentValue(int(context().player.repeat())); }
 
 // The key cannot be told to go back to its first state: then another one takes its place.
 void NowPlaying::showShuffle()
