@@ -18,7 +18,7 @@ namespace headunit
 namespace
 {
 
-constexpr int kPlaces = 100; // of the scroll bar, each with a tick
+constexpr int kPlaces = 60; // of the scroll bar, each with a tick
 constexpr double kTickStart = 0.93; // of the bar's radius
 
 QPixmap ring(const Theme &theme, int side)
@@ -113,7 +113,9 @@ void ArcIndex::dressBar(const Theme &theme, double radius)
     m_bar->setCenterPoint(m_center);
     m_bar->setStartAngle(180 - reach);
     QPalette colors = m_bar->palette();
-    colors.setColor(m_bar->foregroundRole(), theme.quietText);
+    QColor ticks = theme.quietText;
+    ticks.setAlphaF(0.6);
+    colors.setColor(m_bar->foregroundRole(), ticks);
     m_bar->setPalette(colors);
     m_bar->setPointPixmap(theme.panel({theme.px(8), qRound(outer * (1 - kTickStart))}, theme.accent,
                                       {}, theme.px(4)));

@@ -58,7 +58,8 @@ void CallView::showCall()
 {
     const Contact contact = context().contacts.contactByNumber(m_call->number());
     m_ui->name->setText(contact.name.isEmpty() ? m_call->number() : contact.name);
-    m_ui->number->setText(contact.name.isEmpty() ? QString() : m_call->number());
+    m_ui->number->setText(m_call->number());
+    m_ui->number->setHidden(contact.name.isEmpty());
     if (isVisible()) {
         dressKey(*m_ui->muteKey, theme(), Theme::Key,
                  m_call->isMuted() ? QStringLiteral("microphone-off")

@@ -42,7 +42,6 @@ Keypad::Keypad(Context &context, const RecentNumbers *recent, QWidget *parent)
             [this](int row) { emit numberChosen(m_recent->numbers().value(row)); });
     connect(recent, &RecentNumbers::changed, this, &Keypad::readRecent);
     connect(&context.contacts, &Contacts::modelReset, this, &Keypad::readRecent);
-    readRecent();
     retranslate();
 }
 
@@ -92,7 +91,7 @@ void Keypad::dress()
 void Keypad::retranslate()
 {
     m_ui->retranslateUi(this);
-    m_ui->recentHeading->setText(tr("Recent"));
+    readRecent();
 }
 
 void Keypad::setNumber(const QString &number)
@@ -152,6 +151,7 @@ void Keypad::readRecent()
         rows.append(row);
     }
     m_recentRows->setRows(rows);
+    m_ui->recentHeading->setText(rows.isEmpty() ? tr("No recent numbers") : tr("Recent"));
 }
 
 } // namespace headunit

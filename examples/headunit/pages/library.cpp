@@ -22,6 +22,8 @@ Library::Library(Context &context, QWidget *parent)
     m_ui->setupUi(this);
     const MusicLibrary &music = context.music;
     connect(m_ui->list, QOverload<int>::of(&SpTableList::itemClicked), this, &Library::openRow);
+    connect(music.tracks(), &TrackModel::rowsInserted, this, &Library::showHeading);
+    connect(music.tracks(), &TrackModel::modelReset, this, &Library::showHeading);
     connect(&music, &MusicLibrary::walked, this, &Library::readFolders);
     connect(&music, &MusicLibrary::walked, this, &Library::showHeading);
     connect(&music, &MusicLibrary::progress, this, &Library::showProgress);
@@ -153,13 +155,14 @@ void Library::readFolders()
 void Library::showHeading()
 {
     const MusicLibrary &music = context().music;
-    const int total = music.tracks()->rowCount();
-    if (m_content == Content::FolderTracks)
+    const bool isInFolder = m_content == Content::FolderTracks;
+    const int total = (isInFolder ? m_folderTracks : music.tracks())->rowCount();
+    if (isInFolder)
         m_ui->heading->setText(m_folder);
     else
         m_ui->heading->setText(m_content == Content::Folders ? tr("Folders") : tr("All tracks"));
     if (music.isWalked() && !music.isFinished())
-        showProgress(music.readCount(), total);
+        showProgress(music.readCount(), music.tracks()->rowCount());
     else
         m_ui->progress->setText(tr("Tracks: %1").arg(total));
 }

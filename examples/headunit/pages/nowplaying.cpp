@@ -34,6 +34,9 @@ NowPlaying::NowPlaying(Context &context, QWidget *parent)
     m_ui->title->setAutoRoll(false);
     m_ui->equaliser->setGifImage(Theme::file(QStringLiteral("equaliser.gif")));
     m_ui->equaliser->setGifState(Still);
+    QSizePolicy place = m_ui->equaliser->sizePolicy();
+    place.setRetainSizeWhenHidden(true); // the titles stay where they are
+    m_ui->equaliser->setSizePolicy(place);
     connectPlayer();
     connectKeys();
     retranslate();
@@ -257,8 +260,9 @@ void NowPlaying::showPosition()
     const qint64 position = context().player.position();
     m_ui->progress->setRealValue(int(position));
     m_ui->elapsed->setText(timeText(position / kSecond));
-    m_ui->remaining->setText(QLatin1Char('-')
-                             + timeText((context().player.duration() - position) / kSecond));
+    const qint64 remaining = context().player.duration() - position;
+    const QString sign = remaining >= kSecond ? QStringLiteral("-") : QString();
+    m_ui->remaining->setText(sign + timeText(remaining / kSecond));
 }
 
 void NowPlaying::showDuration()
