@@ -10,6 +10,7 @@
 #include "models/trackmodel.h"
 #include "models/tuner.h"
 #include "page.h"
+#include "virtualtime.h"
 #include "widgettest.h"
 
 #include <QSettings>
@@ -57,5 +58,17 @@ protected:
         return false;
     }
 };
+
+/// What happens in a minute in which nobody does anything. Qt's cache of pictures has let go by
+/// then of what is not shown any more, which it does by a timer.
+inline QString happenedWhileIdle()
+{
+    constexpr int kMinute = 60'000; // ms
+    virtualtime::advance(10 * kMinute);
+    Activity activity;
+    virtualtime::advance(kMinute);
+    activity.happened.removeOne(QStringLiteral("Timer QTimer")); // that ends the wait
+    return activity.happened.join(QStringLiteral(", "));
+}
 
 #endif // PAGETEST_H

@@ -246,11 +246,7 @@ void tst_MediaPage::nothingHappensWhileIdle()
         media.player.pause();
         for (const int view : {0, 1, 2}) {
             emit media.child<SideKeys>("sideKeys")->chosen(view);
-            virtualtime::advance(5000);
-            const Activity activity;
-            virtualtime::advance(60'000);
-            QVERIFY2(activity.happened.isEmpty(),
-                     qPrintable(activity.happened.join(QLatin1String(", "))));
+            QCOMPARE(happenedWhileIdle(), QString());
         }
     }
 }

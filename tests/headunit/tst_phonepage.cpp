@@ -232,11 +232,7 @@ void tst_PhonePage::nothingHappensWhileIdle()
             phone.tap("callKey").hold(5000);
             phone.tap("hangUpKey");
         }
-        virtualtime::advance(5000);
-        const Activity activity;
-        virtualtime::advance(60'000);
-        QVERIFY2(activity.happened.isEmpty(),
-                 qPrintable(activity.happened.join(QLatin1String(", "))));
+        QCOMPARE(happenedWhileIdle(), QString());
     }
 }
 
