@@ -2,16 +2,13 @@
 #include "page.h"
 
 #include <QEvent>
-#include <QLayout>
 
 namespace headunit
 {
 
-void Page::setTheme(const Theme &theme)
+QMargins Page::margins(const Theme &theme) const
 {
-    View::setTheme(theme);
-    if (layout())
-        layout()->setContentsMargins(theme.margin(), theme.gap(), theme.margin(), theme.margin());
+    return {theme.margin(), theme.gap(), theme.margin(), theme.margin()};
 }
 
 void Page::changeEvent(QEvent *e)

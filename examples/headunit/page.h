@@ -18,8 +18,6 @@ public:
     /// What the status bar shows while the page is open, in the language of the moment.
     virtual QString title() const = 0;
 
-    void setTheme(const Theme &theme) override;
-
     /// Where the back key leads within the page; false if that is the home page.
     virtual bool goBack() { return false; }
 
@@ -31,6 +29,7 @@ signals:
     void titleChanged();
 
 protected:
+    QMargins margins(const Theme &theme) const override;
     void changeEvent(QEvent *e) override;
 };
 

@@ -103,6 +103,21 @@ QPixmap Theme::drawing(const QString &name, const QSize &size) const
     });
 }
 
+QPixmap Theme::rounded(const QImage &photograph, const QSize &size) const
+{
+    const QImage scaled =
+        photograph.scaled(size, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
+    const QPoint corner((scaled.width() - size.width()) / 2, (scaled.height() - size.height()) / 2);
+    QPixmap picture(size);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QBrush(scaled.copy(QRect(corner, size))));
+    painter.drawRoundedRect(picture.rect(), radius(), radius());
+    return picture;
+}
+
 QPixmap Theme::panel(const QSize &size, const QColor &fill, const QColor &border, int radius) const
 {
     const QString key = QStringLiteral("panel %1 %2 %3 %4")

@@ -16,13 +16,15 @@ void View::setTheme(const Theme &theme)
 {
     m_theme = theme;
     if (layout()) {
-        layout()->setContentsMargins(0, 0, 0, 0);
+        layout()->setContentsMargins(margins(theme));
         layout()->setSpacing(theme.gap());
     }
     m_isDressed = false;
     if (isVisible())
         dressNow();
 }
+
+QMargins View::margins(const Theme &) const { return {}; }
 
 void View::changeEvent(QEvent *e)
 {

@@ -30,6 +30,8 @@ protected:
     virtual void dress() = 0;
     /// Writes all texts anew; those of the form first.
     virtual void retranslate() = 0;
+    /// What stays free around the layout of the form; nothing by default.
+    virtual QMargins margins(const Theme &theme) const;
 
     const Theme &theme() const { return m_theme; }
     Context &context() { return m_context; }
