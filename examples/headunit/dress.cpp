@@ -3,6 +3,9 @@
 
 #include <spiconbutton.h>
 
+#include <QGuiApplication>
+#include <QStyle>
+
 #include <algorithm>
 
 namespace headunit
@@ -66,6 +69,12 @@ void dressLabel(QLabel &label, const Theme &theme, Theme::TextSize size, bool qu
     QPalette palette = label.palette();
     palette.setColor(QPalette::WindowText, quiet ? theme.quietText : theme.text);
     label.setPalette(palette);
+}
+
+Qt::Alignment leadingAlignment()
+{
+    return QStyle::visualAlignment(QGuiApplication::layoutDirection(), Qt::AlignLeft)
+        | Qt::AlignAbsolute | Qt::AlignVCenter;
 }
 
 } // namespace headunit

@@ -23,6 +23,10 @@ void dressKey(SpIconButton &button, const Theme &theme, Theme::Style style,
 /// Gives a label a font and a colour.
 void dressLabel(QLabel &label, const Theme &theme, Theme::TextSize size, bool quiet = false);
 
+/// Where lines begin in a language that is read like the application's, whatever language the line
+/// itself is in.
+Qt::Alignment leadingAlignment();
+
 } // namespace headunit
 
 #endif // HEADUNIT_DRESS_H
