@@ -106,7 +106,7 @@ void Keypad::callOrHangUp()
 {
     if (m_isInCall)
         emit hangUpWanted();
-    else if (!m_number.isEmpty())
+    else
         emit numberChosen(m_number);
 }
 
