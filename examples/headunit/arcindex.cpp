@@ -20,6 +20,9 @@ namespace
 
 constexpr int kPlaces = 60; // of the scroll bar, each with a tick
 constexpr double kTickStart = 0.93; // of the bar's radius
+constexpr int kLetterBox = 40; // px, what a letter has on any screen
+constexpr int kRing = 4; // units that the ring is wider than a letter's box
+constexpr int kLeastPitch = 57; // px from letter to letter, as with keys
 
 QPixmap ring(const Theme &theme, int side)
 {
@@ -64,61 +67,68 @@ void ArcIndex::setList(SpTableList *list, const ListLetters &letters)
     readLetters();
 }
 
-// Both arcs have their centre far to the left, at half of the height. At the ends of the letters'
-// arc they stand `sagitta` px farther to the left than in its middle.
-void ArcIndex::dress(const Theme &theme)
+// At the ends of their arc the letters stand farther to the left than in its middle, by its
+// sagitta.
+ArcIndex::Arcs::Arcs(const Theme &theme, int height)
 {
+    const double half = height / 2.0;
     const double sagitta = theme.px(36);
-    const double half = height() / 2.0;
-    const double radius = (half * half + sagitta * sagitta) / (2 * sagitta);
-    m_center = QPointF(qRound(sagitta + theme.px(26) - radius), half);
-    dressLetters(theme, radius);
-    dressBar(theme, radius);
+    const double ring = (kLetterBox + theme.px(kRing)) / 2.0;
+    letters = (half * half + sagitta * sagitta) / (2 * sagitta);
+    border = letters + ring;
+    bar = (border + theme.px(2)) / kTickStart;
+    center = QPointF(qRound(sagitta + ring - letters), half);
+    width = qCeil(center.x() + bar) + theme.px(4);
+}
+
+void ArcIndex::dress(const Theme &theme, int height)
+{
+    const Arcs arcs(theme, height);
+    setFixedWidth(arcs.width);
+    resize(arcs.width, height);
+    dressLetters(theme, arcs);
+    dressBar(theme, arcs);
     showPlace();
 }
 
-// The letters lie above the bar and take the touches as far as their arc goes, with half a key
-// beyond it.
-void ArcIndex::dressLetters(const Theme &theme, double radius)
+// The letters lie above the bar and take the touches as far as their arc goes.
+void ArcIndex::dressLetters(const Theme &theme, const Arcs &arcs)
 {
-    constexpr int kBox = 40; // px, room of a letter
-    constexpr int kLeastPitch = 57; // px, that of keys
-    const int reach = qRound(radius) + theme.px(24);
-    m_arc->setGeometry(int(m_center.x()), 0, reach, height());
+    const int reach = qRound(arcs.border);
+    const int pitch = std::max(kLeastPitch, theme.px(kLeastPitch));
+    m_arc->setGeometry(int(arcs.center.x()), 0, reach, height());
     const QPoint center(0, height() / 2);
     m_arc->setMask(QRegion(QRect(center - QPoint(reach, reach), QSize(2 * reach, 2 * reach)),
                            QRegion::Ellipse));
-    const int pitch = std::max(kLeastPitch, theme.px(kLeastPitch));
-    m_arc->setRadius(radius);
-    m_arc->setItemHight(qRadiansToDegrees(pitch / radius));
-    m_arc->setShowItem((height() / 2 - kBox) / pitch); // on either side; all of them whole
+    m_arc->setRadius(arcs.letters);
+    m_arc->setItemHight(qRadiansToDegrees(pitch / arcs.letters));
+    m_arc->setShowItem((height() / 2 - kLetterBox) / pitch); // on either side; all of them whole
     QFont font = theme.font(Theme::Body, true);
-    font.setPixelSize(std::min(font.pixelSize(), kBox * 3 / 4));
+    font.setPixelSize(std::min(font.pixelSize(), kLetterBox * 3 / 4));
     m_arc->setFont(font);
     QPalette colors = m_arc->palette();
     colors.setColor(m_arc->foregroundRole(), theme.text);
     m_arc->setPalette(colors);
     m_arc->setPressColor(theme.accent);
-    m_arc->setPointPixmap(ring(theme, kBox + theme.px(6)));
-    // The box of a letter hangs below its place on the arc; the ring goes around its middle.
-    m_arc->setPixXOffset(qRadiansToDegrees(kBox / 2 / radius));
+    m_arc->setPointPixmap(ring(theme, kLetterBox + theme.px(kRing)));
+    // A letter hangs below its place on the arc; the ring goes around its middle.
+    m_arc->setPixXOffset(qRadiansToDegrees(kLetterBox / 2 / arcs.letters));
 }
 
-void ArcIndex::dressBar(const Theme &theme, double radius)
+void ArcIndex::dressBar(const Theme &theme, const Arcs &arcs)
 {
-    const double outer = (radius + theme.px(26)) / kTickStart;
-    const double reach = qRadiansToDegrees(qAsin((height() / 2.0 - theme.px(10)) / outer));
+    const double reach = qRadiansToDegrees(qAsin((height() / 2.0 - theme.px(10)) / arcs.bar));
     m_bar->setGeometry(rect());
-    m_bar->setRadius(outer);
-    m_bar->setCenterPoint(m_center);
+    m_bar->setRadius(arcs.bar);
+    m_bar->setCenterPoint(arcs.center);
     m_bar->setStartAngle(180 - reach);
-    QPalette colors = m_bar->palette();
     QColor ticks = theme.quietText;
     ticks.setAlphaF(0.6);
+    QPalette colors = m_bar->palette();
     colors.setColor(m_bar->foregroundRole(), ticks);
     m_bar->setPalette(colors);
-    m_bar->setPointPixmap(theme.panel({theme.px(8), qRound(outer * (1 - kTickStart))}, theme.accent,
-                                      {}, theme.px(4)));
+    m_bar->setPointPixmap(theme.panel({theme.px(8), qRound(arcs.bar * (1 - kTickStart))},
+                                      theme.accent, {}, theme.px(4)));
 }
 
 void ArcIndex::readLetters()

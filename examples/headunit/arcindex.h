@@ -3,6 +3,7 @@
 #define HEADUNIT_ARCINDEX_H
 
 #include <QPointer>
+#include <QPointF>
 #include <QVector>
 #include <QWidget>
 
@@ -49,11 +50,23 @@ public:
     /// set that first.
     void setList(SpTableList *list, const ListLetters &letters);
 
-    void dress(const Theme &theme);
+    /// Takes the width that both arcs need at this height.
+    void dress(const Theme &theme, int height);
 
 private:
-    void dressLetters(const Theme &theme, double radius);
-    void dressBar(const Theme &theme, double radius);
+    /// Two arcs around one centre, which lies far to the left, at half of the height.
+    struct Arcs {
+        Arcs(const Theme &theme, int height);
+
+        double letters; // px, radius through their middles
+        double border; // px, radius between letters and bar
+        double bar; // px, radius of its outer end
+        QPointF center;
+        int width; // px
+    };
+
+    void dressLetters(const Theme &theme, const Arcs &arcs);
+    void dressBar(const Theme &theme, const Arcs &arcs);
     void readLetters();
     void showLetter(QChar letter);
     void showPlace();
@@ -66,7 +79,6 @@ private:
     QPointer<SpTableList> m_list;
     QPointer<QAbstractItemModel> m_model;
     ListLetters m_letters;
-    QPointF m_center; // of both arcs
     QChar m_letter; // that is shown as the current one
     bool m_isGoing = false; // to a letter that was tapped
 };

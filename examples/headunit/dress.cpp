@@ -4,8 +4,10 @@
 #include <monoffbutton.h>
 #include <spiconbutton.h>
 
+#include <QGuiApplication>
 #include <QLayout>
 #include <QPainter>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -122,6 +124,12 @@ void dressLabel(QLabel &label, const Theme &theme, Theme::TextSize size, bool qu
     QPalette palette = label.palette();
     palette.setColor(QPalette::WindowText, quiet ? theme.quietText : theme.text);
     label.setPalette(palette);
+}
+
+Qt::Alignment leadingAlignment()
+{
+    return QStyle::visualAlignment(QGuiApplication::layoutDirection(), Qt::AlignLeft)
+        | Qt::AlignAbsolute | Qt::AlignVCenter;
 }
 
 } // namespace headunit

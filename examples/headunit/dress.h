@@ -34,6 +34,10 @@ void dressSwitch(MOnOffButton &button, const Theme &theme);
 /// Gives a label a font and a colour.
 void dressLabel(QLabel &label, const Theme &theme, Theme::TextSize size, bool quiet = false);
 
+/// Where lines begin in a language that is read like the application's, whatever language the line
+/// itself is in.
+Qt::Alignment leadingAlignment();
+
 } // namespace headunit
 
 #endif // HEADUNIT_DRESS_H

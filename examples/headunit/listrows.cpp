@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "listrows.h"
 
+#include "dress.h"
+
 #include <sptablelist.h>
 
 #include <QGuiApplication>
@@ -45,11 +47,8 @@ int lineHeight(const Theme &theme, Theme::TextSize size) { return theme.textPx(s
 // A line that begins where the language begins, shortened to its room.
 void drawLine(QPainter &painter, const QRect &area, const QString &text)
 {
-    const Qt::Alignment side =
-        QStyle::visualAlignment(QGuiApplication::layoutDirection(), Qt::AlignLeft);
     const QString shown = painter.fontMetrics().elidedText(text, Qt::ElideRight, area.width());
-    painter.drawText(area, int(side | Qt::AlignAbsolute | Qt::AlignVCenter | Qt::TextSingleLine),
-                     shown);
+    painter.drawText(area, int(leadingAlignment()) | Qt::TextSingleLine, shown);
 }
 
 QPixmap pressedFace(const QSize &size, const Theme &theme)

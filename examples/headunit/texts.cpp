@@ -19,4 +19,11 @@ QString timeText(qint64 seconds)
         .arg(last);
 }
 
+QString numberText(const QString &number)
+{
+    constexpr ushort kLeftToRight = 0x202a;
+    constexpr ushort kEnd = 0x202c;
+    return number.isEmpty() ? number : QChar(kLeftToRight) + number + QChar(kEnd);
+}
+
 } // namespace headunit

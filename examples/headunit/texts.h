@@ -10,6 +10,9 @@ namespace headunit
 /// A length of time as players and telephones write it: 4:07, or 1:02:33.
 QString timeText(qint64 seconds);
 
+/// A telephone number as it is dialled, also among words that are read from the right.
+QString numberText(const QString &number);
+
 } // namespace headunit
 
 #endif // HEADUNIT_TEXTS_H

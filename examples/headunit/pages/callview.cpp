@@ -30,14 +30,16 @@ void CallView::dress()
 {
     const int side = theme().px(200);
     const int keyHeight = theme().touch() + theme().px(40);
-    m_ui->caller->setContentsMargins(theme().px(120), 0, theme().margin(), 0);
+    m_ui->caller->setContentsMargins(theme().px(120), 0, theme().px(120), 0);
     m_ui->caller->setSpacing(theme().px(48));
     m_ui->texts->setSpacing(theme().px(10));
     m_ui->picture->setFixedSize(side, side);
-    m_ui->picture->setImage(theme().drawing(QStringLiteral("person-large"), {side, side}));
+    m_ui->picture->setImage(theme().icon(QStringLiteral("person-large"), side, theme().quietText));
     dressLabel(*m_ui->name, theme(), Theme::Title);
     dressLabel(*m_ui->number, theme(), Theme::Body, true);
     dressLabel(*m_ui->state, theme(), Theme::Body);
+    for (QLabel *label : {m_ui->name, m_ui->number, m_ui->state})
+        label->setAlignment(leadingAlignment());
     for (SpIconButton *key : {m_ui->muteKey, m_ui->holdKey, m_ui->keypadKey, m_ui->hangUpKey})
         key->setFixedHeight(keyHeight);
     layout()->activate();
@@ -57,8 +59,8 @@ void CallView::retranslate()
 void CallView::showCall()
 {
     const Contact contact = context().contacts.contactByNumber(m_call->number());
-    m_ui->name->setText(contact.name.isEmpty() ? m_call->number() : contact.name);
-    m_ui->number->setText(m_call->number());
+    m_ui->name->setText(contact.name.isEmpty() ? numberText(m_call->number()) : contact.name);
+    m_ui->number->setText(numberText(m_call->number()));
     m_ui->number->setHidden(contact.name.isEmpty());
     if (isVisible()) {
         dressKey(*m_ui->muteKey, theme(), Theme::Key,

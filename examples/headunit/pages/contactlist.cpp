@@ -3,6 +3,7 @@
 
 #include "listrows.h"
 #include "models/contacts.h"
+#include "texts.h"
 #include "ui_contactlist.h"
 
 namespace headunit
@@ -28,7 +29,7 @@ protected:
         result.title = contact.name;
         result.detail = contact.organisation;
         if (!contact.numbers.isEmpty())
-            result.tail = contact.numbers.first().number;
+            result.tail = numberText(contact.numbers.first().number);
         return result;
     }
 
@@ -61,10 +62,9 @@ void ContactList::dress()
         theme().panel(m_ui->panel->size(), theme().face, theme().line, theme().radius()));
     m_ui->listRow->setContentsMargins(theme().px(4), theme().px(6), theme().px(4), theme().px(6));
     m_ui->listRow->setSpacing(0);
-    m_ui->index->setFixedWidth(theme().px(132));
+    m_ui->index->dress(theme(), m_ui->panel->height() - 2 * theme().px(6));
     m_ui->listRow->activate();
     dressList(*m_ui->list, theme());
-    m_ui->index->dress(theme());
 }
 
 void ContactList::retranslate() { m_ui->retranslateUi(this); }

@@ -5,6 +5,7 @@
 #include "listrows.h"
 #include "models/contacts.h"
 #include "pages/recentnumbers.h"
+#include "texts.h"
 #include "ui_keypad.h"
 
 #include <QFontMetrics>
@@ -67,6 +68,7 @@ void Keypad::dress()
     m_ui->deleteKey->setFixedHeight(theme().touch());
     m_ui->callKey->setFixedHeight(theme().touch());
     dressLabel(*m_ui->recentHeading, theme(), Theme::Small, true);
+    m_ui->recentHeading->setAlignment(leadingAlignment());
     layout()->activate();
     m_ui->digits->activate();
     dressPad();
@@ -104,7 +106,7 @@ void Keypad::callOrHangUp()
 {
     if (m_isInCall)
         emit hangUpWanted();
-    else if (!m_number.isEmpty())
+    else
         emit numberChosen(m_number);
 }
 
@@ -131,8 +133,9 @@ void Keypad::dressCallKey()
 void Keypad::showNumber()
 {
     SpDisLabel &label = *m_ui->number;
-    label.setNormalText(QFontMetrics(label.font())
-                            .elidedText(m_number, Qt::ElideLeft, label.width() - theme().gap()));
+    const QString shown = QFontMetrics(label.font())
+                              .elidedText(m_number, Qt::ElideLeft, label.width() - theme().gap());
+    label.setNormalText(numberText(shown));
 }
 
 void Keypad::readRecent()
@@ -142,8 +145,8 @@ void Keypad::readRecent()
     for (const QString &number : numbers) {
         const Contact contact = context().contacts.contactByNumber(number);
         ListRow row;
-        row.title = contact.name.isEmpty() ? number : contact.name;
-        row.detail = contact.name.isEmpty() ? QString() : number;
+        row.title = contact.name.isEmpty() ? numberText(number) : contact.name;
+        row.detail = contact.name.isEmpty() ? QString() : numberText(number);
         if (contact.name.isEmpty())
             row.icon = QStringLiteral("phone");
         else

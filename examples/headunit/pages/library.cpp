@@ -50,6 +50,7 @@ bool Library::goBack()
 void Library::dress()
 {
     dressLabel(*m_ui->heading, theme(), Theme::Body);
+    m_ui->heading->setAlignment(leadingAlignment());
     dressLabel(*m_ui->progress, theme(), Theme::Small, true);
     layout()->setSpacing(theme().px(8));
     layout()->activate();
@@ -57,10 +58,9 @@ void Library::dress()
         theme().panel(m_ui->panel->size(), theme().face, theme().line, theme().radius()));
     m_ui->listRow->setContentsMargins(theme().px(4), theme().px(6), theme().px(4), theme().px(6));
     m_ui->listRow->setSpacing(0);
-    m_ui->index->setFixedWidth(theme().px(132));
+    m_ui->index->dress(theme(), m_ui->panel->height() - 2 * theme().px(6));
     m_ui->listRow->activate();
     dressList(*m_ui->list, theme());
-    m_ui->index->dress(theme());
 }
 
 void Library::retranslate()

@@ -10,8 +10,6 @@
 #include <multiplestatebutton.h>
 #include <playbutton.h>
 
-#include <QStyle>
-
 #include <algorithm>
 
 namespace headunit
@@ -112,8 +110,9 @@ void NowPlaying::dressTitles()
     m_ui->title->setFixedHeight(theme().textPx(Theme::Title) * 3 / 2);
     m_ui->title->setFontSize(theme().textPx(Theme::Title));
     m_ui->title->setTextColor(theme().text);
-    m_ui->title->setTextAlignment(
-        QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter));
+    m_ui->title->setTextAlignment(leadingAlignment());
+    m_ui->artist->setAlignment(leadingAlignment());
+    m_ui->album->setAlignment(leadingAlignment());
     dressLabel(*m_ui->artist, theme(), Theme::Body);
     dressLabel(*m_ui->album, theme(), Theme::Small, true);
     m_ui->equaliser->setFixedSize(theme().px(48), theme().px(48));
@@ -130,11 +129,13 @@ void NowPlaying::dressProgress()
     const int width = m_ui->times->width() - 2 * (theme().px(84) + theme().gap());
     const QSize groove(width, theme().px(8));
     const int knob = theme().px(28);
+    QColor rest = theme().quietText;
+    rest.setAlphaF(0.4);
     m_ui->progressRow->setContentsMargins(0, 0, 0, 0);
     m_ui->progressRow->setSpacing(theme().gap());
     bar.setPonitRadius(knob / 2);
     bar.setSliderNormalImage(theme().panel(groove, theme().accent, {}, groove.height() / 2));
-    bar.setSliderPressImage(theme().panel(groove, theme().line, {}, groove.height() / 2));
+    bar.setSliderPressImage(theme().panel(groove, rest, {}, groove.height() / 2));
     bar.setPointNormalImage(theme().panel({knob, knob}, theme().accent, {}, knob / 2));
     bar.setPointPressImage(theme().panel({knob, knob}, theme().text, {}, knob / 2));
 }
