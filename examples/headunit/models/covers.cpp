@@ -25,7 +25,7 @@ QImage decoded(QByteArray bytes, QSize atMost)
         return {};
     // What comes with music is one of these; other formats have no business in here.
     const QByteArray format = QImageReader::imageFormat(&buffer);
-    if (format != "jpeg" && format != "png" && format != "gif" && format != "bmp")
+    if (format != "jpeg" && format != "png" && format != "gif")
         return {};
     QImageReader reader(&buffer, format);
     reader.setAutoTransform(true);
