@@ -75,6 +75,8 @@ int takeTour(const Catalogue &catalogue, MainWindow &window, const QString &dire
     return tour.conclude();
 }
 
+void say(const QString &sentence) { std::fprintf(stderr, "%s\n", qUtf8Printable(sentence)); }
+
 int showWindow(MainWindow &window, const PressFeedback &feedback, const Page &firstPage)
 {
     ClickSound click;
