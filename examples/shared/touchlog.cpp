@@ -3,8 +3,9 @@
 
 #include <QCoreApplication>
 #include <QMouseEvent>
-#include <QTouchEvent>
 #include <QWindow>
+
+#include <algorithm>
 
 TouchLog::TouchLog(QWidget &window, QObject *parent) : QObject(parent), m_window(&window) { }
 
@@ -64,24 +65,43 @@ bool TouchLog::isAboveWindow(const QWindow *window) const
 void TouchLog::recordTouch(const QTouchEvent &event)
 {
     if (event.type() == QEvent::TouchCancel) {
-        const QMap<int, QPointF> lifted = std::exchange(m_fingers, {});
-        for (auto finger = lifted.begin(); finger != lifted.end(); ++finger)
-            add(TouchRecord::TouchRelease, finger.key(), finger.value());
+        for (const Finger &finger : std::exchange(m_fingers, {}))
+            add(TouchRecord::TouchRelease, finger.number, finger.screenPos);
         return;
     }
-    for (const QTouchEvent::TouchPoint &point : event.touchPoints()) {
-        const bool isDown = m_fingers.contains(point.id());
-        if (point.state() == Qt::TouchPointPressed && !isDown) {
-            m_fingers.insert(point.id(), point.screenPos());
-            add(TouchRecord::TouchPress, point.id(), point.screenPos());
-        } else if (point.state() == Qt::TouchPointMoved && isDown) {
-            m_fingers[point.id()] = point.screenPos();
-            add(TouchRecord::TouchMove, point.id(), point.screenPos());
-        } else if (point.state() == Qt::TouchPointReleased && isDown) {
-            m_fingers.remove(point.id());
-            add(TouchRecord::TouchRelease, point.id(), point.screenPos());
-        }
+    for (const QTouchEvent::TouchPoint &point : event.touchPoints())
+        recordPoint(point);
+}
+
+void TouchLog::recordPoint(const QTouchEvent::TouchPoint &point)
+{
+    const QPointF pos = point.screenPos();
+    const auto found = std::find_if(m_fingers.begin(), m_fingers.end(),
+                                    [&point](const Finger &f) { return f.id == point.id(); });
+    if (found == m_fingers.end()) {
+        if (point.state() != Qt::TouchPointPressed)
+            return;
+        m_fingers.append({point.id(), freeNumber(), pos});
+        add(TouchRecord::TouchPress, m_fingers.constLast().number, pos);
+        return;
     }
+    const int number = found->number;
+    if (point.state() == Qt::TouchPointMoved) {
+        found->screenPos = pos;
+        add(TouchRecord::TouchMove, number, pos);
+    } else if (point.state() == Qt::TouchPointReleased) {
+        m_fingers.erase(found);
+        add(TouchRecord::TouchRelease, number, pos);
+    }
+}
+
+int TouchLog::freeNumber() const
+{
+    int number = 1;
+    const auto isTaken = [&number](const Finger &finger) { return finger.number == number; };
+    while (std::any_of(m_fingers.begin(), m_fingers.end(), isTaken))
+        ++number;
+    return number;
 }
 
 // A press that closes a menu comes in a second time, for what lies under the menu; nobody can press
@@ -129,8 +149,10 @@ void TouchLog::write(const QByteArray &bytes)
     const qint64 end = m_file.pos();
     if (!isRecording() || m_file.write(bytes) == bytes.size())
         return;
-    const QString sentence = m_file.errorString();
-    m_file.resize(end); // what is left of a full disk may have taken half a line
+    // What is left of a full disk takes half a line without an error.
+    const bool isHalf = m_file.error() == QFile::NoError;
+    const QString sentence = isHalf ? tr("the disk is full") : m_file.errorString();
+    m_file.resize(end);
     fail(sentence);
 }
 

@@ -6,21 +6,22 @@
 
 #include <QElapsedTimer>
 #include <QFile>
-#include <QMap>
 #include <QObject>
 #include <QPointer>
+#include <QTouchEvent>
+#include <QVector>
 #include <QWidget>
 
 class QMouseEvent;
-class QTouchEvent;
 class QWindow;
 
 /**
  * Writes down what a person does to a window with fingers or a mouse, as it comes in from the
  * window system, before any widget sees it: a head with the size of the window, then a line for
  * each press, move and release with its time in ms, its position in the window and the number of
- * the finger or button. Touches are recorded once, as touches, not again as the mouse events that
- * Qt makes of them. What is done to menus and dialogs above the window counts as done to it.
+ * the finger or button. A finger has the lowest number that is free. Touches are recorded once, as
+ * touches, not again as the mouse events that Qt makes of them. What is done to menus and dialogs
+ * above the window counts as done to it.
  *
  * Each line is in the file before its touch has any effect, so that the last one is there after
  * whatever that effect was. The wheel and the keyboard are not recorded.
@@ -43,9 +44,17 @@ signals:
     void failed(const QString &sentence);
 
 private:
+    struct Finger {
+        int id; // of Qt, which may number those of several screens
+        int number;
+        QPointF screenPos;
+    };
+
     bool isAboveWindow(const QWindow *window) const;
     void recordTouch(const QTouchEvent &event);
     void recordMouse(const QMouseEvent &event);
+    void recordPoint(const QTouchEvent::TouchPoint &point);
+    int freeNumber() const;
     void add(TouchRecord::Kind kind, int id, const QPointF &screenPos);
     void takeNewSize();
     void write(const QByteArray &bytes);
@@ -56,7 +65,7 @@ private:
     QElapsedTimer m_sinceStart;
     QSize m_size;
     bool m_hasRecords = false;
-    QMap<int, QPointF> m_fingers; // those that are down, by their screen positions
+    QVector<Finger> m_fingers; // those that are down
     Qt::MouseButtons m_buttons;
 };
 

@@ -47,9 +47,11 @@ bool TouchReplay::load(const QString &path)
     if (sentence.isEmpty() && m_window && m_recording.window != m_window->size())
         sentence = tr("they were made on a window of %1, and this one has %2")
                        .arg(sizeText(m_recording.window), sizeText(m_window->size()));
-    if (!sentence.isEmpty())
-        emit failed(tr("The touches in %1 are not played: %2.").arg(path, sentence));
-    return sentence.isEmpty();
+    if (sentence.isEmpty())
+        return true;
+    m_recording = {};
+    emit failed(tr("The touches in %1 are not played: %2.").arg(path, sentence));
+    return false;
 }
 
 void TouchReplay::start()
@@ -92,7 +94,7 @@ void TouchReplay::playTouches()
             record.kind == TouchRecord::TouchMove && !still.contains(record.id);
         if (record.time != first.time || record.kind != first.kind || isMovedAgain)
             break;
-        points.append({record.id, stateAfter(record.kind), record.pos});
+        points.append({record.id, stateAfter(record.kind), inTarget(record.pos)});
         still.remove(record.id);
         m_fingers[record.id] = record.pos;
         if (record.kind == TouchRecord::TouchRelease)
@@ -100,9 +102,9 @@ void TouchReplay::playTouches()
         ++m_next;
     }
     for (auto finger = still.cbegin(); finger != still.cend(); ++finger)
-        points.append({finger.key(), Qt::TouchPointStationary, finger.value()});
+        points.append({finger.key(), Qt::TouchPointStationary, inTarget(finger.value())});
     schedule();
-    feed::touch(*target(), points);
+    feed::touch(target(), points);
 }
 
 void TouchReplay::playMouse()
@@ -113,12 +115,17 @@ void TouchReplay::playMouse()
         m_buttons.setFlag(button, record.kind == TouchRecord::MousePress);
     const Qt::MouseButtons buttons = m_buttons;
     schedule();
-    feed::mouse(*target(), eventType(record.kind), record.pos, button, buttons);
+    feed::mouse(target(), eventType(record.kind), inTarget(record.pos), button, buttons);
 }
 
 // A dialog blocks the windows below it; menus take what is done to any window.
-QWindow *TouchReplay::target() const
+QWindow &TouchReplay::target() const
 {
     QWindow *dialog = QGuiApplication::modalWindow();
-    return dialog ? dialog : m_window->windowHandle();
+    return dialog ? *dialog : *m_window->windowHandle();
+}
+
+QPointF TouchReplay::inTarget(const QPointF &pos) const
+{
+    return pos + m_window->mapToGlobal(QPoint()) - target().mapToGlobal(QPoint());
 }

@@ -41,7 +41,8 @@ private:
     void playNext();
     void playTouches();
     void playMouse();
-    QWindow *target() const;
+    QWindow &target() const;
+    QPointF inTarget(const QPointF &pos) const;
 
     QPointer<QWidget> m_window;
     TouchRecording m_recording;
