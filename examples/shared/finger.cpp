@@ -62,7 +62,11 @@ Finger &Finger::moveTo(const QPoint &pos, int duration)
 Finger &Finger::hold(int duration)
 {
     QEventLoop loop;
-    QTimer::singleShot(duration, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+    QTimer end;
+    end.setTimerType(Qt::PreciseTimer);
+    end.setSingleShot(true);
+    QObject::connect(&end, &QTimer::timeout, &loop, &QEventLoop::quit);
+    end.start(duration);
     loop.exec();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     return *this;

@@ -104,21 +104,23 @@ int TouchLog::freeNumber() const
     return number;
 }
 
-// A press that closes a menu comes in a second time, for what lies under the menu; nobody can press
-// a button that is down.
+// A release that another program's window got is made up for when the button is pressed anew.
 void TouchLog::recordMouse(const QMouseEvent &event)
 {
     if (event.source() != Qt::MouseEventNotSynthesized)
         return;
+    const int number = int(event.button());
     const bool wasDown = m_buttons.testFlag(event.button());
     if (event.type() == QEvent::MouseMove) {
         add(TouchRecord::MouseMove, 0, event.screenPos());
-    } else if (event.type() == QEvent::MouseButtonPress && !wasDown) {
+    } else if (event.type() == QEvent::MouseButtonPress) {
+        if (wasDown)
+            add(TouchRecord::MouseRelease, number, event.screenPos());
         m_buttons.setFlag(event.button());
-        add(TouchRecord::MousePress, event.button(), event.screenPos());
+        add(TouchRecord::MousePress, number, event.screenPos());
     } else if (event.type() == QEvent::MouseButtonRelease && wasDown) {
         m_buttons.setFlag(event.button(), false);
-        add(TouchRecord::MouseRelease, event.button(), event.screenPos());
+        add(TouchRecord::MouseRelease, number, event.screenPos());
     }
 }
 

@@ -6,6 +6,8 @@
 #include <QDial>
 #include <QTemporaryDir>
 
+#include <optional>
+
 class TourLogTest : public WidgetTest
 {
     Q_OBJECT
@@ -109,14 +111,13 @@ void TourLogTest::deletedSubjectIsForgotten()
     const QTemporaryDir directory;
     TourLog log(directory.path());
     log.step(QStringLiteral("louder"));
-    {
-        QDial dial;
-        log.listenTo(&dial, QStringLiteral("volume"));
-        dial.setValue(1);
-    }
-    QDial other;
-    log.listenTo(&other, QStringLiteral("other"));
-    other.setValue(2);
+    std::optional<QDial> dial; // the second one is where the first one was
+    dial.emplace();
+    log.listenTo(&*dial, QStringLiteral("volume"));
+    dial->setValue(1);
+    dial.emplace();
+    log.listenTo(&*dial, QStringLiteral("other"));
+    dial->setValue(2);
     QCOMPARE(log.conclude(), 0);
     QCOMPARE(lines(directory),
              QStringList({"louder\t0 ms\tvolume\tvalueChanged(1)",
