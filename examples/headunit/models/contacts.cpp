@@ -167,7 +167,7 @@ int Contacts::rowCount(const QModelIndex &parent) const
 
 QVariant Contacts::data(const QModelIndex &index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (index.model() != this || index.row() >= m_contacts.size())
         return {};
     const Contact &contact = m_contacts.at(index.row());
     switch (role) {

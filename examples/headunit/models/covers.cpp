@@ -25,7 +25,7 @@ QImage decoded(QByteArray bytes, QSize atMost)
         return {};
     // What comes with music is one of these; other formats have no business in here.
     const QByteArray format = QImageReader::imageFormat(&buffer);
-    if (format != "jpeg" && format != "png" && format != "gif" && format != "bmp")
+    if (format != "jpeg" && format != "png" && format != "gif")
         return {};
     QImageReader reader(&buffer, format);
     reader.setAutoTransform(true);
@@ -35,7 +35,7 @@ QImage decoded(QByteArray bytes, QSize atMost)
     // Scaled while it is read, a large photograph never is in memory as a whole.
     if (size.width() > atMost.width() || size.height() > atMost.height())
         reader.setScaledSize(size.scaled(atMost, Qt::KeepAspectRatio).expandedTo({1, 1}));
-    const QImage image = reader.read();
+    QImage image = reader.read();
     if (image.width() <= atMost.width() && image.height() <= atMost.height())
         return image;
     return image.scaled(atMost, Qt::KeepAspectRatio,
@@ -48,7 +48,7 @@ QImage read(const QString &path, QSize atMost)
 {
     if (atMost.isEmpty())
         return {};
-    const QImage inside = decoded(tags::picture(path), atMost);
+    QImage inside = decoded(tags::picture(path), atMost);
     if (!inside.isNull())
         return inside;
     const QString beside = fileIn(QFileInfo(path).path());

@@ -45,6 +45,10 @@ bool isMusic(const QString &name)
 LibraryScan::LibraryScan(const QString &root, int mostTracks, QObject *parent)
     : QThread(parent), m_root(root), m_mostTracks(mostTracks), m_collator(readersCollator())
 {
+    // What the signals take along from one thread to the other.
+    qRegisterMetaType<QVector<int>>();
+    qRegisterMetaType<QVector<Track>>();
+    qRegisterMetaType<QVector<Folder>>();
 }
 
 void LibraryScan::run()

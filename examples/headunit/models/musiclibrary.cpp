@@ -30,12 +30,9 @@ public:
 
     void run() override
     {
-        const QImage cover = covers::read(m_path, m_atMost);
-        MusicLibrary *const library = m_library;
-        const QString path = m_path;
-        QMetaObject::invokeMethod(
-            library, [library, path, cover] { emit library->coverRead(path, cover); },
-            Qt::QueuedConnection);
+        QMetaObject::invokeMethod(m_library, "coverRead", Qt::QueuedConnection,
+                                  Q_ARG(QString, m_path),
+                                  Q_ARG(QImage, covers::read(m_path, m_atMost)));
     }
 
 private:

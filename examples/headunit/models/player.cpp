@@ -33,6 +33,8 @@ Player::Player(QObject *parent) : Player(bestBackend(), parent) { }
 Player::Player(std::unique_ptr<PlayerBackend> backend, QObject *parent)
     : QObject(parent), m_random(QRandomGenerator::securelySeeded())
 {
+    m_failure.setSingleShot(true);
+    connect(&m_failure, &QTimer::timeout, this, &Player::onFailure);
     setBackend(std::move(backend));
 }
 
@@ -93,6 +95,7 @@ void Player::pause()
 {
     if (!m_isPlaying)
         return;
+    m_failure.stop();
     m_backend->pause();
     setPlaying(false);
 }
@@ -215,6 +218,7 @@ void Player::setDuration(qint64 duration)
 
 void Player::setCurrent(int row)
 {
+    m_failure.stop();
     m_index = m_model->index(row);
     m_track = m_model->track(row);
     shuffleCurrentIn();
@@ -227,6 +231,7 @@ void Player::setCurrent(int row)
 
 void Player::clearCurrent()
 {
+    m_failure.stop();
     m_backend->pause();
     m_index = QPersistentModelIndex();
     const bool hadTrack = !m_track.path.isEmpty();
@@ -261,12 +266,7 @@ void Player::start()
         m_backend->play();
         return;
     }
-    // From the event loop, as a whole list may be like this.
-    const auto fail = [this, path = m_track.path] {
-        if (path == m_track.path)
-            onFailure();
-    };
-    QMetaObject::invokeMethod(this, fail, Qt::QueuedConnection);
+    m_failure.start(); // in the event loop, as a whole list may be like this
 }
 
 void Player::applyLoudness()

@@ -10,6 +10,7 @@
 #include <QPointer>
 #include <QRandomGenerator>
 #include <QStringList>
+#include <QTimer>
 
 #include <memory>
 
@@ -114,6 +115,7 @@ private:
     QStringList m_shuffle; // the files in the order made by chance
     int m_place = -1; // of the current one in it
     QRandomGenerator m_random;
+    QTimer m_failure; // runs for a moment, when the file at hand is found not to play
     qint64 m_duration = 0;
     Repeat m_repeat = Repeat::All;
     int m_row = -1; // as last told

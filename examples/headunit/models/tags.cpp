@@ -82,30 +82,30 @@ TagLib::ByteVector pictureOf(const TagLib::MP4::Tag *tag)
     return covers.isEmpty() ? TagLib::ByteVector() : covers.front().data();
 }
 
-TagLib::ByteVector pictureOf(TagLib::File *file)
+TagLib::ByteVector pictureOf(TagLib::File &file)
 {
-    if (auto *const mpeg = dynamic_cast<TagLib::MPEG::File *>(file))
+    if (auto *const mpeg = dynamic_cast<TagLib::MPEG::File *>(&file))
         return pictureOf(mpeg->ID3v2Tag());
-    if (auto *const wave = dynamic_cast<TagLib::RIFF::WAV::File *>(file))
+    if (auto *const wave = dynamic_cast<TagLib::RIFF::WAV::File *>(&file))
         return pictureOf(wave->ID3v2Tag());
-    if (auto *const mp4 = dynamic_cast<TagLib::MP4::File *>(file))
+    if (auto *const mp4 = dynamic_cast<TagLib::MP4::File *>(&file))
         return pictureOf(mp4->tag());
-    if (auto *const flac = dynamic_cast<TagLib::FLAC::File *>(file)) {
+    if (auto *const flac = dynamic_cast<TagLib::FLAC::File *>(&file)) {
         const TagLib::ByteVector picture = pictureOf(flac->pictureList());
         return picture.isEmpty() ? pictureOf(flac->ID3v2Tag()) : picture;
     }
-    if (auto *const xiph = dynamic_cast<TagLib::Ogg::XiphComment *>(file->tag()))
+    if (auto *const xiph = dynamic_cast<TagLib::Ogg::XiphComment *>(file.tag()))
         return pictureOf(xiph->pictureList());
     return {};
 }
 
 // Where a file has two kinds of tags, the one that says something.
-const TagLib::Tag *tagOf(TagLib::File *file)
+const TagLib::Tag *tagOf(TagLib::File &file)
 {
-    auto *const wave = dynamic_cast<TagLib::RIFF::WAV::File *>(file);
+    auto *const wave = dynamic_cast<TagLib::RIFF::WAV::File *>(&file);
     if (wave && wave->tag()->isEmpty() && wave->InfoTag())
         return wave->InfoTag();
-    return file->tag();
+    return file.tag();
 }
 
 bool isOrdinaryFile(const QString &path)
@@ -150,7 +150,7 @@ Track read(const Track &unread)
     const int length = sound ? sound->lengthInMilliseconds() : 0;
     track.isBroken = length <= 0;
     track.seconds = track.isBroken ? 0 : qBound(1, qRound(length / 1000.0), kMostSeconds);
-    if (const TagLib::Tag *const tag = tagOf(file.file())) {
+    if (const TagLib::Tag *const tag = tagOf(*file.file())) {
         const QString title = textOf(tag->title());
         if (!title.isEmpty())
             track.title = title;
@@ -159,7 +159,7 @@ Track read(const Track &unread)
         track.number = tag->track() <= kMostNumber ? int(tag->track()) : 0;
     }
     if (!track.hasCover)
-        track.hasCover = !pictureOf(file.file()).isEmpty();
+        track.hasCover = !pictureOf(*file.file()).isEmpty();
     return track;
 }
 
@@ -171,7 +171,7 @@ QByteArray picture(const QString &path)
     const TagLib::FileRef file(QFile::encodeName(path).constData(), false);
     if (file.isNull() || !file.file()->isValid())
         return {};
-    const TagLib::ByteVector bytes = pictureOf(file.file());
+    const TagLib::ByteVector bytes = pictureOf(*file.file());
     return {bytes.data(), int(bytes.size())};
 }
 

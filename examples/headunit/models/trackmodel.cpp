@@ -102,7 +102,7 @@ int TrackModel::rowCount(const QModelIndex &parent) const
 
 QVariant TrackModel::data(const QModelIndex &index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (index.model() != this || index.row() >= m_order.size())
         return {};
     const Track &track = at(index.row());
     switch (role) {
