@@ -112,7 +112,7 @@ void ArcIndex::dressLetters(const Theme &theme, const Arcs &arcs)
     m_arc->setPressColor(theme.accent);
     m_arc->setPointPixmap(ring(theme, kLetterBox + theme.px(kRing)));
     // A letter hangs below its place on the arc; the ring goes around its middle.
-    m_arc->setPixXOffset(qRadiansToDegrees(kLetterBox / 2 / arcs.letters));
+    m_arc->setPixXOffset(qRadiansToDegrees(kLetterBox / 2.0 / arcs.letters));
 }
 
 void ArcIndex::dressBar(const Theme &theme, const Arcs &arcs)

@@ -21,7 +21,7 @@ CallView::CallView(Context &context, Call *call, QWidget *parent)
     connect(m_ui->hangUpKey, &SpIconButton::btnClicked, call, &Call::hangUp);
     connect(call, &Call::stateChanged, this, &CallView::showCall);
     connect(call, &Call::secondPassed, this, &CallView::showTime);
-    retranslate();
+    CallView::retranslate();
 }
 
 CallView::~CallView() = default;

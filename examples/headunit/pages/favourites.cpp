@@ -60,7 +60,7 @@ Favourites::Favourites(Context &context, QWidget *parent)
             dress();
     });
     readContacts();
-    retranslate();
+    Favourites::retranslate();
 }
 
 void Favourites::dress()

@@ -43,7 +43,7 @@ Keypad::Keypad(Context &context, const RecentNumbers *recent, QWidget *parent)
             [this](int row) { emit numberChosen(m_recent->numbers().value(row)); });
     connect(recent, &RecentNumbers::changed, this, &Keypad::readRecent);
     connect(&context.contacts, &Contacts::modelReset, this, &Keypad::readRecent);
-    retranslate();
+    Keypad::retranslate();
 }
 
 Keypad::~Keypad() = default;

@@ -30,7 +30,7 @@ Library::Library(Context &context, QWidget *parent)
     connect(&music, &MusicLibrary::finished, this, &Library::showHeading);
     readFolders();
     show(Content::AllTracks);
-    retranslate();
+    Library::retranslate();
 }
 
 Library::~Library() = default;
@@ -87,7 +87,7 @@ void Library::show(Content content)
         m_ui->index->setList(m_ui->list, ListLetters::of(context().music.tracks()));
     showHeading();
     if (isVisible())
-        dress(); // the list may have more room now, or less
+        Library::dress(); // the list may have more room now, or less
 }
 
 void Library::openRow(int row)

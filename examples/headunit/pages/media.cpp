@@ -26,7 +26,7 @@ MediaPage::MediaPage(Context &context, QWidget *parent)
     m_ui->views->addWidget(m_library);
     connect(m_ui->sideKeys, &SideKeys::chosen, this, &MediaPage::showView);
     connect(m_library, &Library::trackChosen, this, [this] { showView(PlayingKey); });
-    retranslate();
+    MediaPage::retranslate();
 }
 
 MediaPage::~MediaPage() = default;

@@ -37,7 +37,7 @@ NowPlaying::NowPlaying(Context &context, QWidget *parent)
     m_ui->equaliser->setSizePolicy(place);
     connectPlayer();
     connectKeys();
-    retranslate();
+    NowPlaying::retranslate();
 }
 
 NowPlaying::~NowPlaying() = default;

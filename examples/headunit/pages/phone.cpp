@@ -34,7 +34,7 @@ PhonePage::PhonePage(Context &context, QWidget *parent)
     connect(m_callView, &CallView::keypadWanted, this,
             [this] { m_ui->views->setCurrentWidget(m_keypad); });
     connect(m_call, &Call::stateChanged, this, &PhonePage::showCall);
-    retranslate();
+    PhonePage::retranslate();
 }
 
 PhonePage::~PhonePage() = default;
