@@ -107,8 +107,7 @@ void TunerScales::layOut()
 }
 
 // Every scale unit takes whole pixels, and the band with two units at either end stands in the
-// middle. An FM unit is two steps: it takes an even number of them, so that the needle has a pixel
-// for each step.
+// middle. An FM unit is two steps, so that its ticks are not too close.
 void TunerScales::layOutNeedle()
 {
     MRadioMovePoint &scale = *m_widgets.needle;
@@ -117,7 +116,7 @@ void TunerScales::layOutNeedle()
     const int unit = isFm ? 2 * range.step : range.step;
     const int first = range.first / unit * unit - 2 * unit;
     const int units = (range.last - first) / unit + 3;
-    const int pixels = isFm ? m_size.width() / units / 2 * 2 : m_size.width() / units;
+    const int pixels = m_size.width() / units;
     scale.setBandType(isFm ? MRadioMovePoint::FM : MRadioMovePoint::AM);
     scale.setFreqStart(range.first);
     scale.setFreqEnd(range.last);
