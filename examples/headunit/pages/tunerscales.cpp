@@ -129,7 +129,14 @@ void TunerScales::layOutNeedle()
     scale.setPixCountMeta(1);
     scale.setBMid(10); // a number every 2 MHz or 90 kHz
     scale.setBLarge(1);
+    placeNeedle();
+    scale.setInitByCustomeValue(true);
+}
 
+// The labels, the feet of the ticks and the grip below them stand in the middle together.
+void TunerScales::placeNeedle()
+{
+    MRadioMovePoint &scale = *m_widgets.needle;
     const int grip = m_theme.px(13);
     const int text = QFontMetrics(scale.font()).height();
     const int space = m_size.height() - kNeedleTop - kNeedleLabel - kNeedleTick - 2 * grip;
@@ -141,8 +148,7 @@ void TunerScales::layOutNeedle()
     const QPixmap picture = marker(m_theme, bottom - labels - kNeedleTop, grip);
     scale.setPointYpos(labels + kNeedleTop);
     scale.setPointPix(picture);
-    scale.findChild<MovePoint *>()->resize(picture.size());
-    scale.setInitByCustomeValue(true);
+    scale.findChild<MovePoint *>()->resize(picture.size()); // it keeps that of its first picture
 }
 
 void TunerScales::layOutTape()
