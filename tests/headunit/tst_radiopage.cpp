@@ -213,7 +213,9 @@ void RadioPageTest::scalesFollowTheTuner()
     const float shown = band == Band::Fm ? float(frequency) / 100.0F : float(frequency);
     QCOMPARE(radio.child<MRadioSlider>("tapeScale")->getCurFreq(), shown);
     QCOMPARE(radio.child<MKARVOSlider>("pointerScale")->getCurFreq(), shown);
-    auto *needle = radio.child<MRadioMovePoint>("needleScale")->findChild<MovePoint *>();
+    auto *scale = radio.child<MRadioMovePoint>("needleScale");
+    auto *needle = scale->findChild<MovePoint *>();
+    QVERIFY(scale->rect().contains(needle->geometry()));
     QCOMPARE(needle->cacPosMapFreq(needle->x() + needle->width() / 2), frequency);
 }
 

@@ -44,7 +44,7 @@ RadioPage::RadioPage(Context &context, QWidget *parent)
     connectTuner();
     connectKeys();
     showScale(context.settings.value(kScaleKey).toInt());
-    retranslate();
+    RadioPage::retranslate();
 }
 
 RadioPage::~RadioPage() = default;

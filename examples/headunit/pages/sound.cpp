@@ -29,7 +29,7 @@ SoundPage::SoundPage(Context &context, QWidget *parent)
         ++index;
     }
     m_ui->equaliserTab->setChecked(true);
-    retranslate();
+    SoundPage::retranslate();
 }
 
 SoundPage::~SoundPage() = default;

@@ -84,7 +84,7 @@ SoundBalance::SoundBalance(Context &context, QWidget *parent)
     connect(m_ui->fader, &MHorSlider::saveDataSig, this,
             [&settings](int, int value) { settings.setValue(kFaderKey, value); });
     connect(m_ui->centreKey, &SpIconButton::btnClicked, this, &SoundBalance::centre);
-    retranslate();
+    SoundBalance::retranslate();
 }
 
 SoundBalance::~SoundBalance() = default;

@@ -27,7 +27,7 @@ SoundEffects::SoundEffects(Context &context, QWidget *parent)
         connect(button, &MOnOffButton::onoffStatusChanged, this,
                 [&settings](const QString &id, bool isOn) { settings.setValue(keyOf(id), isOn); });
     }
-    retranslate();
+    SoundEffects::retranslate();
 }
 
 SoundEffects::~SoundEffects() = default;

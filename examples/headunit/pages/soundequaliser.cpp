@@ -80,7 +80,7 @@ SoundEqualiser::SoundEqualiser(Context &context, QWidget *parent)
     connect(m_ui->previousKey, &SpIconButton::btnClicked, this, [this] { turn(false); });
     connect(m_ui->nextKey, &SpIconButton::btnClicked, this, [this] { turn(true); });
     showPage();
-    retranslate();
+    SoundEqualiser::retranslate();
 }
 
 SoundEqualiser::~SoundEqualiser() = default;

@@ -36,7 +36,7 @@ SoundVolume::SoundVolume(Context &context, QWidget *parent)
     player.setVolume(context.settings.value(kVolumeKey, player.volume()).toInt());
     player.setMuted(context.settings.value(kMutedKey).toBool());
     connectPlayer();
-    retranslate();
+    SoundVolume::retranslate();
 }
 
 SoundVolume::~SoundVolume() = default;

@@ -107,8 +107,7 @@ void TunerScales::layOut()
 }
 
 // Every scale unit takes whole pixels, and the band with two units at either end stands in the
-// middle. An FM unit is two steps: it takes an even number of them, so that the needle has a pixel
-// for each step.
+// middle. An FM unit is two steps, so that its ticks are not too close.
 void TunerScales::layOutNeedle()
 {
     MRadioMovePoint &scale = *m_widgets.needle;
@@ -117,7 +116,7 @@ void TunerScales::layOutNeedle()
     const int unit = isFm ? 2 * range.step : range.step;
     const int first = range.first / unit * unit - 2 * unit;
     const int units = (range.last - first) / unit + 3;
-    const int pixels = isFm ? m_size.width() / units / 2 * 2 : m_size.width() / units;
+    const int pixels = m_size.width() / units;
     scale.setBandType(isFm ? MRadioMovePoint::FM : MRadioMovePoint::AM);
     scale.setFreqStart(range.first);
     scale.setFreqEnd(range.last);
@@ -130,7 +129,14 @@ void TunerScales::layOutNeedle()
     scale.setPixCountMeta(1);
     scale.setBMid(10); // a number every 2 MHz or 90 kHz
     scale.setBLarge(1);
+    placeNeedle();
+    scale.setInitByCustomeValue(true);
+}
 
+// The labels, the feet of the ticks and the grip below them stand in the middle together.
+void TunerScales::placeNeedle()
+{
+    MRadioMovePoint &scale = *m_widgets.needle;
     const int grip = m_theme.px(13);
     const int text = QFontMetrics(scale.font()).height();
     const int space = m_size.height() - kNeedleTop - kNeedleLabel - kNeedleTick - 2 * grip;
@@ -142,8 +148,7 @@ void TunerScales::layOutNeedle()
     const QPixmap picture = marker(m_theme, bottom - labels - kNeedleTop, grip);
     scale.setPointYpos(labels + kNeedleTop);
     scale.setPointPix(picture);
-    scale.findChild<MovePoint *>()->resize(picture.size());
-    scale.setInitByCustomeValue(true);
+    scale.findChild<MovePoint *>()->resize(picture.size()); // it keeps that of its first picture
 }
 
 void TunerScales::layOutTape()

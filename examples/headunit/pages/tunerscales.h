@@ -37,6 +37,7 @@ public:
 private:
     void layOut();
     void layOutNeedle();
+    void placeNeedle();
     void layOutTape();
     void layOutPointer();
     void showFrequency();
