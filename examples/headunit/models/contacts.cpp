@@ -30,10 +30,10 @@ QString dialled(const QString &number)
                  || (c == QLatin1Char('+') && digits.isEmpty()))
             digits += c;
     }
-    return digits.startsWith(QLatin1String("00")) ? QLatin1Char('+') + digits.mid(2) : digits;
+    return digits;
 }
 
-// Without what stands before the subscriber's part: "+" or the zero of a call within the country.
+// Without what stands before the country's code ("+", "00") or in its place ("0").
 QString significant(const QString &dialled)
 {
     int start = 0;

@@ -52,7 +52,6 @@ MusicLibrary::~MusicLibrary()
 {
     dismissScan();
     m_covers.clear();
-    m_covers.waitForDone();
     for (LibraryScan *scan : qAsConst(m_running))
         scan->wait();
 }
