@@ -12,7 +12,6 @@ namespace
 {
 
 constexpr double kPeak = 0.7; // leaves room for an equaliser
-constexpr double kMusicFade = 2.5; // s
 constexpr int kOctave = 12; // semitones
 
 using Chord = QVector<int>; // pitches, from the lowest on
@@ -51,7 +50,7 @@ QVector<qint16> firstLight()
         }
     }
     music.addEcho(0.75 * beat, 0.28);
-    return music.samples(kPeak, kMusicFade);
+    return music.samples(kPeak);
 }
 
 // A bass that walks in eighths, chords off the beat and a tune above.
@@ -82,7 +81,7 @@ QVector<qint16> coastRoad()
         }
     }
     music.addEcho(0.75 * beat, 0.22);
-    return music.samples(kPeak, kMusicFade);
+    return music.samples(kPeak);
 }
 
 // A slow waltz of bells.
@@ -105,7 +104,7 @@ QVector<qint16> lanterns()
         }
     }
     music.addEcho(beat / 2, 0.32);
-    return music.samples(kPeak, kMusicFade);
+    return music.samples(kPeak);
 }
 
 } // namespace
@@ -123,11 +122,10 @@ QVector<Piece> allPieces()
 QVector<qint16> clickSamples()
 {
     constexpr double length = 0.008; // s
-    constexpr double fade = 0.002; // s
-    const Voice click{{1, 0.4, 0.2}, 0.0003, 420, fade, 200};
+    const Voice click{{1, 0.4, 0.2}, 0.0003, 420, 0.001, 200};
     Synthesiser sound(length);
     sound.add({0, length, 93, 1}, click);
-    return sound.samples(0.5, fade);
+    return sound.samples(0.5);
 }
 
 } // namespace headunit

@@ -75,7 +75,7 @@ void Synthesiser::addEcho(double delay, double feedback)
     }
 }
 
-QVector<qint16> Synthesiser::samples(double peak, double fade) const
+QVector<qint16> Synthesiser::samples(double peak) const
 {
     double loudest = std::pow(10, -kSilence / 20);
     for (int i = 0; i < m_left.size(); ++i)
@@ -84,10 +84,8 @@ QVector<qint16> Synthesiser::samples(double peak, double fade) const
     QVector<qint16> samples;
     samples.reserve(kChannels * m_left.size());
     for (int i = 0; i < m_left.size(); ++i) {
-        const double untilEnd = double(m_left.size() - i) / kSampleRate;
-        const double level = scale * std::min(1.0, untilEnd / fade);
-        samples.append(qint16(std::lround(level * m_left.at(i))));
-        samples.append(qint16(std::lround(level * m_right.at(i))));
+        samples.append(qint16(std::lround(scale * m_left.at(i))));
+        samples.append(qint16(std::lround(scale * m_right.at(i))));
     }
     return samples;
 }

@@ -40,8 +40,8 @@ public:
     /// Repeats all so far from the other side, softer each time.
     void addEcho(double delay, double feedback);
 
-    /// The sound, left and right by turns, as loud as this (0 to 1); its end fades out.
-    QVector<qint16> samples(double peak, double fade) const;
+    /// The sound, left and right by turns, as loud as this (0 to 1) at its loudest.
+    QVector<qint16> samples(double peak) const;
 
 private:
     QVector<double> m_left;
