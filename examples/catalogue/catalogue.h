@@ -2,8 +2,8 @@
 #ifndef CATALOGUE_CATALOGUE_H
 #define CATALOGUE_CATALOGUE_H
 
+#include "finger.h"
 #include "scene.h"
-#include "touch.h"
 
 #include <QString>
 
@@ -34,7 +34,7 @@ struct Act {
 
     QString name;
     Kind kind;
-    std::function<void(QObject &subject, Touch &touch)> perform;
+    std::function<void(QObject &subject, Finger &finger)> perform;
 };
 
 /// One page: how its content is built, and what there is to see. The first act is the content as
@@ -75,11 +75,11 @@ public:
     {
         return addState(name, Act::EmptyState, std::move(set));
     }
-    PageWriter &touches(const QString &name, std::function<void(Subject &, Touch &)> script)
+    PageWriter &touches(const QString &name, std::function<void(Subject &, Finger &)> script)
     {
         return addTouches(name, Act::Touches, std::move(script));
     }
-    PageWriter &silentTouches(const QString &name, std::function<void(Subject &, Touch &)> script)
+    PageWriter &silentTouches(const QString &name, std::function<void(Subject &, Finger &)> script)
     {
         return addTouches(name, Act::SilentTouches, std::move(script));
     }
@@ -88,14 +88,14 @@ private:
     PageWriter &addState(const QString &name, Act::Kind kind, std::function<void(Subject &)> set)
     {
         return addTouches(name, kind,
-                          [set = std::move(set)](Subject &subject, Touch &) { set(subject); });
+                          [set = std::move(set)](Subject &subject, Finger &) { set(subject); });
     }
     PageWriter &addTouches(const QString &name, Act::Kind kind,
-                           std::function<void(Subject &, Touch &)> script)
+                           std::function<void(Subject &, Finger &)> script)
     {
         m_page.acts.push_back(
-            {name, kind, [script = std::move(script)](QObject &subject, Touch &touch) {
-                 script(static_cast<Subject &>(subject), touch);
+            {name, kind, [script = std::move(script)](QObject &subject, Finger &finger) {
+                 script(static_cast<Subject &>(subject), finger);
              }});
         return *this;
     }

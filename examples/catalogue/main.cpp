@@ -5,6 +5,7 @@
 #include "playlist.h"
 #include "pressfeedback.h"
 #include "theme.h"
+#include "touchoptions.h"
 #include "tour.h"
 
 #include <QApplication>
@@ -75,12 +76,13 @@ int takeTour(const Catalogue &catalogue, MainWindow &window, const QString &dire
     return tour.conclude();
 }
 
-int showWindow(MainWindow &window, const PressFeedback &feedback, const Page &firstPage)
+int showWindow(MainWindow &window, const PressFeedback &feedback, const Page &firstPage,
+               const TouchOptions &touches)
 {
     ClickSound click;
     QObject::connect(&feedback, &PressFeedback::requested, &click, &ClickSound::play);
     window.showPage(firstPage);
-    return QApplication::exec();
+    return touches.start(window) ? QApplication::exec() : 1;
 }
 
 } // namespace
@@ -109,6 +111,7 @@ int main(int argc, char *argv[])
         QStringLiteral("Writes what Qt and the widgets log to this file, not to the console."),
         QStringLiteral("file"));
     parser.addOptions({pageOption, tourOption, listOption, playlistOption, logOption});
+    const TouchOptions touches(parser);
     parser.addHelpOption();
     parser.process(app);
     if (parser.isSet(logOption) && !redirectLog(parser.value(logOption)))
@@ -137,5 +140,5 @@ int main(int argc, char *argv[])
     window.show();
     if (parser.isSet(tourOption))
         return takeTour(catalogue, window, parser.value(tourOption), page);
-    return showWindow(window, feedback, page ? *page : catalogue.pages().front());
+    return showWindow(window, feedback, page ? *page : catalogue.pages().front(), touches);
 }

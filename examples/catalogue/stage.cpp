@@ -2,10 +2,10 @@
 #include "stage.h"
 
 #include "catalogue.h"
+#include "finger.h"
 #include "scene.h"
 #include "signalrelay.h"
 #include "theme.h"
-#include "touch.h"
 
 #include <QCoreApplication>
 #include <QPainter>
@@ -23,15 +23,15 @@ void Stage::perform(const Page &page, const Act &act)
     emit rebuilt();
 
     bool isPictureTaken = false;
-    Touch touch(qobject_cast<QWidget *>(subject), [this, &isPictureTaken] {
+    Finger finger(qobject_cast<QWidget *>(subject), [this, &isPictureTaken] {
         isPictureTaken = true;
         emit pictureWorthy();
     });
-    act.perform(*subject, touch);
+    act.perform(*subject, finger);
     if (!act.isTouched())
         m_scene->centreContent();
     if (!isPictureTaken)
-        touch.picture();
+        finger.picture();
 }
 
 void Stage::paintEvent(QPaintEvent *)

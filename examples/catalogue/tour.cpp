@@ -9,21 +9,8 @@
 #include <QPainter>
 #include <QPixmap>
 
-#include <cstdio>
-
 namespace
 {
-
-bool isBlank(const QImage &picture)
-{
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            if (picture.pixel(x, y) != picture.pixel(0, 0))
-                return false;
-        }
-    }
-    return true;
-}
 
 // All pictures of a page on one, small and with their names, as the documentation shows them.
 QImage contactSheet(const QVector<QImage> &pictures, const QStringList &names)
@@ -54,16 +41,11 @@ QImage contactSheet(const QVector<QImage> &pictures, const QStringList &names)
 } // namespace
 
 Tour::Tour(MainWindow &window, const QDir &directory)
-    : m_window(window), m_directory(directory), m_logFile(directory.filePath("signals.log"))
+    : m_window(window), m_directory(directory), m_log(directory)
 {
-    m_directory.mkpath(QStringLiteral("."));
-    check(m_logFile.open(QIODevice::WriteOnly | QIODevice::Text),
-          tr("%1 cannot be written").arg(m_logFile.fileName()));
-    m_log.setDevice(&m_logFile);
-    m_log.setCodec("UTF-8");
-    connect(&window, &MainWindow::signalEmitted, this, &Tour::logSignal);
-    connect(&window, &MainWindow::pressFeedbackAsked, this,
-            [this](const QString &sender) { log(sender, QStringLiteral("beep")); });
+    connect(&window, &MainWindow::signalEmitted, &m_log, &TourLog::addSignal);
+    connect(&window, &MainWindow::pressFeedbackAsked, &m_log,
+            [this](const QString &sender) { m_log.addNote(sender, QStringLiteral("beep")); });
     connect(&window, &MainWindow::pictureWorthy, this, &Tour::saveScene);
 }
 
@@ -81,34 +63,23 @@ void Tour::play(const Page &page)
         play(page, int(act));
 
     m_act = nullptr;
-    save(contactSheet(m_picturesOfPage, m_namesOfPage), QStringLiteral("sheet.png"));
+    m_log.endStep();
+    m_log.save(contactSheet(m_picturesOfPage, m_namesOfPage), inPage(QStringLiteral("sheet.png")));
     m_window.perform(0);
-    save(m_window.grab().toImage(), QStringLiteral("window.png"));
-}
-
-int Tour::conclude()
-{
-    m_log.flush();
-    check(m_log.status() == QTextStream::Ok, tr("%1 is incomplete").arg(m_logFile.fileName()));
-    for (const QString &failure : qAsConst(m_failures))
-        std::fprintf(stderr, "%s\n", qUtf8Printable(failure));
-    std::printf("%d pictures and %d signals written to %s\n", m_pictures, m_signals,
-                qUtf8Printable(m_directory.path()));
-    return m_failures.isEmpty() ? 0 : 1;
+    m_log.save(m_window.grab().toImage(), inPage(QStringLiteral("window.png")));
 }
 
 void Tour::play(const Page &page, int act)
 {
     m_act = &page.acts.at(std::size_t(act));
-    m_signalsOfAct = 0;
-    m_sinceActBegan.start();
+    m_log.step(page.name + QLatin1Char('\t') + m_act->name);
     m_window.perform(act);
 
     const QString name = page.name + QStringLiteral(", ") + m_act->name;
-    check(m_act->kind != Act::Touches || m_signalsOfAct > 0,
-          tr("%1: the touches made no signal").arg(name));
-    check(m_act->kind != Act::SilentTouches || m_signalsOfAct == 0,
-          tr("%1: touches meant to be silent made signals").arg(name));
+    m_log.check(m_act->kind != Act::Touches || m_log.signalsOfStep() > 0,
+                tr("%1: the touches made no signal").arg(name));
+    m_log.check(m_act->kind != Act::SilentTouches || m_log.signalsOfStep() == 0,
+                tr("%1: touches meant to be silent made signals").arg(name));
 }
 
 void Tour::saveScene()
@@ -119,42 +90,18 @@ void Tour::saveScene()
     const QString name = QString(m_act->name).replace(QLatin1Char(' '), QLatin1Char('-'));
     m_picturesOfPage.append(picture);
     m_namesOfPage.append(m_act->name);
-    save(picture,
-         QStringLiteral("%1-%2.png")
-             .arg(m_picturesOfPage.size(), 2, 10, QLatin1Char('0'))
-             .arg(name));
-    check(isBlank(picture) == (m_act->kind == Act::EmptyState),
-          tr("%1, %2: the picture is %3")
-              .arg(m_page->name, m_act->name,
-                   isBlank(picture) ? tr("blank") : tr("meant to be blank and is not")));
+    m_log.save(picture,
+               inPage(QStringLiteral("%1-%2.png")
+                          .arg(m_picturesOfPage.size(), 2, 10, QLatin1Char('0'))
+                          .arg(name)));
+    const bool isBlank = TourLog::isBlank(picture);
+    m_log.check(isBlank == (m_act->kind == Act::EmptyState),
+                tr("%1, %2: the picture is %3")
+                    .arg(m_page->name, m_act->name,
+                         isBlank ? tr("blank") : tr("meant to be blank and is not")));
 }
 
-void Tour::save(const QImage &picture, const QString &fileName)
+QString Tour::inPage(const QString &fileName) const
 {
-    const QString path = m_directory.filePath(m_page->name + QLatin1Char('/') + fileName);
-    const bool isSaved = picture.save(path);
-    check(isSaved, tr("%1 cannot be written").arg(path));
-    m_pictures += isSaved;
-}
-
-void Tour::check(bool holds, const QString &failure)
-{
-    if (!holds)
-        m_failures.append(failure);
-}
-
-void Tour::log(const QString &sender, const QString &what)
-{
-    if (m_act)
-        m_log << m_page->name << '\t' << m_act->name << '\t' << m_sinceActBegan.elapsed() << " ms\t"
-              << sender << '\t' << what << '\n';
-}
-
-void Tour::logSignal(const QString &sender, const QString &signal)
-{
-    if (!m_act)
-        return;
-    ++m_signalsOfAct;
-    ++m_signals;
-    log(sender, signal);
+    return m_page->name + QLatin1Char('/') + fileName;
 }

@@ -2,13 +2,12 @@
 #ifndef CATALOGUE_TOUR_H
 #define CATALOGUE_TOUR_H
 
+#include "tourlog.h"
+
 #include <QDir>
-#include <QElapsedTimer>
-#include <QFile>
 #include <QImage>
 #include <QObject>
 #include <QStringList>
-#include <QTextStream>
 #include <QVector>
 
 struct Act;
@@ -30,30 +29,21 @@ public:
     /// Plays one page.
     void play(const Page &page);
     /// Says what was written and what failed; returns the exit code of the program.
-    int conclude();
+    int conclude() { return m_log.conclude(); }
 
 private:
     void play(const Page &page, int act);
     void saveScene();
-    void save(const QImage &picture, const QString &fileName);
-    void check(bool holds, const QString &failure);
-    void log(const QString &sender, const QString &what);
-    void logSignal(const QString &sender, const QString &signal);
+    QString inPage(const QString &fileName) const;
 
     MainWindow &m_window;
     QDir m_directory;
-    QFile m_logFile;
-    QTextStream m_log;
-    QStringList m_failures;
+    TourLog m_log;
 
     const Page *m_page = nullptr;
     const Act *m_act = nullptr;
-    QElapsedTimer m_sinceActBegan;
     QVector<QImage> m_picturesOfPage;
     QStringList m_namesOfPage;
-    int m_signalsOfAct = 0;
-    int m_pictures = 0;
-    int m_signals = 0;
 };
 
 #endif // CATALOGUE_TOUR_H

@@ -1,7 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "dress.h"
 
+#include <monoffbutton.h>
 #include <spiconbutton.h>
+
+#include <QGuiApplication>
+#include <QLayout>
+#include <QPainter>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -35,6 +41,29 @@ Arrangement arranged(const QSize &size, const Theme &theme, bool hasIcon, bool h
     return result;
 }
 
+// A pill in the middle of a picture that is as high as a finger needs. The last column stays free:
+// a knob at rest ends before it.
+QPixmap switchTrack(const Theme &theme, const QSize &size, int pill, const QColor &color)
+{
+    QPixmap pixmap(size);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.drawPixmap(0, (size.height() - pill) / 2,
+                       theme.panel({size.width() - 1, pill}, color, QColor(), pill / 2));
+    return pixmap;
+}
+
+QPixmap switchKnob(const Theme &theme, int pill, const QColor &color)
+{
+    QPixmap pixmap(pill, pill);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    const int margin = theme.px(5);
+    const int size = pill - 2 * margin;
+    painter.drawPixmap(margin, margin, theme.panel({size, size}, color, QColor(), size / 2));
+    return pixmap;
+}
+
 } // namespace
 
 void dressKey(SpIconButton &button, const Theme &theme, Theme::Style style, const QString &icon)
@@ -60,12 +89,47 @@ void dressKey(SpIconButton &button, const Theme &theme, Theme::Style style, cons
     button.setTextHeight(place.caption.height());
 }
 
+void dressPanel(QLabel &panel, const Theme &theme)
+{
+    if (QLayout *layout = panel.layout()) {
+        layout->setContentsMargins(theme.gap(), theme.px(8), theme.gap(), theme.px(8));
+        layout->setSpacing(theme.gap());
+        layout->activate();
+    }
+    panel.setPixmap(theme.panel(panel.size(), theme.face, theme.line, theme.radius()));
+}
+
+QColor grooveColor(const Theme &theme)
+{
+    QColor color = theme.quietText;
+    color.setAlphaF(0.4);
+    return color;
+}
+
+void dressSwitch(MOnOffButton &button, const Theme &theme)
+{
+    const QSize size(theme.px(92), theme.touch());
+    const int pill = theme.px(46);
+    button.setFixedSize(size);
+    button.setReverse(button.isRightToLeft());
+    button.setNormalBkgPix(switchTrack(theme, size, pill, theme.accent));
+    button.setPressBkgPix(switchTrack(theme, size, pill, theme.quietText));
+    button.setNormalChunkPix(switchKnob(theme, pill, Qt::white));
+    button.setPressChunkPix(switchKnob(theme, pill, Qt::white));
+}
+
 void dressLabel(QLabel &label, const Theme &theme, Theme::TextSize size, bool quiet)
 {
     label.setFont(theme.font(size, size == Theme::Title));
     QPalette palette = label.palette();
     palette.setColor(QPalette::WindowText, quiet ? theme.quietText : theme.text);
     label.setPalette(palette);
+}
+
+Qt::Alignment leadingAlignment()
+{
+    return QStyle::visualAlignment(QGuiApplication::layoutDirection(), Qt::AlignLeft)
+        | Qt::AlignAbsolute | Qt::AlignVCenter;
 }
 
 } // namespace headunit

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QString>
 
+class MOnOffButton;
 class SpIconButton;
 
 // What pages do to the widgets of their forms, which have layouts, names and texts but no pictures.
@@ -20,8 +21,22 @@ namespace headunit
 void dressKey(SpIconButton &button, const Theme &theme, Theme::Style style,
               const QString &icon = {});
 
+/// Gives a label the face of a panel, and what is laid out on it its distances. The panel has to be
+/// free of a size of its own: its size policy is to be "Ignored".
+void dressPanel(QLabel &panel, const Theme &theme);
+
+/// The colour of the part of a slider that is not filled.
+QColor grooveColor(const Theme &theme);
+
+/// Gives a switch a track and a knob in the colours of the look, and room for a finger.
+void dressSwitch(MOnOffButton &button, const Theme &theme);
+
 /// Gives a label a font and a colour.
 void dressLabel(QLabel &label, const Theme &theme, Theme::TextSize size, bool quiet = false);
+
+/// Where lines begin in a language that is read like the application's, whatever language the line
+/// itself is in.
+Qt::Alignment leadingAlignment();
 
 } // namespace headunit
 

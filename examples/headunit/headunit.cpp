@@ -3,6 +3,10 @@
 
 #include "page.h"
 #include "pages/home.h"
+#include "pages/media.h"
+#include "pages/phone.h"
+#include "pages/radio.h"
+#include "pages/sound.h"
 #include "popup.h"
 #include "statusbar.h"
 
@@ -33,6 +37,10 @@ HeadUnit::HeadUnit(Context &context, const QSize &screen, Theme::Look look, QWid
     connect(m_statusBar, &StatusBar::backWanted, this, &HeadUnit::goBack);
 
     addPage(QStringLiteral("home"), new HomePage(context));
+    addPage(QStringLiteral("radio"), new RadioPage(context));
+    addPage(QStringLiteral("media"), new MediaPage(context));
+    addPage(QStringLiteral("phone"), new PhonePage(context));
+    addPage(QStringLiteral("sound"), new SoundPage(context));
     setLook(look);
     openPage(QStringLiteral("home"));
 }

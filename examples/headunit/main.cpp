@@ -11,6 +11,7 @@
 #include "options.h"
 
 #include <QApplication>
+#include <QLoggingCategory>
 #include <QSettings>
 
 using namespace headunit;
@@ -32,6 +33,8 @@ int main(int argc, char **argv)
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("PanelKit head unit"));
     QApplication::setOrganizationName(QStringLiteral("PanelKit"));
+    // The tuners write down each move of a finger.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
     const Options options(app.arguments());
 
     QSettings settings(options.settingsFile, QSettings::IniFormat);

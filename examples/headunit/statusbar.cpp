@@ -57,7 +57,9 @@ void StatusBar::showTime()
 {
     constexpr int kMinute = 60000; // ms
     const QTime now = QTime::currentTime();
-    m_clock->setText(QLocale().toString(now, QLocale::ShortFormat));
+    QString format = QLocale().timeFormat(QLocale::ShortFormat);
+    format.remove(QStringLiteral(":ss")); // some languages have them in their short form too
+    m_clock->setText(QLocale().toString(now, format));
     m_minute.start(kMinute - now.msecsSinceStartOfDay() % kMinute + 1);
 }
 

@@ -8,6 +8,10 @@
 #include <algorithm>
 #include <array>
 
+// The linker leaves resources of a static library out unless they are asked for, which works
+// outside of namespaces only.
+static void initialiseArt() { Q_INIT_RESOURCE(headunit_screen_headunit); }
+
 namespace headunit
 {
 
@@ -22,7 +26,7 @@ template <typename Render>
 QPixmap cached(const QString &key, const QSize &size, const Render &render)
 {
     QPixmap pixmap;
-    if (QPixmapCache::find(key, &pixmap))
+    if (size.isEmpty() || QPixmapCache::find(key, &pixmap))
         return pixmap;
     pixmap = QPixmap(size);
     pixmap.fill(Qt::transparent);
@@ -43,6 +47,7 @@ QString sizeKey(const QSize &size)
 
 Theme::Theme(const QSize &screen, Look look) : m_screen(screen), m_look(look)
 {
+    initialiseArt();
     const bool isDay = look == Day;
     ground = isDay ? QColor(0xe9, 0xee, 0xf3) : QColor(0x0c, 0x11, 0x18);
     face = isDay ? QColor(0xff, 0xff, 0xff, 225) : QColor(0x1b, 0x24, 0x30, 225);
@@ -96,6 +101,21 @@ QPixmap Theme::drawing(const QString &name, const QSize &size) const
         drawing.setAspectRatioMode(Qt::KeepAspectRatioByExpanding);
         drawing.render(&painter);
     });
+}
+
+QPixmap Theme::rounded(const QImage &photograph, const QSize &size) const
+{
+    const QImage scaled =
+        photograph.scaled(size, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
+    const QPoint corner((scaled.width() - size.width()) / 2, (scaled.height() - size.height()) / 2);
+    QPixmap picture(size);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QBrush(scaled.copy(QRect(corner, size))));
+    painter.drawRoundedRect(picture.rect(), radius(), radius());
+    return picture;
 }
 
 QPixmap Theme::panel(const QSize &size, const QColor &fill, const QColor &border, int radius) const

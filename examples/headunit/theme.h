@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QImage>
 #include <QPixmap>
 #include <QSize>
 #include <QString>
@@ -60,6 +61,8 @@ public:
     QPixmap icon(const QString &name, int px, const QColor &color) const;
     /// A drawing of art/ as it is.
     QPixmap drawing(const QString &name, const QSize &size) const;
+    /// A photograph that fills a face with rounded corners.
+    QPixmap rounded(const QImage &photograph, const QSize &size) const;
     /// The file of a drawing of art/, with its ending.
     static QString file(const QString &name);
     /// A rounded face; a border of no colour is none.

@@ -158,12 +158,12 @@ void defineBookPage(PagesOf<MArcList> &pages)
 {
     pages.add(QStringLiteral("Contacts"), buildBook)
         .touches("letter tapped",
-                 [](MArcList &, Touch &touch) {
-                     touch.press({438, 340}).hold(80).release().hold(60).picture();
+                 [](MArcList &, Finger &finger) {
+                     finger.press({438, 340}).hold(80).release().hold(60).picture();
                  })
         .touches("names dragged",
-                 [](MArcList &letters, Touch &touch) {
-                     touch.on(besides<SpTableList>(letters))
+                 [](MArcList &letters, Finger &finger) {
+                     finger.on(besides<SpTableList>(letters))
                          .press({200, 380})
                          .moveTo({200, 20}, 400)
                          .hold(300)
@@ -171,16 +171,16 @@ void defineBookPage(PagesOf<MArcList> &pages)
                          .release();
                  })
         .touches("names flung",
-                 [](MArcList &letters, Touch &touch) {
-                     touch.on(besides<SpTableList>(letters))
+                 [](MArcList &letters, Finger &finger) {
+                     finger.on(besides<SpTableList>(letters))
                          .press({200, 380})
                          .moveTo({200, 180}, 48)
                          .release()
                          .hold(1500)
                          .picture();
                  })
-        .touches("bar touched", [](MArcList &letters, Touch &touch) {
-            touch.on(besides<MArcScrollBar>(letters))
+        .touches("bar touched", [](MArcList &letters, Finger &finger) {
+            finger.on(besides<MArcScrollBar>(letters))
                 .press({100, 60})
                 .moveTo({110, 300}, 300)
                 .picture()
@@ -203,34 +203,34 @@ void definePages(PagesOf<MArcList> &pages)
         .state("without marker", [](MArcList &l) { l.setPointPixmap({}); })
         .emptyState("empty", [](MArcList &l) { l.clearData(); })
         .touches("pressed",
-                 [](MArcList &, Touch &touch) {
-                     touch.press({332, 300}).hold(80).picture().release();
+                 [](MArcList &, Finger &finger) {
+                     finger.press({332, 300}).hold(80).picture().release();
                  })
         .touches("tapped",
-                 [](MArcList &, Touch &touch) {
-                     touch.press({332, 300}).hold(80).release().picture();
+                 [](MArcList &, Finger &finger) {
+                     finger.press({332, 300}).hold(80).release().picture();
                  })
         .touches("dragged",
-                 [](MArcList &, Touch &touch) {
-                     touch.press({338, 260}).moveTo({330, 120}, 300).picture().release();
+                 [](MArcList &, Finger &finger) {
+                     finger.press({338, 260}).moveTo({330, 120}, 300).picture().release();
                  })
-        .touches("flung", [](MArcList &, Touch &touch) {
-            touch.press({330, 320}).moveTo({335, 180}, 60).release().hold(120).picture();
+        .touches("flung", [](MArcList &, Finger &finger) {
+            finger.press({330, 320}).moveTo({335, 180}, 60).release().hold(120).picture();
         });
 
     pages.add(QStringLiteral("MArcList column"), buildColumn)
         .state("scrolled", [](MArcList &l) { l.setStartAngle(9); })
         .state("without marker", [](MArcList &l) { l.setPointPixmap({}); })
         .touches("pressed: colour runs on",
-                 [](MArcList &, Touch &touch) {
-                     touch.press({60, 200}).hold(80).picture().release();
+                 [](MArcList &, Finger &finger) {
+                     finger.press({60, 200}).hold(80).picture().release();
                  })
         .touches("tapped",
-                 [](MArcList &, Touch &touch) {
-                     touch.press({60, 330}).hold(80).release().picture();
+                 [](MArcList &, Finger &finger) {
+                     finger.press({60, 330}).hold(80).release().picture();
                  })
-        .touches("flung", [](MArcList &, Touch &touch) {
-            touch.press({60, 380}).moveTo({60, 240}, 60).release().hold(120).picture();
+        .touches("flung", [](MArcList &, Finger &finger) {
+            finger.press({60, 380}).moveTo({60, 240}, 60).release().hold(120).picture();
         });
 
     defineBookPage(pages);

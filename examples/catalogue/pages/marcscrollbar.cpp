@@ -68,10 +68,10 @@ void definePages(PagesOf<MArcScrollBar> &pages)
                    b.setCenterPoint({620, 200});
                })
         .touches("touched",
-                 [](MArcScrollBar &, Touch &touch) {
-                     touch.press({110, 260}).hold(80).picture().release();
+                 [](MArcScrollBar &, Finger &finger) {
+                     finger.press({110, 260}).hold(80).picture().release();
                  })
-        .touches("dragged", [](MArcScrollBar &, Touch &touch) {
-            touch.press({110, 100}).moveTo({100, 320}, 300).picture().release();
+        .touches("dragged", [](MArcScrollBar &, Finger &finger) {
+            finger.press({110, 100}).moveTo({100, 320}, 300).picture().release();
         });
 }

@@ -62,15 +62,16 @@ MCircularDial *buildTemperature(Scene &scene)
 // What all three dials can do with a finger.
 template <class Writer> void addTouches(Writer &page)
 {
-    page.touches(
-            "touched",
-            [](MCircularDial &, Touch &touch) { touch.press(kHigh).hold(80).picture().release(); })
-        .touches("dragged",
-                 [](MCircularDial &, Touch &touch) {
-                     touch.press(kLow).moveTo(kHigh, 300).picture().release();
+    page.touches("touched",
+                 [](MCircularDial &, Finger &finger) {
+                     finger.press(kHigh).hold(80).picture().release();
                  })
-        .silentTouches("touched below the arc", [](MCircularDial &, Touch &touch) {
-            touch.press({75, 285}).hold(80).release();
+        .touches("dragged",
+                 [](MCircularDial &, Finger &finger) {
+                     finger.press(kLow).moveTo(kHigh, 300).picture().release();
+                 })
+        .silentTouches("touched below the arc", [](MCircularDial &, Finger &finger) {
+            finger.press({75, 285}).hold(80).release();
         });
 }
 

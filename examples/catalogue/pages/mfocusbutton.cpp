@@ -64,18 +64,20 @@ void defineStates(PageWriter<MFocusButton> &page)
 
 void defineTouches(PageWriter<MFocusButton> &page)
 {
-    page.touches("pressed",
-                 [](MFocusButton &, Touch &touch) { touch.press().hold(80).picture().release(); })
-        .touches("tapped",
-                 [](MFocusButton &, Touch &touch) { touch.press().hold(80).release().picture(); })
+    page.touches(
+            "pressed",
+            [](MFocusButton &, Finger &finger) { finger.press().hold(80).picture().release(); })
+        .touches(
+            "tapped",
+            [](MFocusButton &, Finger &finger) { finger.press().hold(80).release().picture(); })
         .touches("long press",
-                 [](MFocusButton &b, Touch &touch) {
+                 [](MFocusButton &b, Finger &finger) {
                      b.setLongPressIntal(300);
-                     touch.press().hold(500).picture().release();
+                     finger.press().hold(500).picture().release();
                  })
-        .silentTouches("disabled, pressed", [](MFocusButton &b, Touch &touch) {
+        .silentTouches("disabled, pressed", [](MFocusButton &b, Finger &finger) {
             b.setEnabled(false);
-            touch.press().hold(80).picture().release();
+            finger.press().hold(80).picture().release();
         });
 }
 

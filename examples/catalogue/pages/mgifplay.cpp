@@ -26,15 +26,15 @@ void definePages(PagesOf<MGifPlay> &pages)
         .emptyState("no such file",
                     [](MGifPlay &p) { p.setGifImage(QStringLiteral("/absent.gif")); })
         .touches("playing",
-                 [](MGifPlay &, Touch &touch) {
-                     touch.hold(150).picture().hold(150).picture().press().release();
+                 [](MGifPlay &, Finger &finger) {
+                     finger.hold(150).picture().hold(150).picture().press().release();
                  })
         .touches("at double speed",
-                 [](MGifPlay &p, Touch &touch) {
+                 [](MGifPlay &p, Finger &finger) {
                      p.setGifSpeed(200);
-                     touch.hold(150).picture().hold(150).picture().press().release();
+                     finger.hold(150).picture().hold(150).picture().press().release();
                  })
-        .touches("released outside", [](MGifPlay &, Touch &touch) {
-            touch.press().moveTo({300, 80}, 100).release();
+        .touches("released outside", [](MGifPlay &, Finger &finger) {
+            finger.press().moveTo({300, 80}, 100).release();
         });
 }

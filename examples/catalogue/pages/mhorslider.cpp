@@ -69,17 +69,17 @@ void definePages(PagesOf<MHorSlider> &pages)
                    s.setCurrentValue(-2);
                })
         .touches("dragged",
-                 [](MHorSlider &, Touch &touch) {
-                     touch.press({160, 20}).moveTo({270, 25}, 200).picture().release();
+                 [](MHorSlider &, Finger &finger) {
+                     finger.press({160, 20}).moveTo({270, 25}, 200).picture().release();
                  })
-        .touches("tapped", [](MHorSlider &, Touch &touch) {
-            touch.press({40, 20}).release().picture();
+        .touches("tapped", [](MHorSlider &, Finger &finger) {
+            finger.press({40, 20}).release().picture();
         });
 
     auto balance = pages.add(QStringLiteral("Balance and fader"), buildBalance);
     balance.state("at rest", [](MHorSlider &s) { s.setCurrentValue(0); })
         .state("far left", [](MHorSlider &s) { s.setCurrentValue(-9); })
-        .touches("dragged across the middle", [](MHorSlider &, Touch &touch) {
-            touch.press({240, 20}).moveTo({110, 20}, 200).picture().release();
+        .touches("dragged across the middle", [](MHorSlider &, Finger &finger) {
+            finger.press({240, 20}).moveTo({110, 20}, 200).picture().release();
         });
 }

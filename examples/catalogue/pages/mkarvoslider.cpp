@@ -78,17 +78,17 @@ void defineTouches(PageWriter<MKARVOSlider> &page, const Band &band)
     page.state("first of the band", [band](MKARVOSlider &s) { s.setCurFreq(band.start); })
         .state("last of the band", [band](MKARVOSlider &s) { s.setCurFreq(band.end); })
         .touches("drag",
-                 [](MKARVOSlider &, Touch &touch) {
-                     touch.press({200, 85}).moveTo({520, 85}, 250).picture().release();
+                 [](MKARVOSlider &, Finger &finger) {
+                     finger.press({200, 85}).moveTo({520, 85}, 250).picture().release();
                  })
         .touches("drag beyond the end",
-                 [](MKARVOSlider &, Touch &touch) {
-                     touch.press({400, 85}).moveTo({800, 85}, 100).picture().release();
+                 [](MKARVOSlider &, Finger &finger) {
+                     finger.press({400, 85}).moveTo({800, 85}, 100).picture().release();
                  })
-        .touches("band not set", [](MKARVOSlider &s, Touch &touch) {
+        .touches("band not set", [](MKARVOSlider &s, Finger &finger) {
             s.setRealMinFreq(1620.0F);
             s.setRealMaxFreq(522.0F);
-            touch.press({200, 85}).moveTo({300, 85}, 50).picture().release();
+            finger.press({200, 85}).moveTo({300, 85}, 50).picture().release();
         });
 }
 

@@ -139,25 +139,25 @@ void definePages(PagesOf<MListView> &pages)
                    buildAnew(v, 4, {{0, 0}}, kSmallKey);
                })
         .touches("tap",
-                 [](MListView &, Touch &touch) {
-                     touch.press({48, 156}).hold(80).release().picture();
+                 [](MListView &, Finger &finger) {
+                     finger.press({48, 156}).hold(80).release().picture();
                  })
-        .touches("dragged", [](MListView &, Touch &touch) {
-            touch.press({48, 102}).moveTo({60, 300}, 120).picture().release();
+        .touches("dragged", [](MListView &, Finger &finger) {
+            finger.press({48, 102}).moveTo({60, 300}, 120).picture().release();
         });
 
     pages.add(QStringLiteral("MListView beside a list"), buildBesideAList)
         .touches("other key tapped",
-                 [](MListView &, Touch &touch) {
-                     touch.press({48, 156}).hold(80).release().hold(100).picture();
+                 [](MListView &, Finger &finger) {
+                     finger.press({48, 156}).hold(80).release().hold(100).picture();
                  })
         .touches("row tapped",
-                 [](MListView &view, Touch &touch) {
-                     touch.on(listBeside(view)).press({200, 130}).hold(320).picture().release();
-                     touch.hold(120);
+                 [](MListView &view, Finger &finger) {
+                     finger.on(listBeside(view)).press({200, 130}).hold(320).picture().release();
+                     finger.hold(120);
                  })
-        .touches("list flung", [](MListView &view, Touch &touch) {
-            touch.on(listBeside(view)).press({200, 380}).moveTo({200, 200}, 64).release();
-            touch.hold(1200).picture();
+        .touches("list flung", [](MListView &view, Finger &finger) {
+            finger.on(listBeside(view)).press({200, 380}).moveTo({200, 200}, 64).release();
+            finger.hold(1200).picture();
         });
 }

@@ -51,10 +51,10 @@ void defineLook(PageWriter<MOnOffButton> &page, const QString &name, Use use)
                    b.setOnoffStatus(true);
                })
         .touches(name + QStringLiteral(", dragged"),
-                 [use](MOnOffButton &b, Touch &touch) {
+                 [use](MOnOffButton &b, Finger &finger) {
                      use(b);
-                     touch.press({40, 40}).moveTo({105, 40}, 150).picture();
-                     touch.moveTo({150, 40}, 100).release();
+                     finger.press({40, 40}).moveTo({105, 40}, 150).picture();
+                     finger.moveTo({150, 40}, 100).release();
                  })
         .state(name + QStringLiteral(", off, disabled"),
                [use](MOnOffButton &b) {
@@ -71,28 +71,28 @@ void defineLook(PageWriter<MOnOffButton> &page, const QString &name, Use use)
 void defineTouches(PageWriter<MOnOffButton> &page)
 {
     page.touches("gliding on",
-                 [](MOnOffButton &, Touch &touch) {
-                     touch.press().hold(60).release().hold(120).picture().hold(300);
+                 [](MOnOffButton &, Finger &finger) {
+                     finger.press().hold(60).release().hold(120).picture().hold(300);
                  })
         .touches("gliding off",
-                 [](MOnOffButton &b, Touch &touch) {
+                 [](MOnOffButton &b, Finger &finger) {
                      usePictures(b);
                      b.setOnoffStatus(true);
-                     touch.press().hold(60).release().hold(120).picture().hold(300);
+                     finger.press().hold(60).release().hold(120).picture().hold(300);
                  })
         .touches("reversed, tapped",
-                 [](MOnOffButton &b, Touch &touch) {
+                 [](MOnOffButton &b, Finger &finger) {
                      usePicturesReversed(b);
-                     touch.press().hold(60).release().hold(60).picture();
+                     finger.press().hold(60).release().hold(60).picture();
                  })
         .touches("short drag springs back",
-                 [](MOnOffButton &, Touch &touch) {
-                     touch.press({40, 40}).moveTo({85, 40}, 150).release().hold(60).picture();
+                 [](MOnOffButton &, Finger &finger) {
+                     finger.press({40, 40}).moveTo({85, 40}, 150).release().hold(60).picture();
                  })
         .touches("disabled, pressed",
-                 [](MOnOffButton &b, Touch &touch) {
+                 [](MOnOffButton &b, Finger &finger) {
                      b.setBtnDisable(true);
-                     touch.press().hold(60).release().hold(60).picture();
+                     finger.press().hold(60).release().hold(60).picture();
                  })
         .emptyState("not wider than high", [](MOnOffButton &b) { b.resize(90, 90); });
 }

@@ -46,9 +46,9 @@ void definePages(PagesOf<MOProgress> &pages)
                    r.setDispalyText(QStringLiteral("A caption wider than its ring is cut off"));
                })
         .emptyState("thicker than the radius", [](MOProgress &r) { r.setArcHeight(120); })
-        .touches("tap", [](MOProgress &, Touch &touch) { touch.press().hold(80).release(); })
-        .silentTouches("disabled touched", [](MOProgress &r, Touch &touch) {
+        .touches("tap", [](MOProgress &, Finger &finger) { finger.press().hold(80).release(); })
+        .silentTouches("disabled touched", [](MOProgress &r, Finger &finger) {
             r.setEnabled(false);
-            touch.press().hold(80).release();
+            finger.press().hold(80).release();
         });
 }

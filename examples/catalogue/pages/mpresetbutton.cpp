@@ -68,23 +68,24 @@ void defineStates(PageWriter<MPresetButton> &page)
 
 void defineTouches(PageWriter<MPresetButton> &page)
 {
-    page.touches("tapped",
-                 [](MPresetButton &, Touch &touch) { touch.press().hold(80).release().picture(); })
+    page.touches(
+            "tapped",
+            [](MPresetButton &, Finger &finger) { finger.press().hold(80).release().picture(); })
         .touches(
             "long press",
-            [](MPresetButton &, Touch &touch) { touch.press().hold(1700).picture().release(); })
+            [](MPresetButton &, Finger &finger) { finger.press().hold(1700).picture().release(); })
         .touches("long press of a trembling finger",
-                 [](MPresetButton &, Touch &touch) {
-                     touch.press({80, 60}).moveTo({90, 66}, 200).hold(1600).picture().release();
+                 [](MPresetButton &, Finger &finger) {
+                     finger.press({80, 60}).moveTo({90, 66}, 200).hold(1600).picture().release();
                  })
         .silentTouches("moved",
-                       [](MPresetButton &, Touch &touch) {
-                           touch.press({80, 60}).moveTo({120, 60}, 200).hold(1500);
-                           touch.picture().release();
+                       [](MPresetButton &, Finger &finger) {
+                           finger.press({80, 60}).moveTo({120, 60}, 200).hold(1500);
+                           finger.picture().release();
                        })
-        .silentTouches("disabled, pressed", [](MPresetButton &b, Touch &touch) {
+        .silentTouches("disabled, pressed", [](MPresetButton &b, Finger &finger) {
             b.setEnabled(false);
-            touch.press().hold(80).picture().release();
+            finger.press().hold(80).picture().release();
         });
 }
 

@@ -46,13 +46,13 @@ void definePages(PagesOf<MProgressBar> &pages)
         .state("disabled", [](MProgressBar &b) { b.setEnabled(false); })
         .state("without time", [](MProgressBar &b) { b.setShowValue(false); })
         .touches("dragged",
-                 [](MProgressBar &, Touch &touch) {
-                     touch.press({190, 30}).moveTo({330, 30}, 200).picture().release().picture();
+                 [](MProgressBar &, Finger &finger) {
+                     finger.press({190, 30}).moveTo({330, 30}, 200).picture().release().picture();
                  })
-        .touches("fed while dragged", [](MProgressBar &b, Touch &touch) {
-            touch.press({190, 30}).moveTo({330, 30}, 200);
+        .touches("fed while dragged", [](MProgressBar &b, Finger &finger) {
+            finger.press({190, 30}).moveTo({330, 30}, 200);
             b.setRealValue(10);
-            touch.picture().release();
+            finger.picture().release();
         });
 
     auto plain = pages.add(QStringLiteral("MProgressBar plain"), buildPlainBar);
@@ -68,7 +68,7 @@ void definePages(PagesOf<MProgressBar> &pages)
                    b.setNormalColor(QColor(60, 70, 85));
                    b.setPressColor(QColor(47, 127, 198));
                })
-        .touches("dragged", [](MProgressBar &, Touch &touch) {
-            touch.press({220, 30}).moveTo({330, 30}, 200).picture().release();
+        .touches("dragged", [](MProgressBar &, Finger &finger) {
+            finger.press({220, 30}).moveTo({330, 30}, 200).picture().release();
         });
 }

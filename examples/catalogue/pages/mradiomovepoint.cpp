@@ -74,11 +74,11 @@ void defineStates(PageWriter<MRadioMovePoint> &page, const Band &band)
                    t.setInitByCustomeValue(true);
                })
         .touches("drag",
-                 [](MRadioMovePoint &, Touch &touch) {
-                     touch.press({200, 70}).moveTo({420, 70}, 200).picture().release();
+                 [](MRadioMovePoint &, Finger &finger) {
+                     finger.press({200, 70}).moveTo({420, 70}, 200).picture().release();
                  })
-        .touches("drag beyond the end", [](MRadioMovePoint &t, Touch &touch) {
-            touch.press({200, 70}).moveTo({t.width() + 50, 70}, 100).picture().release();
+        .touches("drag beyond the end", [](MRadioMovePoint &t, Finger &finger) {
+            finger.press({200, 70}).moveTo({t.width() + 50, 70}, 100).picture().release();
         });
 }
 
@@ -134,8 +134,8 @@ void definePages(PagesOf<MRadioMovePoint> &pages)
         defineStates(page, band);
     }
     const auto drag = [](const QPoint &from, const QPoint &to) {
-        return [from, to](MRadioMovePoint &tuner, Touch &touch) {
-            touch.on(tuner.parentWidget())
+        return [from, to](MRadioMovePoint &tuner, Finger &finger) {
+            finger.on(tuner.parentWidget())
                 .press(tuner.pos() + from)
                 .moveTo(tuner.pos() + to, 200)
                 .release()

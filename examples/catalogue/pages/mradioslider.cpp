@@ -67,15 +67,15 @@ void defineTouches(PageWriter<MRadioSlider> &page, const Band &band)
     page.state("first of the band", [band](MRadioSlider &s) { s.setCurFreq(band.start); })
         .state("last of the band", [band](MRadioSlider &s) { s.setCurFreq(band.end); })
         .touches("drag",
-                 [](MRadioSlider &, Touch &touch) {
-                     touch.press({400, 55}).moveTo({250, 55}, 200).picture().release();
+                 [](MRadioSlider &, Finger &finger) {
+                     finger.press({400, 55}).moveTo({250, 55}, 200).picture().release();
                  })
         .touches("drag beyond the end",
-                 [](MRadioSlider &s, Touch &touch) {
+                 [](MRadioSlider &s, Finger &finger) {
                      s.setCurFreq(s.getFreqStart());
-                     touch.press({100, 55}).moveTo({500, 55}, 100).picture().release();
+                     finger.press({100, 55}).moveTo({500, 55}, 100).picture().release();
                  })
-        .touches("tap", [](MRadioSlider &, Touch &touch) { touch.press().picture().release(); });
+        .touches("tap", [](MRadioSlider &, Finger &finger) { finger.press().picture().release(); });
 }
 
 } // namespace

@@ -59,29 +59,30 @@ void defineStates(PageWriter<MSelectButton> &page)
 
 void defineTouches(PageWriter<MSelectButton> &page)
 {
-    page.touches("pressed",
-                 [](MSelectButton &, Touch &touch) { touch.press().hold(80).picture().release(); })
+    page.touches(
+            "pressed",
+            [](MSelectButton &, Finger &finger) { finger.press().hold(80).picture().release(); })
         .touches("selected and pressed",
-                 [](MSelectButton &b, Touch &touch) {
+                 [](MSelectButton &b, Finger &finger) {
                      b.setSelectState(true);
-                     touch.press().hold(80).picture().release();
+                     finger.press().hold(80).picture().release();
                  })
         .touches("selected by its slot",
-                 [](MSelectButton &b, Touch &touch) {
+                 [](MSelectButton &b, Finger &finger) {
                      QObject::connect(&b, &MSelectButton::btnClicked, &b,
                                       [&b] { b.setSelectState(!b.selectState()); });
-                     touch.press().hold(80).release().picture();
+                     finger.press().hold(80).release().picture();
                  })
         .touches(
             "long press",
-            [](MSelectButton &, Touch &touch) { touch.press().hold(1700).picture().release(); })
+            [](MSelectButton &, Finger &finger) { finger.press().hold(1700).picture().release(); })
         .silentTouches("slid away",
-                       [](MSelectButton &, Touch &touch) {
-                           touch.press({80, 60}).moveTo({100, 60}, 200).picture().release();
+                       [](MSelectButton &, Finger &finger) {
+                           finger.press({80, 60}).moveTo({100, 60}, 200).picture().release();
                        })
-        .silentTouches("disabled, pressed", [](MSelectButton &b, Touch &touch) {
+        .silentTouches("disabled, pressed", [](MSelectButton &b, Finger &finger) {
             b.setDisableState(true);
-            touch.press().hold(80).picture().release();
+            finger.press().hold(80).picture().release();
         });
 }
 

@@ -55,20 +55,20 @@ void definePages(PagesOf<MultipleStateButton> &pages)
                })
         .state("disabled", disable)
         .touches("three touches",
-                 [](MultipleStateButton &, Touch &touch) {
-                     touch.press().hold(80).picture().release();
-                     touch.press().hold(80).release().picture();
-                     touch.press().hold(80).release().picture();
+                 [](MultipleStateButton &, Finger &finger) {
+                     finger.press().hold(80).picture().release();
+                     finger.press().hold(80).release().picture();
+                     finger.press().hold(80).release().picture();
                  })
-        .silentTouches("disabled touched", [](MultipleStateButton &b, Touch &touch) {
+        .silentTouches("disabled touched", [](MultipleStateButton &b, Finger &finger) {
             disable(b);
-            touch.press().hold(80).release();
+            finger.press().hold(80).release();
         });
 
     auto incomplete =
         pages.add(QStringLiteral("MultipleStateButton incomplete"), buildIncompleteButton);
-    incomplete.touches("enabled and touched", [](MultipleStateButton &b, Touch &touch) {
+    incomplete.touches("enabled and touched", [](MultipleStateButton &b, Finger &finger) {
         b.setButtonDisable(false);
-        touch.press().hold(80).release().picture();
+        finger.press().hold(80).release().picture();
     });
 }

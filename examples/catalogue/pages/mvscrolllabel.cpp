@@ -54,17 +54,17 @@ void definePages(PagesOf<MVScrollLabel> &pages)
         .state("one long word", [](MVScrollLabel &l) { l.setText(QString(200, QLatin1Char('w'))); })
         .emptyState("empty", [](MVScrollLabel &l) { l.setText({}); })
         .touches("scrolling",
-                 [](MVScrollLabel &l, Touch &touch) {
+                 [](MVScrollLabel &l, Finger &finger) {
                      l.startScroll();
-                     touch.hold(500).picture().hold(2000).picture();
+                     finger.hold(500).picture().hold(2000).picture();
                  })
         .touches("starts by itself",
-                 [](MVScrollLabel &, Touch &touch) { touch.hold(kStartDelay + 600).picture(); })
+                 [](MVScrollLabel &, Finger &finger) { finger.hold(kStartDelay + 600).picture(); })
         .silentTouches("pushed up",
-                       [](MVScrollLabel &, Touch &touch) {
-                           touch.press({200, 200}).moveTo({200, 80}, 200).picture().release();
+                       [](MVScrollLabel &, Finger &finger) {
+                           finger.press({200, 200}).moveTo({200, 80}, 200).picture().release();
                        })
-        .silentTouches("pushed down", [](MVScrollLabel &, Touch &touch) {
-            touch.press({200, 60}).moveTo({200, 160}, 200).picture().release();
+        .silentTouches("pushed down", [](MVScrollLabel &, Finger &finger) {
+            finger.press({200, 60}).moveTo({200, 160}, 200).picture().release();
         });
 }

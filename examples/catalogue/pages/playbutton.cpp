@@ -26,18 +26,18 @@ void definePages(PagesOf<PlayButton> &pages)
     auto page = pages.add(buildButton);
     page.state("disabled", disable)
         .touches("tap",
-                 [](PlayButton &, Touch &touch) { touch.press().hold(80).picture().release(); })
-        .silentTouches("disabled touched", [](PlayButton &b, Touch &touch) {
+                 [](PlayButton &, Finger &finger) { finger.press().hold(80).picture().release(); })
+        .silentTouches("disabled touched", [](PlayButton &b, Finger &finger) {
             disable(b);
-            touch.press().hold(80).release();
+            finger.press().hold(80).release();
         });
 
     auto incomplete =
         pages.add(QStringLiteral("PlayButton without pressed picture"), [](Scene &scene) {
             return new PlayButton(0, 0, 6, Art::file(QStringLiteral("radio")), {}, &scene);
         });
-    incomplete.touches("enabled and touched", [](PlayButton &b, Touch &touch) {
+    incomplete.touches("enabled and touched", [](PlayButton &b, Finger &finger) {
         b.setButtonDisable(false);
-        touch.press().hold(80).release().picture();
+        finger.press().hold(80).release().picture();
     });
 }

@@ -32,10 +32,10 @@ SpBackgroundImage *buildTurning(Scene &scene)
     return backdrop;
 }
 
-void holdTouches(SpBackgroundImage &backdrop, Touch &touch)
+void holdTouches(SpBackgroundImage &backdrop, Finger &finger)
 {
     backdrop.setholdMouseEvent(true);
-    touch.press().hold(80).release();
+    finger.press().hold(80).release();
 }
 
 } // namespace
@@ -55,11 +55,12 @@ void definePages(PagesOf<SpBackgroundImage> &pages)
                })
         .emptyState("no picture", [](SpBackgroundImage &b) { b.setPixmap({}); })
         .touches("touch held", holdTouches)
-        .silentTouches("touch not held",
-                       [](SpBackgroundImage &, Touch &touch) { touch.press().hold(80).release(); });
+        .silentTouches("touch not held", [](SpBackgroundImage &, Finger &finger) {
+            finger.press().hold(80).release();
+        });
 
     auto turning = pages.add(QStringLiteral("Rotating backdrop"), buildTurning);
-    turning.touches("turning", [](SpBackgroundImage &, Touch &touch) {
-        touch.press().hold(600).picture().release();
+    turning.touches("turning", [](SpBackgroundImage &, Finger &finger) {
+        finger.press().hold(600).picture().release();
     });
 }

@@ -62,19 +62,19 @@ void definePictures(PageWriter<SpDisLabel> &page)
 void defineTouches(PageWriter<SpDisLabel> &page)
 {
     page.touches("tap",
-                 [](SpDisLabel &, Touch &touch) { touch.press().hold(80).picture().release(); })
+                 [](SpDisLabel &, Finger &finger) { finger.press().hold(80).picture().release(); })
         .touches("latched",
-                 [](SpDisLabel &l, Touch &touch) {
+                 [](SpDisLabel &l, Finger &finger) {
                      l.setIsLock(true);
-                     touch.press().hold(80).release().picture();
+                     finger.press().hold(80).release().picture();
                  })
         .touches("released outside",
-                 [](SpDisLabel &, Touch &touch) {
-                     touch.press({80, 36}).moveTo({320, 36}, 150).picture().release();
+                 [](SpDisLabel &, Finger &finger) {
+                     finger.press({80, 36}).moveTo({320, 36}, 150).picture().release();
                  })
-        .touches("picture touched", [](SpDisLabel &l, Touch &touch) {
+        .touches("picture touched", [](SpDisLabel &l, Finger &finger) {
             showPicture(l);
-            touch.press().hold(80).picture().release();
+            finger.press().hold(80).picture().release();
         });
 }
 

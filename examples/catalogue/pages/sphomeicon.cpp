@@ -200,31 +200,31 @@ void defineStates(PageWriter<SpHomeIcon> &page)
 void defineTouches(PageWriter<SpHomeIcon> &page)
 {
     page.touches("tap",
-                 [](SpHomeIcon &, Touch &touch) { touch.press().hold(80).picture().release(); })
+                 [](SpHomeIcon &, Finger &finger) { finger.press().hold(80).picture().release(); })
         .touches("own picture pressed",
-                 [](SpHomeIcon &t, Touch &touch) {
+                 [](SpHomeIcon &t, Finger &finger) {
                      giveOwnPressedPicture(t);
-                     touch.press().hold(80).picture().release();
+                     finger.press().hold(80).picture().release();
                  })
         .touches("moved",
-                 [](SpHomeIcon &, Touch &touch) {
-                     touch.press().moveTo({110, 60}, 100).picture().release();
+                 [](SpHomeIcon &, Finger &finger) {
+                     finger.press().moveTo({110, 60}, 100).picture().release();
                  })
         .touches("running, pressed",
-                 [](SpHomeIcon &t, Touch &touch) {
+                 [](SpHomeIcon &t, Finger &finger) {
                      setRunning(t);
-                     touch.press().hold(80).picture().release();
+                     finger.press().hold(80).picture().release();
                  })
         .touches("animated, pressed",
-                 [](SpHomeIcon &t, Touch &touch) {
+                 [](SpHomeIcon &t, Finger &finger) {
                      animate(t);
-                     touch.press().hold(300).picture().release();
+                     finger.press().hold(300).picture().release();
                  })
-        .touches("not ready, pressed", [](SpHomeIcon &t, Touch &touch) {
+        .touches("not ready, pressed", [](SpHomeIcon &t, Finger &finger) {
             giveStatePictures(t);
             t.setImageAlpha(kOwnPictures);
             t.setIsReady(false);
-            touch.press().hold(80).picture().release();
+            finger.press().hold(80).picture().release();
         });
 }
 
@@ -237,6 +237,6 @@ void definePages(PagesOf<SpHomeIcon> &pages)
     defineTouches(page);
 
     auto twelve = pages.add(QStringLiteral("Twelve launcher tiles"), buildTwelve);
-    twelve.touches("tap",
-                   [](SpHomeIcon &, Touch &touch) { touch.press().hold(400).picture().release(); });
+    twelve.touches(
+        "tap", [](SpHomeIcon &, Finger &finger) { finger.press().hold(400).picture().release(); });
 }

@@ -92,15 +92,16 @@ void defineLooks(PageWriter<SpHorStrButton> &page)
 
 void defineTouches(PageWriter<SpHorStrButton> &page)
 {
-    page.touches("tap",
-                 [](SpHorStrButton &, Touch &touch) { touch.press().hold(80).picture().release(); })
+    page.touches(
+            "tap",
+            [](SpHorStrButton &, Finger &finger) { finger.press().hold(80).picture().release(); })
         .touches("released outside",
-                 [](SpHorStrButton &, Touch &touch) {
-                     touch.press({80, 60}).moveTo({340, 60}, 150).picture().release();
+                 [](SpHorStrButton &, Finger &finger) {
+                     finger.press({80, 60}).moveTo({340, 60}, 150).picture().release();
                  })
-        .touches("disabled touched", [](SpHorStrButton &b, Touch &touch) {
+        .touches("disabled touched", [](SpHorStrButton &b, Finger &finger) {
             b.setBtnDisable(true);
-            touch.press().hold(80).picture().release();
+            finger.press().hold(80).picture().release();
         });
 }
 

@@ -103,33 +103,34 @@ void defineDisabledStates(PageWriter<SpIconButton> &page)
 
 void defineTouches(PageWriter<SpIconButton> &page)
 {
-    page.touches("tap",
-                 [](SpIconButton &, Touch &touch) { touch.press().hold(80).picture().release(); })
+    page.touches(
+            "tap",
+            [](SpIconButton &, Finger &finger) { finger.press().hold(80).picture().release(); })
         .touches("latched",
-                 [](SpIconButton &b, Touch &touch) {
+                 [](SpIconButton &b, Finger &finger) {
                      b.setIsLock(true);
-                     touch.press().hold(80).release().picture();
+                     finger.press().hold(80).release().picture();
                  })
         .touches("released outside",
-                 [](SpIconButton &, Touch &touch) {
-                     touch.press({80, 80}).moveTo({130, 80}, 150).picture().release();
+                 [](SpIconButton &, Finger &finger) {
+                     finger.press({80, 80}).moveTo({130, 80}, 150).picture().release();
                  })
         .touches("long press",
-                 [](SpIconButton &b, Touch &touch) {
+                 [](SpIconButton &b, Finger &finger) {
                      b.setSupportLongPress(true);
                      b.setTimerInterval(500);
-                     touch.press().hold(700).picture().release();
+                     finger.press().hold(700).picture().release();
                  })
         .touches("long press repeated",
-                 [](SpIconButton &b, Touch &touch) {
+                 [](SpIconButton &b, Finger &finger) {
                      b.setSupportLongPress(true);
                      b.setTimerInterval(400);
                      b.setTimerInt2(100);
-                     touch.press().hold(780).picture().release();
+                     finger.press().hold(780).picture().release();
                  })
-        .silentTouches("disabled touched", [](SpIconButton &b, Touch &touch) {
+        .silentTouches("disabled touched", [](SpIconButton &b, Finger &finger) {
             b.setDisableState(true);
-            touch.press().hold(80).picture().release();
+            finger.press().hold(80).picture().release();
         });
 }
 

@@ -38,5 +38,5 @@ void definePages(PagesOf<SpLabel> &pages)
                })
         .emptyState("no image", [](SpLabel &l) { l.setImage({}); })
         .silentTouches("touched",
-                       [](SpLabel &, Touch &touch) { touch.press().hold(80).release(); });
+                       [](SpLabel &, Finger &finger) { finger.press().hold(80).release(); });
 }

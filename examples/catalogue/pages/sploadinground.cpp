@@ -42,13 +42,13 @@ void definePages(PagesOf<SpLoadingRound> &pages)
         .state("rectangles", [](SpLoadingRound &r) { r.setDrawStyle(SpLoadingRound::RectStyle); })
         .state("greys", [](SpLoadingRound &r) { r.setDrawStyle(SpLoadingRound::GrayStyle); })
         .state("coloured", [](SpLoadingRound &r) { r.setPainterColor(QColor(230, 128, 42)); })
-        .touches("tap", [](SpLoadingRound &, Touch &touch) { touch.press().hold(80).release(); })
-        .touches("moved", [](SpLoadingRound &, Touch &touch) {
-            touch.press({60, 60}).moveTo({120, 90}, 100).release();
+        .touches("tap", [](SpLoadingRound &, Finger &finger) { finger.press().hold(80).release(); })
+        .touches("moved", [](SpLoadingRound &, Finger &finger) {
+            finger.press({60, 60}).moveTo({120, 90}, 100).release();
         });
 
     auto three = pages.add(QStringLiteral("Busy rings"), buildThree);
-    three.touches("turning", [](SpLoadingRound &, Touch &touch) {
-        touch.press().hold(250).picture().hold(250).picture().release();
+    three.touches("turning", [](SpLoadingRound &, Finger &finger) {
+        finger.press().hold(250).picture().hold(250).picture().release();
     });
 }

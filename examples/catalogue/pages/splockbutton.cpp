@@ -71,16 +71,17 @@ void definePages(PagesOf<SpLockButton> &pages)
                    b.setDisplayText(QStringLiteral("A caption wider than its button is cut off"));
                })
         .emptyState("no image", [](SpLockButton &b) { b.setNormalImage({}); })
-        .touches("pressed once",
-                 [](SpLockButton &, Touch &touch) { touch.press().hold(80).release().picture(); })
+        .touches(
+            "pressed once",
+            [](SpLockButton &, Finger &finger) { finger.press().hold(80).release().picture(); })
         .touches("pressed twice",
-                 [](SpLockButton &, Touch &touch) {
-                     touch.press().hold(80).release();
-                     touch.press().hold(80).release().picture();
+                 [](SpLockButton &, Finger &finger) {
+                     finger.press().hold(80).release();
+                     finger.press().hold(80).release().picture();
                  })
-        .silentTouches("disabled touched", [](SpLockButton &b, Touch &touch) {
+        .silentTouches("disabled touched", [](SpLockButton &b, Finger &finger) {
             b.setDisableImage(b.normalImage());
             b.setDisableState(true);
-            touch.press().hold(80).release();
+            finger.press().hold(80).release();
         });
 }

@@ -89,20 +89,21 @@ void definePages(PagesOf<SpMaskBackground> &pages)
                    m.setRoundX(kScreen.width());
                    m.setRoundY(kScreen.height());
                })
-        .touches("tap", [](SpMaskBackground &, Touch &touch) { touch.press().hold(80).release(); })
-        .touches("touch held, moved far", [](SpMaskBackground &m, Touch &touch) {
+        .touches("tap",
+                 [](SpMaskBackground &, Finger &finger) { finger.press().hold(80).release(); })
+        .touches("touch held, moved far", [](SpMaskBackground &m, Finger &finger) {
             m.setholdMouseEvent(true);
-            touch.press({40, 40}).moveTo({340, 40}, 150).release();
+            finger.press({40, 40}).moveTo({340, 40}, 150).release();
         });
 
     auto popup = pages.add(QStringLiteral("Popup over a page"), buildPopup);
     popup
         .touches("touched beside it",
-                 [](SpMaskBackground &, Touch &touch) {
-                     touch.press({40, 280}).hold(80).release().picture();
+                 [](SpMaskBackground &, Finger &finger) {
+                     finger.press({40, 280}).hold(80).release().picture();
                  })
-        .silentTouches("touched on it", [](SpMaskBackground &m, Touch &touch) {
-            touch.on(m.findChild<QWidget *>(QStringLiteral("popup")));
-            touch.press({160, 140}).hold(80).release().picture();
+        .silentTouches("touched on it", [](SpMaskBackground &m, Finger &finger) {
+            finger.on(m.findChild<QWidget *>(QStringLiteral("popup")));
+            finger.press({160, 140}).hold(80).release().picture();
         });
 }

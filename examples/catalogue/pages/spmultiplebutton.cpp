@@ -56,34 +56,34 @@ void defineStates(PageWriter<SpMultipleButton> &page)
 void defineTouches(PageWriter<SpMultipleButton> &page)
 {
     page.touches("pressed",
-                 [](SpMultipleButton &b, Touch &touch) {
+                 [](SpMultipleButton &b, Finger &finger) {
                      b.setCurrentValue(2);
-                     touch.press().hold(80).picture().release();
+                     finger.press().hold(80).picture().release();
                  })
         .touches("one tap",
-                 [](SpMultipleButton &, Touch &touch) {
-                     touch.press().hold(80).release().hold(80).picture();
+                 [](SpMultipleButton &, Finger &finger) {
+                     finger.press().hold(80).release().hold(80).picture();
                  })
         .touches("round to the first",
-                 [](SpMultipleButton &b, Touch &touch) {
+                 [](SpMultipleButton &b, Finger &finger) {
                      b.setCurrentValue(3);
-                     touch.press().hold(80).release().hold(80).picture();
+                     finger.press().hold(80).release().hold(80).picture();
                  })
         .touches("without auto change",
-                 [](SpMultipleButton &b, Touch &touch) {
+                 [](SpMultipleButton &b, Finger &finger) {
                      b.setAutoChange(false);
                      b.setCurrentValue(1);
-                     touch.press().hold(80).release().hold(80).picture();
+                     finger.press().hold(80).release().hold(80).picture();
                  })
         .silentTouches("disabled touched",
-                       [](SpMultipleButton &b, Touch &touch) {
+                       [](SpMultipleButton &b, Finger &finger) {
                            b.setCurrentValue(2);
                            b.setDisableState(true);
-                           touch.press().hold(80).picture().release();
+                           finger.press().hold(80).picture().release();
                        })
-        .silentTouches("incomplete touched", [](SpMultipleButton &b, Touch &touch) {
+        .silentTouches("incomplete touched", [](SpMultipleButton &b, Finger &finger) {
             b.setPressImage3({});
-            touch.press().hold(80).picture().release();
+            finger.press().hold(80).picture().release();
         });
 }
 

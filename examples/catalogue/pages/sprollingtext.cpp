@@ -69,23 +69,23 @@ void definePages(PagesOf<SpRollingText> &pages)
                })
         .emptyState("cleared", [](SpRollingText &t) { t.clear(); })
         .touches("rolling",
-                 [](SpRollingText &, Touch &touch) {
-                     touch.hold(kSomeSteps).picture().hold(kSomeSteps).picture();
+                 [](SpRollingText &, Finger &finger) {
+                     finger.hold(kSomeSteps).picture().hold(kSomeSteps).picture();
                  })
         .touches("waits first",
-                 [](SpRollingText &t, Touch &touch) {
+                 [](SpRollingText &t, Finger &finger) {
                      t.setWaitRoll(kSomeSteps);
                      t.update();
-                     touch.hold(kSomeSteps / 2).picture().hold(kSomeSteps).picture();
+                     finger.hold(kSomeSteps / 2).picture().hold(kSomeSteps).picture();
                  })
-        .touches("rolling with a shadow", [](SpRollingText &t, Touch &touch) {
+        .touches("rolling with a shadow", [](SpRollingText &t, Finger &finger) {
             t.setShadowColor(QColor(230, 90, 30));
             t.setDropShodow(true);
-            touch.hold(kSomeSteps).picture();
+            finger.hold(kSomeSteps).picture();
         });
 
     pages.add(QStringLiteral("Marquees"), buildScripts)
-        .touches("rolling", [](SpRollingText &, Touch &touch) {
-            touch.hold(kSomeSteps).picture().hold(kSomeSteps).picture();
+        .touches("rolling", [](SpRollingText &, Finger &finger) {
+            finger.hold(kSomeSteps).picture().hold(kSomeSteps).picture();
         });
 }

@@ -58,25 +58,25 @@ void definePages(PagesOf<SpSetupSlider> &pages)
                    s.update();
                })
         .touches("dragged",
-                 [](SpSetupSlider &, Touch &touch) {
-                     touch.press({25, 140}).moveTo({25, 70}, 200).picture().release();
+                 [](SpSetupSlider &, Finger &finger) {
+                     finger.press({25, 140}).moveTo({25, 70}, 200).picture().release();
                  })
         .touches("dragged too far aside",
-                 [](SpSetupSlider &, Touch &touch) {
-                     touch.press({25, 140}).moveTo({120, 70}, 200).picture().release();
+                 [](SpSetupSlider &, Finger &finger) {
+                     finger.press({25, 140}).moveTo({120, 70}, 200).picture().release();
                  })
-        .touches("tapped at the bottom", [](SpSetupSlider &, Touch &touch) {
-            touch.press({25, 245}).release().picture();
+        .touches("tapped at the bottom", [](SpSetupSlider &, Finger &finger) {
+            finger.press({25, 245}).release().picture();
         });
 
     auto withButtons =
         pages.add(QStringLiteral("SpSetupSlider with buttons"), buildSliderWithButtons);
     withButtons.state("disabled", [](SpSetupSlider &s) { s.setEnabled(false); })
         .touches("one up",
-                 [](SpSetupSlider &, Touch &touch) {
-                     touch.press({25, 50}).hold(80).picture().release();
+                 [](SpSetupSlider &, Finger &finger) {
+                     finger.press({25, 50}).hold(80).picture().release();
                  })
-        .touches("held down", [](SpSetupSlider &, Touch &touch) {
-            touch.press({25, 310}).hold(1500).picture().release();
+        .touches("held down", [](SpSetupSlider &, Finger &finger) {
+            finger.press({25, 310}).hold(1500).picture().release();
         });
 }

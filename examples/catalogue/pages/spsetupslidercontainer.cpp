@@ -72,14 +72,14 @@ void definePages(PagesOf<SpSetupSliderContainer> &pages)
 {
     auto page = pages.add(buildEqualiser);
     page.touches("band dragged",
-                 [](SpSetupSliderContainer &, Touch &touch) {
-                     touch.press({120, 100}).moveTo({120, 200}, 200).picture().release();
+                 [](SpSetupSliderContainer &, Finger &finger) {
+                     finger.press({120, 100}).moveTo({120, 200}, 200).picture().release();
                  })
         .touches("swiped to the next page",
-                 [](SpSetupSliderContainer &, Touch &touch) {
-                     touch.press({300, 275}).moveTo({120, 275}, 150).release().picture();
+                 [](SpSetupSliderContainer &, Finger &finger) {
+                     finger.press({300, 275}).moveTo({120, 275}, 150).release().picture();
                  })
-        .silentTouches("swiped too short", [](SpSetupSliderContainer &, Touch &touch) {
-            touch.press({300, 275}).moveTo({200, 275}, 150).release();
+        .silentTouches("swiped too short", [](SpSetupSliderContainer &, Finger &finger) {
+            finger.press({300, 275}).moveTo({200, 275}, 150).release();
         });
 }

@@ -65,15 +65,15 @@ void defineCommonActs(PageWriter<SpTableList> &page)
     page.state("pressed", [](SpTableList &list) { showPressed(list, 200); })
         .state("scrolled", [](SpTableList &list) { list.scrollTo(list.model()->index(500, 0)); })
         .touches("tap",
-                 [](SpTableList &, Touch &touch) {
-                     touch.press({200, 90}).hold(320).picture().release().hold(120);
+                 [](SpTableList &, Finger &finger) {
+                     finger.press({200, 90}).hold(320).picture().release().hold(120);
                  })
         .touches("drag",
-                 [](SpTableList &, Touch &touch) {
-                     touch.press({200, 300}).moveTo({200, 95}, 500).hold(300).picture().release();
+                 [](SpTableList &, Finger &finger) {
+                     finger.press({200, 300}).moveTo({200, 95}, 500).hold(300).picture().release();
                  })
-        .touches("fling", [](SpTableList &, Touch &touch) {
-            touch.press({200, 300}).moveTo({200, 150}, 64).release().hold(1200).picture();
+        .touches("fling", [](SpTableList &, Finger &finger) {
+            finger.press({200, 300}).moveTo({200, 150}, 64).release().hold(1200).picture();
         });
 }
 
@@ -180,16 +180,16 @@ void defineNumberedPage(PagesOf<SpTableList> &pages)
     auto page = pages.add(buildNumbered);
     defineCommonActs(page);
     page.touches("fling stopped",
-                 [](SpTableList &, Touch &touch) {
-                     touch.press({200, 300}).moveTo({200, 100}, 48).release().hold(300);
-                     touch.press({200, 90}).hold(100).release().hold(200).picture();
+                 [](SpTableList &, Finger &finger) {
+                     finger.press({200, 300}).moveTo({200, 100}, 48).release().hold(300);
+                     finger.press({200, 90}).hold(100).release().hold(200).picture();
                  })
         .touches("highlight",
-                 [](SpTableList &list, Touch &touch) {
+                 [](SpTableList &list, Finger &finger) {
                      giveBackgrounds(list);
                      list.setHightColor(Qt::white);
                      list.setHighlightFlag(true);
-                     touch.press({200, 210}).hold(100).release().hold(200).picture();
+                     finger.press({200, 210}).hold(100).release().hold(200).picture();
                  })
         .emptyState("blank", [](SpTableList &list) {
             list.setUseDefaultStyle(false);
@@ -201,8 +201,8 @@ void defineRollingPage(PagesOf<SpTableList> &pages)
 {
     auto page = pages.add(QStringLiteral("SpTableList-3"), buildRolling);
     defineCommonActs(page);
-    page.touches("rolling", [](SpTableList &, Touch &touch) {
-        touch.press({200, 90}).hold(50).release().hold(3500).picture();
+    page.touches("rolling", [](SpTableList &, Finger &finger) {
+        finger.press({200, 90}).hold(50).release().hold(3500).picture();
     });
 }
 
@@ -211,8 +211,8 @@ void defineSplitPage(PagesOf<SpTableList> &pages)
     auto page = pages.add(QStringLiteral("SpTableList-2"), buildSplit);
     defineCommonActs(page);
     page.state("tail pressed", [](SpTableList &list) { showPressed(list, kRowWidth - 10); })
-        .touches("tail tapped", [](SpTableList &, Touch &touch) {
-            touch.press({kRowWidth - 10, 90}).hold(320).picture().release().hold(120);
+        .touches("tail tapped", [](SpTableList &, Finger &finger) {
+            finger.press({kRowWidth - 10, 90}).hold(320).picture().release().hold(120);
         });
 }
 
@@ -221,11 +221,11 @@ void defineKeysPage(PagesOf<SpTableList> &pages)
     auto page = pages.add(QStringLiteral("SpTableList-4"), buildIconKeys);
     defineCommonActs(page);
     page.touches("header tapped",
-                 [](SpTableList &, Touch &touch) {
-                     touch.press({40, 90}).hold(320).picture().release().hold(120);
+                 [](SpTableList &, Finger &finger) {
+                     finger.press({40, 90}).hold(320).picture().release().hold(120);
                  })
-        .touches("tail tapped", [](SpTableList &, Touch &touch) {
-            touch.press({kRowWidth - 67, 150}).hold(100).release().hold(120).picture();
+        .touches("tail tapped", [](SpTableList &, Finger &finger) {
+            finger.press({kRowWidth - 67, 150}).hold(100).release().hold(120).picture();
         });
 }
 

@@ -76,20 +76,21 @@ void defineLayouts(PageWriter<SpVerStrButton> &page)
 
 void defineTouches(PageWriter<SpVerStrButton> &page)
 {
-    page.touches("tap",
-                 [](SpVerStrButton &, Touch &touch) { touch.press().hold(80).picture().release(); })
+    page.touches(
+            "tap",
+            [](SpVerStrButton &, Finger &finger) { finger.press().hold(80).picture().release(); })
         .touches("latched",
-                 [](SpVerStrButton &b, Touch &touch) {
+                 [](SpVerStrButton &b, Finger &finger) {
                      b.setIsLock(true);
-                     touch.press().hold(80).release().picture();
+                     finger.press().hold(80).release().picture();
                  })
         .touches("released outside",
-                 [](SpVerStrButton &, Touch &touch) {
-                     touch.press({80, 80}).moveTo({240, 80}, 150).picture().release();
+                 [](SpVerStrButton &, Finger &finger) {
+                     finger.press({80, 80}).moveTo({240, 80}, 150).picture().release();
                  })
-        .silentTouches("disabled touched", [](SpVerStrButton &b, Touch &touch) {
+        .silentTouches("disabled touched", [](SpVerStrButton &b, Finger &finger) {
             b.setDisable(true);
-            touch.press().hold(80).picture().release();
+            finger.press().hold(80).picture().release();
         });
 }
 

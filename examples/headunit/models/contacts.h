@@ -2,31 +2,17 @@
 #ifndef HEADUNIT_CONTACTS_H
 #define HEADUNIT_CONTACTS_H
 
+#include "contact.h"
 #include "letterindex.h"
 
 #include <QAbstractListModel>
 #include <QHash>
+#include <QMultiHash>
 #include <QString>
 #include <QVector>
 
 namespace headunit
 {
-
-/// One number of somebody.
-struct PhoneNumber {
-    enum class Kind : int { Other, Mobile, Home, Work };
-
-    QString number; ///< as it is written in the card
-    Kind kind = Kind::Other;
-};
-
-/// Someone to call.
-struct Contact {
-    QString name;
-    QString organisation;
-    QVector<PhoneNumber> numbers; ///< the preferred one first
-    bool isFavourite = false;
-};
 
 /**
  * The telephone book: the cards of a vCard file (2.1, 3.0 or 4.0), sorted by name. Favourites have
@@ -88,13 +74,18 @@ signals:
     void problem(const QString &sentence);
 
 private:
-    void setContacts(QVector<Contact> contacts);
+    struct Ending {
+        QString digits; // without a country's "+" or "0"
+        int row;
+    };
+
+    void setContacts(const QVector<Contact> &contacts);
     void indexNumbers();
 
     QVector<Contact> m_contacts;
     LetterIndex m_letters;
-    QHash<QString, int> m_exact; // the digits of each number: its row
-    QMultiHash<QString, int> m_endings; // its last digits: the rows
+    QHash<QString, int> m_exact; // what is dialled: its row
+    QMultiHash<QString, Ending> m_endings; // by the last digits
 };
 
 } // namespace headunit

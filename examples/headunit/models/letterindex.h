@@ -40,9 +40,8 @@ public:
 
 private:
     QVector<QChar> m_letters;
-    QVector<int> m_starts; // the first row of the letter in the same place
-    QHash<QChar, int> m_rows;
-    int m_size = 0;
+    QHash<QChar, int> m_firstRows;
+    QVector<QChar> m_ofRow;
 };
 
 } // namespace headunit

@@ -52,7 +52,7 @@ public:
 
     bool isWalked() const { return m_isWalked; } ///< all files are in the list
     bool isFinished() const { return m_isFinished; } ///< and their tags are read
-    int readCount() const { return m_readCount; } ///< how many have been looked into
+    int readCount() const { return m_readCount; } ///< how many files have been looked into
 
     /// The picture in a file, or the one that lies beside it as cover or folder (.jpg, .png), as
     /// large as it is but in no direction larger than asked for; null without one. Reads the file:
@@ -72,19 +72,17 @@ signals:
     void problem(const QString &sentence);
 
 private:
-    void take(LibraryScan *scan);
-    void dismiss();
-    void addTracks(const QVector<Track> &tracks, const QVector<int> &order);
-    void updateTracks(int first, const QVector<Track> &tracks, int total);
+    void connectScan(LibraryScan *scan);
+    void dismissScan();
     void endWalk(const QVector<Folder> &folders);
-    void end(const QVector<int> &order);
+    void endReading(const QVector<int> &order);
 
     TrackModel *const m_tracks;
     QThreadPool m_covers;
     LibraryScan *m_scan = nullptr; // the one that fills the list
-    QVector<LibraryScan *> m_running; // and those that were told to stop
+    QVector<LibraryScan *> m_running; // with those that were told to stop and still have to
     QString m_root;
-    QVector<Folder> m_folders;
+    QVector<Folder> m_folders; // with those that have music below them only
     int m_readCount = 0;
     bool m_isWalked = false;
     bool m_isFinished = false;

@@ -9,7 +9,8 @@
 #include <QPersistentModelIndex>
 #include <QPointer>
 #include <QRandomGenerator>
-#include <QVector>
+#include <QStringList>
+#include <QTimer>
 
 #include <memory>
 
@@ -53,6 +54,9 @@ public:
     int volume() const { return m_volume; } ///< 0 to kMostVolume
     bool isMuted() const { return m_isMuted; }
 
+    /// Makes the orders made by chance the same each time.
+    void seedShuffle(quint32 seed) { m_random.seed(seed); }
+
 public slots:
     /// Plays a row of the list from its start.
     void playRow(int row);
@@ -84,29 +88,34 @@ signals:
 private:
     void setBackend(std::unique_ptr<PlayerBackend> backend);
     void becomeSilent();
+    void loadCurrent();
     void setPlaying(bool playing);
     void setDuration(qint64 duration);
     void setCurrent(int row);
     void clearCurrent();
-    void goTo(int row, bool playing);
+    void goTo(int row, bool plays);
+    void start();
     void applyLoudness();
-    void sayIfSilent();
-    void atEnd();
-    void atFailure();
-    void onModelReset();
+    void onPosition(qint64 position);
+    void onEnd();
+    void onFailure();
+    void relocate();
     void onDataChanged(const QModelIndex &first, const QModelIndex &last);
     void updateRow();
-    int rowAfter(int row, bool wraps);
-    int rowBefore(int row);
-    void shuffleFrom(int row);
-    void syncShuffle();
+    int rowAfter(bool wraps);
+    int rowBefore() const;
+    void shuffleAll();
+    void shuffleIn(const QModelIndex &parent, int first, int last);
+    void shuffleCurrentIn();
 
     std::unique_ptr<PlayerBackend> m_backend;
     QPointer<TrackModel> m_model;
     QPersistentModelIndex m_index; // of the current track
     Track m_track;
-    QVector<QPersistentModelIndex> m_shuffle; // the order made by chance
+    QStringList m_shuffle; // the files in the order made by chance
+    int m_place = -1; // of the current one in it
     QRandomGenerator m_random;
+    QTimer m_failure; // runs for a moment, when the file at hand is found not to play
     qint64 m_duration = 0;
     Repeat m_repeat = Repeat::All;
     int m_row = -1; // as last told

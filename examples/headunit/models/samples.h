@@ -4,11 +4,8 @@
 
 #include <QString>
 
-namespace headunit
-{
-
 /// What the head unit shows and sounds when it is given nothing else.
-namespace samples
+namespace headunit::samples
 {
 
 QString musicFolder(); ///< three short pieces, made when the program was built
@@ -16,8 +13,6 @@ QString clickSound(); ///< a file: what a touch sounds like
 QString stationsFile(); ///< in the program itself
 QString contactsFile(); ///< in the program itself
 
-} // namespace samples
-
-} // namespace headunit
+} // namespace headunit::samples
 
 #endif // HEADUNIT_SAMPLES_H

@@ -26,11 +26,13 @@ struct Track {
 struct Folder {
     QString path;
     QString name; ///< the last part of the path
-    int tracks = 0; ///< how many are in it and below
+    int tracks = 0; ///< how many are in it
+    int tracksBelow = 0; ///< and how many with those in the folders below
 };
 
 } // namespace headunit
 
 Q_DECLARE_METATYPE(headunit::Track)
+Q_DECLARE_METATYPE(headunit::Folder)
 
 #endif // HEADUNIT_TRACK_H

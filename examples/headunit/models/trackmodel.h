@@ -47,8 +47,8 @@ public:
     /// many were appended before it. Ignored if it does not name each of them once.
     void arrange(const QVector<int> &order);
 
-    /// Replaces what is known of some tracks: those from this serial number on.
-    void update(int firstSerial, const QVector<Track> &tracks);
+    /// Replaces what is known of the tracks from this row on. The rows keep their places.
+    void update(int firstRow, const QVector<Track> &tracks);
 
     /// A row's track; an empty one if there is no such row.
     Track track(int row) const;
@@ -68,7 +68,8 @@ public:
     QHash<int, QByteArray> roleNames() const override;
 
 private:
-    void indexLetters();
+    const Track &at(int row) const;
+    void add(const QVector<Track> &tracks);
 
     QVector<Track> m_tracks; // by serial number
     QVector<int> m_order; // the serial number in each row

@@ -36,6 +36,7 @@ public:
     int frequency() const { return m_frequencies[index(m_band)]; } ///< in the band's unit
     QString frequencyText() const; ///< "98.5" or "1044", in the way of the language
     QString unitText() const; ///< "MHz" or "kHz"
+    static QString textOf(Band band, int frequency); ///< in the way of frequencyText()
     QString stationName() const; ///< empty off a station
     QString radioText() const; ///< empty off a station
     bool isScanning() const { return m_scan.isActive(); }
@@ -70,7 +71,7 @@ private:
     void restore();
     void save();
     void moveTo(int frequency);
-    bool seek(int direction);
+    void seek(int direction);
     void stepBy(int direction);
     void scanOn();
     void updateStation();

@@ -17,6 +17,7 @@ namespace
 {
 
 constexpr int kCorner = 28; // units, of a tile's face
+constexpr int kCaptionMargin = 8; // units, above and below a tile's caption
 constexpr int kOwnPictures = 255; // alpha from which a tile takes the pressed picture it is given
 
 // A badge in the upper right corner of nothing: it lies over the face of a tile.
@@ -70,31 +71,36 @@ QString HomePage::title() const { return tr("Home"); }
 
 void HomePage::dress()
 {
-    const int caption = theme().textPx(Theme::Small) + theme().px(20);
-    const int row = (m_ui->tiles->geometry().height() - theme().gap()) / 2;
-    const int column = m_ui->tiles->geometry().width() / 4 - theme().gap();
-    const int side = std::min(row - caption, column);
+    dressStrip();
+    layout()->activate(); // what is left for the tiles
+    const int caption = theme().textPx(Theme::Small) + 2 * theme().px(kCaptionMargin);
+    const QSize room = m_ui->tiles->geometry().size();
+    const int row = (room.height() - theme().gap()) / 2 - caption;
+    const int column = room.width() / 4 - theme().gap();
     for (SpHomeIcon *tile : findChildren<SpHomeIcon *>())
-        dressTile(*tile, side);
-
-    const int height = theme().touch() + theme().px(32);
-    m_ui->strip->setFixedHeight(height);
-    m_ui->strip->setPixmap(theme().panel({m_ui->columns->geometry().width(), height}, theme().face,
-                                         theme().line, theme().radius()));
-    m_ui->nowPlaying->setContentsMargins(theme().gap(), theme().px(8), theme().gap(),
-                                         theme().px(8));
-    m_ui->nowPlaying->setSpacing(theme().gap());
-    m_ui->cover->setFixedSize(theme().touch(), theme().touch());
-    m_ui->title->setFontSize(theme().textPx(Theme::Body));
-    m_ui->title->setTextColor(theme().text);
-    m_ui->title->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    dressLabel(*m_ui->artist, theme(), Theme::Small, true);
-    for (SpIconButton *key : {m_ui->previousKey, m_ui->playKey, m_ui->nextKey})
-        key->setFixedSize(theme().touch(), theme().touch());
-    dressKey(*m_ui->previousKey, theme(), Theme::Bare, QStringLiteral("previous"));
-    dressKey(*m_ui->nextKey, theme(), Theme::Bare, QStringLiteral("next"));
+        dressTile(*tile, std::min(row, column));
     showPlaying();
     showTrack();
+}
+
+void HomePage::dressStrip()
+{
+    const int touch = theme().touch();
+    m_ui->strip->setFixedHeight(touch + theme().px(32));
+    m_ui->nowPlaying->setContentsMargins(theme().gap(), 0, theme().gap(), 0);
+    m_ui->nowPlaying->setSpacing(theme().gap());
+    m_ui->cover->setFixedSize(touch, touch);
+    m_ui->title->setFontSize(theme().textPx(Theme::Body));
+    m_ui->title->setTextColor(theme().text);
+    m_ui->title->setTextAlignment(leadingAlignment() | Qt::AlignVCenter);
+    dressLabel(*m_ui->artist, theme(), Theme::Small, true);
+    for (SpIconButton *key : {m_ui->previousKey, m_ui->playKey, m_ui->nextKey})
+        key->setFixedSize(touch, touch);
+    dressKey(*m_ui->previousKey, theme(), Theme::Bare, QStringLiteral("previous"));
+    dressKey(*m_ui->nextKey, theme(), Theme::Bare, QStringLiteral("next"));
+    layout()->activate();
+    m_ui->strip->setPixmap(
+        theme().panel(m_ui->strip->size(), theme().face, theme().line, theme().radius()));
 }
 
 void HomePage::retranslate()
@@ -155,7 +161,7 @@ void HomePage::dressTile(SpHomeIcon &tile, int side)
     const Theme &t = theme();
     tile.setImageAlpha(kOwnPictures);
     tile.setFontSize(t.textPx(Theme::Small));
-    tile.setTextMargin(t.px(8));
+    tile.setTextMargin(t.px(kCaptionMargin));
     for (const auto setColor : {&SpHomeIcon::setFontColor, &SpHomeIcon::setPressTextColor,
                                 &SpHomeIcon::setRunningTextColor})
         (tile.*setColor)(t.text);

@@ -33,6 +33,7 @@ protected:
 
 private:
     void connectPlayer();
+    void dressStrip();
     void openTile(int index);
     void showTrack();
     void showPlaying();

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-#ifndef CATALOGUE_VALUETEXT_H
-#define CATALOGUE_VALUETEXT_H
+#ifndef SHARED_VALUETEXT_H
+#define SHARED_VALUETEXT_H
 
 #include <QString>
 
@@ -9,4 +9,4 @@ class QVariant;
 /// A value in a few words: texts in quotation marks, enumerators by name, pictures by their size.
 QString valueText(const QVariant &value);
 
-#endif // CATALOGUE_VALUETEXT_H
+#endif // SHARED_VALUETEXT_H

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-#ifndef CATALOGUE_SIGNALRELAY_H
-#define CATALOGUE_SIGNALRELAY_H
+#ifndef SHARED_SIGNALRELAY_H
+#define SHARED_SIGNALRELAY_H
 
 #include <QMetaMethod>
 #include <QObject>
@@ -36,4 +36,4 @@ private:
     QVector<Connection> m_connections;
 };
 
-#endif // CATALOGUE_SIGNALRELAY_H
+#endif // SHARED_SIGNALRELAY_H

@@ -1,54 +1,49 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "touch.h"
+#include "finger.h"
+
+#include "feed.h"
 
 #include <QCoreApplication>
+#include <QEventLoop>
 #include <QGuiApplication>
 #include <QStyleHints>
-#include <QtTest>
+#include <QTimer>
 #include <QWindow>
 
 namespace
 {
-
 constexpr int kFinger = 0;
 constexpr int kMoveInterval = 16; // ms, as often as a touch screen reports
-
-QTouchDevice *touchScreen()
-{
-    static QTouchDevice *device = QTest::createTouchDevice();
-    return device;
-}
-
 } // namespace
 
-Touch::Touch(QWidget *target, std::function<void()> takePicture)
+Finger::Finger(QWidget *target, std::function<void()> takePicture)
     : m_target(target), m_takePicture(std::move(takePicture))
 {
 }
 
-Touch &Touch::on(QWidget *target)
+Finger &Finger::on(QWidget *target)
 {
     m_target = target;
     return *this;
 }
 
-Touch &Touch::press() { return press(m_target ? m_target->rect().center() : QPoint()); }
+Finger &Finger::press() { return press(m_target ? m_target->rect().center() : QPoint()); }
 
 // The first press of a script is never the second one of a double click that the script before it
 // began.
-Touch &Touch::press(const QPoint &pos)
+Finger &Finger::press(const QPoint &pos)
 {
     m_pos = pos;
     const int doubleClickInterval = QGuiApplication::styleHints()->mouseDoubleClickInterval();
     if (!m_pressedBefore)
         QGuiApplication::styleHints()->setMouseDoubleClickInterval(0);
-    send(Press);
+    send(Qt::TouchPointPressed);
     QGuiApplication::styleHints()->setMouseDoubleClickInterval(doubleClickInterval);
     m_pressedBefore = true;
     return *this;
 }
 
-Touch &Touch::moveTo(const QPoint &pos, int duration)
+Finger &Finger::moveTo(const QPoint &pos, int duration)
 {
     const QPoint from = m_pos;
     const QPoint way = pos - from;
@@ -57,47 +52,45 @@ Touch &Touch::moveTo(const QPoint &pos, int duration)
         if (duration > 0)
             hold(kMoveInterval);
         m_pos = from + QPoint(way.x() * step / steps, way.y() * step / steps);
-        send(Move);
+        send(Qt::TouchPointMoved);
     }
     return *this;
 }
 
-Touch &Touch::hold(int duration)
+// What a touch has left to be deleted goes at the latest here, even if a script is played in the
+// middle of an event.
+Finger &Finger::hold(int duration)
 {
-    QTest::qWait(duration);
+    QEventLoop loop;
+    QTimer end;
+    end.setTimerType(Qt::PreciseTimer);
+    end.setSingleShot(true);
+    QObject::connect(&end, &QTimer::timeout, &loop, &QEventLoop::quit);
+    end.start(duration);
+    loop.exec();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     return *this;
 }
 
-Touch &Touch::release()
+Finger &Finger::release()
 {
-    send(Release);
+    send(Qt::TouchPointReleased);
     return *this;
 }
 
-Touch &Touch::picture()
+Finger &Finger::picture()
 {
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    m_takePicture();
+    if (m_takePicture)
+        m_takePicture();
     return *this;
 }
 
-void Touch::send(Action action)
+void Finger::send(Qt::TouchPointState state)
 {
     if (!m_target)
         return;
-    QWindow *window = m_target->window()->windowHandle();
     const QPoint pos = m_target->mapTo(m_target->window(), m_pos);
-    auto sequence = QTest::touchEvent(window, touchScreen(), false);
-    switch (action) {
-    case Press:
-        sequence.press(kFinger, pos, window);
-        break;
-    case Move:
-        sequence.move(kFinger, pos, window);
-        break;
-    case Release:
-        sequence.release(kFinger, pos, window);
-        break;
-    }
-    sequence.commit();
+    feed::touch(*m_target->window()->windowHandle(), {{kFinger, state, QPointF(pos)}});
+    QCoreApplication::processEvents();
 }

@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "listrows.h"
+
+#include "dress.h"
+
+#include <sptablelist.h>
+
+#include <QGuiApplication>
+#include <QPainter>
+#include <QPixmapCache>
+#include <QStyle>
+
+#include <algorithm>
+
+namespace headunit
+{
+
+namespace
+{
+
+constexpr int kRowUnits = 72; // of a row's height
+
+QVariant answer(const ListRow &row, int role)
+{
+    if (role == kRowRole)
+        return QVariant::fromValue(row);
+    return role == Qt::DisplayRole ? QVariant(row.title) : QVariant();
+}
+
+QRect mirrored(const QRect &rect, const QRect &within)
+{
+    return QStyle::visualRect(QGuiApplication::layoutDirection(), within, rect);
+}
+
+// A line below the row; nothing else, so that the list's ground is seen.
+QPixmap restingFace(const QSize &size, const Theme &theme)
+{
+    QPixmap face(size);
+    face.fill(Qt::transparent);
+    QPainter painter(&face);
+    painter.fillRect(theme.gap(), size.height() - 1, size.width() - 2 * theme.gap(), 1, theme.line);
+    return face;
+}
+
+int lineHeight(const Theme &theme, Theme::TextSize size) { return theme.textPx(size) * 4 / 3; }
+
+// A line that begins where the language begins, shortened to its room.
+void drawLine(QPainter &painter, const QRect &area, const QString &text)
+{
+    const QString shown = painter.fontMetrics().elidedText(text, Qt::ElideRight, area.width());
+    painter.drawText(area, int(leadingAlignment()) | Qt::TextSingleLine, shown);
+}
+
+QPixmap pressedFace(const QSize &size, const Theme &theme)
+{
+    const int inset = theme.px(4);
+    QPixmap face(size);
+    face.fill(Qt::transparent);
+    QPainter painter(&face);
+    painter.drawPixmap(
+        inset, inset,
+        theme.panel(size - QSize(2 * inset, 2 * inset), theme.pressedFace, {}, theme.radius()));
+    return face;
+}
+
+} // namespace
+
+QVariant RowsOfModel::data(const QModelIndex &index, int role) const
+{
+    return index.isValid() && role == kRowRole ? QVariant::fromValue(row(index.row()))
+                                               : QIdentityProxyModel::data(index, role);
+}
+
+void RowsOfModel::refresh(int row)
+{
+    const QModelIndex changed = index(row, 0);
+    if (changed.isValid())
+        emit dataChanged(changed, changed);
+}
+
+void RowList::setRows(const QVector<ListRow> &rows)
+{
+    beginResetModel();
+    m_rows = rows;
+    endResetModel();
+}
+
+int RowList::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : m_rows.size();
+}
+
+QVariant RowList::data(const QModelIndex &index, int role) const
+{
+    return index.isValid() ? answer(m_rows.at(index.row()), role) : QVariant();
+}
+
+RowPainter::RowPainter(SpTableList *list)
+    : QStyledItemDelegate(list), m_faces(qobject_cast<styleDelegate *>(list->itemDelegate())),
+      m_theme({}, Theme::Night)
+{
+    list->setItemDelegate(this);
+}
+
+void RowPainter::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                       const QModelIndex &index) const
+{
+    m_faces->paint(painter, option, index);
+    const auto row = index.data(kRowRole).value<ListRow>();
+    painter->save();
+    drawTexts(*painter, option.rect, drawPicture(*painter, option.rect, row), row);
+    painter->restore();
+}
+
+// Tells where the texts begin, as in a language that is read from the left.
+int RowPainter::drawPicture(QPainter &painter, const QRect &whole, const ListRow &row) const
+{
+    const int left = whole.left() + m_theme.gap();
+    if (row.icon.isEmpty() && row.initials.isEmpty())
+        return left;
+    const int side = m_theme.px(44);
+    const QRect place =
+        mirrored({left, whole.top() + (whole.height() - side) / 2, side, side}, whole);
+    const QColor color = row.isMarked ? m_theme.accent : m_theme.quietText;
+    const QPixmap picture = row.initials.isEmpty() ? m_theme.icon(row.icon, m_theme.px(30), color)
+                                                   : initialsDisc(m_theme, side, row.initials);
+    painter.drawPixmap(place.left() + (side - picture.width()) / 2,
+                       place.top() + (side - picture.height()) / 2, picture);
+    return left + side + m_theme.gap();
+}
+
+void RowPainter::drawTexts(QPainter &painter, const QRect &whole, int left,
+                           const ListRow &row) const
+{
+    int right = whole.right() + 1 - m_theme.gap();
+    painter.setFont(m_theme.font(Theme::Small));
+    painter.setPen(m_theme.quietText);
+    if (!row.tail.isEmpty()) {
+        const int width = painter.fontMetrics().horizontalAdvance(row.tail) + m_theme.px(2);
+        right -= width;
+        drawLine(painter, mirrored({right, whole.top(), width, whole.height()}, whole), row.tail);
+        right -= m_theme.gap();
+    }
+    const int titleHeight = lineHeight(m_theme, Theme::Body);
+    const int detailHeight = row.detail.isEmpty() ? 0 : lineHeight(m_theme, Theme::Small);
+    const int top = whole.top() + (whole.height() - titleHeight - detailHeight) / 2;
+    drawLine(painter, mirrored({left, top + titleHeight, right - left, detailHeight}, whole),
+             row.detail);
+    painter.setFont(m_theme.font(Theme::Body));
+    painter.setPen(row.isMarked ? m_theme.accent : m_theme.text);
+    drawLine(painter, mirrored({left, top, right - left, titleHeight}, whole), row.title);
+}
+
+void dressList(SpTableList &list, const Theme &theme)
+{
+    auto *painter = qobject_cast<RowPainter *>(list.itemDelegate());
+    if (!painter)
+        painter = new RowPainter(&list);
+    painter->setTheme(theme);
+    list.setFrameShape(QFrame::NoFrame);
+    list.setFocusPolicy(Qt::NoFocus);
+    list.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list.viewport()->setAutoFillBackground(false);
+    const QSize row(list.width(), std::max(theme.touch(), theme.px(kRowUnits)));
+    list.setItemHeight(row.height());
+    list.setItemWidth(row.width());
+    list.setNormalImage(restingFace(row, theme));
+    list.setPressImage(pressedFace(row, theme));
+    list.viewport()->update();
+}
+
+QPixmap initialsDisc(const Theme &theme, int side, const QString &initials)
+{
+    constexpr int kHues = 8;
+    constexpr int kHueStep = 360 / kHues;
+    const QString key = QStringLiteral("disc %1 %2 %3").arg(side).arg(theme.look()).arg(initials);
+    QPixmap disc;
+    if (QPixmapCache::find(key, &disc))
+        return disc;
+    disc = QPixmap(side, side);
+    disc.fill(Qt::transparent);
+    const int hue = int(qHash(initials, 0) % kHues) * kHueStep;
+    QPainter painter(&disc);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor::fromHsv(hue, 150, theme.look() == Theme::Day ? 150 : 130));
+    painter.drawEllipse(disc.rect());
+    QFont font = theme.font(Theme::Body, true);
+    font.setPixelSize(side * 2 / 5);
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    painter.drawText(disc.rect(), Qt::AlignCenter, initials);
+    painter.end();
+    QPixmapCache::insert(key, disc);
+    return disc;
+}
+
+} // namespace headunit

@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "pages/library.h"
+
+#include "dress.h"
+#include "listrows.h"
+#include "models/musiclibrary.h"
+#include "models/player.h"
+#include "models/trackmodel.h"
+#include "trackrows.h"
+#include "ui_library.h"
+
+#include <QDir>
+
+namespace headunit
+{
+
+Library::Library(Context &context, QWidget *parent)
+    : View(context, parent), m_ui(std::make_unique<Ui::Library>()),
+      m_allRows(new TrackRows(context.music.tracks(), &context.player, this)),
+      m_folderRows(new RowList(this))
+{
+    m_ui->setupUi(this);
+    const MusicLibrary &music = context.music;
+    connect(m_ui->list, QOverload<int>::of(&SpTableList::itemClicked), this, &Library::openRow);
+    connect(music.tracks(), &TrackModel::rowsInserted, this, &Library::showHeading);
+    connect(music.tracks(), &TrackModel::modelReset, this, &Library::showHeading);
+    connect(&music, &MusicLibrary::walked, this, &Library::readFolders);
+    connect(&music, &MusicLibrary::walked, this, &Library::showHeading);
+    connect(&music, &MusicLibrary::progress, this, &Library::showProgress);
+    connect(&music, &MusicLibrary::finished, this, &Library::showHeading);
+    readFolders();
+    show(Content::AllTracks);
+    Library::retranslate();
+}
+
+Library::~Library() = default;
+
+void Library::showAllTracks() { show(Content::AllTracks); }
+
+void Library::showFolders() { show(Content::Folders); }
+
+bool Library::goBack()
+{
+    const bool isInside = m_content == Content::FolderTracks;
+    if (isInside)
+        showFolders();
+    return isInside;
+}
+
+void Library::dress()
+{
+    dressLabel(*m_ui->heading, theme(), Theme::Body);
+    m_ui->heading->setAlignment(leadingAlignment());
+    dressLabel(*m_ui->progress, theme(), Theme::Small, true);
+    layout()->setSpacing(theme().px(8));
+    layout()->activate();
+    m_ui->panel->setPixmap(
+        theme().panel(m_ui->panel->size(), theme().face, theme().line, theme().radius()));
+    m_ui->listRow->setContentsMargins(theme().px(4), theme().px(6), theme().px(4), theme().px(6));
+    m_ui->listRow->setSpacing(0);
+    m_ui->index->dress(theme(), m_ui->panel->height() - 2 * theme().px(6));
+    m_ui->listRow->activate();
+    dressList(*m_ui->list, theme());
+}
+
+void Library::retranslate()
+{
+    m_ui->retranslateUi(this);
+    readFolders();
+    showHeading();
+}
+
+void Library::show(Content content)
+{
+    m_content = content;
+    const bool isAll = content == Content::AllTracks;
+    m_ui->list->deleteSelectionModel();
+    if (isAll)
+        m_ui->list->setModel(m_allRows);
+    else if (content == Content::Folders)
+        m_ui->list->setModel(m_folderRows);
+    else
+        m_ui->list->setModel(m_folderTrackRows);
+    m_ui->list->scrollToTop();
+    m_ui->index->setVisible(isAll);
+    if (isAll)
+        m_ui->index->setList(m_ui->list, ListLetters::of(context().music.tracks()));
+    showHeading();
+    if (isVisible())
+        Library::dress(); // the list may have more room now, or less
+}
+
+void Library::openRow(int row)
+{
+    switch (m_content) {
+    case Content::AllTracks:
+        playRow(context().music.tracks(), row);
+        break;
+    case Content::Folders:
+        openFolder(m_folders.value(row));
+        break;
+    case Content::FolderTracks:
+        playRow(m_folderTracks, row);
+        break;
+    }
+}
+
+// The tracks of a folder that plays are kept for the player until another list plays.
+void Library::openFolder(const QString &path)
+{
+    TrackRows *const rowsBefore = m_folderTrackRows;
+    m_folder = QDir(path).dirName();
+    m_folderTracks = new TrackModel(this);
+    m_folderTracks->setTracks(context().music.tracksIn(path));
+    m_folderTrackRows = new TrackRows(m_folderTracks, &context().player, this);
+    show(Content::FolderTracks);
+    delete rowsBefore;
+    const auto models = findChildren<TrackModel *>();
+    for (TrackModel *model : models) {
+        if (model != m_folderTracks && model != context().player.model())
+            delete model;
+    }
+}
+
+void Library::playRow(TrackModel *tracks, int row)
+{
+    Player &player = context().player;
+    if (player.model() != tracks)
+        player.setModel(tracks);
+    player.playRow(row);
+    emit trackChosen();
+}
+
+void Library::readFolders()
+{
+    const MusicLibrary &music = context().music;
+    const QDir root(music.root());
+    QVector<ListRow> rows;
+    m_folders.clear();
+    const auto folders = music.folders();
+    for (const Folder &folder : folders) {
+        ListRow row;
+        row.icon = QStringLiteral("folder");
+        row.title = folder.name;
+        row.tail = tr("Tracks: %1").arg(folder.tracks);
+        const QString place = root.relativeFilePath(QFileInfo(folder.path).path());
+        if (!place.startsWith(QLatin1Char('.')))
+            row.detail = place;
+        rows.append(row);
+        m_folders.append(folder.path);
+    }
+    m_folderRows->setRows(rows);
+}
+
+void Library::showHeading()
+{
+    const MusicLibrary &music = context().music;
+    const bool isInFolder = m_content == Content::FolderTracks;
+    const int total = (isInFolder ? m_folderTracks : music.tracks())->rowCount();
+    if (isInFolder)
+        m_ui->heading->setText(m_folder);
+    else
+        m_ui->heading->setText(m_content == Content::Folders ? tr("Folders") : tr("All tracks"));
+    if (music.isWalked() && !music.isFinished())
+        showProgress(music.readCount(), music.tracks()->rowCount());
+    else
+        m_ui->progress->setText(tr("Tracks: %1").arg(total));
+}
+
+void Library::showProgress(int read, int total)
+{
+    m_ui->progress->setText(tr("Reading tags: %1 of %2").arg(read).arg(total));
+}
+
+} // namespace headunit

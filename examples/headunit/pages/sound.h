@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: Apache-2.0
+#ifndef HEADUNIT_SOUND_H
+#define HEADUNIT_SOUND_H
+
+#include "page.h"
+
+#include <memory>
+
+class MFocusButton;
+
+namespace Ui
+{
+class Sound;
+}
+
+namespace headunit
+{
+
+/// The sound: a row of keys, and the view that the chosen one of them opens.
+class SoundPage : public Page
+{
+    Q_OBJECT
+
+public:
+    explicit SoundPage(Context &context, QWidget *parent = nullptr);
+    ~SoundPage() override;
+
+    QString title() const override;
+
+    void setTheme(const Theme &theme) override;
+
+protected:
+    void dress() override;
+    void retranslate() override;
+
+private:
+    void dressTab(MFocusButton &tab);
+
+    const std::unique_ptr<Ui::Sound> m_ui;
+};
+
+} // namespace headunit
+
+#endif // HEADUNIT_SOUND_H

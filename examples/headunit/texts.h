@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: Apache-2.0
+#ifndef HEADUNIT_TEXTS_H
+#define HEADUNIT_TEXTS_H
+
+#include <QString>
+
+namespace headunit
+{
+
+/// A length of time as players and telephones write it: 4:07, or 1:02:33.
+QString timeText(qint64 seconds);
+
+/// A telephone number as it is dialled, also among words that are read from the right.
+QString numberText(const QString &number);
+
+} // namespace headunit
+
+#endif // HEADUNIT_TEXTS_H

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: Apache-2.0
+#ifndef PAGETEST_H
+#define PAGETEST_H
+
+#include "context.h"
+#include "models/contacts.h"
+#include "models/musiclibrary.h"
+#include "models/player.h"
+#include "models/stations.h"
+#include "models/trackmodel.h"
+#include "models/tuner.h"
+#include "page.h"
+#include "virtualtime.h"
+#include "widgettest.h"
+
+#include <QSettings>
+#include <QTemporaryDir>
+
+/// What a page works on: a player without sound, and models that a test fills.
+struct PageWorld {
+    QTemporaryDir folder;
+    QSettings settings{folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat};
+    headunit::MusicLibrary music;
+    headunit::Player player{std::make_unique<headunit::SilentBackend>()};
+    headunit::Stations stations;
+    headunit::Tuner tuner{&stations, &settings};
+    headunit::Contacts contacts;
+    headunit::Context context{settings, music, player, tuner, contacts};
+    QWidget screen; ///< what the page lies on
+};
+
+/// Shows a page as large as it is on a screen of 1024 x 600.
+inline void showPage(QWidget &screen, headunit::Page &page)
+{
+    screen.resize(1024, 600);
+    page.setParent(&screen);
+    page.setTheme(headunit::Theme({1024, 600}, headunit::Theme::Night));
+    page.setGeometry(0, 76, 1024, 524);
+    WidgetTest::show(screen);
+}
+
+/// Notes what a program does by itself: "Timer" or "Paint" and the class of what it happens to.
+class Activity : public QObject
+{
+public:
+    Activity() { qApp->installEventFilter(this); }
+
+    QStringList happened;
+
+protected:
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        const QString name = QLatin1String(object->metaObject()->className());
+        if (event->type() == QEvent::Timer)
+            happened += QStringLiteral("Timer ") + name;
+        else if (event->type() == QEvent::Paint)
+            happened += QStringLiteral("Paint ") + name;
+        return false;
+    }
+};
+
+/// What happens in a minute in which nobody does anything. Qt's cache of pictures has let go by
+/// then of what is not shown any more, which it does by a timer.
+inline QString happenedWhileIdle()
+{
+    constexpr int kMinute = 60'000; // ms
+    virtualtime::advance(10 * kMinute);
+    Activity activity;
+    virtualtime::advance(kMinute);
+    activity.happened.removeOne(QStringLiteral("Timer QTimer")); // that ends the wait
+    return activity.happened.join(QStringLiteral(", "));
+}
+
+#endif // PAGETEST_H
