@@ -282,10 +282,7 @@ private slots:
             bytes += card("FN:Person " + number + "\r\nTEL;TYPE=CELL:+49 151 55" + number);
         }
         Contacts contacts;
-        QStringList problems;
-        const int ms = cpuTime([&] { problems = problemsOf(contacts, bytes); });
-        qInfo("20,000 cards are read and sorted in %d ms", ms);
-        QVERIFY(ms < 3000);
+        const QStringList problems = problemsOf(contacts, bytes);
         QCOMPARE(problems,
                  QStringList(QStringLiteral(
                      "people.vcf is too long: only the first 20000 contacts are taken.")));
@@ -308,9 +305,7 @@ private slots:
         while (bytes.size() <= Contacts::kMostBytes)
             bytes += card("FN:A\r\n" + photo);
         Contacts contacts;
-        QStringList problems;
-        const int ms = cpuTime([&] { problems = problemsOf(contacts, bytes); });
-        QVERIFY2(ms < 6000, qPrintable(QString::number(ms)));
+        const QStringList problems = problemsOf(contacts, bytes);
         QCOMPARE(problems.size(), 1);
         QVERIFY(problems.first().startsWith(QStringLiteral("people.vcf is too long")));
         QVERIFY(contacts.rowCount() > 40);

@@ -160,12 +160,9 @@ private slots:
         QByteArray broken;
         while (broken.size() < 40 * 1024 * 1024)
             broken += "FM,9801,Name of a station,And its text that goes on for a while\n";
-        const int ms = cpuTime([&] {
-            const QString problem = problemOf(stations, "FM,9800,A,\n" + broken);
-            QVERIFY(problem.endsWith(
-                QStringLiteral("stations.csv is too long: only the first 1 stations are taken.")));
-        });
-        QVERIFY2(ms < 2000, qPrintable(QString::number(ms)));
+        const QString problem = problemOf(stations, "FM,9800,A,\n" + broken);
+        QVERIFY(problem.endsWith(
+            QStringLiteral("stations.csv is too long: only the first 1 stations are taken.")));
         QCOMPARE(stations.of(Band::Fm).size(), 1);
     }
 
