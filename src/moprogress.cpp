@@ -195,7 +195,6 @@ MOProgress::Private::Paths MOProgress::Private::laidOut() const
     const auto thickness = qreal(boundedPixel(arcHeight));
     QPainterPath inside;
     inside.addEllipse(square().adjusted(thickness, thickness, -thickness, -thickness));
-    // a circle alone, without a line to it from the middle
     laid.disc.arcMoveTo(square(), 0);
     laid.disc.arcTo(square(), 0, 360);
     const int sweep = currentValue * 360 / -100; // whole degrees, clockwise

@@ -59,7 +59,6 @@ Theme::Theme(const QSize &screen, Look look) : m_screen(screen), m_look(look)
     onAccent = isDay ? QColor(0xff, 0xff, 0xff) : QColor(0x06, 0x14, 0x22);
     danger = isDay ? QColor(0xc9, 0x26, 0x34) : QColor(0xf0, 0x5a, 0x64);
     veil = isDay ? QColor(0x20, 0x2c, 0x3a, 150) : QColor(0, 0, 0, 170);
-    QPixmapCache::setCacheLimit(64 * 1024); // KiB, all of one screen's pictures
 }
 
 int Theme::px(double units) const { return qRound(units * m_screen.height() / kUnits); }

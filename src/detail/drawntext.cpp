@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "drawntext.h"
 
-#include <QFont>
 #include <QStyle>
 
 #include <cmath>

@@ -3,14 +3,28 @@
 #define PANELKIT_DETAIL_DRAWNTEXT_H
 
 #include <QChar>
+#include <QFont>
 #include <QPointF>
+#include <QSizeF>
+#include <QString>
 
-class QFont;
+#include <tuple>
 
 // What QPainter::drawText(rect, flags, text) does, for caches that set its lines themselves.
 
 namespace panelkit
 {
+
+/// What the layout of a text depends on: the key of a cache (memo.h).
+struct TextSetting {
+    QString text;
+    QSizeF size; // px, of the rectangle
+    int flags = 0;
+    QFont font;
+    Qt::LayoutDirection direction = Qt::LeftToRight;
+
+    auto tied() const { return std::tie(size, flags, direction, text, font); }
+};
 
 /// Alignment, and nothing else that flags may ask for.
 constexpr int kPlainFlags = Qt::AlignLeft | Qt::AlignRight | Qt::AlignHCenter | Qt::AlignAbsolute

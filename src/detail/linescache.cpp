@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "linescache.h"
 
-#include "drawntext.h"
-
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QTextOption>
@@ -115,7 +113,7 @@ void LinesCache::drawLines(QPainter &painter, const QRect &rect, const QRect &in
             return;
         if (top + 2 * line.height() <= qreal(inSight.top()))
             continue;
-        const qreal spare = qreal(m_setting->size.width()) - line.horizontalAdvance();
+        const qreal spare = m_setting->size.width() - line.horizontalAdvance();
         const qreal left = leftShare(m_setting->direction, m_setting->flags, spare);
         line.draw(&painter, topLeft + QPointF(left, 0));
     }

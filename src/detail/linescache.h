@@ -2,13 +2,11 @@
 #ifndef PANELKIT_DETAIL_LINESCACHE_H
 #define PANELKIT_DETAIL_LINESCACHE_H
 
+#include "drawntext.h"
 #include "memo.h"
 
-#include <QFont>
-#include <QPointF>
 #include <QRect>
 #include <QRectF>
-#include <QSize>
 #include <QString>
 #include <QTextLayout>
 
@@ -32,21 +30,11 @@ public:
     int layouts() const { return m_setting.changes(); }
 
 private:
-    struct Setting {
-        QString text;
-        QSize size; // px, of the rectangle
-        int flags = 0;
-        QFont font;
-        Qt::LayoutDirection direction = Qt::LeftToRight;
-
-        auto tied() const { return std::tie(size, flags, direction, text, font); }
-    };
-
     void layOut(QPainter &painter);
     void drawLines(QPainter &painter, const QRect &rect, const QRect &inSight);
     bool mayHang() const;
 
-    LastKey<Setting> m_setting;
+    LastKey<TextSetting> m_setting;
     bool m_isPlain = false; // else it goes to drawText
     QRectF m_bounds; // of all lines, in the rectangle
     bool m_isClipped = false;

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "textcache.h"
 
-#include "drawntext.h"
-
 #include <QPainter>
 #include <QTextLayout>
 #include <QTextOption>
@@ -47,7 +45,7 @@ void TextCache::draw(QPainter &painter, const QRectF &rect, int flags, const QSt
         painter.drawText(rect, flags, text);
         return;
     }
-    const Setting setting{text, rect.size(), flags, painter.font(), painter.layoutDirection()};
+    const TextSetting setting{text, rect.size(), flags, painter.font(), painter.layoutDirection()};
     const auto layOut = [&](Line &line) { line = laidOut(painter, setting, rect.topLeft()); };
     Line *line = &m_line.value(setting, layOut);
     if (line->isPlain && line->fraction != fractionOf(lineStart(rect.topLeft() + line->offset))) {
@@ -66,7 +64,7 @@ void TextCache::draw(QPainter &painter, const QRectF &rect, int flags, const QSt
     }
 }
 
-TextCache::Line TextCache::laidOut(QPainter &painter, const Setting &setting,
+TextCache::Line TextCache::laidOut(QPainter &painter, const TextSetting &setting,
                                    const QPointF &topLeft)
 {
     Line line;

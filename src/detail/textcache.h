@@ -2,12 +2,11 @@
 #ifndef PANELKIT_DETAIL_TEXTCACHE_H
 #define PANELKIT_DETAIL_TEXTCACHE_H
 
+#include "drawntext.h"
 #include "memo.h"
 
-#include <QFont>
 #include <QPointF>
 #include <QRectF>
-#include <QSizeF>
 #include <QStaticText>
 #include <QString>
 
@@ -30,15 +29,6 @@ public:
     int layouts() const { return m_line.renewals(); }
 
 private:
-    struct Setting {
-        QString text;
-        QSizeF size; // px, of the rectangle
-        int flags = 0;
-        QFont font;
-        Qt::LayoutDirection direction = Qt::LeftToRight;
-
-        auto tied() const { return std::tie(size, flags, direction, text, font); }
-    };
     struct Line {
         bool isPlain = false; // else it goes to drawText
         bool isClipped = false;
@@ -47,9 +37,9 @@ private:
         QStaticText text;
     };
 
-    static Line laidOut(QPainter &painter, const Setting &setting, const QPointF &topLeft);
+    static Line laidOut(QPainter &painter, const TextSetting &setting, const QPointF &topLeft);
 
-    Memo<Setting, Line> m_line;
+    Memo<TextSetting, Line> m_line;
 };
 
 } // namespace panelkit

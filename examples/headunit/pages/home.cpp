@@ -52,12 +52,12 @@ HomePage::HomePage(Context &context, QWidget *parent)
 {
     m_ui->setupUi(this);
     for (SpHomeIcon *tile : findChildren<SpHomeIcon *>()) {
-        connect(tile, &SpHomeIcon::itemPress, this, [this](int index) { m_pressed = index; });
+        connect(tile, &SpHomeIcon::itemPress, this, [this, tile] { m_pressed = tile; });
         connect(tile, &SpHomeIcon::itemMove, this, [this, tile](int) {
             if (!tile->rect().contains(tile->mapFromGlobal(QCursor::pos())))
-                m_pressed = -1;
+                m_pressed = nullptr;
         });
-        connect(tile, &SpHomeIcon::itemRelease, this, &HomePage::openTile);
+        connect(tile, &SpHomeIcon::itemRelease, this, [this, tile] { openTile(*tile); });
     }
     for (SpHomeIcon *tile : {m_ui->navigationTile, m_ui->cameraTile, m_ui->weatherTile})
         tile->setIsReady(false);
@@ -127,15 +127,11 @@ void HomePage::connectPlayer()
 }
 
 // A release on the tile that was pressed opens its application; a finger that slid off opens none.
-void HomePage::openTile(int index)
+void HomePage::openTile(const SpHomeIcon &tile)
 {
-    const auto tiles = findChildren<SpHomeIcon *>();
-    const auto tile = std::find_if(tiles.begin(), tiles.end(), [index](const SpHomeIcon *other) {
-        return other->itemIndex() == index;
-    });
-    if (m_pressed == index && tile != tiles.end())
-        emit pageWanted((*tile)->iconName());
-    m_pressed = -1;
+    if (m_pressed == &tile)
+        emit pageWanted(tile.iconName());
+    m_pressed = nullptr;
 }
 
 void HomePage::showTrack()

@@ -34,13 +34,13 @@ protected:
 private:
     void connectPlayer();
     void dressStrip();
-    void openTile(int index);
+    void openTile(const SpHomeIcon &tile);
     void showTrack();
     void showPlaying();
     void dressTile(SpHomeIcon &tile, int side);
 
     const std::unique_ptr<Ui::Home> m_ui;
-    int m_pressed = -1; // the tile under the finger, until the finger leaves it
+    const SpHomeIcon *m_pressed = nullptr; // the tile under the finger, until the finger leaves it
 };
 
 } // namespace headunit
