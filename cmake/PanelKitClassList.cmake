@@ -9,7 +9,8 @@ define_property(GLOBAL PROPERTY PANELKIT_HEADERS BRIEF_DOCS "Header names withou
     FULL_DOCS "Header names without their ending")
 
 function(panelkit_class class)
-    cmake_parse_arguments(arg "NOT_A_WIDGET" "FAMILY;TOOLTIP;HEADER;CREATE;PART_OF" "SIZE;INITIAL" ${ARGN})
+    cmake_parse_arguments(arg "NOT_A_WIDGET" "FAMILY;TOOLTIP;HEADER;CREATE;PART_OF;TIMERS"
+        "SIZE;INITIAL;PROMISES;SIGNALS_INSIDE_QT;UNDRIVEN" ${ARGN})
     if(arg_UNPARSED_ARGUMENTS)
         message(FATAL_ERROR "${class}: not understood: ${arg_UNPARSED_ARGUMENTS}")
     endif()
@@ -37,6 +38,13 @@ function(panelkit_class class)
         set_property(GLOBAL APPEND_STRING PROPERTY PANELKIT_PART_ROWS " \\\n    ROW(${class})")
         return()
     endif()
+
+    set_property(GLOBAL APPEND_STRING PROPERTY PANELKIT_DRIVEN "${class}||\n")
+    foreach(option TIMERS PROMISES SIGNALS_INSIDE_QT UNDRIVEN)
+        foreach(text IN LISTS arg_${option})
+            set_property(GLOBAL APPEND_STRING PROPERTY PANELKIT_DRIVEN "${class}|${option}|${text}\n")
+        endforeach()
+    endforeach()
 
     set_property(GLOBAL APPEND PROPERTY PANELKIT_WHOLE_CLASSES ${class})
     set_property(GLOBAL APPEND_STRING PROPERTY PANELKIT_OBJECT_ROWS

@@ -12,6 +12,11 @@
 #                                       ("textColor=#202020", in quotation marks)
 #       [HEADER <name>]                 header and source, if not the class's name in lower case
 #       [CREATE <expression>]           how to make one under `parent`, if not new Class(parent)
+#       [PROMISES <expression>...]      what is always true of an object `o`
+#       [TIMERS <number>]               the most timers that run in it at once, if not one
+#       [SIGNALS_INSIDE_QT <signal>...] those after which Qt goes on with the widget, so that it must
+#                                       not be deleted directly
+#       [UNDRIVEN <function>...]        what the robustness drive does not call
 #       [NOT_A_WIDGET])                 a class that Designer and the catalogue cannot show
 #
 #   panelkit_class(<Class> PART_OF <Class above>)
@@ -49,7 +54,8 @@ panelkit_class(SpDisLabel
 panelkit_class(MOnOffButton
     FAMILY "Switches and selection"
     TOOLTIP "On/off switch to be tapped or dragged, pictured or painted in two colours"
-    SIZE 90 44)
+    SIZE 90 44
+    TIMERS 1000) # a glide that is overtaken ends itself with its next tick
 
 panelkit_class(MFocusButton
     FAMILY "Switches and selection"
@@ -123,7 +129,9 @@ panelkit_class(SpTableList
     FAMILY "Scrolling lists"
     TOOLTIP "Kinetic list whose rows have icons, texts and seven styles, with clicks on rows and icons"
     SIZE 400 300
-    INITIAL itemHeight=60 itemWidth=400)
+    INITIAL itemHeight=60 itemWidth=400
+    TIMERS 8 # four of its own, four of QTableView
+    UNDRIVEN deleteSelectionModel) # Qt's view needs one in every event: the next model brings it
 panelkit_class(styleDelegate NOT_A_WIDGET)
 
 panelkit_class(MArcList
@@ -146,13 +154,15 @@ panelkit_class(SpRollingText
     FAMILY "Scrolling text"
     TOOLTIP "Line of text that rolls, or is shortened, where it is too wide"
     SIZE 200 40
-    INITIAL "text=Rolling text" "textColor=#202020")
+    INITIAL "text=Rolling text" "textColor=#202020"
+    SIGNALS_INSIDE_QT paintFinish)
 
 panelkit_class(MVScrollLabel
     FAMILY "Scrolling text"
     TOOLTIP "Label that scrolls its text upward where it is too high"
     SIZE 200 120
-    INITIAL "text=Scrolling label")
+    INITIAL "text=Scrolling label"
+    SIGNALS_INSIDE_QT scrollStateChanged)
 
 panelkit_class(SpSetupSlider
     FAMILY "Sliders"

@@ -5,18 +5,18 @@
 #include <SpTableList>
 
 #include "touch.h"
+#include "values.h"
 #include "virtualtime.h"
 #include "widgettest.h"
+#include "wildmodel.h"
 
 #include <styleDelegate>
 
 #include <QImage>
 #include <QKeyEvent>
 #include <QMetaProperty>
-#include <QRandomGenerator>
 #include <QScrollBar>
 
-#include <climits>
 #include <memory>
 
 namespace
@@ -25,98 +25,10 @@ namespace
 constexpr int kSteps = 500;
 constexpr int kSeeds = 6;
 
-class Values
+class ListDrive
 {
 public:
-    explicit Values(quint32 seed) : m_random(seed) { }
-
-    int below(int limit) { return int(m_random.bounded(limit)); }
-    template <typename T> T oneOf(std::initializer_list<T> values)
-    {
-        return *(values.begin() + below(int(values.size())));
-    }
-    int number() { return oneOf({INT_MIN, -1, 0, 1, 20, 60, 300, 70000, INT_MAX}); }
-    QPixmap picture()
-    {
-        QPixmap pixmap(oneOf({QSize(0, 0), QSize(1, 1), QSize(40, 30), QSize(390, 58)}));
-        pixmap.fill(QColor(10, 200, 90, below(256)));
-        return pixmap;
-    }
-    QString text()
-    {
-        return oneOf({QString(), QStringLiteral("a/b/c"), QStringLiteral("///"),
-                      QString(400, QLatin1Char('W')), QString(300, QChar(0xD800)),
-                      QString(20000, QLatin1Char('i')), QStringLiteral("two\nlines"),
-                      QStringLiteral("\u0645\u0648\u0633\u064a\u0642\u0649 abc \u0645")});
-    }
-
-private:
-    QRandomGenerator m_random;
-};
-
-// Answers each role with something, which may be of the wrong type, and never the same twice.
-class WildModel : public QAbstractListModel
-{
-public:
-    explicit WildModel(Values &values) : m_values(values), m_count(values.below(200)) { }
-
-    int rowCount(const QModelIndex &parent) const override
-    {
-        return parent.isValid() ? 0 : m_count;
-    }
-    QVariant data(const QModelIndex &, int role) const override
-    {
-        if (role == 258 && m_values.below(8) > 0)
-            return m_values.oneOf({0x11111, 0x1001, 0x1010, 0x111000, -1});
-        switch (m_values.below(6)) {
-        case 0:
-            return {};
-        case 1:
-            return m_values.number();
-        case 2:
-            return m_values.picture();
-        case 3:
-            return m_values.below(2) == 1;
-        default:
-            return m_values.text();
-        }
-    }
-    void change()
-    {
-        const int rows = m_values.below(40);
-        switch (m_values.below(4)) {
-        case 0:
-            beginResetModel();
-            m_count = m_values.below(200);
-            endResetModel();
-            break;
-        case 1:
-            beginInsertRows({}, 0, rows);
-            m_count += rows + 1;
-            endInsertRows();
-            break;
-        case 2:
-            if (rows >= m_count)
-                break;
-            beginRemoveRows({}, 0, rows);
-            m_count -= rows + 1;
-            endRemoveRows();
-            break;
-        default:
-            if (m_count > 0)
-                emit dataChanged(index(0), index(m_count - 1));
-        }
-    }
-
-private:
-    Values &m_values;
-    int m_count;
-};
-
-class Drive
-{
-public:
-    explicit Drive(quint32 seed) : m_values(seed) { }
+    explicit ListDrive(quint32 seed) : m_values(Values::randomBytes(seed, 256 * kSteps)) { }
 
     void run()
     {
@@ -269,7 +181,7 @@ private slots:
     void listsSurvive()
     {
         QFETCH(int, seed);
-        Drive(quint32(seed)).run();
+        ListDrive(quint32(seed)).run();
     }
 };
 

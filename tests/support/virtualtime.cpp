@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 #include <QEventLoop>
+#include <QScopedValueRollback>
 #include <QTimer>
 
 #include <cerrno>
@@ -22,7 +23,13 @@ constexpr qint64 kNsPerMinute = 60 * kNsPerSecond;
 constexpr qint64 kMonotonicStart = 6000 * kNsPerSecond; // a full minute, as the next one
 constexpr qint64 kRealStart = 1893456000 * kNsPerSecond; // 2030-01-01 00:00:00 UTC
 
-qint64 elapsedNs = 0; // written by the main thread only
+constexpr int kTurnsPerMs = 100;
+constexpr timespec kShortWait = {0, 10 * kNsPerMs}; // by the real clock
+
+// Written by the main thread only.
+qint64 elapsedNs = 0;
+bool isAdvancing = false;
+qint64 turns = 0; // of an event loop, since the clock is made to advance
 
 bool isMainThread()
 {
@@ -52,14 +59,27 @@ qint64 untilDue(const timespec &timeout)
     return asked > kNsPerMs ? asked - kNsPerMs : asked;
 }
 
+// A loop that has something to do in each turn never waits: a timer without interval keeps it so.
+// Its turns take time too, or the clock would stand still.
+qint64 ofOneTurn()
+{
+    turns = isAdvancing ? turns + 1 : 0;
+    return turns > 0 && turns % kTurnsPerMs == 0 ? kNsPerMs : 0;
+}
+
 int virtualPoll(pollfd *fds, nfds_t count, const timespec *timeout, const sigset_t *mask)
 {
-    if (!isMainThread() || !timeout)
+    if (!isMainThread())
         return waitFor(fds, count, timeout, mask);
+    // With no timer to come only another thread can end the wait, or a loop outside this one that
+    // has been told to end meanwhile: Qt looks for that when it wakes up, for whatever reason.
+    if (!timeout)
+        return waitFor(fds, count, &kShortWait, mask);
     const timespec atOnce = {};
     const int ready = waitFor(fds, count, &atOnce, mask);
-    if (ready == 0)
-        elapsedNs += untilDue(*timeout);
+    if (ready > 0)
+        return ready;
+    elapsedNs += timeout->tv_sec > 0 || timeout->tv_nsec > 0 ? untilDue(*timeout) : ofOneTurn();
     return ready;
 }
 
@@ -108,6 +128,8 @@ qint64 now() { return elapsedNs / kNsPerMs; }
 
 void advance(int ms)
 {
+    const QScopedValueRollback<bool> advancing(isAdvancing, true);
+    turns = 0;
     QEventLoop loop;
     QTimer end;
     end.setTimerType(Qt::PreciseTimer);

@@ -6,7 +6,8 @@
 
 /// The clock of the test program. Linking virtualtime.cpp replaces clock_gettime, gettimeofday and
 /// ppoll for the main thread: an event loop with nothing to do moves the clock to its next timer
-/// instead of sleeping, so that minutes pass in no time and every expiry is exact. It needs the
+/// instead of sleeping, so that minutes pass in no time and every expiry is exact. A timer without
+/// interval ticks a hundred times a ms. It needs the
 /// plain Unix event dispatcher (QT_NO_GLIB=1), which the test main sets.
 namespace virtualtime
 {
