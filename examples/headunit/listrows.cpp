@@ -80,6 +80,11 @@ void RowsOfModel::refresh(int row)
 
 void RowList::setRows(const QVector<ListRow> &rows)
 {
+    if (!rows.isEmpty() && rows.size() == m_rows.size()) {
+        m_rows = rows;
+        emit dataChanged(index(0), index(rows.size() - 1));
+        return;
+    }
     beginResetModel();
     m_rows = rows;
     endResetModel();
@@ -132,7 +137,7 @@ int RowPainter::drawPicture(QPainter &painter, const QRect &whole, const ListRow
 void RowPainter::drawTexts(QPainter &painter, const QRect &whole, int left,
                            const ListRow &row) const
 {
-    int right = whole.right() + 1 - m_theme.gap();
+    int right = whole.right() + 1 - m_theme.gap() - row.room;
     painter.setFont(m_theme.font(Theme::Small));
     painter.setPen(m_theme.quietText);
     if (!row.tail.isEmpty()) {

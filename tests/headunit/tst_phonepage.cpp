@@ -62,6 +62,15 @@ struct Phone : PageWorld {
         for (const char digit : digits)
             tap(QByteArray("key_") + digit);
     }
+    void startMusic()
+    {
+        Track track;
+        track.path = folder.filePath(QStringLiteral("contacts.vcf")); // a file that there is
+        track.seconds = 100;
+        music.tracks()->setTracks({track});
+        player.setModel(music.tracks());
+        player.play();
+    }
     // Without the marks that keep it in its direction.
     QString number()
     {
@@ -90,6 +99,7 @@ private slots:
     void letterScrollsTheContacts();
     void recentNumbersPersist();
     void musicPausesDuringACall();
+    void musicGoesOnWhereTheSettingsSaySo();
     void backLeadsFromTheKeypadToTheCall();
     void nothingHappensWhileIdle();
 };
@@ -198,18 +208,27 @@ void tst_PhonePage::recentNumbersPersist()
 void tst_PhonePage::musicPausesDuringACall()
 {
     Phone phone;
-    Track track;
-    track.path = phone.folder.filePath(QStringLiteral("contacts.vcf")); // a file that there is
-    track.seconds = 100;
-    phone.music.tracks()->setTracks({track});
-    phone.player.setModel(phone.music.tracks());
-    phone.player.play();
+    phone.startMusic();
     phone.open(KeypadKey);
     phone.write("555");
     phone.tap("callKey");
     QVERIFY(!phone.player.isPlaying());
     phone.tap("hangUpKey");
     QVERIFY(phone.player.isPlaying());
+}
+
+void tst_PhonePage::musicGoesOnWhereTheSettingsSaySo()
+{
+    Phone phone;
+    phone.preferences.setOn(Preferences::Option::CallsPauseMusic, false);
+    phone.startMusic();
+    phone.open(KeypadKey);
+    phone.write("555");
+    phone.tap("callKey");
+    QVERIFY(phone.player.isPlaying());
+    phone.player.pause();
+    phone.tap("hangUpKey");
+    QVERIFY(!phone.player.isPlaying());
 }
 
 void tst_PhonePage::backLeadsFromTheKeypadToTheCall()
