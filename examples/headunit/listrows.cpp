@@ -2,6 +2,7 @@
 #include "listrows.h"
 
 #include "dress.h"
+#include "texts.h"
 
 #include <sptablelist.h>
 
@@ -47,8 +48,8 @@ int lineHeight(const Theme &theme, Theme::TextSize size) { return theme.textPx(s
 // A line that begins where the language begins, shortened to its room.
 void drawLine(QPainter &painter, const QRect &area, const QString &text)
 {
-    const QString shown = painter.fontMetrics().elidedText(text, Qt::ElideRight, area.width());
-    painter.drawText(area, int(leadingAlignment()) | Qt::TextSingleLine, shown);
+    painter.drawText(area, int(leadingAlignment()) | Qt::TextSingleLine,
+                     shortened(text, painter.fontMetrics(), area.width()));
 }
 
 QPixmap pressedFace(const QSize &size, const Theme &theme)

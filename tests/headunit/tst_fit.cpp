@@ -81,6 +81,12 @@ QString complaintOf(const QLabel &label)
     return complaint(label, label.text(), label.font(), label.contentsRect().width());
 }
 
+QFont withSize(QFont font, int px)
+{
+    font.setPixelSize(px);
+    return font;
+}
+
 QStringList textComplaints(const QWidget &widget)
 {
     QStringList all;
@@ -96,7 +102,8 @@ QStringList textComplaints(const QWidget &widget)
     else if (const auto *wide = qobject_cast<const SpHorStrButton *>(&widget))
         all << complaint(widget, wide->displayString(), wide->font(), wide->width());
     else if (const auto *tile = qobject_cast<const SpHomeIcon *>(&widget))
-        all << complaint(widget, tile->iconText(), tile->font(), tile->width());
+        all << complaint(widget, tile->iconText(), withSize(qApp->font(), tile->fontSize()),
+                         tile->width());
     all.removeAll(QString());
     return all;
 }

@@ -89,11 +89,15 @@ void HomePage::dressStrip()
     m_ui->strip->setFixedHeight(touch + theme().px(32));
     m_ui->nowPlaying->setContentsMargins(theme().gap(), 0, theme().gap(), 0);
     m_ui->nowPlaying->setSpacing(theme().gap());
+    m_ui->keyRow->setSpacing(theme().gap());
+    m_ui->titles->setSpacing(theme().px(2));
     m_ui->cover->setFixedSize(touch, touch);
     m_ui->title->setFontSize(theme().textPx(Theme::Body));
     m_ui->title->setTextColor(theme().text);
-    m_ui->title->setTextAlignment(leadingAlignment() | Qt::AlignVCenter);
+    const Qt::Alignment side = leadingAlignment() & ~Qt::AlignVertical_Mask;
+    m_ui->title->setTextAlignment(side | Qt::AlignBottom);
     dressLabel(*m_ui->artist, theme(), Theme::Small, true);
+    m_ui->artist->setAlignment(side | Qt::AlignTop);
     for (SpIconButton *key : {m_ui->previousKey, m_ui->playKey, m_ui->nextKey})
         key->setFixedSize(touch, touch);
     dressKey(*m_ui->previousKey, theme(), Theme::Bare, QStringLiteral("previous"));

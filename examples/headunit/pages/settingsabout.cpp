@@ -40,6 +40,7 @@ void SettingsAbout::dress()
 {
     const Theme &t = theme();
     dressLabel(*m_ui->product, t, Theme::Title);
+    m_ui->product->setAlignment(leadingAlignment());
     dressLabel(*m_ui->versions, t, Theme::Body, true);
     dressLabel(*m_ui->licenceHeading, t, Theme::Body);
     dressLabel(*m_ui->part, t, Theme::Small, true);

@@ -40,7 +40,7 @@ SettingsUpdate::~SettingsUpdate() = default;
 void SettingsUpdate::dress()
 {
     const Theme &t = theme();
-    dressLabel(*m_ui->heading, t, Theme::Title);
+    dressLabel(*m_ui->updateHeading, t, Theme::Title);
     dressLabel(*m_ui->version, t, Theme::Body, true);
     dressLabel(*m_ui->message, t, Theme::Body);
     m_ui->message->setAlignment(leadingAlignment());
@@ -70,7 +70,7 @@ void SettingsUpdate::dress()
 void SettingsUpdate::retranslate()
 {
     m_ui->retranslateUi(this);
-    m_ui->heading->setText(tr("Software update"));
+    m_ui->updateHeading->setText(tr("Software update"));
     m_ui->version->setText(tr("Installed: version %1").arg(QStringLiteral(HEADUNIT_VERSION)));
     showState();
 }
