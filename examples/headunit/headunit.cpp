@@ -147,7 +147,7 @@ void HeadUnit::addPage(const QString &name, Page *page)
     m_pages.insert(name, page);
     m_stack->addWidget(page);
     connect(page, &Page::pageWanted, this, &HeadUnit::openPage);
-    connect(page, &Page::popupWanted, this, &HeadUnit::say);
+    connect(page, &Page::popupWanted, m_popup, &Popup::say);
     connect(page, &Page::titleChanged, this, &HeadUnit::showTitle);
 }
 

@@ -23,10 +23,11 @@ namespace
 {
 
 // Whatever a model cannot show it says in a sentence, which goes on the screen.
-template <typename Model> void hear(HeadUnit &screen, const Model &model, const QString &title)
+template <typename Model> void hear(HeadUnit &screen, const Model &model, const char *title)
 {
-    QObject::connect(&model, &Model::problem, &screen,
-                     [&screen, title](const QString &sentence) { screen.say(title, sentence); });
+    QObject::connect(&model, &Model::problem, &screen, [&screen, title](const QString &sentence) {
+        screen.say(HeadUnit::tr(title), sentence);
+    });
 }
 
 } // namespace
@@ -56,10 +57,10 @@ int main(int argc, char **argv)
     Context context{settings, music, player, tuner, contacts, preferences};
     HeadUnit screen(context, options.size, HeadUnit::wantedLook(preferences));
 
-    hear(screen, music, HeadUnit::tr("Music"));
-    hear(screen, player, HeadUnit::tr("Player"));
-    hear(screen, stations, HeadUnit::tr("Radio"));
-    hear(screen, contacts, HeadUnit::tr("Contacts"));
+    hear(screen, music, QT_TRANSLATE_NOOP("headunit::HeadUnit", "Music"));
+    hear(screen, player, QT_TRANSLATE_NOOP("headunit::HeadUnit", "Player"));
+    hear(screen, stations, QT_TRANSLATE_NOOP("headunit::HeadUnit", "Radio"));
+    hear(screen, contacts, QT_TRANSLATE_NOOP("headunit::HeadUnit", "Contacts"));
     stations.load(options.stationsFile);
     contacts.load(options.contactsFile);
     player.setModel(music.tracks());

@@ -20,13 +20,16 @@
 #include <sploadinground.h>
 #include <sptablelist.h>
 
+#include <QAudioDeviceInfo>
 #include <QFile>
 #include <QLabel>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QStackedWidget>
+#include <QTemporaryFile>
 
 #include <memory>
+#include <unistd.h>
 
 using namespace headunit;
 
@@ -81,6 +84,33 @@ struct Settings : PageWorld {
     std::unique_ptr<HeadUnit> unit;
 };
 
+// What the program writes to standard error while this lives.
+class StandardError
+{
+public:
+    StandardError() : m_before(dup(STDERR_FILENO))
+    {
+        m_file.open();
+        dup2(m_file.handle(), STDERR_FILENO);
+    }
+    ~StandardError()
+    {
+        dup2(m_before, STDERR_FILENO);
+        close(m_before);
+    }
+    Q_DISABLE_COPY(StandardError)
+
+    int lines() const
+    {
+        QFile written(m_file.fileName());
+        return written.open(QIODevice::ReadOnly) ? written.readAll().count('\n') : -1;
+    }
+
+private:
+    QTemporaryFile m_file;
+    const int m_before;
+};
+
 QColor groundOf(Theme::Look look) { return Theme(kScreen, look).ground; }
 
 bool isListMoving() { return qApp->property("listMoving").toBool(); }
@@ -105,6 +135,7 @@ private slots:
     void listThatIsLeftDoesNotMove();
     void touchOnASwitchClicksOnce();
     void keyClicksFollowTheSwitch();
+    void missingDeviceIsSaidOnce();
     void soundPageHasTheSameSwitch();
     void clockFollowsTheSwitch();
     void dateFollowsTheSwitch();
@@ -245,6 +276,18 @@ void SettingsPageTest::keyClicksFollowTheSwitch()
     settings.tap("switch2");
     settings.tap("switch4");
     QVERIFY(clicks.count() > before);
+}
+
+void SettingsPageTest::missingDeviceIsSaidOnce()
+{
+    if (!QAudioDeviceInfo::availableDevices(QAudio::AudioOutput).isEmpty())
+        QSKIP("There is a device.");
+    Settings settings;
+    const ClickSound click(&settings.preferences);
+    const StandardError error;
+    settings.tap("switch4");
+    settings.tap("switch4");
+    QCOMPARE(error.lines(), 1);
 }
 
 void SettingsPageTest::soundPageHasTheSameSwitch()

@@ -184,10 +184,6 @@
 <context>
     <name>headunit::Library</name>
     <message>
-        <source>Tracks: %1</source>
-        <translation>المقاطع: %1</translation>
-    </message>
-    <message>
         <source>Folders</source>
         <translation>المجلدات</translation>
     </message>
@@ -196,8 +192,12 @@
         <translation>كل المقاطع</translation>
     </message>
     <message>
-        <source>Reading tags: %1 of %2</source>
-        <translation>قراءة البيانات: %1 من %2</translation>
+        <source>Tracks: %L1</source>
+        <translation>المقاطع: %L1</translation>
+    </message>
+    <message>
+        <source>Reading tags: %L1 of %L2</source>
+        <translation>قراءة البيانات: %L1 من %L2</translation>
     </message>
 </context>
 <context>

@@ -184,10 +184,6 @@
 <context>
     <name>headunit::Library</name>
     <message>
-        <source>Tracks: %1</source>
-        <translation>Titel: %1</translation>
-    </message>
-    <message>
         <source>Folders</source>
         <translation>Ordner</translation>
     </message>
@@ -196,8 +192,12 @@
         <translation>Alle Titel</translation>
     </message>
     <message>
-        <source>Reading tags: %1 of %2</source>
-        <translation>Tags lesen: %1 von %2</translation>
+        <source>Tracks: %L1</source>
+        <translation>Titel: %L1</translation>
+    </message>
+    <message>
+        <source>Reading tags: %L1 of %L2</source>
+        <translation>Tags lesen: %L1 von %L2</translation>
     </message>
 </context>
 <context>
