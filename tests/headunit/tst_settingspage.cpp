@@ -142,10 +142,12 @@ private slots:
     void brightnessDimsTheScreen();
     void dimmedScreenIsTouchedAsEver();
     void looksAreChosen();
+    void lookForOneRunIsNotKept();
     void automaticLookFollowsTheDay();
     void otherLookLeavesNothingBehind_data();
     void otherLookLeavesNothingBehind();
     void languageChangesTheScreen();
+    void settingsThatMakeNoSenseAreIgnored();
     void updateRunsToItsEnd();
     void updateIsCancelled();
     void fingerThatSlidesOffStartsNoUpdate();
@@ -368,6 +370,17 @@ void SettingsPageTest::looksAreChosen()
     QCOMPARE(settings.ground(), groundOf(Theme::Day));
 }
 
+void SettingsPageTest::lookForOneRunIsNotKept()
+{
+    Settings settings;
+    settings.preferences.useLook(Preferences::Look::Night);
+    settings.preferences.useLanguage(QStringLiteral("ar"));
+    QCOMPARE(settings.ground(), groundOf(Theme::Night));
+    const Preferences kept(&settings.settings);
+    QVERIFY(kept.look() == Preferences::Look::Day);
+    QCOMPARE(kept.language(), QString());
+}
+
 void SettingsPageTest::automaticLookFollowsTheDay()
 {
     Settings settings;
@@ -434,6 +447,22 @@ void SettingsPageTest::languageChangesTheScreen()
     settings.tap("english");
     virtualtime::advance(0);
     QCOMPARE(settings.inPage<QLabel>("heading")->text(), QStringLiteral("Language"));
+}
+
+void SettingsPageTest::settingsThatMakeNoSenseAreIgnored()
+{
+    PageWorld world;
+    world.settings.setValue(QStringLiteral("display/brightness"), 3);
+    world.settings.setValue(QStringLiteral("display/look"), QStringLiteral("purple"));
+    world.settings.setValue(QStringLiteral("general/language"), QStringLiteral("xx"));
+    Preferences preferences(&world.settings);
+    QCOMPARE(preferences.brightness(), 100);
+    QVERIFY(preferences.look() == Preferences::Look::Day);
+    preferences.setBrightness(0);
+    preferences.setBrightness(101);
+    QCOMPARE(preferences.brightness(), 100);
+    const Languages languages(&preferences);
+    QVERIFY(Languages::codes().contains(QLocale().name().left(2)));
 }
 
 void SettingsPageTest::updateRunsToItsEnd()
