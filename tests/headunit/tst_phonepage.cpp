@@ -96,6 +96,7 @@ private slots:
     void tapOnAContactCalls();
     void favouriteIsCalledWhereTheFingerIsLifted();
     void callKeyWithoutANumberDoesNothing();
+    void keypadIsAsBeforeAfterACall();
     void letterScrollsTheContacts();
     void recentNumbersPersist();
     void musicPausesDuringACall();
@@ -180,6 +181,23 @@ void tst_PhonePage::callKeyWithoutANumberDoesNothing()
     phone.open(KeypadKey);
     phone.tap("callKey");
     QVERIFY(!phone.isCallShown());
+}
+
+// During a call it has more room, and wider keys.
+void tst_PhonePage::keypadIsAsBeforeAfterACall()
+{
+    Phone phone;
+    phone.open(KeypadKey);
+    const QRect callKey = phone.child<QWidget>("callKey")->geometry();
+    const QRect deleteKey = phone.child<QWidget>("deleteKey")->geometry();
+    phone.write("555");
+    phone.tap("callKey");
+    phone.tap("keypadKey");
+    QVERIFY(phone.child<QWidget>("callKey")->width() > callKey.width());
+    phone.tap("callKey"); // hangs up
+    virtualtime::advance(0);
+    QCOMPARE(phone.child<QWidget>("callKey")->geometry(), callKey);
+    QCOMPARE(phone.child<QWidget>("deleteKey")->geometry(), deleteKey);
 }
 
 void tst_PhonePage::letterScrollsTheContacts()

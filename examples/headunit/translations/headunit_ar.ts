@@ -39,15 +39,15 @@
     <name>headunit::Contacts</name>
     <message>
         <source>%1 has no contacts.</source>
-        <translation>لا توجد جهات اتصال في %1.</translation>
+        <translation>لا توجد جهات اتصال في &#x2066;%1&#x2069;.</translation>
     </message>
     <message>
         <source>Cards of %1 that make no sense and are left out: %2. The first is in line %3.</source>
-        <translation>بطاقات غير مفهومة في %1 تم تجاوزها: %2. أولها في السطر %3.</translation>
+        <translation>بطاقات غير مفهومة في &#x2066;%1&#x2069; تم تجاوزها: %2. أولها في السطر %3.</translation>
     </message>
     <message>
         <source>%1 is too long: only the first %2 contacts are taken.</source>
-        <translation>%1 أطول من اللازم: تؤخذ أول %2 من جهات الاتصال فقط.</translation>
+        <translation>&#x2066;%1&#x2069; أطول من اللازم: تؤخذ أول %2 من جهات الاتصال فقط.</translation>
     </message>
     <message>
         <source>Mobile</source>
@@ -77,23 +77,23 @@
     <name>headunit::Files</name>
     <message>
         <source>There is no file %1.</source>
-        <translation>لا يوجد ملف %1.</translation>
+        <translation>لا يوجد ملف &#x2066;%1&#x2069;.</translation>
     </message>
     <message>
         <source>%1 is a folder and not a file.</source>
-        <translation>%1 مجلد وليس ملفًا.</translation>
+        <translation>&#x2066;%1&#x2069; مجلد وليس ملفًا.</translation>
     </message>
     <message>
         <source>%1 is no ordinary file.</source>
-        <translation>%1 ليس ملفًا عاديًا.</translation>
+        <translation>&#x2066;%1&#x2069; ليس ملفًا عاديًا.</translation>
     </message>
     <message>
         <source>%1 cannot be read.</source>
-        <translation>تتعذر قراءة %1.</translation>
+        <translation>تتعذر قراءة &#x2066;%1&#x2069;.</translation>
     </message>
     <message>
         <source>%1 is empty.</source>
-        <translation>%1 فارغ.</translation>
+        <translation>&#x2066;%1&#x2069; فارغ.</translation>
     </message>
 </context>
 <context>
@@ -204,31 +204,31 @@
     <name>headunit::LibraryScan</name>
     <message>
         <source>There is no folder %1.</source>
-        <translation>لا يوجد مجلد %1.</translation>
+        <translation>لا يوجد مجلد &#x2066;%1&#x2069;.</translation>
     </message>
     <message>
         <source>%1 is a file and not a folder with music.</source>
-        <translation>%1 ملف وليس مجلد موسيقى.</translation>
+        <translation>&#x2066;%1&#x2069; ملف وليس مجلد موسيقى.</translation>
     </message>
     <message>
         <source>The folder %1 cannot be read.</source>
-        <translation>تتعذر قراءة المجلد %1.</translation>
+        <translation>تتعذر قراءة المجلد &#x2066;%1&#x2069;.</translation>
     </message>
     <message>
         <source>Files that cannot be read as music: %1. The first is %2.</source>
-        <translation>ملفات تتعذر قراءتها كموسيقى: %1. أولها %2.</translation>
+        <translation>ملفات تتعذر قراءتها كموسيقى: %1. أولها &#x2066;%2&#x2069;.</translation>
     </message>
     <message>
         <source>There is too much music in %1: only the first %2 files are shown.</source>
-        <translation>الموسيقى في %1 أكثر من اللازم: تظهر أول %2 من الملفات فقط.</translation>
+        <translation>الموسيقى في &#x2066;%1&#x2069; أكثر من اللازم: تظهر أول %2 من الملفات فقط.</translation>
     </message>
     <message>
         <source>Folders that cannot be read: %1. The first is %2.</source>
-        <translation>مجلدات تتعذر قراءتها: %1. أولها %2.</translation>
+        <translation>مجلدات تتعذر قراءتها: %1. أولها &#x2066;%2&#x2069;.</translation>
     </message>
     <message>
         <source>There is no music in %1.</source>
-        <translation>لا توجد موسيقى في %1.</translation>
+        <translation>لا توجد موسيقى في &#x2066;%1&#x2069;.</translation>
     </message>
 </context>
 <context>
@@ -292,7 +292,7 @@
     </message>
     <message>
         <source>%1 cannot be played.</source>
-        <translation>لا يمكن تشغيل %1.</translation>
+        <translation>لا يمكن تشغيل &#x2068;%1&#x2069;.</translation>
     </message>
 </context>
 <context>
@@ -702,15 +702,15 @@
     <name>headunit::Stations</name>
     <message>
         <source>%1 has no stations.</source>
-        <translation>لا توجد محطات في %1.</translation>
+        <translation>لا توجد محطات في &#x2066;%1&#x2069;.</translation>
     </message>
     <message>
         <source>Lines of %1 that make no sense and are left out: %2. The first is line %3.</source>
-        <translation>أسطر غير مفهومة في %1 تم تجاوزها: %2. أولها السطر %3.</translation>
+        <translation>أسطر غير مفهومة في &#x2066;%1&#x2069; تم تجاوزها: %2. أولها السطر %3.</translation>
     </message>
     <message>
         <source>%1 is too long: only the first %2 stations are taken.</source>
-        <translation>%1 أطول من اللازم: تؤخذ أول %2 من المحطات فقط.</translation>
+        <translation>&#x2066;%1&#x2069; أطول من اللازم: تؤخذ أول %2 من المحطات فقط.</translation>
     </message>
 </context>
 <context>
