@@ -10,6 +10,7 @@
 
 #include <QLabel>
 #include <QRegularExpression>
+#include <QStackedWidget>
 #include <QXmlStreamReader>
 
 #include <cstdlib>
@@ -76,6 +77,21 @@ QStringList placesOf(const QString &text)
         places += found.next().captured();
     places.sort();
     return places;
+}
+
+QStackedWidget *viewsOf(const HeadUnit &unit, const QString &page)
+{
+    return unit.page(page)->findChild<QStackedWidget *>(QStringLiteral("views"));
+}
+
+// So that each has been laid out and dressed.
+void showEachView(const HeadUnit &unit, const QString &page)
+{
+    QStackedWidget *views = viewsOf(unit, page);
+    for (int view = views ? views->count() - 1 : -1; view >= 0; --view) {
+        views->setCurrentIndex(view);
+        virtualtime::advance(0);
+    }
 }
 
 } // namespace
@@ -183,12 +199,21 @@ void TranslationsTest::changedScreenIsLikeANewOne()
     HeadUnit changed(world.context, {1024, 600}, Theme::Day);
     changed.openPage(page);
     WidgetTest::show(changed);
+    showEachView(changed, page);
     world.preferences.useLanguage(code);
     virtualtime::advance(0);
     HeadUnit fresh(world.context, {1024, 600}, Theme::Day);
     fresh.openPage(page);
     WidgetTest::show(fresh);
-    COMPARE_PICTURES(changed.grab().toImage(), fresh.grab().toImage());
+    QStackedWidget *views = viewsOf(changed, page);
+    for (int view = 0; view < (views ? views->count() : 1); ++view) {
+        if (views) {
+            views->setCurrentIndex(view);
+            viewsOf(fresh, page)->setCurrentIndex(view);
+        }
+        virtualtime::advance(0);
+        COMPARE_PICTURES(changed.grab().toImage(), fresh.grab().toImage());
+    }
 }
 
 void TranslationsTest::numbersAndTimesAreOfTheLanguage()
