@@ -486,6 +486,7 @@ void SettingsPageTest::updateRunsToItsEnd()
     QCOMPARE(progress->currentValue(), 100);
     QVERIFY(settings.child<QWidget>("popup")->isVisible());
     QCOMPARE(settings.text("message"), QStringLiteral("The head unit is up to date."));
+    QCOMPARE(progress->dispalyText(), QStringLiteral("done"));
 }
 
 void SettingsPageTest::updateIsCancelled()

@@ -102,8 +102,7 @@ void SettingsUpdate::showState()
     m_ui->rings->setCurrentWidget(isChecking ? static_cast<QWidget *>(m_ui->busy) : m_ui->progress);
     turnBusyRing();
     m_ui->message->setText(sentence());
-    m_ui->progress->setDispalyText(
-        m_update->state() == SoftwareUpdate::State::Installing ? tr("installing") : QString());
+    m_ui->progress->setDispalyText(caption());
     m_ui->key->setDisplayString(m_update->isRunning() ? tr("Cancel") : tr("Look for an update"));
     if (isVisible())
         m_ui->key->dress(theme(), m_update->isRunning() ? Theme::Key : Theme::Primary);
@@ -115,6 +114,13 @@ void SettingsUpdate::turnBusyRing()
         m_ui->busy->setTimer(kStep);
     else
         m_ui->busy->stopTimer();
+}
+
+QString SettingsUpdate::caption() const
+{
+    if (m_update->state() == SoftwareUpdate::State::Installing)
+        return tr("installing");
+    return m_update->state() == SoftwareUpdate::State::Installed ? tr("done") : tr("ready");
 }
 
 QString SettingsUpdate::sentence() const

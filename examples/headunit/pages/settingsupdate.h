@@ -39,6 +39,7 @@ private:
     void onKey();
     void showState();
     void turnBusyRing();
+    QString caption() const; ///< of the ring
     QString sentence() const;
 
     const std::unique_ptr<Ui::SettingsUpdate> m_ui;

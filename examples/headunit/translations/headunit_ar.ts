@@ -550,6 +550,14 @@
         <source>An update takes less than a minute.</source>
         <translation>يستغرق التحديث أقل من دقيقة.</translation>
     </message>
+    <message>
+        <source>done</source>
+        <translation>تم</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>جاهز</translation>
+    </message>
 </context>
 <context>
     <name>headunit::SoundBalance</name>

@@ -550,6 +550,14 @@
         <source>An update takes less than a minute.</source>
         <translation>Ein Update dauert keine Minute.</translation>
     </message>
+    <message>
+        <source>done</source>
+        <translation>fertig</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>bereit</translation>
+    </message>
 </context>
 <context>
     <name>headunit::SoundBalance</name>
