@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 // A car's screen made of PanelKit.
+#include "clicksound.h"
 #include "headunit.h"
+#include "languages.h"
 #include "models/contacts.h"
 #include "models/musiclibrary.h"
 #include "models/player.h"
+#include "models/preferences.h"
 #include "models/samples.h"
 #include "models/stations.h"
 #include "models/trackmodel.h"
@@ -20,10 +23,11 @@ namespace
 {
 
 // Whatever a model cannot show it says in a sentence, which goes on the screen.
-template <typename Model> void hear(HeadUnit &screen, const Model &model, const QString &title)
+template <typename Model> void hear(HeadUnit &screen, const Model &model, const char *title)
 {
-    QObject::connect(&model, &Model::problem, &screen,
-                     [&screen, title](const QString &sentence) { screen.say(title, sentence); });
+    QObject::connect(&model, &Model::problem, &screen, [&screen, title](const QString &sentence) {
+        screen.say(HeadUnit::tr(title), sentence);
+    });
 }
 
 } // namespace
@@ -38,18 +42,25 @@ int main(int argc, char **argv)
     const Options options(app.arguments());
 
     QSettings settings(options.settingsFile, QSettings::IniFormat);
+    Preferences preferences(&settings);
+    if (!options.language.isEmpty())
+        preferences.useLanguage(options.language);
+    if (options.isNight)
+        preferences.useLook(Preferences::Look::Night);
+    const Languages languages(&preferences);
+    const ClickSound click(&preferences);
     MusicLibrary music;
     Player player;
     Stations stations;
     Tuner tuner(&stations, &settings);
     Contacts contacts;
-    Context context{settings, music, player, tuner, contacts};
-    HeadUnit screen(context, options.size, options.isNight ? Theme::Night : Theme::Day);
+    Context context{settings, music, player, tuner, contacts, preferences};
+    HeadUnit screen(context, options.size, HeadUnit::wantedLook(preferences));
 
-    hear(screen, music, HeadUnit::tr("Music"));
-    hear(screen, player, HeadUnit::tr("Player"));
-    hear(screen, stations, HeadUnit::tr("Radio"));
-    hear(screen, contacts, HeadUnit::tr("Contacts"));
+    hear(screen, music, QT_TRANSLATE_NOOP("headunit::HeadUnit", "Music"));
+    hear(screen, player, QT_TRANSLATE_NOOP("headunit::HeadUnit", "Player"));
+    hear(screen, stations, QT_TRANSLATE_NOOP("headunit::HeadUnit", "Radio"));
+    hear(screen, contacts, QT_TRANSLATE_NOOP("headunit::HeadUnit", "Contacts"));
     stations.load(options.stationsFile);
     contacts.load(options.contactsFile);
     player.setModel(music.tracks());

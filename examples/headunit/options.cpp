@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "options.h"
 
+#include "languages.h"
 #include "models/samples.h"
 
 #include <QCommandLineParser>
@@ -36,6 +37,14 @@ QSize sizeOf(const QString &text)
     return size;
 }
 
+QString languageOf(const QString &code)
+{
+    if (!code.isEmpty() && !Languages::codes().contains(code))
+        refuse(QStringLiteral("--language takes one of %1, not \"%2\".")
+                   .arg(Languages::codes().join(QStringLiteral(", ")), code));
+    return code;
+}
+
 QString orElse(const QString &given, const QString &otherwise)
 {
     return given.isEmpty() ? otherwise : given;
@@ -66,11 +75,15 @@ Options::Options(const QStringList &arguments)
     const QCommandLineOption settings(QStringLiteral("settings"),
                                       QStringLiteral("Where settings are kept."),
                                       QStringLiteral("FILE"));
-    parser.addOptions({sizeOption, night, music, contacts, stations, settings});
+    const QCommandLineOption languageOption(QStringLiteral("language"),
+                                            QStringLiteral("The language: en, de or ar."),
+                                            QStringLiteral("CODE"));
+    parser.addOptions({sizeOption, night, music, contacts, stations, settings, languageOption});
     parser.process(arguments);
 
     size = sizeOf(parser.value(sizeOption));
     isNight = parser.isSet(night);
+    language = languageOf(parser.value(languageOption));
     musicFolder = orElse(parser.value(music), samples::musicFolder());
     contactsFile = orElse(parser.value(contacts), samples::contactsFile());
     stationsFile = orElse(parser.value(stations), samples::stationsFile());
