@@ -18,8 +18,8 @@
 namespace
 {
 
-constexpr int kColumns = 6;
-constexpr QSize kCell(200, 130);
+constexpr int kColumns = 5;
+constexpr QSize kCell(200, 130); // px
 
 struct FormClass {
     QString name;
@@ -75,6 +75,7 @@ void writeForm(const QString &folder, const QString &name, const QVector<FormCla
     xml.writeStartElement(QStringLiteral("widget"));
     xml.writeAttribute(QStringLiteral("class"), QStringLiteral("QWidget"));
     xml.writeAttribute(QStringLiteral("name"), name);
+    writeFormPlace(xml, QRect(QPoint(0, 0), QSize(kCell.width() * kColumns, 7 * kCell.height())));
     writeWidgets(xml, classes, folder);
     xml.writeEndElement();
     writeCustomWidgets(xml, classes);

@@ -204,17 +204,22 @@ void writeFormPictures(const QString &folder)
     }
 }
 
+void writeFormPlace(QXmlStreamWriter &xml, const QRect &place)
+{
+    xml.writeStartElement(QStringLiteral("property"));
+    xml.writeAttribute(QStringLiteral("name"), QStringLiteral("geometry"));
+    writeNumbers(xml, QStringLiteral("rect"), {"x", "y", "width", "height"},
+                 {place.x(), place.y(), place.width(), place.height()});
+    xml.writeEndElement();
+}
+
 void writeFormWidget(QXmlStreamWriter &xml, const QString &className, const QString &name,
                      const QRect &place, const QVector<FormValue> &values)
 {
     xml.writeStartElement(QStringLiteral("widget"));
     xml.writeAttribute(QStringLiteral("class"), className);
     xml.writeAttribute(QStringLiteral("name"), name);
-    xml.writeStartElement(QStringLiteral("property"));
-    xml.writeAttribute(QStringLiteral("name"), QStringLiteral("geometry"));
-    writeNumbers(xml, QStringLiteral("rect"), {"x", "y", "width", "height"},
-                 {place.x(), place.y(), place.width(), place.height()});
-    xml.writeEndElement();
+    writeFormPlace(xml, place);
     for (const FormValue &value : values)
         value.write(xml);
     xml.writeEndElement();

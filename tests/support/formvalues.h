@@ -40,6 +40,9 @@ QVector<FormValue> formValues(const QMetaObject &type, int number, const QString
 /// Writes the picture files that values name into a folder.
 void writeFormPictures(const QString &folder);
 
+/// The <property> element that says where a widget is.
+void writeFormPlace(QXmlStreamWriter &xml, const QRect &place);
+
 /// A <widget> element with a place and these values.
 void writeFormWidget(QXmlStreamWriter &xml, const QString &className, const QString &name,
                      const QRect &place, const QVector<FormValue> &values);
