@@ -49,12 +49,12 @@ make_packages "$source_dir"
 (cd "$source_dir/build/packages" && cpack --config CPackSourceConfig.cmake) >"$work/source.log" 2>&1 \
     || fail "$(tail -n 30 "$work/source.log")"
 debs=$source_dir/build/packages/packages
-tarball=$(find "$debs" -name 'panelkit-*.tar.gz')
+tarball=$(find "$debs" -maxdepth 1 -name 'panelkit-*.tar.gz')
 [[ -n $tarball ]] || fail "there is no tarball"
 for package in "${packages[@]}"; do
-    [[ -f $(find "$debs" -name "${package}_*.deb") ]] || fail "there is no $package"
+    [[ -f $(find "$debs" -maxdepth 1 -name "${package}_*.deb") ]] || fail "there is no $package"
 done
-[[ $(find "$debs" -name '*.deb' | wc -l) == "${#packages[@]}" ]] || fail "there are other packages"
+[[ $(find "$debs" -maxdepth 1 -name '*.deb' | wc -l) == "${#packages[@]}" ]] || fail "there are other packages"
 
 tar -C "$work" -xzf "$tarball"
 unpacked=$work/$(basename "$tarball" .tar.gz)
