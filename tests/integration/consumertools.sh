@@ -6,6 +6,7 @@
 #
 # shellcheck disable=SC2046 # what pkg-config prints is meant to be split into words
 # shellcheck disable=SC2154 # set by whoever sources this
+# shellcheck disable=SC2034 # read by whoever sources this
 
 hello=$source_dir/examples/hello
 
