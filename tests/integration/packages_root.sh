@@ -3,6 +3,8 @@
 # Runs as root in a fresh Debian with the packages in /share: installs, uses and removes them.
 set -euo pipefail
 export DEBIAN_FRONTEND=noninteractive QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8
+XDG_RUNTIME_DIR=$(mktemp -d)
+export XDG_RUNTIME_DIR
 cd /share
 
 fail()
