@@ -18,8 +18,8 @@ fail()
     exit 1
 }
 
-# The second build may take what the first compiled: what it says of its place is relative.
-export CCACHE_BASEDIR=/ CCACHE_NOHASHDIR=1
+# The second build takes what the first compiled, but for what depends on its place.
+export CCACHE_BASEDIR=$source_dir CCACHE_NOHASHDIR=1
 SOURCE_DATE_EPOCH=$(date -d "$(sed -n 's/^ -- .*>  //p' "$source_dir/packaging/debian/changelog")" +%s)
 export SOURCE_DATE_EPOCH
 
@@ -27,8 +27,8 @@ export SOURCE_DATE_EPOCH
 make_packages()
 {
     local log=$work/build.log
-    (cd "$1" && cmake --preset packages && cmake --build --preset packages \
-        && rm -rf build/packages/packages && cd build/packages && cpack) >"$log" 2>&1 \
+    (cd "$1" && rm -rf build/packages/docs/html build/packages/packages && cmake --preset packages && cmake --build --preset packages \
+        && cd build/packages && cpack) >"$log" 2>&1 \
         || fail "$(tail -n 30 "$log")"
 }
 
@@ -62,7 +62,7 @@ unpacked=$work/$(basename "$tarball" .tar.gz)
 make_packages "$unpacked"
 unpack "$debs" "$work/tree"
 unpack "$unpacked/build/packages/packages" "$work/tarball"
-diff -r "$work/tree" "$work/tarball" || fail "the tarball builds something else"
+diff -r --no-dereference "$work/tree" "$work/tarball" || fail "the tarball builds something else"
 echo "the tarball and the tree build the same ${#packages[@]} packages"
 
 root_flag=()
