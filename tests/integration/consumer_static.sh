@@ -15,8 +15,8 @@ stage=$work/moved/prefix
 source "$source_dir/tests/integration/consumertools.sh"
 
 mkdir -p "$build"
-cmake -G Ninja -S "$source_dir" -B "$build" -DBUILD_SHARED_LIBS=OFF >"$build/build.log"
-cmake --build "$build" >>"$build/build.log" || fail "$(tail -n 20 "$build/build.log")"
+cmake -G Ninja -S "$source_dir" -B "$build" -DBUILD_SHARED_LIBS=OFF >"$build/build.log" 2>&1 \
+    && cmake --build "$build" >>"$build/build.log" 2>&1 || fail "$(tail -n 20 "$build/build.log")"
 install_build "$build" development
 [[ -f $libdir/libpanelkit.a ]] || fail "no archive is installed"
 [[ -z $(find "$stage" -name '*.so*') ]] || fail "a shared library is installed with the archive"

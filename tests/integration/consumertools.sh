@@ -38,8 +38,10 @@ install_build()
 
 build_with_cmake()
 {
-    cmake -G Ninja -S "$hello" -B "$work/cmake" -DCMAKE_PREFIX_PATH="$stage" >"$work/cmake.log"
-    cmake --build "$work/cmake" >>"$work/cmake.log"
+    {
+        cmake -G Ninja -S "$hello" -B "$work/cmake" -DCMAKE_PREFIX_PATH="$stage" &&
+            cmake --build "$work/cmake"
+    } >"$work/cmake.log" 2>&1 || fail "CMake: $(tail -n 20 "$work/cmake.log")"
 }
 
 build_with_pkg_config()
