@@ -12,7 +12,6 @@
 
 #include <spbackgroundimage.h>
 
-#include <QPixmapCache>
 #include <QStackedWidget>
 #include <QTextStream>
 #include <QVBoxLayout>
@@ -20,19 +19,11 @@
 namespace headunit
 {
 
-namespace
-{
-
-constexpr int kPictureCache = 64 * 1024; // KiB, all of one screen's pictures
-
-} // namespace
-
 HeadUnit::HeadUnit(Context &context, const QSize &screen, Theme::Look look, QWidget *parent)
     : QWidget(parent), m_context(context), m_theme(screen, look),
       m_backdrop(new SpBackgroundImage(this)), m_statusBar(new StatusBar(this)),
       m_stack(new QStackedWidget(this)), m_popup(new Popup(this))
 {
-    QPixmapCache::setCacheLimit(kPictureCache);
     setFixedSize(screen);
     setAutoFillBackground(true);
     auto *layout = new QVBoxLayout(this);
