@@ -3,7 +3,9 @@
 
 #include <monoffbutton.h>
 #include <spiconbutton.h>
+#include <sprollingtext.h>
 
+#include <QEvent>
 #include <QGuiApplication>
 #include <QLayout>
 #include <QPainter>
@@ -64,6 +66,27 @@ QPixmap switchKnob(const Theme &theme, int pill, const QColor &color)
     return pixmap;
 }
 
+class RollWhileShown : public QObject
+{
+public:
+    explicit RollWhileShown(SpRollingText &text) : QObject(&text), m_text(text)
+    {
+        text.setAutoRoll(text.isVisible());
+        text.installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Show || event->type() == QEvent::Hide)
+            m_text.setAutoRoll(event->type() == QEvent::Show);
+        return false;
+    }
+
+private:
+    SpRollingText &m_text;
+};
+
 } // namespace
 
 void dressKey(SpIconButton &button, const Theme &theme, Theme::Style style, const QString &icon)
@@ -117,6 +140,8 @@ void dressSwitch(MOnOffButton &button, const Theme &theme)
     button.setNormalChunkPix(switchKnob(theme, pill, Qt::white));
     button.setPressChunkPix(switchKnob(theme, pill, Qt::white));
 }
+
+void rollWhileShown(SpRollingText &text) { new RollWhileShown(text); }
 
 void dressLabel(QLabel &label, const Theme &theme, Theme::TextSize size, bool quiet)
 {

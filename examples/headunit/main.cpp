@@ -81,7 +81,7 @@ int run(const Options &options)
 int main(int argc, char **argv)
 {
     if (launch::isGiven(argc, argv, {"--tour"}))
-        Tour::prepare();
+        Tour::prepare(argv);
     else if (launch::isGiven(argc, argv, {"--help", "-h"}))
         launch::preferNoScreen();
     if (launch::isGiven(argc, argv, {"--loopback"}))

@@ -10,7 +10,8 @@
 
 #include <QCoreApplication>
 #include <QSet>
-#include <QThread>
+
+#include <unistd.h>
 
 namespace headunit
 {
@@ -55,12 +56,25 @@ QString nameOf(const QObject &object)
     return parent ? nameOf(*parent) + QLatin1Char('/') + own : own;
 }
 
+// Some processors turn and shrink pictures in ways that give other pixels. Qt has looked at what
+// this one can do before main(), so the program begins again.
+void pinProcessor(char **argv)
+{
+    const char *const variable = "QT_NO_CPU_FEATURE";
+    const QByteArray features = "ssse3 sse4.1 sse4.2 avx avx2 bmi bmi2 f16c avx512f";
+    if (qgetenv(variable) == features)
+        return;
+    qputenv(variable, features);
+    ::execv("/proc/self/exe", argv);
+}
+
 QString tileOf(const QString &page) { return page + QStringLiteral("Tile"); }
 
 } // namespace
 
-void Tour::prepare()
+void Tour::prepare(char **argv)
 {
+    pinProcessor(argv);
     launch::preferNoScreen();
     for (const char *variable : {"LANG", "LANGUAGE", "LC_MESSAGES", "LC_TIME", "LC_NUMERIC"})
         qunsetenv(variable);
@@ -76,6 +90,11 @@ Tour::Tour(HeadUnit &screen, const Context &context, const QString &directory)
       m_finger(&screen, [this] { takePicture(); })
 {
     QCoreApplication::instance()->installEventFilter(this);
+    const auto widgets = screen.findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        if (widget->testAttribute(Qt::WA_WState_Polished))
+            listenTo(*widget);
+    }
 }
 
 int Tour::play()
@@ -99,10 +118,15 @@ int Tour::play()
 // A widget is polished once, before it is seen for the first time.
 bool Tour::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Polish && watched->isWidgetType() && isOfPanelKit(watched)
-        && static_cast<QWidget *>(watched)->window() == &m_screen)
-        m_log.listenTo(watched, nameOf(*watched));
+    if (event->type() == QEvent::Polish && watched->isWidgetType())
+        listenTo(*static_cast<QWidget *>(watched));
     return false;
+}
+
+void Tour::listenTo(QWidget &widget)
+{
+    if (isOfPanelKit(&widget) && widget.window() == &m_screen)
+        m_log.listenTo(&widget, nameOf(widget));
 }
 
 // Threads look for the music and read pictures, in a time of their own.
@@ -127,11 +151,11 @@ void Tour::playStep(const QString &page, const TourStep &step)
     m_log.step(page == step.name ? page : page + QLatin1Char(' ') + step.name);
     for (const TourTouch &each : step.touches)
         touch(each);
-    m_finger.hold(kSettling).picture();
-    if (std::exchange(m_isDown, false))
-        m_finger.release().hold(kAfterTouch);
+    m_finger.hold(m_isDown ? kAfterTouch : kSettling).picture();
     m_log.check(m_screen.currentPage() == page,
                 tr("%1, %2: the page is %3").arg(page, step.name, m_screen.currentPage()));
+    if (std::exchange(m_isDown, false))
+        m_finger.release().hold(kAfterTouch);
 }
 
 void Tour::playNight()

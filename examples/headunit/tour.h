@@ -24,8 +24,8 @@ class Tour : public QObject
     Q_OBJECT
 
 public:
-    /// Prepares the process; call it before there is an application.
-    static void prepare();
+    /// Prepares the process, or begins it again in order to; call it first of all.
+    static void prepare(char **argv);
 
     /// The screen is not shown yet.
     Tour(HeadUnit &screen, const Context &context, const QString &directory);
@@ -36,6 +36,7 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void listenTo(QWidget &widget);
     void waitForMusic();
     void playPage(const TourPage &page);
     void playStep(const QString &page, const TourStep &step);

@@ -40,12 +40,12 @@ QVector<TourStep> homeSteps()
 {
     return {
         {"home", {}},
-        {"tile pressed", {press("soundTile", {0.5, 0.4})}},
         {"finger slides off a tile", {drag("phoneTile", {0.5, 0.4}, {0.5, 1.2}, 300)}},
         {"tile that is not ready", {tap("weatherTile")}},
-        {"music starts", {tap("playKey")}},
-        {"silence is told", {tap("popupClose")}},
+        {"music starts", {tap("popupClose"), tap("playKey")}},
+        {"music goes on silently", {tap("popupClose"), wait(2000)}},
         {"next track", {tap("nextKey"), wait(2000)}},
+        {"tile pressed", {press("soundTile", {0.5, 0.4})}},
     };
 }
 
@@ -79,7 +79,7 @@ QVector<TourStep> mediaSteps()
         {"row pressed", {press("list", {0.3, 0.1})}},
         {"folders", {sideKey(2)}},
         {"in a folder", {tap("list", {0.3, 0.1})}},
-        {"track plays", {tap("list", {0.3, 0.3}), wait(1500)}},
+        {"another track plays", {tap("list", {0.3, 0.3}), wait(1500)}},
     };
 }
 

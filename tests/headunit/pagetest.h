@@ -48,14 +48,18 @@ public:
     /// Without the timer that has ended the last wait.
     QString text()
     {
-        m_happened.removeOne(QStringLiteral("Timer QTimer"));
+        const int end = m_happened.lastIndexOf(QStringLiteral("Timer QTimer"));
+        if (end >= 0)
+            m_happened.removeAt(end);
         return m_happened.join(QStringLiteral(", "));
     }
 
 protected:
     bool eventFilter(QObject *object, QEvent *event) override
     {
-        const QString name = QLatin1String(object->metaObject()->className());
+        const QObject *parent = object->parent();
+        const QString name = QLatin1String(object->metaObject()->className())
+            + (parent ? QLatin1String(" of ") + parent->metaObject()->className() : QString());
         if (event->type() == QEvent::Timer)
             m_happened += QStringLiteral("Timer ") + name;
         else if (event->type() == QEvent::Paint)
