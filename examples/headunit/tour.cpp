@@ -21,6 +21,7 @@ namespace
 
 constexpr int kTimeOfDay = (10 * 60 + 8) * 60'000; // ms, of the first picture
 constexpr int kAfterTouch = 150; // ms until the next touch
+constexpr int kWhileDown = 350; // ms until a finger that stays down is seen to be there
 constexpr int kSettling = 700; // ms from the last touch of a step to its picture
 
 bool isOfPanelKit(const QObject *object)
@@ -151,7 +152,7 @@ void Tour::playStep(const QString &page, const TourStep &step)
     m_log.step(page == step.name ? page : page + QLatin1Char(' ') + step.name);
     for (const TourTouch &each : step.touches)
         touch(each);
-    m_finger.hold(m_isDown ? kAfterTouch : kSettling).picture();
+    m_finger.hold(m_isDown ? kWhileDown : kSettling).picture();
     m_log.check(m_screen.currentPage() == page,
                 tr("%1, %2: the page is %3").arg(page, step.name, m_screen.currentPage()));
     if (std::exchange(m_isDown, false))

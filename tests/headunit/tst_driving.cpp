@@ -159,7 +159,7 @@ void DrivingTest::onlyTheClockTicks()
 void DrivingTest::memoryStaysThatOfTheFirstPart()
 {
     const int asked = qEnvironmentVariableIntValue("PANELKIT_DRIVE_MINUTES");
-    const int minutes = asked > 0 ? asked : 40;
+    const int minutes = asked > 0 ? asked : 90;
     const int firstPart = std::min(60, minutes * 3 / 4);
     Car car;
     Driver driver(car.unit, 1);

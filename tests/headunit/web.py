@@ -1,4 +1,4 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 # SPDX-License-Identifier: Apache-2.0
 """The head unit in a browser: what the page shows is what the head unit paints, and it can be
 touched there. usage: web.py <panelkit-headunit> [unittest's arguments]"""
@@ -64,7 +64,7 @@ class Web(unittest.TestCase):
                          "--disable-dev-shm-usage", "--window-size=1300,900"):
             options.add_argument(argument)
         cls.browser = webdriver.Chrome(options=options, service=Service("/usr/bin/chromedriver"))
-        cls.browser.get(cls.address.replace("resize=scale", "resize=off"))
+        cls.browser.get(cls.address)
         cls.wait_until(lambda: cls.browser.execute_script(
             "const c = document.querySelector('canvas'); return c && c.width") == SIZE[0])
 
@@ -117,9 +117,11 @@ class Web(unittest.TestCase):
         return self.shown()
 
     def at(self, x, y):
+        """The pointer above a place of the screen, which the page may show larger or smaller."""
         canvas = self.browser.find_element(By.CSS_SELECTOR, "canvas")
+        scale = canvas.size["width"] / SIZE[0]
         return ActionChains(self.browser, duration=20).move_to_element_with_offset(
-            canvas, x - SIZE[0] // 2, y - SIZE[1] // 2)
+            canvas, round((x - SIZE[0] / 2) * scale), round((y - SIZE[1] / 2) * scale))
 
     def test_1_shows_the_home_screen(self):
         rows = self.assert_alike()
