@@ -21,7 +21,7 @@ from selenium.webdriver.chrome.service import Service
 
 PATIENCE = 30  # s, until something has to have come true
 SIZE = (1024, 600)
-PROGRAM = sys.argv.pop(1)
+PROGRAM = os.path.abspath(sys.argv.pop(1))
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 
 
@@ -51,6 +51,7 @@ class Web(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
         cls.folder = tempfile.TemporaryDirectory()
+        cls.addClassCleanup(cls.folder.cleanup)
         cls.grab = os.path.join(cls.folder.name, "grab.ppm")
         cls.port = free_port()
         cls.server = subprocess.Popen(
@@ -58,23 +59,23 @@ class Web(unittest.TestCase):
              "--settings", os.path.join(cls.folder.name, "settings.ini"),
              "--log", os.path.join(cls.folder.name, "log")],
             cwd=cls.folder.name, stdout=subprocess.PIPE, text=True)
+        cls.addClassCleanup(cls.end_server)
         cls.address = cls.server.stdout.readline().strip()
         options = webdriver.ChromeOptions()
         for argument in ("--headless=new", "--no-sandbox", "--disable-gpu",
                          "--disable-dev-shm-usage", "--window-size=1300,900"):
             options.add_argument(argument)
         cls.browser = webdriver.Chrome(options=options, service=Service("/usr/bin/chromedriver"))
+        cls.addClassCleanup(cls.browser.quit)
         cls.browser.get(cls.address)
         cls.wait_until(lambda: cls.browser.execute_script(
             "const c = document.querySelector('canvas'); return c && c.width") == SIZE[0])
 
     @classmethod
-    def tearDownClass(cls):
-        cls.browser.quit()
+    def end_server(cls):
         cls.server.send_signal(signal.SIGINT)
         cls.server.wait(PATIENCE)
         cls.server.stdout.close()
-        cls.folder.cleanup()
 
     @staticmethod
     def wait_until(holds):
