@@ -21,7 +21,9 @@ int bindTo(int socket, const void *address, socklen_t length)
 
 } // namespace
 
-// A socket for both versions of the protocol takes the loopback of version 4 in this disguise.
+// A socket for both versions of the protocol takes the loopback of version 4 in this disguise. The
+// C library's own names of the parameters are reserved ones.
+// NOLINTNEXTLINE(readability-inconsistent-declaration-parameter-name)
 extern "C" Q_DECL_EXPORT int bind(int socket, const sockaddr *address, socklen_t length) noexcept
 {
     if (isConfined && address->sa_family == AF_INET && length >= sizeof(sockaddr_in)) {

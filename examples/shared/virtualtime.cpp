@@ -68,6 +68,8 @@ int virtualPoll(pollfd *fds, nfds_t count, const timespec *timeout, const sigset
 
 } // namespace
 
+// The C library's own names of the parameters are reserved ones.
+// NOLINTBEGIN(readability-inconsistent-declaration-parameter-name)
 extern "C" {
 
 Q_DECL_EXPORT int clock_gettime(clockid_t clock, timespec *time) noexcept
@@ -103,6 +105,7 @@ Q_DECL_EXPORT int __ppoll_chk(pollfd *fds, nfds_t count, const timespec *timeout
 }
 
 } // extern "C"
+// NOLINTEND(readability-inconsistent-declaration-parameter-name)
 
 namespace virtualtime
 {

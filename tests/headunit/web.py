@@ -145,7 +145,19 @@ class Web(unittest.TestCase):
         self.assertEqual(before[:60], after[:60])
         self.assertNotEqual(before[100:], after[100:])
 
-    def test_4_listens_at_the_loopback_only(self):
+    def test_4_finger_taps_too(self):
+        before = self.assert_alike()
+        left, top, width = self.browser.execute_script(
+            "const r = document.querySelector('canvas').getBoundingClientRect();"
+            "return [r.left, r.top, r.width]")
+        home_key = {"x": left + 60 * width / SIZE[0], "y": top + 42 * width / SIZE[0]}
+        for kind, points in (("touchStart", [home_key]), ("touchEnd", [])):
+            self.browser.execute_cdp_cmd("Input.dispatchTouchEvent",
+                                         {"type": kind, "touchPoints": points})
+        self.wait_until(lambda: self.shown() != before)
+        self.assert_alike()
+
+    def test_5_listens_at_the_loopback_only(self):
         listeners = pathlib.Path("/proc/net/tcp").read_text() + \
             pathlib.Path("/proc/net/tcp6").read_text()
         sockets = {os.readlink(link) for link in
@@ -156,7 +168,7 @@ class Web(unittest.TestCase):
         self.assertIn(own[0][1].split(":")[0],
                       ("0100007F", "0000000000000000FFFF00000100007F"))
 
-    def test_5_ctrl_c_ends_all(self):
+    def test_6_ctrl_c_ends_all(self):
         head_unit = self.head_unit()
         self.server.send_signal(signal.SIGINT)
         self.server.wait(PATIENCE)
