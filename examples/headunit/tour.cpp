@@ -104,14 +104,9 @@ int Tour::play()
     virtualtime::advance(kTimeOfDay);
     m_screen.show();
     virtualtime::advance(kSettling);
-    QStringList unknown = m_screen.pageNames();
-    const QVector<TourPage> script = tourScript();
-    for (const TourPage &page : script) {
+    const QStringList pages = m_screen.pageNames();
+    for (const QString &page : pages)
         playPage(page);
-        unknown.removeAll(page.page);
-    }
-    for (const QString &page : qAsConst(unknown))
-        playPage({page, {{page, {}}}});
     playNight();
     return m_log.conclude();
 }
@@ -138,12 +133,12 @@ void Tour::waitForMusic()
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
-void Tour::playPage(const TourPage &page)
+void Tour::playPage(const QString &page)
 {
-    if (page.page != m_screen.currentPage())
-        openPage(page.page);
-    for (const TourStep &step : page.steps)
-        playStep(page.page, step);
+    openPage(page);
+    const QVector<TourStep> steps = tourOf(page);
+    for (const TourStep &step : steps)
+        playStep(page, step);
     goHome();
 }
 

@@ -38,7 +38,7 @@ public:
 private:
     void listenTo(QWidget &widget);
     void waitForMusic();
-    void playPage(const TourPage &page);
+    void playPage(const QString &page);
     void playStep(const QString &page, const TourStep &step);
     void playNight();
     void openPage(const QString &name);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "tourscript.h"
 
+#include <QMap>
+
 namespace headunit
 {
 
@@ -122,15 +124,40 @@ QVector<TourStep> soundSteps()
     };
 }
 
+// One of the five keys at the side of the settings.
+TourTouch settingsKey(int key) { return tap("sideKeys", {0.5, (key + 0.5) / 5}); }
+
+QVector<TourStep> settingsSteps()
+{
+    return {
+        {"general", {}},
+        {"general scrolled", {drag("list", {0.4, 0.8}, {0.4, 0.2}, 130), wait(2500)}},
+        {"display", {settingsKey(1)}},
+        {"darker", {drag("brightness", {0.9, 0.5}, {0.4, 0.5}, 500)}},
+        {"brighter", {drag("brightness", {0.4, 0.5}, {0.98, 0.5}, 500)}},
+        {"night look", {tap("nightChoice")}},
+        {"day look", {tap("dayChoice")}},
+        {"languages", {settingsKey(2)}},
+        {"German", {tap("german")}},
+        {"Arabic", {tap("arabic")}},
+        {"English", {tap("english")}},
+        {"update", {settingsKey(3)}},
+        {"looking for an update", {tap("key")}},
+        {"update is loaded", {wait(4000)}},
+        {"licence", {settingsKey(4)}},
+        {"licence scrolls", {wait(4000)}},
+    };
+}
+
 } // namespace
 
-QVector<TourPage> tourScript()
+QVector<TourStep> tourOf(const QString &page)
 {
-    return {{"home", homeSteps()},
-            {"radio", radioSteps()},
-            {"media", mediaSteps()},
-            {"phone", phoneSteps()},
-            {"sound", soundSteps()}};
+    const QMap<QString, QVector<TourStep> (*)()> pages{
+        {"home", homeSteps},   {"radio", radioSteps}, {"media", mediaSteps},
+        {"phone", phoneSteps}, {"sound", soundSteps}, {"settings", settingsSteps}};
+    const auto steps = pages.value(page);
+    return steps ? steps() : QVector<TourStep>{{page, {}}};
 }
 
 } // namespace headunit

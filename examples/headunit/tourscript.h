@@ -25,14 +25,9 @@ struct TourStep {
     QVector<TourTouch> touches;
 };
 
-/// The steps on a page, from the moment when it has been opened from the home page.
-struct TourPage {
-    QString page;
-    QVector<TourStep> steps;
-};
-
-/// The way through the head unit. Pages that it does not know are opened too, and no more.
-QVector<TourPage> tourScript();
+/// The steps on a page, from the moment when it has been opened from the home page. A page that the
+/// script does not know is looked at, and no more.
+QVector<TourStep> tourOf(const QString &page);
 
 } // namespace headunit
 
