@@ -10,6 +10,7 @@
 #include "models/contacts.h"
 #include "models/musiclibrary.h"
 #include "models/player.h"
+#include "models/preferences.h"
 #include "models/stations.h"
 #include "models/trackmodel.h"
 #include "models/tuner.h"
@@ -98,7 +99,8 @@ struct Car {
     Stations stations;
     Tuner tuner{&stations, &settings};
     Contacts contacts;
-    Context context{settings, music, player, tuner, contacts};
+    Preferences preferences{&settings};
+    Context context{settings, music, player, tuner, contacts, preferences};
     HeadUnit screen{context, kScreen, Theme::Night};
 };
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "dress.h"
 
+#include <mfocusbutton.h>
+#include <mhorslider.h>
 #include <monoffbutton.h>
 #include <spiconbutton.h>
 #include <sprollingtext.h>
@@ -87,6 +89,22 @@ private:
     SpRollingText &m_text;
 };
 
+// A dot on a disc: a knob in the middle of a picture that is as large as a finger needs.
+QPixmap sliderKnob(const Theme &theme, const QColor &color)
+{
+    const int touch = theme.touch();
+    QPixmap pixmap(touch, touch);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    const int size = theme.px(40);
+    painter.drawPixmap((touch - size) / 2, (touch - size) / 2,
+                       theme.panel({size, size}, color, QColor(), size / 2));
+    const int core = theme.px(12);
+    painter.drawPixmap((touch - core) / 2, (touch - core) / 2,
+                       theme.panel({core, core}, theme.onAccent, QColor(), core / 2));
+    return pixmap;
+}
+
 } // namespace
 
 void dressKey(SpIconButton &button, const Theme &theme, Theme::Style style, const QString &icon)
@@ -120,6 +138,34 @@ void dressPanel(QLabel &panel, const Theme &theme)
         layout->activate();
     }
     panel.setPixmap(theme.panel(panel.size(), theme.face, theme.line, theme.radius()));
+}
+
+void dressChoice(MFocusButton &button, const Theme &theme, const QString &icon)
+{
+    const QSize size = button.size();
+    const Arrangement place = arranged(size, theme, !icon.isEmpty(), true);
+    button.setNormalImage(
+        theme.key(size, Theme::Key, Theme::Normal, icon, place.iconPx, place.rise));
+    button.setPressImage(
+        theme.key(size, Theme::Key, Theme::Selected, icon, place.iconPx, place.rise));
+    button.setNormalTextColor(theme.text);
+    button.setPressTextColor(theme.onAccent);
+    button.setFontSize(theme.textPx(icon.isEmpty() ? Theme::Body : Theme::Small));
+    button.setdisplayTextRect(place.caption);
+    button.update();
+}
+
+// The groove is as wide as the slider; what is seen of it is a bar in its middle.
+void dressSlider(MHorSlider &slider, const Theme &theme, int width)
+{
+    const int bar = theme.px(10);
+    const auto groove = [&](const QColor &color) {
+        return theme.panel({width, bar}, color, QColor(), bar / 2);
+    };
+    slider.setSliderNormalImage(groove(grooveColor(theme)));
+    slider.setSliderPressImage(groove(theme.accent));
+    slider.setPointNormalImage(sliderKnob(theme, theme.accent));
+    slider.setPointPressImage(sliderKnob(theme, theme.accent.darker(125)));
 }
 
 QColor grooveColor(const Theme &theme)

@@ -7,6 +7,8 @@
 #include <QLabel>
 #include <QString>
 
+class MFocusButton;
+class MHorSlider;
 class MOnOffButton;
 class SpIconButton;
 class SpRollingText;
@@ -25,6 +27,13 @@ void dressKey(SpIconButton &button, const Theme &theme, Theme::Style style,
 /// Gives a label the face of a panel, and what is laid out on it its distances. The panel has to be
 /// free of a size of its own: its size policy is to be "Ignored".
 void dressPanel(QLabel &panel, const Theme &theme);
+
+/// Gives one of several choices its faces: it stays down while it is the one. An icon stands above
+/// the caption.
+void dressChoice(MFocusButton &button, const Theme &theme, const QString &icon = {});
+
+/// Gives a slider so wide a bar and a knob for a finger.
+void dressSlider(MHorSlider &slider, const Theme &theme, int width);
 
 /// The colour of the part of a slider that is not filled.
 QColor grooveColor(const Theme &theme);

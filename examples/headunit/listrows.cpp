@@ -2,6 +2,7 @@
 #include "listrows.h"
 
 #include "dress.h"
+#include "texts.h"
 
 #include <sptablelist.h>
 
@@ -46,8 +47,8 @@ int lineHeight(const Theme &theme, Theme::TextSize size) { return theme.textPx(s
 // A line that begins where the language begins, shortened to its room.
 void drawLine(QPainter &painter, const QRect &area, const QString &text)
 {
-    const QString shown = painter.fontMetrics().elidedText(text, Qt::ElideRight, area.width());
-    painter.drawText(area, int(leadingAlignment()) | Qt::TextSingleLine, shown);
+    painter.drawText(area, int(leadingAlignment()) | Qt::TextSingleLine,
+                     shortened(text, painter.fontMetrics(), area.width()));
 }
 
 QPixmap pressedFace(const QSize &size, const Theme &theme)
@@ -79,6 +80,11 @@ void RowsOfModel::refresh(int row)
 
 void RowList::setRows(const QVector<ListRow> &rows)
 {
+    if (!rows.isEmpty() && rows.size() == m_rows.size()) {
+        m_rows = rows;
+        emit dataChanged(index(0), index(rows.size() - 1));
+        return;
+    }
     beginResetModel();
     m_rows = rows;
     endResetModel();
@@ -131,7 +137,7 @@ int RowPainter::drawPicture(QPainter &painter, const QRect &whole, const ListRow
 void RowPainter::drawTexts(QPainter &painter, const QRect &whole, int left,
                            const ListRow &row) const
 {
-    int right = whole.right() + 1 - m_theme.gap();
+    int right = whole.right() + 1 - m_theme.gap() - row.room;
     painter.setFont(m_theme.font(Theme::Small));
     painter.setPen(m_theme.quietText);
     if (!row.tail.isEmpty()) {

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
 // A car's screen made of PanelKit.
+#include "clicksound.h"
 #include "grabs.h"
 #include "headunit.h"
+#include "languages.h"
 #include "launch.h"
 #include "loopback.h"
 #include "models/contacts.h"
 #include "models/musiclibrary.h"
 #include "models/player.h"
+#include "models/preferences.h"
 #include "models/samples.h"
 #include "models/stations.h"
 #include "models/trackmodel.h"
@@ -25,10 +28,11 @@ namespace
 {
 
 // Whatever a model cannot show it says in a sentence, which goes on the screen.
-template <typename Model> void hear(HeadUnit &screen, const Model &model, const QString &title)
+template <typename Model> void hear(HeadUnit &screen, const Model &model, const char *title)
 {
-    QObject::connect(&model, &Model::problem, &screen,
-                     [&screen, title](const QString &sentence) { screen.say(title, sentence); });
+    QObject::connect(&model, &Model::problem, &screen, [&screen, title](const QString &sentence) {
+        screen.say(HeadUnit::tr(title), sentence);
+    });
 }
 
 // On a tour nothing sounds, and what is shuffled is shuffled alike each time.
@@ -56,18 +60,25 @@ int run(const Options &options)
     QSettings settings(isOnTour ? noSettings.filePath(QStringLiteral("headunit.ini"))
                                 : options.settingsFile,
                        QSettings::IniFormat);
+    Preferences preferences(&settings);
+    if (!options.language.isEmpty())
+        preferences.useLanguage(options.language);
+    if (options.isNight)
+        preferences.useLook(Preferences::Look::Night);
+    const Languages languages(&preferences);
+    const auto click = isOnTour ? nullptr : std::make_unique<ClickSound>(&preferences);
     MusicLibrary music;
     const std::unique_ptr<Player> player = makePlayer(isOnTour);
     Stations stations;
     Tuner tuner(&stations, &settings);
     Contacts contacts;
-    Context context{settings, music, *player, tuner, contacts};
-    HeadUnit screen(context, options.size, options.isNight ? Theme::Night : Theme::Day);
+    Context context{settings, music, *player, tuner, contacts, preferences};
+    HeadUnit screen(context, options.size, HeadUnit::wantedLook(preferences));
 
-    hear(screen, music, HeadUnit::tr("Music"));
-    hear(screen, *player, HeadUnit::tr("Player"));
-    hear(screen, stations, HeadUnit::tr("Radio"));
-    hear(screen, contacts, HeadUnit::tr("Contacts"));
+    hear(screen, music, QT_TRANSLATE_NOOP("headunit::HeadUnit", "Music"));
+    hear(screen, *player, QT_TRANSLATE_NOOP("headunit::HeadUnit", "Player"));
+    hear(screen, stations, QT_TRANSLATE_NOOP("headunit::HeadUnit", "Radio"));
+    hear(screen, contacts, QT_TRANSLATE_NOOP("headunit::HeadUnit", "Contacts"));
     stations.load(options.stationsFile);
     contacts.load(options.contactsFile);
     player->setModel(music.tracks());

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "options.h"
 
+#include "languages.h"
 #include "models/samples.h"
 
 #include <QRegularExpression>
@@ -35,6 +36,14 @@ QSize sizeOf(const QString &text)
     return size;
 }
 
+QString languageOf(const QString &code)
+{
+    if (!code.isEmpty() && !Languages::codes().contains(code))
+        refuse(QStringLiteral("--language takes one of %1, not \"%2\".")
+                   .arg(Languages::codes().join(QStringLiteral(", ")), code));
+    return code;
+}
+
 QString orElse(const QString &given, const QString &otherwise)
 {
     return given.isEmpty() ? otherwise : given;
@@ -63,17 +72,19 @@ Options::Options(const QStringList &arguments)
                            "Writes what Qt and the widgets log to this file, not to the console.");
     const auto grab =
         takes("grab", "FILE", "Writes a picture of the screen to this file at each SIGUSR1.");
+    const auto languageOption = takes("language", "CODE", "The language: en, de or ar.");
     const QCommandLineOption loopback(
         QStringLiteral("loopback"),
         QStringLiteral("Lets the platform vnc listen on this machine's loopback only."));
     m_parser.setApplicationDescription(QStringLiteral("A car's screen made of PanelKit."));
-    m_parser.addOptions(
-        {sizeOption, night, music, contacts, stations, settings, tour, log, grab, loopback});
+    m_parser.addOptions({sizeOption, night, music, contacts, stations, settings, languageOption,
+                         tour, log, grab, loopback});
     m_parser.addHelpOption();
     m_parser.process(arguments);
 
     size = sizeOf(m_parser.value(sizeOption));
     isNight = m_parser.isSet(night);
+    language = languageOf(m_parser.value(languageOption));
     musicFolder = orElse(m_parser.value(music), samples::musicFolder());
     contactsFile = orElse(m_parser.value(contacts), samples::contactsFile());
     stationsFile = orElse(m_parser.value(stations), samples::stationsFile());

@@ -18,6 +18,7 @@ struct Options {
 
     QSize size{1024, 600}; ///< px, of the screen
     bool isNight = false;
+    QString language; ///< empty: that of the settings
     QString musicFolder;
     QString contactsFile;
     QString stationsFile;

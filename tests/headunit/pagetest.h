@@ -6,6 +6,7 @@
 #include "models/contacts.h"
 #include "models/musiclibrary.h"
 #include "models/player.h"
+#include "models/preferences.h"
 #include "models/stations.h"
 #include "models/trackmodel.h"
 #include "models/tuner.h"
@@ -25,7 +26,8 @@ struct PageWorld {
     headunit::Stations stations;
     headunit::Tuner tuner{&stations, &settings};
     headunit::Contacts contacts;
-    headunit::Context context{settings, music, player, tuner, contacts};
+    headunit::Preferences preferences{&settings};
+    headunit::Context context{settings, music, player, tuner, contacts, preferences};
     QWidget screen; ///< what the page lies on
 };
 

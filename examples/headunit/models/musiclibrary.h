@@ -27,7 +27,7 @@ class MusicLibrary : public QObject
     Q_OBJECT
 
 public:
-    static constexpr int kMostTracks = 100'000; ///< further files are left out, with a problem()
+    static constexpr int kMostTracks = 100000; ///< further files are left out, with a problem()
     static constexpr int kCoverSize = 512; ///< px; pictures are no wider and no higher
 
     explicit MusicLibrary(QObject *parent = nullptr);

@@ -143,7 +143,7 @@ void Library::readFolders()
         ListRow row;
         row.icon = QStringLiteral("folder");
         row.title = folder.name;
-        row.tail = tr("Tracks: %1").arg(folder.tracks);
+        row.tail = tr("Tracks: %L1").arg(folder.tracks);
         const QString place = root.relativeFilePath(QFileInfo(folder.path).path());
         if (!place.startsWith(QLatin1Char('.')))
             row.detail = place;
@@ -165,12 +165,12 @@ void Library::showHeading()
     if (music.isWalked() && !music.isFinished())
         showProgress(music.readCount(), music.tracks()->rowCount());
     else
-        m_ui->progress->setText(tr("Tracks: %1").arg(total));
+        m_ui->progress->setText(tr("Tracks: %L1").arg(total));
 }
 
 void Library::showProgress(int read, int total)
 {
-    m_ui->progress->setText(tr("Reading tags: %1 of %2").arg(read).arg(total));
+    m_ui->progress->setText(tr("Reading tags: %L1 of %L2").arg(read).arg(total));
 }
 
 } // namespace headunit

@@ -4,6 +4,7 @@
 #include "dress.h"
 #include "models/tuner.h"
 #include "pages/tunerscales.h"
+#include "texts.h"
 #include "ui_radio.h"
 
 #include <QFontMetrics>
@@ -182,7 +183,7 @@ void RadioPage::showPreset(int place)
     MPresetButton &key = *m_presets[place];
     const int room = key.width() - theme().px(12);
     const QString name = frequency ? tuner.presetName(place) : tr("Empty");
-    key.setDisplayText(QFontMetrics(key.font()).elidedText(name, Qt::ElideRight, room));
+    key.setDisplayText(shortened(name, QFontMetrics(key.font()), room));
     key.setDisplayText2(isStored        ? tr("Stored")
                             : frequency ? Tuner::textOf(tuner.band(), frequency)
                                         : QString());

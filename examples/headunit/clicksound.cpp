@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "clicksound.h"
+
+#include "models/preferences.h"
+#include "models/samples.h"
+
+#include <QAudioDeviceInfo>
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QSoundEffect>
+#include <QTextStream>
+#include <QUrl>
+
+#include <utility>
+
+namespace headunit
+{
+
+namespace
+{
+
+bool isRequest(const QEvent *event)
+{
+    if (event->type() != QEvent::KeyPress)
+        return false;
+    const auto *key = static_cast<const QKeyEvent *>(event);
+    return key->key() == Qt::Key_Meta && key->text() == QLatin1String("beep");
+}
+
+} // namespace
+
+ClickSound::ClickSound(const Preferences *preferences, QObject *parent)
+    : QObject(parent), m_preferences(preferences)
+{
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+bool ClickSound::eventFilter(QObject *watched, QEvent *event)
+{
+    if (!watched->isWidgetType() || !isRequest(event))
+        return QObject::eventFilter(watched, event);
+    if (m_preferences->isOn(Preferences::Option::KeyClicks))
+        play();
+    return true;
+}
+
+// The devices are asked for at the first click, which takes longer than a program should to start.
+void ClickSound::play()
+{
+    if (!std::exchange(m_isPrepared, true)) {
+        if (QAudioDeviceInfo::availableDevices(QAudio::AudioOutput).isEmpty()) {
+            QTextStream(stderr) << tr("There is nothing to play sound with here: "
+                                      "keys are pressed without a click.")
+                                << '\n';
+        } else {
+            m_effect = new QSoundEffect(this);
+            m_effect->setSource(QUrl::fromLocalFile(samples::clickSound()));
+        }
+    }
+    if (m_effect)
+        m_effect->play();
+    emit clicked();
+}
+
+} // namespace headunit
