@@ -143,7 +143,8 @@ QVector<TourStep> settingsSteps()
         {"English", {tap("english")}},
         {"update", {settingsKey(3)}},
         {"looking for an update", {tap("key")}},
-        {"update is loaded", {wait(4000)}},
+        {"update is installed", {wait(4000)}},
+        {"update is called off", {tap("key")}},
         {"licence", {settingsKey(4)}},
         {"licence scrolls", {wait(4000)}},
     };
