@@ -99,6 +99,7 @@ void HeadUnit::openPage(const QString &name)
 
 void HeadUnit::setLook(Theme::Look look)
 {
+    m_theme.dropPictures(); // what is out of sight still has a copy
     m_theme = Theme(size(), look);
     QPalette colors = palette();
     colors.setColor(QPalette::Window, m_theme.ground);

@@ -67,6 +67,8 @@ public:
     /// the key tells it from all others. Copies of the theme share what is painted.
     QPixmap picture(const QString &key, const QSize &size,
                     const std::function<void(QPainter &)> &paint) const;
+    /// Lets go of what is painted, for all copies: another look follows.
+    void dropPictures() const { m_pictures->clear(); }
     /// An icon of art/, tinted.
     QPixmap icon(const QString &name, int px, const QColor &color) const;
     /// A drawing of art/ as it is.

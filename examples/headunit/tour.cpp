@@ -148,8 +148,9 @@ void Tour::playStep(const QString &page, const TourStep &step)
     for (const TourTouch &each : step.touches)
         touch(each);
     m_finger.hold(m_isDown ? kWhileDown : kSettling).picture();
-    m_log.check(m_screen.currentPage() == page,
-                tr("%1, %2: the page is %3").arg(page, step.name, m_screen.currentPage()));
+    m_log.check(
+        m_screen.currentPage() == page,
+        QStringLiteral("%1, %2: the page is %3").arg(page, step.name, m_screen.currentPage()));
     if (std::exchange(m_isDown, false))
         m_finger.release().hold(kAfterTouch);
 }
@@ -171,7 +172,7 @@ void Tour::openPage(const QString &name)
         return;
     m_log.step(name + QStringLiteral(" is opened"));
     touch({tileOf(name), {0.5, 0.4}, {0.5, 0.4}, kAfterTouch, false});
-    m_log.check(m_screen.currentPage() == name, tr("%1 does not open").arg(name));
+    m_log.check(m_screen.currentPage() == name, QStringLiteral("%1 does not open").arg(name));
 }
 
 void Tour::goHome()
@@ -188,7 +189,7 @@ void Tour::touch(const TourTouch &touch)
         return;
     }
     QWidget *widget = visibleWidget(touch.widget);
-    m_log.check(widget, tr("There is no %1 to be touched.").arg(touch.widget));
+    m_log.check(widget, QStringLiteral("There is no %1 to be touched.").arg(touch.widget));
     if (!widget)
         return;
     const auto inWidget = [widget](const QPointF &part) {
@@ -221,7 +222,7 @@ void Tour::takePicture()
 {
     waitForMusic();
     const QImage picture = m_screen.grab().toImage();
-    m_log.check(!TourLog::isBlank(picture), tr("There is nothing on the screen."));
+    m_log.check(!TourLog::isBlank(picture), QStringLiteral("There is nothing on the screen."));
     m_log.save(picture);
 }
 

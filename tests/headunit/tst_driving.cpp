@@ -97,14 +97,27 @@ private:
     QRandomGenerator m_random;
 };
 
+// A view out of sight has the pictures of the look in which it was seen.
+void showEveryView(Car &car)
+{
+    for (const QString &page : car.unit.pageNames()) {
+        car.unit.openPage(page);
+        const auto stacks = car.unit.page(page)->findChildren<QStackedWidget *>();
+        for (QStackedWidget *views : stacks) {
+            for (int view = views->count() - 1; view >= 0; --view) {
+                views->setCurrentIndex(view);
+                virtualtime::advance(kMinute);
+            }
+        }
+    }
+}
+
 // What the process has in use, when everything is as at the beginning.
 qint64 memoryAtHome(Car &car)
 {
     car.player.pause();
-    for (const QString &page : car.unit.pageNames()) {
-        car.unit.openPage(page);
-        virtualtime::advance(kMinute);
-    }
+    car.unit.setLook(Theme::Day);
+    showEveryView(car);
     car.unit.openPage(QStringLiteral("home"));
     virtualtime::advance(kMinute);
     const struct mallinfo2 info = mallinfo2();
