@@ -5,7 +5,9 @@
 #include <mhorslider.h>
 #include <monoffbutton.h>
 #include <spiconbutton.h>
+#include <sprollingtext.h>
 
+#include <QEvent>
 #include <QGuiApplication>
 #include <QLayout>
 #include <QPainter>
@@ -65,6 +67,27 @@ QPixmap switchKnob(const Theme &theme, int pill, const QColor &color)
     painter.drawPixmap(margin, margin, theme.panel({size, size}, color, QColor(), size / 2));
     return pixmap;
 }
+
+class RollWhileShown : public QObject
+{
+public:
+    explicit RollWhileShown(SpRollingText &text) : QObject(&text), m_text(text)
+    {
+        text.setAutoRoll(text.isVisible());
+        text.installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Show || event->type() == QEvent::Hide)
+            m_text.setAutoRoll(event->type() == QEvent::Show);
+        return false;
+    }
+
+private:
+    SpRollingText &m_text;
+};
 
 // A dot on a disc: a knob in the middle of a picture that is as large as a finger needs.
 QPixmap sliderKnob(const Theme &theme, const QColor &color)
@@ -163,6 +186,8 @@ void dressSwitch(MOnOffButton &button, const Theme &theme)
     button.setNormalChunkPix(switchKnob(theme, pill, Qt::white));
     button.setPressChunkPix(switchKnob(theme, pill, Qt::white));
 }
+
+void rollWhileShown(SpRollingText &text) { new RollWhileShown(text); }
 
 void dressLabel(QLabel &label, const Theme &theme, Theme::TextSize size, bool quiet)
 {

@@ -11,6 +11,7 @@ class MFocusButton;
 class MHorSlider;
 class MOnOffButton;
 class SpIconButton;
+class SpRollingText;
 
 // What pages do to the widgets of their forms, which have layouts, names and texts but no pictures.
 // A widget is dressed at the size that it has in its layout, so a page does this in dress().
@@ -39,6 +40,9 @@ QColor grooveColor(const Theme &theme);
 
 /// Gives a switch a track and a knob in the colours of the look, and room for a finger.
 void dressSwitch(MOnOffButton &button, const Theme &theme);
+
+/// Has a text that is too long roll while it can be seen; hidden, it would go on ticking.
+void rollWhileShown(SpRollingText &text);
 
 /// Gives a label a font and a colour.
 void dressLabel(QLabel &label, const Theme &theme, Theme::TextSize size, bool quiet = false);

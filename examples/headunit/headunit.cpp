@@ -16,7 +16,6 @@
 #include <spbackgroundimage.h>
 
 #include <QEvent>
-#include <QPixmapCache>
 #include <QStackedWidget>
 #include <QTextStream>
 #include <QTime>
@@ -30,7 +29,6 @@ namespace headunit
 namespace
 {
 
-constexpr int kPictureCache = 64 * 1024; // KiB, all of one screen's pictures
 constexpr int kMorning = 7; // o'clock, when the automatic look becomes that of the day
 constexpr int kEvening = 19; // o'clock, when it becomes that of the night
 
@@ -43,7 +41,6 @@ HeadUnit::HeadUnit(Context &context, const QSize &screen, Theme::Look look, QWid
       m_popup(new Popup(this)), m_dimmer(new Dimmer(this)),
       m_wantedLook(wantedLook(context.preferences))
 {
-    QPixmapCache::setCacheLimit(kPictureCache);
     setFixedSize(screen);
     setAutoFillBackground(true);
     auto *layout = new QVBoxLayout(this);
@@ -102,6 +99,7 @@ void HeadUnit::openPage(const QString &name)
 
 void HeadUnit::setLook(Theme::Look look)
 {
+    m_theme.dropPictures(); // what is out of sight still has a copy
     m_theme = Theme(size(), look);
     QPalette colors = palette();
     colors.setColor(QPalette::Window, m_theme.ground);

@@ -8,7 +8,6 @@
 
 #include <QGuiApplication>
 #include <QPainter>
-#include <QPixmapCache>
 #include <QStyle>
 
 #include <algorithm>
@@ -180,25 +179,18 @@ QPixmap initialsDisc(const Theme &theme, int side, const QString &initials)
     constexpr int kHues = 8;
     constexpr int kHueStep = 360 / kHues;
     const QString key = QStringLiteral("disc %1 %2 %3").arg(side).arg(theme.look()).arg(initials);
-    QPixmap disc;
-    if (QPixmapCache::find(key, &disc))
-        return disc;
-    disc = QPixmap(side, side);
-    disc.fill(Qt::transparent);
-    const int hue = int(qHash(initials, 0) % kHues) * kHueStep;
-    QPainter painter(&disc);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor::fromHsv(hue, 150, theme.look() == Theme::Day ? 150 : 130));
-    painter.drawEllipse(disc.rect());
-    QFont font = theme.font(Theme::Body, true);
-    font.setPixelSize(side * 2 / 5);
-    painter.setFont(font);
-    painter.setPen(Qt::white);
-    painter.drawText(disc.rect(), Qt::AlignCenter, initials);
-    painter.end();
-    QPixmapCache::insert(key, disc);
-    return disc;
+    return theme.picture(key, {side, side}, [&](QPainter &painter) {
+        const QRect disc(0, 0, side, side);
+        const int hue = int(qHash(initials, 0) % kHues) * kHueStep;
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QColor::fromHsv(hue, 150, theme.look() == Theme::Day ? 150 : 130));
+        painter.drawEllipse(disc);
+        QFont font = theme.font(Theme::Body, true);
+        font.setPixelSize(side * 2 / 5);
+        painter.setFont(font);
+        painter.setPen(Qt::white);
+        painter.drawText(disc, Qt::AlignCenter, initials);
+    });
 }
 
 } // namespace headunit

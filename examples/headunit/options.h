@@ -2,10 +2,11 @@
 #ifndef HEADUNIT_OPTIONS_H
 #define HEADUNIT_OPTIONS_H
 
+#include "touchoptions.h"
+
+#include <QCommandLineParser>
 #include <QSize>
 #include <QString>
-
-class QStringList;
 
 namespace headunit
 {
@@ -22,6 +23,16 @@ struct Options {
     QString contactsFile;
     QString stationsFile;
     QString settingsFile;
+    QString logFile; ///< empty: the console
+    QString grabFile; ///< empty: none
+    QString tourFolder; ///< empty: no tour
+    bool isOnLoopbackOnly = false;
+
+private:
+    QCommandLineParser m_parser;
+
+public:
+    const TouchOptions touches{m_parser};
 };
 
 } // namespace headunit

@@ -33,6 +33,7 @@ StatusBar::StatusBar(const Preferences &preferences, QWidget *parent)
     connect(m_home, &SpIconButton::btnClicked, this, &StatusBar::homeWanted);
     connect(m_back, &SpIconButton::btnClicked, this, &StatusBar::backWanted);
     m_minute.setSingleShot(true);
+    m_minute.setTimerType(Qt::PreciseTimer); // a coarse one may be seconds late
     connect(&m_minute, &QTimer::timeout, this, [this] {
         showTime();
         emit minutePassed();

@@ -62,6 +62,7 @@ HomePage::HomePage(Context &context, QWidget *parent)
     }
     for (SpHomeIcon *tile : {m_ui->navigationTile, m_ui->cameraTile, m_ui->weatherTile})
         tile->setIsReady(false);
+    rollWhileShown(*m_ui->title);
     m_ui->cover->setImageAlpha(0);
     connectPlayer();
     HomePage::retranslate();

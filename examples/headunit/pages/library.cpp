@@ -33,7 +33,8 @@ Library::Library(Context &context, QWidget *parent)
     Library::retranslate();
 }
 
-Library::~Library() = default;
+// The tracks of a folder take leave of the player, which tells all rows; theirs are gone by then.
+Library::~Library() { delete m_folderTrackRows; }
 
 void Library::showAllTracks() { show(Content::AllTracks); }
 

@@ -42,6 +42,8 @@ RadioPage::RadioPage(Context &context, QWidget *parent)
     m_confirmation.setInterval(kConfirmation);
     connect(&m_confirmation, &QTimer::timeout, this,
             [this] { showPreset(std::exchange(m_stored, -1)); });
+    rollWhileShown(*m_ui->station);
+    rollWhileShown(*m_ui->radioText);
     connectTuner();
     connectKeys();
     showScale(context.settings.value(kScaleKey).toInt());

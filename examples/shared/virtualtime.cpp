@@ -22,7 +22,10 @@ constexpr qint64 kNsPerMinute = 60 * kNsPerSecond;
 constexpr qint64 kMonotonicStart = 6000 * kNsPerSecond; // a full minute, as the next one
 constexpr qint64 kRealStart = 1893456000 * kNsPerSecond; // 2030-01-01 00:00:00 UTC
 
-qint64 elapsedNs = 0; // written by the main thread only
+// Written by the main thread only.
+bool isStarted = false;
+int standstills = 0;
+qint64 elapsedNs = 0;
 
 bool isMainThread()
 {
@@ -54,7 +57,7 @@ qint64 untilDue(const timespec &timeout)
 
 int virtualPoll(pollfd *fds, nfds_t count, const timespec *timeout, const sigset_t *mask)
 {
-    if (!isMainThread() || !timeout)
+    if (!isStarted || !isMainThread() || !timeout || standstills > 0)
         return waitFor(fds, count, timeout, mask);
     const timespec atOnce = {};
     const int ready = waitFor(fds, count, &atOnce, mask);
@@ -65,6 +68,8 @@ int virtualPoll(pollfd *fds, nfds_t count, const timespec *timeout, const sigset
 
 } // namespace
 
+// The C library's own names of the parameters are reserved ones.
+// NOLINTBEGIN(readability-inconsistent-declaration-parameter-name)
 extern "C" {
 
 Q_DECL_EXPORT int clock_gettime(clockid_t clock, timespec *time) noexcept
@@ -72,7 +77,7 @@ Q_DECL_EXPORT int clock_gettime(clockid_t clock, timespec *time) noexcept
     const bool isReal = clock == CLOCK_REALTIME || clock == CLOCK_REALTIME_COARSE;
     const bool isMonotonic = clock == CLOCK_MONOTONIC || clock == CLOCK_MONOTONIC_COARSE
         || clock == CLOCK_MONOTONIC_RAW || clock == CLOCK_BOOTTIME;
-    if ((!isReal && !isMonotonic) || !isMainThread())
+    if (!isStarted || (!isReal && !isMonotonic) || !isMainThread())
         return int(syscall(SYS_clock_gettime, clock, time));
     *time = toTimespec((isReal ? kRealStart : kMonotonicStart) + elapsedNs);
     return 0;
@@ -100,9 +105,16 @@ Q_DECL_EXPORT int __ppoll_chk(pollfd *fds, nfds_t count, const timespec *timeout
 }
 
 } // extern "C"
+// NOLINTEND(readability-inconsistent-declaration-parameter-name)
 
 namespace virtualtime
 {
+
+void start() { isStarted = true; }
+
+Standstill::Standstill() { ++standstills; }
+
+Standstill::~Standstill() { --standstills; }
 
 qint64 now() { return elapsedNs / kNsPerMs; }
 
