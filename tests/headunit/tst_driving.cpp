@@ -168,8 +168,7 @@ void DrivingTest::onlyTheClockTicks()
 }
 
 // Some minutes, or as many as the environment says. The first hour, or most of a shorter time, has
-// brought everything on the screen once. There may be less at the end, by a picture of the whole
-// screen that nobody needs at the moment.
+// brought everything on the screen once. Less at the end is no leak.
 void DrivingTest::memoryDoesNotGrowAfterTheFirstPart()
 {
     const int asked = qEnvironmentVariableIntValue("PANELKIT_DRIVE_MINUTES");

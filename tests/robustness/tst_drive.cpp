@@ -24,7 +24,13 @@ namespace
 {
 
 constexpr int kSteps = 2000;
-constexpr int kSeeds = 8;
+constexpr int kSeeds = 4;
+// The sanitizers look at other drives than those that run without them.
+#ifdef __SANITIZE_ADDRESS__
+constexpr int kFirstSeed = kSeeds + 1;
+#else
+constexpr int kFirstSeed = 1;
+#endif
 
 using Create = std::function<QObject *(QWidget *)>;
 
@@ -316,7 +322,7 @@ private slots:
         QTest::addColumn<Create>("create");
         QTest::addColumn<int>("seed");
         const auto add = [](const char *name, const Create &create) {
-            for (int seed = 1; seed <= kSeeds; ++seed)
+            for (int seed = kFirstSeed; seed < kFirstSeed + kSeeds; ++seed)
                 QTest::addRow("%s %d", name, seed) << create << seed;
         };
 #define DRIVE_ROW(Class, create) add(#Class, [](QWidget *parent) -> QObject * { return create; });
