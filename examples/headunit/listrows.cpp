@@ -166,6 +166,10 @@ void dressList(SpTableList &list, const Theme &theme)
     list.setFocusPolicy(Qt::NoFocus);
     list.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list.viewport()->setAutoFillBackground(false);
+    // What is pressed is in the faces of the rows; a style marks the row touched last besides.
+    QPalette palette = list.palette();
+    palette.setBrush(QPalette::Highlight, Qt::transparent);
+    list.setPalette(palette);
     const QSize row(list.width(), std::max(theme.touch(), theme.px(kRowUnits)));
     list.setItemHeight(row.height());
     list.setItemWidth(row.width());
