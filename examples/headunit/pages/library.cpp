@@ -75,13 +75,16 @@ void Library::show(Content content)
 {
     m_content = content;
     const bool isAll = content == Content::AllTracks;
-    m_ui->list->deleteSelectionModel();
+    QAbstractItemModel *rows = m_folderTrackRows;
     if (isAll)
-        m_ui->list->setModel(m_allRows);
+        rows = m_allRows;
     else if (content == Content::Folders)
-        m_ui->list->setModel(m_folderRows);
-    else
-        m_ui->list->setModel(m_folderTrackRows);
+        rows = m_folderRows;
+    // Only another model brings the selection that shows what is pressed.
+    if (rows != m_ui->list->model()) {
+        m_ui->list->deleteSelectionModel();
+        m_ui->list->setModel(rows);
+    }
     m_ui->list->scrollToTop();
     m_ui->index->setVisible(isAll);
     if (isAll)
