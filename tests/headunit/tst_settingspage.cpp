@@ -151,6 +151,8 @@ private slots:
     void updateRunsToItsEnd();
     void updateIsCancelled();
     void fingerThatSlidesOffStartsNoUpdate();
+
+private slots: // of what only shows something
     void licenceIsShownWhole_data();
     void licenceIsShownWhole();
     void partsOfTheLicenceAreTurned();
