@@ -6,7 +6,6 @@
 
 #include <QAudioDeviceInfo>
 #include <QCoreApplication>
-#include <QKeyEvent>
 #include <QSoundEffect>
 #include <QTextStream>
 #include <QUrl>
@@ -16,32 +15,14 @@
 namespace headunit
 {
 
-namespace
-{
-
-bool isRequest(const QEvent *event)
-{
-    if (event->type() != QEvent::KeyPress)
-        return false;
-    const auto *key = static_cast<const QKeyEvent *>(event);
-    return key->key() == Qt::Key_Meta && key->text() == QLatin1String("beep");
-}
-
-} // namespace
-
 ClickSound::ClickSound(const Preferences *preferences, QObject *parent)
-    : QObject(parent), m_preferences(preferences)
+    : PressFeedback(parent), m_preferences(preferences)
 {
     QCoreApplication::instance()->installEventFilter(this);
-}
-
-bool ClickSound::eventFilter(QObject *watched, QEvent *event)
-{
-    if (!watched->isWidgetType() || !isRequest(event))
-        return QObject::eventFilter(watched, event);
-    if (m_preferences->isOn(Preferences::Option::KeyClicks))
-        play();
-    return true;
+    connect(this, &PressFeedback::requested, this, [this] {
+        if (m_preferences->isOn(Preferences::Option::KeyClicks))
+            play();
+    });
 }
 
 // The devices are asked for at the first click, which takes longer than a program should to start.

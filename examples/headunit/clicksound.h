@@ -2,7 +2,7 @@
 #ifndef HEADUNIT_CLICKSOUND_H
 #define HEADUNIT_CLICKSOUND_H
 
-#include <QObject>
+#include <pressfeedback.h>
 
 class QSoundEffect;
 
@@ -11,19 +11,13 @@ namespace headunit
 
 class Preferences;
 
-/**
- * Clicks when a widget is pressed, unless the settings say otherwise. Widgets ask for it by a key
- * event that they post to themselves; this takes it on its way there, as it would travel up through
- * the parents and be heard again.
- */
-class ClickSound : public QObject
+/// Clicks when a widget is pressed, unless the settings say otherwise.
+class ClickSound : public PressFeedback
 {
     Q_OBJECT
 
 public:
     explicit ClickSound(const Preferences *preferences, QObject *parent = nullptr);
-
-    bool eventFilter(QObject *watched, QEvent *event) override;
 
 signals:
     void clicked();
