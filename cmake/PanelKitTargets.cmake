@@ -10,6 +10,11 @@ target_compile_options(panelkit_warnings INTERFACE
 target_compile_definitions(panelkit_warnings INTERFACE
     QT_DEPRECATED_WARNINGS QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING)
 
+# The examples wait for fingers and for the library: optimising their own code more than this only
+# takes time.
+add_library(panelkit_examples INTERFACE)
+target_compile_options(panelkit_examples INTERFACE $<$<CONFIG:Release>:-O1>)
+
 # What nearly every source of the library includes, read once for all of them.
 set(PANELKIT_PRECOMPILED <QMouseEvent> <QPainter> <QPixmap> <QPointer> <QWidget>)
 

@@ -14,7 +14,9 @@ struct WidgetRow {
     QString className;
     const QMetaObject *type; // the nearest one that moc knows
     std::function<QWidget *(QWidget *parent)> create;
+    bool isMadeByUic; // has the constructor that uic calls, Class(QWidget *)
     QString header;
+    QString family;
     QString toolTip;
     QSize size; // px
     QStringList initialProperties; // "property=value"
@@ -36,13 +38,17 @@ public:
     QString includeFile() const override;
     QIcon icon() const override;
     bool isContainer() const override;
+    bool isInitialized() const override;
+    void initialize(QDesignerFormEditorInterface *core) override;
     QWidget *createWidget(QWidget *parent) override;
     QString domXml() const override;
 
 private:
     QString baseClassName() const;
+    void groupProperties(QDesignerFormEditorInterface *core, QWidget *widget) const;
 
     WidgetRow m_row;
+    bool m_isInitialized = false;
 };
 
 #endif // PANELKIT_DESIGNER_DESIGNERWIDGET_H

@@ -7,6 +7,8 @@
 
 #include <QVector>
 
+#include <type_traits>
+
 namespace
 {
 
@@ -21,7 +23,9 @@ QVector<WidgetRow> widgetTable()
     {QStringLiteral(#Class),                                                       \
      &Class::staticMetaObject,                                                     \
      [](QWidget *parent) -> QWidget * { return create; },                          \
+     std::is_constructible<Class, QWidget *>::value,                               \
      QStringLiteral(header),                                                       \
+     QStringLiteral(family),                                                       \
      QStringLiteral(toolTip),                                                      \
      {width, height},                                                              \
      assignments(QStringLiteral(initial))},

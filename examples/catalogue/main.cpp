@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "catalogue.h"
 #include "clicksound.h"
+#include "launch.h"
 #include "mainwindow.h"
 #include "playlist.h"
 #include "pressfeedback.h"
@@ -10,53 +11,11 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QFile>
-#include <QMutex>
-#include <QMutexLocker>
 
-#include <algorithm>
 #include <cstdio>
 
 namespace
 {
-
-// Only the window needs a screen; without another choice nothing else looks for one. The platform
-// is chosen before there is an application that could parse the command line.
-void preferNoScreen(int argc, char *argv[])
-{
-    const bool isWithoutWindow = std::any_of(argv + 1, argv + argc, [](const char *argument) {
-        const QByteArray option = QByteArray(argument).split('=').constFirst();
-        return QByteArrayList{"--tour", "--list", "--help", "-h"}.contains(option);
-    });
-    if (isWithoutWindow && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-}
-
-// What the log is written to instead of the console, up to the very end of the program.
-QFile &logFile()
-{
-    static auto *const file = new QFile;
-    return *file;
-}
-
-void writeToLogFile(QtMsgType type, const QMessageLogContext &context, const QString &message)
-{
-    static QMutex mutex; // sound and pictures are decoded in threads of their own
-    const QMutexLocker locker(&mutex);
-    logFile().write(qFormatLogMessage(type, context, message).toLocal8Bit() + '\n');
-    logFile().flush();
-}
-
-bool redirectLog(const QString &path)
-{
-    logFile().setFileName(path);
-    if (!logFile().open(QIODevice::WriteOnly | QIODevice::Truncate)) {
-        std::fprintf(stderr, "The log cannot be written to %s.\n", qUtf8Printable(path));
-        return false;
-    }
-    qInstallMessageHandler(writeToLogFile);
-    return true;
-}
 
 int listPages(const Catalogue &catalogue)
 {
@@ -89,7 +48,8 @@ int showWindow(MainWindow &window, const PressFeedback &feedback, const Page &fi
 
 int main(int argc, char *argv[])
 {
-    preferNoScreen(argc, argv);
+    if (launch::isGiven(argc, argv, {"--tour", "--list", "--help", "-h"}))
+        launch::preferNoScreen();
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("panelkit-catalogue"));
 
@@ -114,7 +74,7 @@ int main(int argc, char *argv[])
     const TouchOptions touches(parser);
     parser.addHelpOption();
     parser.process(app);
-    if (parser.isSet(logOption) && !redirectLog(parser.value(logOption)))
+    if (parser.isSet(logOption) && !launch::writeLogTo(parser.value(logOption)))
         return 1;
 
     const Catalogue catalogue;

@@ -42,6 +42,8 @@ ArcIndex::ArcIndex(QWidget *parent)
     : QWidget(parent), m_bar(new MArcScrollBar(this)), m_arc(new MArcList(this))
 {
     m_bar->setRange(0, kPlaces);
+    m_bar->setObjectName(QStringLiteral("bar"));
+    m_arc->setObjectName(QStringLiteral("arc"));
     connect(m_arc, &MArcList::itemClicked, this, &ArcIndex::goToLetter);
     // What the finger says and nothing else: the list's own places lie closer than the bar's.
     connect(m_bar, &MArcScrollBar::sliderMoved, this, &ArcIndex::goToPlace);

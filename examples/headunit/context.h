@@ -10,6 +10,7 @@ namespace headunit
 class Contacts;
 class MusicLibrary;
 class Player;
+class Preferences;
 class Tuner;
 
 /// What the pages show and work on.
@@ -19,6 +20,7 @@ struct Context {
     Player &player;
     Tuner &tuner;
     Contacts &contacts;
+    Preferences &preferences;
 };
 
 } // namespace headunit

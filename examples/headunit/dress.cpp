@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "dress.h"
 
+#include <mfocusbutton.h>
+#include <mhorslider.h>
 #include <monoffbutton.h>
 #include <spiconbutton.h>
+#include <sprollingtext.h>
 
+#include <QEvent>
 #include <QGuiApplication>
 #include <QLayout>
 #include <QPainter>
@@ -64,6 +68,43 @@ QPixmap switchKnob(const Theme &theme, int pill, const QColor &color)
     return pixmap;
 }
 
+class RollWhileShown : public QObject
+{
+public:
+    explicit RollWhileShown(SpRollingText &text) : QObject(&text), m_text(text)
+    {
+        text.setAutoRoll(text.isVisible());
+        text.installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Show || event->type() == QEvent::Hide)
+            m_text.setAutoRoll(event->type() == QEvent::Show);
+        return false;
+    }
+
+private:
+    SpRollingText &m_text;
+};
+
+// A dot on a disc: a knob in the middle of a picture that is as large as a finger needs.
+QPixmap sliderKnob(const Theme &theme, const QColor &color)
+{
+    const int touch = theme.touch();
+    QPixmap pixmap(touch, touch);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    const int size = theme.px(40);
+    painter.drawPixmap((touch - size) / 2, (touch - size) / 2,
+                       theme.panel({size, size}, color, QColor(), size / 2));
+    const int core = theme.px(12);
+    painter.drawPixmap((touch - core) / 2, (touch - core) / 2,
+                       theme.panel({core, core}, theme.onAccent, QColor(), core / 2));
+    return pixmap;
+}
+
 } // namespace
 
 void dressKey(SpIconButton &button, const Theme &theme, Theme::Style style, const QString &icon)
@@ -99,6 +140,34 @@ void dressPanel(QLabel &panel, const Theme &theme)
     panel.setPixmap(theme.panel(panel.size(), theme.face, theme.line, theme.radius()));
 }
 
+void dressChoice(MFocusButton &button, const Theme &theme, const QString &icon)
+{
+    const QSize size = button.size();
+    const Arrangement place = arranged(size, theme, !icon.isEmpty(), true);
+    button.setNormalImage(
+        theme.key(size, Theme::Key, Theme::Normal, icon, place.iconPx, place.rise));
+    button.setPressImage(
+        theme.key(size, Theme::Key, Theme::Selected, icon, place.iconPx, place.rise));
+    button.setNormalTextColor(theme.text);
+    button.setPressTextColor(theme.onAccent);
+    button.setFontSize(theme.textPx(icon.isEmpty() ? Theme::Body : Theme::Small));
+    button.setdisplayTextRect(place.caption);
+    button.update();
+}
+
+// The groove is as wide as the slider; what is seen of it is a bar in its middle.
+void dressSlider(MHorSlider &slider, const Theme &theme, int width)
+{
+    const int bar = theme.px(10);
+    const auto groove = [&](const QColor &color) {
+        return theme.panel({width, bar}, color, QColor(), bar / 2);
+    };
+    slider.setSliderNormalImage(groove(grooveColor(theme)));
+    slider.setSliderPressImage(groove(theme.accent));
+    slider.setPointNormalImage(sliderKnob(theme, theme.accent));
+    slider.setPointPressImage(sliderKnob(theme, theme.accent.darker(125)));
+}
+
 QColor grooveColor(const Theme &theme)
 {
     QColor color = theme.quietText;
@@ -117,6 +186,8 @@ void dressSwitch(MOnOffButton &button, const Theme &theme)
     button.setNormalChunkPix(switchKnob(theme, pill, Qt::white));
     button.setPressChunkPix(switchKnob(theme, pill, Qt::white));
 }
+
+void rollWhileShown(SpRollingText &text) { new RollWhileShown(text); }
 
 void dressLabel(QLabel &label, const Theme &theme, Theme::TextSize size, bool quiet)
 {

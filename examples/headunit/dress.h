@@ -7,8 +7,11 @@
 #include <QLabel>
 #include <QString>
 
+class MFocusButton;
+class MHorSlider;
 class MOnOffButton;
 class SpIconButton;
+class SpRollingText;
 
 // What pages do to the widgets of their forms, which have layouts, names and texts but no pictures.
 // A widget is dressed at the size that it has in its layout, so a page does this in dress().
@@ -25,11 +28,21 @@ void dressKey(SpIconButton &button, const Theme &theme, Theme::Style style,
 /// free of a size of its own: its size policy is to be "Ignored".
 void dressPanel(QLabel &panel, const Theme &theme);
 
+/// Gives one of several choices its faces: it stays down while it is the one. An icon stands above
+/// the caption.
+void dressChoice(MFocusButton &button, const Theme &theme, const QString &icon = {});
+
+/// Gives a slider so wide a bar and a knob for a finger.
+void dressSlider(MHorSlider &slider, const Theme &theme, int width);
+
 /// The colour of the part of a slider that is not filled.
 QColor grooveColor(const Theme &theme);
 
 /// Gives a switch a track and a knob in the colours of the look, and room for a finger.
 void dressSwitch(MOnOffButton &button, const Theme &theme);
+
+/// Has a text that is too long roll while it can be seen; hidden, it would go on ticking.
+void rollWhileShown(SpRollingText &text);
 
 /// Gives a label a font and a colour.
 void dressLabel(QLabel &label, const Theme &theme, Theme::TextSize size, bool quiet = false);

@@ -14,6 +14,7 @@ class SpBackgroundImage;
 namespace headunit
 {
 
+class Dimmer;
 class Page;
 class Popup;
 class StatusBar;
@@ -24,12 +25,15 @@ class HeadUnit : public QWidget
     Q_OBJECT
 
 public:
+    /// Begins with a look; the settings may ask for another.
     HeadUnit(Context &context, const QSize &screen, Theme::Look look, QWidget *parent = nullptr);
 
     /// The names of the pages, the home page first.
     QStringList pageNames() const { return m_names; }
     QString currentPage() const;
     QWidget *page(const QString &name) const;
+    /// The look that the settings ask for at this time of day.
+    static Theme::Look wantedLook(const Preferences &preferences);
 
 public slots:
     void openPage(const QString &name);
@@ -41,10 +45,13 @@ signals:
     void pageOpened(const QString &name);
 
 protected:
+    bool event(QEvent *e) override;
     void resizeEvent(QResizeEvent *e) override;
 
 private:
     void addPage(const QString &name, Page *page);
+    void followPreferences();
+    void followTheSun();
     void goBack();
     void showTitle();
 
@@ -54,6 +61,8 @@ private:
     StatusBar *m_statusBar;
     QStackedWidget *m_stack;
     Popup *m_popup;
+    Dimmer *m_dimmer;
+    Theme::Look m_wantedLook;
     QStringList m_names;
     QMap<QString, Page *> m_pages;
 };

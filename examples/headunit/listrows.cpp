@@ -2,12 +2,12 @@
 #include "listrows.h"
 
 #include "dress.h"
+#include "texts.h"
 
 #include <sptablelist.h>
 
 #include <QGuiApplication>
 #include <QPainter>
-#include <QPixmapCache>
 #include <QStyle>
 
 #include <algorithm>
@@ -47,8 +47,8 @@ int lineHeight(const Theme &theme, Theme::TextSize size) { return theme.textPx(s
 // A line that begins where the language begins, shortened to its room.
 void drawLine(QPainter &painter, const QRect &area, const QString &text)
 {
-    const QString shown = painter.fontMetrics().elidedText(text, Qt::ElideRight, area.width());
-    painter.drawText(area, int(leadingAlignment()) | Qt::TextSingleLine, shown);
+    painter.drawText(area, int(leadingAlignment()) | Qt::TextSingleLine,
+                     shortened(text, painter.fontMetrics(), area.width()));
 }
 
 QPixmap pressedFace(const QSize &size, const Theme &theme)
@@ -80,6 +80,11 @@ void RowsOfModel::refresh(int row)
 
 void RowList::setRows(const QVector<ListRow> &rows)
 {
+    if (!rows.isEmpty() && rows.size() == m_rows.size()) {
+        m_rows = rows;
+        emit dataChanged(index(0), index(rows.size() - 1));
+        return;
+    }
     beginResetModel();
     m_rows = rows;
     endResetModel();
@@ -132,7 +137,7 @@ int RowPainter::drawPicture(QPainter &painter, const QRect &whole, const ListRow
 void RowPainter::drawTexts(QPainter &painter, const QRect &whole, int left,
                            const ListRow &row) const
 {
-    int right = whole.right() + 1 - m_theme.gap();
+    int right = whole.right() + 1 - m_theme.gap() - row.room;
     painter.setFont(m_theme.font(Theme::Small));
     painter.setPen(m_theme.quietText);
     if (!row.tail.isEmpty()) {
@@ -161,6 +166,10 @@ void dressList(SpTableList &list, const Theme &theme)
     list.setFocusPolicy(Qt::NoFocus);
     list.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list.viewport()->setAutoFillBackground(false);
+    // What is pressed is in the faces of the rows; a style marks the row touched last besides.
+    QPalette palette = list.palette();
+    palette.setBrush(QPalette::Highlight, Qt::transparent);
+    list.setPalette(palette);
     const QSize row(list.width(), std::max(theme.touch(), theme.px(kRowUnits)));
     list.setItemHeight(row.height());
     list.setItemWidth(row.width());
@@ -174,25 +183,18 @@ QPixmap initialsDisc(const Theme &theme, int side, const QString &initials)
     constexpr int kHues = 8;
     constexpr int kHueStep = 360 / kHues;
     const QString key = QStringLiteral("disc %1 %2 %3").arg(side).arg(theme.look()).arg(initials);
-    QPixmap disc;
-    if (QPixmapCache::find(key, &disc))
-        return disc;
-    disc = QPixmap(side, side);
-    disc.fill(Qt::transparent);
-    const int hue = int(qHash(initials, 0) % kHues) * kHueStep;
-    QPainter painter(&disc);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor::fromHsv(hue, 150, theme.look() == Theme::Day ? 150 : 130));
-    painter.drawEllipse(disc.rect());
-    QFont font = theme.font(Theme::Body, true);
-    font.setPixelSize(side * 2 / 5);
-    painter.setFont(font);
-    painter.setPen(Qt::white);
-    painter.drawText(disc.rect(), Qt::AlignCenter, initials);
-    painter.end();
-    QPixmapCache::insert(key, disc);
-    return disc;
+    return theme.picture(key, {side, side}, [&](QPainter &painter) {
+        const QRect disc(0, 0, side, side);
+        const int hue = int(qHash(initials, 0) % kHues) * kHueStep;
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QColor::fromHsv(hue, 150, theme.look() == Theme::Day ? 150 : 130));
+        painter.drawEllipse(disc);
+        QFont font = theme.font(Theme::Body, true);
+        font.setPixelSize(side * 2 / 5);
+        painter.setFont(font);
+        painter.setPen(Qt::white);
+        painter.drawText(disc, Qt::AlignCenter, initials);
+    });
 }
 
 } // namespace headunit

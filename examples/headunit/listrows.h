@@ -24,6 +24,7 @@ struct ListRow {
     QString title;
     QString detail;
     QString tail;
+    int room = 0; ///< px at the other end that stay free, for a widget that lies there
     bool isMarked = false; ///< in the colour of what is going on
 };
 
@@ -55,6 +56,7 @@ class RowList : public QAbstractListModel
 public:
     using QAbstractListModel::QAbstractListModel;
 
+    /// As many rows as there were change in place, and keep the widgets that lie on them.
     void setRows(const QVector<ListRow> &rows);
 
     int rowCount(const QModelIndex &parent = {}) const override;

@@ -2,10 +2,11 @@
 #ifndef HEADUNIT_OPTIONS_H
 #define HEADUNIT_OPTIONS_H
 
+#include "touchoptions.h"
+
+#include <QCommandLineParser>
 #include <QSize>
 #include <QString>
-
-class QStringList;
 
 namespace headunit
 {
@@ -17,10 +18,21 @@ struct Options {
 
     QSize size{1024, 600}; ///< px, of the screen
     bool isNight = false;
+    QString language; ///< empty: that of the settings
     QString musicFolder;
     QString contactsFile;
     QString stationsFile;
     QString settingsFile;
+    QString logFile; ///< empty: the console
+    QString grabFile; ///< empty: none
+    QString tourFolder; ///< empty: no tour
+    bool isOnLoopbackOnly = false;
+
+private:
+    QCommandLineParser m_parser;
+
+public:
+    const TouchOptions touches{m_parser};
 };
 
 } // namespace headunit

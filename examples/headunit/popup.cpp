@@ -6,6 +6,7 @@
 
 #include <spiconbutton.h>
 
+#include <QEvent>
 #include <QVBoxLayout>
 
 namespace headunit
@@ -28,6 +29,7 @@ Popup::Popup(QWidget *parent)
     layout->addWidget(m_close, 0, Qt::AlignHCenter);
     connect(m_close, &SpIconButton::btnClicked, this, &Popup::showNext);
     connect(this, &SpMaskBackground::clicked, this, &Popup::showNext);
+    retranslate();
     hide();
 }
 
@@ -40,7 +42,6 @@ void Popup::setTheme(const Theme &theme)
                                           theme.margin());
     dressLabel(*m_title, theme, Theme::Title);
     dressLabel(*m_sentence, theme, Theme::Body);
-    m_close->setDisplayText(tr("Close"));
     m_close->setFixedSize(theme.px(220), theme.touch());
     dressKey(*m_close, theme, Theme::Primary);
     place();
@@ -51,6 +52,13 @@ void Popup::say(const QString &title, const QString &sentence)
     m_waiting.append({title, sentence});
     if (!isVisible())
         showNext();
+}
+
+void Popup::changeEvent(QEvent *e)
+{
+    SpMaskBackground::changeEvent(e);
+    if (e->type() == QEvent::LanguageChange)
+        retranslate();
 }
 
 void Popup::resizeEvent(QResizeEvent *e)
@@ -67,8 +75,9 @@ void Popup::showNext()
     const auto next = m_waiting.takeFirst();
     m_title->setText(next.first);
     m_sentence->setText(next.second);
-    raise();
 }
+
+void Popup::retranslate() { m_close->setDisplayText(tr("Close")); }
 
 void Popup::place() { m_panel->move(rect().center() - m_panel->rect().center()); }
 

@@ -26,11 +26,13 @@ public:
     void say(const QString &title, const QString &sentence);
 
 protected:
+    void changeEvent(QEvent *e) override;
     void resizeEvent(QResizeEvent *e) override;
 
 private:
     void showNext();
     void place();
+    void retranslate();
 
     QLabel *m_panel;
     QLabel *m_title;

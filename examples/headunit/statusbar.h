@@ -11,15 +11,17 @@ class SpIconButton;
 namespace headunit
 {
 
+class Preferences;
 class Theme;
 
-/// The strip above every page: the way back and home, what page this is, and the time of day.
+/// The strip above every page: the way back and home, what page this is, the date and the time of
+/// day.
 class StatusBar : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit StatusBar(QWidget *parent = nullptr);
+    explicit StatusBar(const Preferences &preferences, QWidget *parent = nullptr);
 
     void setTheme(const Theme &theme);
     void setTitle(const QString &title);
@@ -29,13 +31,19 @@ public:
 signals:
     void homeWanted();
     void backWanted();
+    void minutePassed();
+
+protected:
+    void changeEvent(QEvent *e) override;
 
 private:
     void showTime();
 
+    const Preferences &m_preferences;
     SpIconButton *m_home;
     SpIconButton *m_back;
     QLabel *m_title;
+    QLabel *m_date;
     QLabel *m_clock;
     QTimer m_minute;
 };

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "texts.h"
 
+#include <QFontMetrics>
+
 #include <algorithm>
 
 namespace headunit
@@ -24,6 +26,16 @@ QString numberText(const QString &number)
     constexpr ushort kLeftToRight = 0x202a;
     constexpr ushort kEnd = 0x202c;
     return number.isEmpty() ? number : QChar(kLeftToRight) + number + QChar(kEnd);
+}
+
+QString shortened(const QString &text, const QFontMetrics &metrics, int width)
+{
+    constexpr ushort kLeftToRightMark = 0x200e;
+    constexpr ushort kRightToLeftMark = 0x200f;
+    const QString shown = metrics.elidedText(text, Qt::ElideRight, width);
+    if (shown == text)
+        return text;
+    return shown + QChar(text.isRightToLeft() ? kRightToLeftMark : kLeftToRightMark);
 }
 
 } // namespace headunit

@@ -4,6 +4,8 @@
 
 #include <QString>
 
+class QFontMetrics;
+
 namespace headunit
 {
 
@@ -12,6 +14,10 @@ QString timeText(qint64 seconds);
 
 /// A telephone number as it is dialled, also among words that are read from the right.
 QString numberText(const QString &number);
+
+/// A text shortened to so many px. The dots stand where the text goes on, also among words that are
+/// read from the other side.
+QString shortened(const QString &text, const QFontMetrics &metrics, int width);
 
 } // namespace headunit
 

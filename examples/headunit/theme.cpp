@@ -2,7 +2,6 @@
 #include "theme.h"
 
 #include <QPainter>
-#include <QPixmapCache>
 #include <QSvgRenderer>
 
 #include <algorithm>
@@ -20,23 +19,7 @@ namespace
 
 constexpr double kUnits = 600; // of the screen's height
 constexpr int kLeastTouch = 57; // px, 9 mm at 160 dpi
-
-// Renders once what is asked for again, on every page that shows it.
-template <typename Render>
-QPixmap cached(const QString &key, const QSize &size, const Render &render)
-{
-    QPixmap pixmap;
-    if (size.isEmpty() || QPixmapCache::find(key, &pixmap))
-        return pixmap;
-    pixmap = QPixmap(size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    render(painter);
-    painter.end();
-    QPixmapCache::insert(key, pixmap);
-    return pixmap;
-}
+constexpr int kPictures = 64 * 1024; // KiB, more than all of one look
 
 QString sizeKey(const QSize &size)
 {
@@ -45,7 +28,9 @@ QString sizeKey(const QSize &size)
 
 } // namespace
 
-Theme::Theme(const QSize &screen, Look look) : m_screen(screen), m_look(look)
+Theme::Theme(const QSize &screen, Look look)
+    : m_screen(screen), m_look(look),
+      m_pictures(std::make_shared<QCache<QString, QPixmap>>(kPictures))
 {
     initialiseArt();
     const bool isDay = look == Day;
@@ -81,11 +66,29 @@ QFont Theme::font(TextSize size, bool bold) const
 
 QString Theme::file(const QString &name) { return QStringLiteral(":/panelkit/headunit/") + name; }
 
+QPixmap Theme::picture(const QString &key, const QSize &size,
+                       const std::function<void(QPainter &)> &paint) const
+{
+    if (size.isEmpty())
+        return {};
+    if (const QPixmap *known = m_pictures->object(key))
+        return *known;
+    QPixmap pixmap(size);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    paint(painter);
+    painter.end();
+    const int cost = int(qint64(size.width()) * size.height() * pixmap.depth() / 8 / 1024) + 1;
+    m_pictures->insert(key, new QPixmap(pixmap), cost);
+    return pixmap;
+}
+
 QPixmap Theme::icon(const QString &name, int px, const QColor &color) const
 {
     const QSize size(px, px);
     const QString key = QStringLiteral("icon %1 %2 %3").arg(name).arg(px).arg(color.rgba());
-    return cached(key, size, [&](QPainter &painter) {
+    return picture(key, size, [&](QPainter &painter) {
         QSvgRenderer(file(name + QStringLiteral(".svg"))).render(&painter);
         painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
         painter.fillRect(QRect(QPoint(), size), color);
@@ -95,7 +98,7 @@ QPixmap Theme::icon(const QString &name, int px, const QColor &color) const
 QPixmap Theme::drawing(const QString &name, const QSize &size) const
 {
     const QString key = QStringLiteral("drawing %1 %2").arg(name, sizeKey(size));
-    return cached(key, size, [&](QPainter &painter) {
+    return picture(key, size, [&](QPainter &painter) {
         QSvgRenderer drawing(file(name + QStringLiteral(".svg")));
         drawing.setAspectRatioMode(Qt::KeepAspectRatioByExpanding);
         drawing.render(&painter);
@@ -124,7 +127,7 @@ QPixmap Theme::panel(const QSize &size, const QColor &fill, const QColor &border
                             .arg(fill.rgba())
                             .arg(border.isValid() ? border.rgba() : 0)
                             .arg(radius);
-    return cached(key, size, [&](QPainter &painter) {
+    return picture(key, size, [&](QPainter &painter) {
         painter.setPen(border.isValid() ? QPen(border, 1) : QPen(Qt::NoPen));
         painter.setBrush(fill);
         painter.drawRoundedRect(QRectF(QPointF(), size).adjusted(0.5, 0.5, -0.5, -0.5), radius,
@@ -169,7 +172,7 @@ QPixmap Theme::key(const QSize &size, Style style, State state, const QString &i
     const QString key =
         QStringLiteral("key %1 %2 %3 %4").arg(blank.cacheKey()).arg(icon).arg(iconPx).arg(rise)
         + QString::number(ink(style, state).rgba());
-    return cached(key, size, [&](QPainter &painter) {
+    return picture(key, size, [&](QPainter &painter) {
         painter.drawPixmap(0, 0, blank);
         painter.drawPixmap((size.width() - iconPx) / 2, (size.height() - iconPx) / 2 - rise,
                            this->icon(icon, iconPx, ink(style, state)));

@@ -2,12 +2,18 @@
 #ifndef HEADUNIT_THEME_H
 #define HEADUNIT_THEME_H
 
+#include <QCache>
 #include <QColor>
 #include <QFont>
 #include <QImage>
 #include <QPixmap>
 #include <QSize>
 #include <QString>
+
+#include <functional>
+#include <memory>
+
+class QPainter;
 
 namespace headunit
 {
@@ -57,6 +63,12 @@ public:
     QColor danger;
     QColor veil; ///< over a page under a popup
 
+    /// A picture that starts out transparent and is painted once, however often it is asked for;
+    /// the key tells it from all others. Copies of the theme share what is painted.
+    QPixmap picture(const QString &key, const QSize &size,
+                    const std::function<void(QPainter &)> &paint) const;
+    /// Lets go of what is painted, for all copies: another look follows.
+    void dropPictures() const { m_pictures->clear(); }
     /// An icon of art/, tinted.
     QPixmap icon(const QString &name, int px, const QColor &color) const;
     /// A drawing of art/ as it is.
@@ -80,6 +92,8 @@ private:
 
     QSize m_screen;
     Look m_look;
+    // Qt's own cache would wake up for minutes to see whether it can let go of something.
+    std::shared_ptr<QCache<QString, QPixmap>> m_pictures;
 };
 
 } // namespace headunit

@@ -6,6 +6,7 @@
 #include "models/contacts.h"
 #include "models/musiclibrary.h"
 #include "models/player.h"
+#include "models/preferences.h"
 #include "models/stations.h"
 #include "models/trackmodel.h"
 #include "models/tuner.h"
@@ -25,7 +26,8 @@ struct PageWorld {
     headunit::Stations stations;
     headunit::Tuner tuner{&stations, &settings};
     headunit::Contacts contacts;
-    headunit::Context context{settings, music, player, tuner, contacts};
+    headunit::Preferences preferences{&settings};
+    headunit::Context context{settings, music, player, tuner, contacts, preferences};
     QWidget screen; ///< what the page lies on
 };
 
@@ -45,30 +47,41 @@ class Activity : public QObject
 public:
     Activity() { qApp->installEventFilter(this); }
 
-    QStringList happened;
+    /// Without the timer that has ended the last wait.
+    QString text()
+    {
+        const int end = m_happened.lastIndexOf(QStringLiteral("Timer QTimer"));
+        if (end >= 0)
+            m_happened.removeAt(end);
+        return m_happened.join(QStringLiteral(", "));
+    }
 
 protected:
     bool eventFilter(QObject *object, QEvent *event) override
     {
-        const QString name = QLatin1String(object->metaObject()->className());
+        const QObject *parent = object->parent();
+        const QString name = QLatin1String(object->metaObject()->className())
+            + (parent ? QLatin1String(" of ") + parent->metaObject()->className() : QString());
         if (event->type() == QEvent::Timer)
-            happened += QStringLiteral("Timer ") + name;
+            m_happened += QStringLiteral("Timer ") + name;
         else if (event->type() == QEvent::Paint)
-            happened += QStringLiteral("Paint ") + name;
+            m_happened += QStringLiteral("Paint ") + name;
         return false;
     }
+
+private:
+    QStringList m_happened;
 };
 
-/// What happens in a minute in which nobody does anything. Qt's cache of pictures has let go by
-/// then of what is not shown any more, which it does by a timer.
+/// What happens in a minute in which nobody does anything, after one in which everything has come
+/// to rest.
 inline QString happenedWhileIdle()
 {
     constexpr int kMinute = 60'000; // ms
-    virtualtime::advance(10 * kMinute);
+    virtualtime::advance(kMinute);
     Activity activity;
     virtualtime::advance(kMinute);
-    activity.happened.removeOne(QStringLiteral("Timer QTimer")); // that ends the wait
-    return activity.happened.join(QStringLiteral(", "));
+    return activity.text();
 }
 
 #endif // PAGETEST_H

@@ -77,6 +77,7 @@ class tst_MediaPage : public WidgetTest
     Q_OBJECT
 
 private slots:
+    void fingerThatRestsShowsItsRowPressed();
     void tapOnARowPlaysIt();
     void playingRowIsMarked();
     void dragOfTheBarSeeks();
@@ -90,6 +91,21 @@ private slots:
     void animationMovesOnlyWhileMusicPlays();
     void nothingHappensWhileIdle();
 };
+
+void tst_MediaPage::fingerThatRestsShowsItsRowPressed()
+{
+    Media media;
+    media.openTracks();
+    media.openTracks(); // as often as one likes
+    auto *list = media.child<SpTableList>("list");
+    const QRect row = list->visualRect(list->model()->index(1, 0));
+    const auto picture = [&] { return list->viewport()->grab(row).toImage(); };
+    const QImage resting = picture();
+    Touch finger = touch(list->viewport());
+    finger.press(row.center()).hold(700);
+    QVERIFY(picture() != resting);
+    finger.release();
+}
 
 void tst_MediaPage::tapOnARowPlaysIt()
 {

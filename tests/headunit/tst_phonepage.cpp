@@ -62,6 +62,15 @@ struct Phone : PageWorld {
         for (const char digit : digits)
             tap(QByteArray("key_") + digit);
     }
+    void startMusic()
+    {
+        Track track;
+        track.path = folder.filePath(QStringLiteral("contacts.vcf")); // a file that there is
+        track.seconds = 100;
+        music.tracks()->setTracks({track});
+        player.setModel(music.tracks());
+        player.play();
+    }
     // Without the marks that keep it in its direction.
     QString number()
     {
@@ -87,9 +96,11 @@ private slots:
     void tapOnAContactCalls();
     void favouriteIsCalledWhereTheFingerIsLifted();
     void callKeyWithoutANumberDoesNothing();
+    void keypadIsAsBeforeAfterACall();
     void letterScrollsTheContacts();
     void recentNumbersPersist();
     void musicPausesDuringACall();
+    void musicGoesOnWhereTheSettingsSaySo();
     void backLeadsFromTheKeypadToTheCall();
     void nothingHappensWhileIdle();
 };
@@ -172,6 +183,23 @@ void tst_PhonePage::callKeyWithoutANumberDoesNothing()
     QVERIFY(!phone.isCallShown());
 }
 
+// During a call it has more room, and wider keys.
+void tst_PhonePage::keypadIsAsBeforeAfterACall()
+{
+    Phone phone;
+    phone.open(KeypadKey);
+    const QRect callKey = phone.child<QWidget>("callKey")->geometry();
+    const QRect deleteKey = phone.child<QWidget>("deleteKey")->geometry();
+    phone.write("555");
+    phone.tap("callKey");
+    phone.tap("keypadKey");
+    QVERIFY(phone.child<QWidget>("callKey")->width() > callKey.width());
+    phone.tap("callKey"); // hangs up
+    virtualtime::advance(0);
+    QCOMPARE(phone.child<QWidget>("callKey")->geometry(), callKey);
+    QCOMPARE(phone.child<QWidget>("deleteKey")->geometry(), deleteKey);
+}
+
 void tst_PhonePage::letterScrollsTheContacts()
 {
     Phone phone;
@@ -198,18 +226,27 @@ void tst_PhonePage::recentNumbersPersist()
 void tst_PhonePage::musicPausesDuringACall()
 {
     Phone phone;
-    Track track;
-    track.path = phone.folder.filePath(QStringLiteral("contacts.vcf")); // a file that there is
-    track.seconds = 100;
-    phone.music.tracks()->setTracks({track});
-    phone.player.setModel(phone.music.tracks());
-    phone.player.play();
+    phone.startMusic();
     phone.open(KeypadKey);
     phone.write("555");
     phone.tap("callKey");
     QVERIFY(!phone.player.isPlaying());
     phone.tap("hangUpKey");
     QVERIFY(phone.player.isPlaying());
+}
+
+void tst_PhonePage::musicGoesOnWhereTheSettingsSaySo()
+{
+    Phone phone;
+    phone.preferences.setOn(Preferences::Option::CallsPauseMusic, false);
+    phone.startMusic();
+    phone.open(KeypadKey);
+    phone.write("555");
+    phone.tap("callKey");
+    QVERIFY(phone.player.isPlaying());
+    phone.player.pause();
+    phone.tap("hangUpKey");
+    QVERIFY(!phone.player.isPlaying());
 }
 
 void tst_PhonePage::backLeadsFromTheKeypadToTheCall()

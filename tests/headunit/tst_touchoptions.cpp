@@ -5,7 +5,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-/// The catalogue itself, with the options of the command line and the true clock.
+/// The programs themselves, with the options of the command line and the true clock.
 class TouchOptionsTest : public WidgetTest
 {
     Q_OBJECT
@@ -16,10 +16,10 @@ private:
         QString errors;
         QString lastLine() const { return errors.section(QLatin1Char('\n'), -2); }
     };
-    Ending run(const QStringList &arguments)
+    Ending run(const QStringList &arguments, const QString &program = QStringLiteral(CATALOGUE))
     {
         QProcess process;
-        process.start(QStringLiteral(CATALOGUE), arguments);
+        process.start(program, arguments);
         process.waitForFinished(-1);
         return {process.exitCode(), QString::fromUtf8(process.readAllStandardError())};
     }
@@ -34,6 +34,8 @@ private:
     const QTemporaryDir m_directory;
 
 private slots:
+    void initTestCase() { qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_directory.path())); }
+    void replayGivesTheSameLogWithTheTrueClock_data();
     void replayGivesTheSameLogWithTheTrueClock();
     void fileCanBeReplayedAndRecordedAnewAtOnce();
     void badFileEndsTheProgramWithASentence();
@@ -63,13 +65,26 @@ QList<QByteArray> withoutTimes(const QList<QByteArray> &lines)
 
 } // namespace
 
+void TouchOptionsTest::replayGivesTheSameLogWithTheTrueClock_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::addColumn<QByteArray>("size");
+    QTest::newRow("catalogue") << CATALOGUE << QByteArray("1280x800");
+#ifdef HEADUNIT
+    QTest::newRow("head unit") << HEADUNIT << QByteArray("1024x600");
+#endif
+}
+
 // How late a line may come depends on what else the machine does; early it never is.
 void TouchOptionsTest::replayGivesTheSameLogWithTheTrueClock()
 {
-    const QString played = writtenFile(path(QStringLiteral("played")), kTouches);
+    QFETCH(QString, program);
+    QFETCH(QByteArray, size);
+    const QString played =
+        writtenFile(path(QStringLiteral("played")), QByteArray(kTouches).replace("1280x800", size));
     const QString log = path(QStringLiteral("log"));
     const Ending ending =
-        run({QStringLiteral("--replay"), played, QStringLiteral("--touch-log"), log});
+        run({QStringLiteral("--replay"), played, QStringLiteral("--touch-log"), log}, program);
     QVERIFY2(ending.code == 0, qPrintable(ending.errors));
     const QList<QByteArray> first = lines(played);
     const QList<QByteArray> second = lines(log);

@@ -1,48 +1,36 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: Apache-2.0
 # What a customer does with PanelKit: installs a build, looks at what came, builds the smallest
-# application against it with CMake and with pkg-config, runs both and touches their button.
+# application against it with CMake, with pkg-config and with qmake, runs each and touches its button.
 #
 # usage: consumer.sh BUILD_DIR [CXX]
-#
-# shellcheck disable=SC2046 # what pkg-config prints is meant to be split into words
 set -euo pipefail
 
 source_dir=$(cd "$(dirname "$0")/../.." && pwd)
 build=$(cd "$1" && pwd)
 export CXX=${2:-g++}
-hello=$source_dir/examples/hello
 work=$build/consumer
-stage=$work/stage
+stage=$work/moved/prefix
+# shellcheck source=tests/integration/consumertools.sh
+source "$source_dir/tests/integration/consumertools.sh"
 
-fail()
-{
-    echo "consumer: $*" >&2
-    exit 1
-}
-
-install_build()
-{
-    rm -rf "$work"
-    mkdir -p "$work"
-    cmake --install "$build" --prefix "$stage" >"$work/install.log"
-    libdir=$(dirname "$(find "$stage" -name libpanelkit.so)")
-    headers=$stage/include/panelkit
-    library=$libdir/libpanelkit.so
-    export PKG_CONFIG_PATH=$libdir/pkgconfig
-}
+# The version that CMake knows is the only one there is.
+version=$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' "$build/CMakeCache.txt")
+major=${version%%.*}
 
 check_library_names()
 {
-    [[ $(readlink "$library") == libpanelkit.so.1 ]] || fail "libpanelkit.so leads elsewhere"
-    [[ $(readlink "$library.1") == libpanelkit.so.1.0.0 ]] || fail "libpanelkit.so.1 leads elsewhere"
-    [[ -f $library.1.0.0 && ! -L $library.1.0.0 ]] || fail "libpanelkit.so.1.0.0 is no file"
-    readelf -d "$library" | grep 'SONAME.*\[libpanelkit\.so\.1\]' >/dev/null || fail "the SONAME is another"
+    local library=$libdir/libpanelkit.so
+    [[ $(readlink "$library") == libpanelkit.so.$major ]] || fail "libpanelkit.so leads elsewhere"
+    [[ $(readlink "$library.$major") == libpanelkit.so.$version ]] \
+        || fail "libpanelkit.so.$major leads elsewhere"
+    [[ -f $library.$version && ! -L $library.$version ]] || fail "libpanelkit.so.$version is no file"
+    readelf -d "$library" | grep "SONAME.*\[libpanelkit\.so\.$major\]" >/dev/null \
+        || fail "the SONAME is another"
 }
 
-# Every listed class has a header with its own name, and a source that includes nothing but that
-# header compiles.
-check_headers()
+# Every listed class has a header with its own name, which leads to the one that declares it.
+check_header_names()
 {
     local class classes
     [[ -f $headers/panelkitglobal.h ]] || fail "panelkitglobal.h is not installed"
@@ -50,11 +38,32 @@ check_headers()
     ((${#classes[@]} > 0)) || fail "no class is listed"
     for class in "${classes[@]}"; do
         [[ -f $headers/$class ]] || fail "the header $class is not installed"
-        echo "#include <$class>" | "$CXX" -std=c++17 -fPIC -fsyntax-only -x c++ - \
-            $(pkg-config --cflags panelkit) || fail "the header $class does not stand alone"
-        grep -qE "class PANELKIT_EXPORT $class\b" "$headers"/*.h || fail "no header declares $class"
+        grep -qE "class PANELKIT_EXPORT $class\b" \
+            "$headers/$(sed -n 's/^#include "\(.*\)"$/\1/p' "$headers/$class")" \
+            || fail "the header $class does not declare it"
     done
     [[ ! -e $headers/detail ]] || fail "private headers are installed"
+}
+
+# All of them together, under the least standard and the newest. That each stands alone follows from
+# where the library's own sources include it: first. consumer_headers.sh compiles each by itself, which
+# takes a minute or more.
+check_standards()
+{
+    local standard name
+    for name in "$headers"/*.h; do
+        name=$(basename "$name" .h)
+        [[ $name == panelkitglobal ]] \
+            || [[ $(grep -m1 '^#include' "$source_dir/src/$name.cpp") == "#include \"$name.h\"" ]] \
+            || fail "$name.cpp does not include its header first"
+    done
+    for standard in 11 20; do
+        # shellcheck disable=SC2046 # words
+        find "$headers" -name '*.h' -printf '#include <%f>\n' | sort \
+            | "$CXX" "-std=c++$standard" -Wall -Wextra -Werror -fPIC -fsyntax-only -x c++ - \
+                -I"$headers" $(pkg-config --cflags Qt5Widgets | sed 's/-I/-isystem /g') \
+            || fail "the headers do not compile as C++$standard"
+    done
 }
 
 # Exported is what the installed headers export, what every linker adds, and, where the compiler did
@@ -64,7 +73,7 @@ check_exported_symbols()
     local names symbols strays
     names=$(grep -hoE '(class|struct) PANELKIT_EXPORT \w+|PANELKIT_EXPORT \w[^(;]*\(' "$headers"/*.h \
         | grep -oE '\w+\(?$' | tr -d '(' | sort -u | paste -sd'|')
-    symbols=$(nm -DC --defined-only "$library" | cut -d' ' -f2-)
+    symbols=$(nm -DC --defined-only "$libdir/libpanelkit.so" | cut -d' ' -f2-)
     grep -F ' SpIconButton::SpIconButton(' <<<"$symbols" >/dev/null || fail "nothing is exported"
     strays=$(grep -vE '^. (__bss_start|_edata|_end)$' <<<"$symbols" \
         | grep -vE "^. ((vtable|typeinfo|typeinfo name|guard variable) for |(non-)?virtual thunk to )?($names)(::|\(|\$)" \
@@ -75,47 +84,47 @@ check_exported_symbols()
 check_undefined_symbols()
 {
     local report
-    report=$(ldd -r "$library" 2>&1)
+    report=$(ldd -r "$libdir/libpanelkit.so" 2>&1)
     ! grep -E 'undefined symbol|not found' <<<"$report" || fail "the library is incomplete"
 }
 
-build_with_cmake()
+# The three descriptions say the same version, and none of them where it was installed.
+check_descriptions()
 {
-    cmake -G Ninja -S "$hello" -B "$work/cmake" -DCMAKE_PREFIX_PATH="$stage" >"$work/cmake.log"
-    cmake --build "$work/cmake" >>"$work/cmake.log"
+    local said
+    said=$(pkg-config --modversion panelkit)
+    [[ $said == "$version" ]] || fail "pkg-config says version $said"
+    grep -qx "QT.panelkit.VERSION = $version" "$QMAKEMODULES/qt_lib_panelkit.pri" \
+        || fail "qmake's module has another version"
+    cmake -S "$source_dir/tests/integration/consumer_versions" -B "$work/versions" \
+        -DCMAKE_PREFIX_PATH="$stage" -DVERSION="$version" >"$work/versions.log" 2>&1 \
+        || fail "CMake's package: $(cat "$work/versions.log")"
+    ! grep -rlF -e "$work/installed" -e "$build" "$libdir/cmake" "$libdir/pkgconfig" "$libdir/qt5/mkspecs" \
+        || fail "these know where they were installed"
 }
 
-build_with_pkg_config()
+check_uses_installed()
 {
-    mkdir -p "$work/pkg-config"
-    "$CXX" -std=c++17 -fPIC -Wall -Wextra -Werror "$hello/main.cpp" -o "$work/pkg-config/hello" \
-        $(pkg-config --cflags --libs panelkit)
+    ldd "$1" | grep -F "$libdir/libpanelkit.so.$major" >/dev/null || fail "$1 runs with another library"
 }
 
-build_probe()
-{
-    "$CXX" -std=c++17 -fPIC -shared "$source_dir/tests/integration/consumer_probe.cpp" \
-        -o "$work/probe.so" $(pkg-config --cflags --libs Qt5Widgets)
-}
-
-# A touched application says so, and runs with the library of the stage.
-check_hello()
-{
-    local program=$1 output
-    ldd "$program" | grep -F "$libdir/libpanelkit.so.1" >/dev/null \
-        || fail "$program runs with another library"
-    output=$(timeout 60 env QT_QPA_PLATFORM=offscreen LD_PRELOAD="$work/probe.so" "$program" 2>"$work/hello.log") \
-        || fail "$program ended with $?: $(cat "$work/hello.log")"
-    [[ $output == "clicked hello" ]] || fail "$program said '$output'"
-}
-
-install_build
+components=(runtime development)
+[[ ! -d $build/designer ]] || components+=(designer)
+install_build "$build" "${components[@]}"
 check_library_names
-check_headers
+check_header_names
+check_standards
 check_exported_symbols
 check_undefined_symbols
-build_with_cmake
-build_with_pkg_config
+check_descriptions
 build_probe
+build_with_cmake
+check_uses_installed "$work/cmake/hello"
 check_hello "$work/cmake/hello"
-LD_LIBRARY_PATH=$libdir check_hello "$work/pkg-config/hello"
+build_with_pkg_config
+build_with_qmake
+export LD_LIBRARY_PATH=$libdir
+for way in pkg-config qmake; do
+    check_uses_installed "$work/$way/hello"
+    check_hello "$work/$way/hello"
+done

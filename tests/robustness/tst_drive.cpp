@@ -10,15 +10,21 @@
 namespace
 {
 
+constexpr int kActions = 2000;
+constexpr int kBytes = 64 * kActions; // more than they use
+// The sanitizers look at other drives than those that run without them.
+#ifdef __SANITIZE_ADDRESS__
+constexpr int kFirstSeed = 10001;
+#else
+constexpr int kFirstSeed = 1;
+#endif
+
 // By default what fits into half a minute; a longer drive says so in its environment.
 int seeds()
 {
     const int asked = qEnvironmentVariableIntValue("PANELKIT_DRIVE_SEEDS");
     return asked > 0 ? asked : 4;
 }
-
-constexpr int kActions = 2000;
-constexpr int kBytes = 64 * kActions; // more than they use
 
 } // namespace
 
@@ -33,7 +39,7 @@ private slots:
         QTest::addColumn<int>("seed");
         const auto &classes = drivenClasses();
         for (int i = 0; i < int(classes.size()); ++i) {
-            for (int seed = 1; seed <= seeds(); ++seed)
+            for (int seed = kFirstSeed; seed < kFirstSeed + seeds(); ++seed)
                 QTest::addRow("%s %d", classes[size_t(i)].name.constData(), seed) << i << seed;
         }
     }

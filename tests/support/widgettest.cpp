@@ -174,6 +174,7 @@ bool isSamePicture(const QImage &actual, const QImage &expected, const char *fil
 
 int runWidgetTest(int argc, char **argv, const std::function<QObject *()> &makeTest)
 {
+    virtualtime::start();
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_NO_GLIB", "1");
     qunsetenv("QT_SCALE_FACTOR");

@@ -35,7 +35,7 @@ public:
         OrganisationRole ///< QString
     };
 
-    static constexpr int kMost = 20'000; ///< further cards are left out, with a problem()
+    static constexpr int kMost = 20000; ///< further cards are left out, with a problem()
     static constexpr int kMostBytes = 64 * 1024 * 1024; ///< no more is read, with a problem()
 
     explicit Contacts(QObject *parent = nullptr);

@@ -46,6 +46,7 @@ private:
 MusicLibrary::MusicLibrary(QObject *parent) : QObject(parent), m_tracks(new TrackModel(this))
 {
     m_covers.setMaxThreadCount(1);
+    connect(this, &MusicLibrary::coverRead, this, [this] { --m_coversWanted; });
 }
 
 MusicLibrary::~MusicLibrary()
@@ -112,6 +113,7 @@ QImage MusicLibrary::cover(const QString &path, QSize atMost) { return covers::r
 
 void MusicLibrary::requestCover(const QString &path, QSize atMost)
 {
+    ++m_coversWanted;
     m_covers.start(new CoverReading(this, path, atMost));
 }
 

@@ -27,7 +27,7 @@ class MusicLibrary : public QObject
     Q_OBJECT
 
 public:
-    static constexpr int kMostTracks = 100'000; ///< further files are left out, with a problem()
+    static constexpr int kMostTracks = 100000; ///< further files are left out, with a problem()
     static constexpr int kCoverSize = 512; ///< px; pictures are no wider and no higher
 
     explicit MusicLibrary(QObject *parent = nullptr);
@@ -61,6 +61,7 @@ public:
 
     /// Reads a picture behind the scenes; coverRead() brings it, null if there is none.
     void requestCover(const QString &path, QSize atMost = {kCoverSize, kCoverSize});
+    bool isReadingCovers() const { return m_coversWanted > 0; }
 
 signals:
     void walked(); ///< all files are in the list, under their names
@@ -79,6 +80,7 @@ private:
 
     TrackModel *const m_tracks;
     QThreadPool m_covers;
+    int m_coversWanted = 0; // asked for, and not brought yet
     LibraryScan *m_scan = nullptr; // the one that fills the list
     QVector<LibraryScan *> m_running; // with those that were told to stop and still have to
     QString m_root;

@@ -4,6 +4,7 @@
 #include "dress.h"
 #include "listrows.h"
 #include "models/contacts.h"
+#include "texts.h"
 
 #include <spverstrbutton.h>
 
@@ -117,8 +118,7 @@ void Favourites::dressKey(SpVerStrButton &key, const QSize &size)
     const int fontPx = theme().textPx(Theme::Small);
     QFont font = QApplication::font();
     font.setPixelSize(fontPx);
-    key.setDisplayString(
-        QFontMetrics(font).elidedText(name, Qt::ElideRight, size.width() - theme().gap()));
+    key.setDisplayString(shortened(name, QFontMetrics(font), size.width() - theme().gap()));
     key.setNormalPixmap(faceWithDisc(theme(), size, initials, theme().face));
     key.setPressPixmap(faceWithDisc(theme(), size, initials, theme().pressedFace));
     key.setNormalColor(theme().text);

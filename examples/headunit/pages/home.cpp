@@ -2,6 +2,7 @@
 #include "pages/home.h"
 
 #include "dress.h"
+#include "models/musiclibrary.h"
 #include "models/player.h"
 #include "models/track.h"
 #include "ui_home.h"
@@ -61,8 +62,10 @@ HomePage::HomePage(Context &context, QWidget *parent)
     }
     for (SpHomeIcon *tile : {m_ui->navigationTile, m_ui->cameraTile, m_ui->weatherTile})
         tile->setIsReady(false);
+    rollWhileShown(*m_ui->title);
+    m_ui->cover->setImageAlpha(0);
     connectPlayer();
-    retranslate();
+    HomePage::retranslate();
 }
 
 HomePage::~HomePage() = default;
@@ -89,11 +92,15 @@ void HomePage::dressStrip()
     m_ui->strip->setFixedHeight(touch + theme().px(32));
     m_ui->nowPlaying->setContentsMargins(theme().gap(), 0, theme().gap(), 0);
     m_ui->nowPlaying->setSpacing(theme().gap());
+    m_ui->keyRow->setSpacing(theme().gap());
+    m_ui->titles->setSpacing(theme().px(2));
     m_ui->cover->setFixedSize(touch, touch);
     m_ui->title->setFontSize(theme().textPx(Theme::Body));
     m_ui->title->setTextColor(theme().text);
-    m_ui->title->setTextAlignment(leadingAlignment() | Qt::AlignVCenter);
+    const Qt::Alignment side = leadingAlignment() & ~Qt::AlignVertical_Mask;
+    m_ui->title->setTextAlignment(side | Qt::AlignBottom);
     dressLabel(*m_ui->artist, theme(), Theme::Small, true);
+    m_ui->artist->setAlignment(side | Qt::AlignTop);
     for (SpIconButton *key : {m_ui->previousKey, m_ui->playKey, m_ui->nextKey})
         key->setFixedSize(touch, touch);
     dressKey(*m_ui->previousKey, theme(), Theme::Bare, QStringLiteral("previous"));
@@ -124,6 +131,7 @@ void HomePage::connectPlayer()
     connect(m_ui->previousKey, &SpIconButton::btnClicked, &player, &Player::previous);
     connect(m_ui->playKey, &SpIconButton::btnClicked, &player, &Player::toggle);
     connect(m_ui->nextKey, &SpIconButton::btnClicked, &player, &Player::next);
+    connect(&context().music, &MusicLibrary::coverRead, this, &HomePage::takeCover);
 }
 
 // A release on the tile that was pressed opens its application; a finger that slid off opens none.
@@ -140,8 +148,30 @@ void HomePage::showTrack()
     const bool isSomething = !track.path.isEmpty();
     m_ui->title->setText(isSomething ? track.title : tr("Nothing is playing"));
     m_ui->artist->setText(isSomething ? track.artist : tr("Choose a track in Media"));
-    m_ui->cover->setImage(
-        theme().drawing(QStringLiteral("cover"), {theme().touch(), theme().touch()}));
+    const QString path = track.hasCover ? track.path : QString();
+    if (path != m_coverPath) {
+        m_coverPath = path;
+        m_cover = QImage();
+        if (!path.isEmpty())
+            context().music.requestCover(path);
+    }
+    showCover();
+}
+
+// Others may ask for the same cover in another size: the largest is kept.
+void HomePage::takeCover(const QString &path, const QImage &cover)
+{
+    if (path != m_coverPath || cover.width() <= m_cover.width())
+        return;
+    m_cover = cover;
+    showCover();
+}
+
+void HomePage::showCover()
+{
+    const QSize size(theme().touch(), theme().touch());
+    m_ui->cover->setImage(m_cover.isNull() ? theme().drawing(QStringLiteral("cover"), size)
+                                           : theme().rounded(m_cover, size));
 }
 
 void HomePage::showPlaying()

@@ -4,6 +4,8 @@
 
 #include "page.h"
 
+#include <QImage>
+
 #include <memory>
 
 class SpHomeIcon;
@@ -36,10 +38,14 @@ private:
     void dressStrip();
     void openTile(const SpHomeIcon &tile);
     void showTrack();
+    void showCover();
+    void takeCover(const QString &path, const QImage &cover);
     void showPlaying();
     void dressTile(SpHomeIcon &tile, int side);
 
     const std::unique_ptr<Ui::Home> m_ui;
+    QString m_coverPath; // empty: the track has no cover
+    QImage m_cover; // null until it is read
     const SpHomeIcon *m_pressed = nullptr; // the tile under the finger, until the finger leaves it
 };
 

@@ -65,8 +65,10 @@ void Keypad::dress()
     m_ui->digits->setSpacing(theme().gap());
     m_ui->pad->setFixedWidth(3 * side + 2 * theme().gap());
     m_ui->number->setFixedHeight(theme().touch());
-    m_ui->deleteKey->setFixedHeight(theme().touch());
-    m_ui->callKey->setFixedHeight(theme().touch());
+    for (SpIconButton *key : {m_ui->deleteKey, m_ui->callKey}) {
+        key->setFixedHeight(theme().touch());
+        key->setMinimumWidth(0); // its face was wider during a call
+    }
     dressLabel(*m_ui->recentHeading, theme(), Theme::Small, true);
     m_ui->recentHeading->setAlignment(leadingAlignment());
     layout()->activate();

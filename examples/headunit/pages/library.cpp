@@ -33,7 +33,8 @@ Library::Library(Context &context, QWidget *parent)
     Library::retranslate();
 }
 
-Library::~Library() = default;
+// The tracks of a folder take leave of the player, which tells all rows; theirs are gone by then.
+Library::~Library() { delete m_folderTrackRows; }
 
 void Library::showAllTracks() { show(Content::AllTracks); }
 
@@ -74,13 +75,16 @@ void Library::show(Content content)
 {
     m_content = content;
     const bool isAll = content == Content::AllTracks;
-    m_ui->list->deleteSelectionModel();
+    QAbstractItemModel *rows = m_folderTrackRows;
     if (isAll)
-        m_ui->list->setModel(m_allRows);
+        rows = m_allRows;
     else if (content == Content::Folders)
-        m_ui->list->setModel(m_folderRows);
-    else
-        m_ui->list->setModel(m_folderTrackRows);
+        rows = m_folderRows;
+    // Only another model brings the selection that shows what is pressed.
+    if (rows != m_ui->list->model()) {
+        m_ui->list->deleteSelectionModel();
+        m_ui->list->setModel(rows);
+    }
     m_ui->list->scrollToTop();
     m_ui->index->setVisible(isAll);
     if (isAll)
@@ -142,7 +146,7 @@ void Library::readFolders()
         ListRow row;
         row.icon = QStringLiteral("folder");
         row.title = folder.name;
-        row.tail = tr("Tracks: %1").arg(folder.tracks);
+        row.tail = tr("Tracks: %L1").arg(folder.tracks);
         const QString place = root.relativeFilePath(QFileInfo(folder.path).path());
         if (!place.startsWith(QLatin1Char('.')))
             row.detail = place;
@@ -164,12 +168,12 @@ void Library::showHeading()
     if (music.isWalked() && !music.isFinished())
         showProgress(music.readCount(), music.tracks()->rowCount());
     else
-        m_ui->progress->setText(tr("Tracks: %1").arg(total));
+        m_ui->progress->setText(tr("Tracks: %L1").arg(total));
 }
 
 void Library::showProgress(int read, int total)
 {
-    m_ui->progress->setText(tr("Reading tags: %1 of %2").arg(read).arg(total));
+    m_ui->progress->setText(tr("Reading tags: %L1 of %L2").arg(read).arg(total));
 }
 
 } // namespace headunit

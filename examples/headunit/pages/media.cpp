@@ -11,7 +11,7 @@ namespace headunit
 namespace
 {
 
-enum SideKey : int { PlayingKey, TracksKey, FoldersKey };
+enum SideKey { PlayingKey, TracksKey, FoldersKey };
 
 } // namespace
 

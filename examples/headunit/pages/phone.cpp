@@ -2,6 +2,7 @@
 #include "pages/phone.h"
 
 #include "models/player.h"
+#include "models/preferences.h"
 #include "pages/call.h"
 #include "pages/callview.h"
 #include "pages/contactlist.h"
@@ -96,8 +97,10 @@ void PhonePage::pauseMusic(bool inCall)
 {
     Player &player = context().player;
     if (inCall) {
-        m_hasPausedMusic = player.isPlaying();
-        player.pause();
+        m_hasPausedMusic =
+            player.isPlaying() && context().preferences.isOn(Preferences::Option::CallsPauseMusic);
+        if (m_hasPausedMusic)
+            player.pause();
     } else if (std::exchange(m_hasPausedMusic, false)) {
         player.play();
     }

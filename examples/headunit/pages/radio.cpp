@@ -4,6 +4,7 @@
 #include "dress.h"
 #include "models/tuner.h"
 #include "pages/tunerscales.h"
+#include "texts.h"
 #include "ui_radio.h"
 
 #include <QFontMetrics>
@@ -41,6 +42,8 @@ RadioPage::RadioPage(Context &context, QWidget *parent)
     m_confirmation.setInterval(kConfirmation);
     connect(&m_confirmation, &QTimer::timeout, this,
             [this] { showPreset(std::exchange(m_stored, -1)); });
+    rollWhileShown(*m_ui->station);
+    rollWhileShown(*m_ui->radioText);
     connectTuner();
     connectKeys();
     showScale(context.settings.value(kScaleKey).toInt());
@@ -180,7 +183,7 @@ void RadioPage::showPreset(int place)
     MPresetButton &key = *m_presets[place];
     const int room = key.width() - theme().px(12);
     const QString name = frequency ? tuner.presetName(place) : tr("Empty");
-    key.setDisplayText(QFontMetrics(key.font()).elidedText(name, Qt::ElideRight, room));
+    key.setDisplayText(shortened(name, QFontMetrics(key.font()), room));
     key.setDisplayText2(isStored        ? tr("Stored")
                             : frequency ? Tuner::textOf(tuner.band(), frequency)
                                         : QString());

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "pages/sound.h"
 
+#include "dress.h"
 #include "pages/soundbalance.h"
 #include "pages/soundeffects.h"
 #include "pages/soundequaliser.h"
@@ -49,7 +50,7 @@ void SoundPage::dress()
     m_ui->tabs->setFixedHeight(theme().touch());
     layout()->activate();
     for (MFocusButton *tab : m_ui->tabs->findChildren<MFocusButton *>())
-        dressTab(*tab);
+        dressChoice(*tab, theme());
 }
 
 void SoundPage::retranslate()
@@ -59,15 +60,6 @@ void SoundPage::retranslate()
     m_ui->balanceTab->setDisplayText(tr("Balance"));
     m_ui->effectsTab->setDisplayText(tr("Effects"));
     m_ui->volumeTab->setDisplayText(tr("Volume"));
-}
-
-void SoundPage::dressTab(MFocusButton &tab)
-{
-    tab.setNormalImage(theme().key(tab.size(), Theme::Key, Theme::Normal));
-    tab.setPressImage(theme().key(tab.size(), Theme::Key, Theme::Selected));
-    tab.setNormalTextColor(theme().text);
-    tab.setPressTextColor(theme().onAccent);
-    tab.setFontSize(theme().textPx(Theme::Body));
 }
 
 } // namespace headunit

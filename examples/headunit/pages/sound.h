@@ -6,8 +6,6 @@
 
 #include <memory>
 
-class MFocusButton;
-
 namespace Ui
 {
 class Sound;
@@ -34,8 +32,6 @@ protected:
     void retranslate() override;
 
 private:
-    void dressTab(MFocusButton &tab);
-
     const std::unique_ptr<Ui::Sound> m_ui;
 };
 

@@ -21,20 +21,6 @@ constexpr QSizeF kCabin{300, 420}; // units of its drawing
 constexpr QPointF kMiddle{150, 256}; // of the four seats
 constexpr QPointF kReach{80, 110}; // from there, at the ends of the sliders
 
-QPixmap circle(const Theme &theme, int touch, const QColor &color)
-{
-    QPixmap pixmap(touch, touch);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    const int size = theme.px(40);
-    painter.drawPixmap((touch - size) / 2, (touch - size) / 2,
-                       theme.panel({size, size}, color, QColor(), size / 2));
-    const int core = theme.px(12);
-    painter.drawPixmap((touch - core) / 2, (touch - core) / 2,
-                       theme.panel({core, core}, theme.onAccent, QColor(), core / 2));
-    return pixmap;
-}
-
 void drawCabin(QPainter &painter, const Theme &theme, const QRect &place)
 {
     QPixmap cabin = theme.drawing(QStringLiteral("cabin"), place.size());
@@ -105,7 +91,7 @@ void SoundBalance::dress()
     for (QLabel *label : {m_ui->balanceValue, m_ui->faderValue})
         dressLabel(*label, theme(), Theme::Title);
     for (MHorSlider *slider : {m_ui->balance, m_ui->fader})
-        dressSlider(*slider, m_ui->centreKey->width());
+        dressSlider(*slider, theme(), m_ui->centreKey->width());
     dressKey(*m_ui->centreKey, theme(), Theme::Key);
     showPlace();
 }
@@ -163,20 +149,6 @@ void SoundBalance::showCabin()
     drawPlace(painter, theme(), cabin, kMiddle + QPointF(across, -along));
     painter.end();
     m_ui->cabin->setPixmap(picture);
-}
-
-// The groove is as high as a finger needs; what is seen of it is a bar in its middle.
-void SoundBalance::dressSlider(MHorSlider &slider, int width)
-{
-    const int touch = theme().touch();
-    const int bar = theme().px(10);
-    const auto groove = [&](const QColor &color) {
-        return theme().panel({width, bar}, color, QColor(), bar / 2);
-    };
-    slider.setSliderNormalImage(groove(grooveColor(theme())));
-    slider.setSliderPressImage(groove(theme().accent));
-    slider.setPointNormalImage(circle(theme(), touch, theme().accent));
-    slider.setPointPressImage(circle(theme(), touch, theme().accent.darker(125)));
 }
 
 } // namespace headunit

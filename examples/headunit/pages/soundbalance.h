@@ -6,7 +6,6 @@
 
 #include <memory>
 
-class MHorSlider;
 class QLabel;
 
 namespace Ui
@@ -36,7 +35,6 @@ private:
     void showValues();
     void showValue(QLabel &label, int value, const QString &below, const QString &above);
     void showCabin();
-    void dressSlider(MHorSlider &slider, int width);
 
     const std::unique_ptr<Ui::SoundBalance> m_ui;
 };

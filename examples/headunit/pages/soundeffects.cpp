@@ -2,6 +2,7 @@
 #include "pages/soundeffects.h"
 
 #include "dress.h"
+#include "models/preferences.h"
 #include "ui_soundeffects.h"
 
 #include <QRegularExpression>
@@ -22,11 +23,12 @@ SoundEffects::SoundEffects(Context &context, QWidget *parent)
 {
     m_ui->setupUi(this);
     QSettings &settings = context.settings;
-    for (MOnOffButton *button : findChildren<MOnOffButton *>()) {
+    for (MOnOffButton *button : {m_ui->loudness, m_ui->surround, m_ui->speedVolume}) {
         button->setOnoffStatus(settings.value(keyOf(button->btnID())).toBool());
         connect(button, &MOnOffButton::onoffStatusChanged, this,
                 [&settings](const QString &id, bool isOn) { settings.setValue(keyOf(id), isOn); });
     }
+    connectKeyClicks();
     SoundEffects::retranslate();
 }
 
@@ -62,6 +64,22 @@ void SoundEffects::retranslate()
     m_ui->speedVolumeNote->setText(tr("Louder as the car goes faster"));
     m_ui->keyClicksLabel->setText(tr("Key clicks"));
     m_ui->keyClicksNote->setText(tr("A click for each touch"));
+}
+
+// The general settings have the same switch.
+void SoundEffects::connectKeyClicks()
+{
+    constexpr auto kOption = Preferences::Option::KeyClicks;
+    Preferences &preferences = context().preferences;
+    MOnOffButton *button = m_ui->keyClicks;
+    button->setOnoffStatus(preferences.isOn(kOption));
+    connect(button, &MOnOffButton::onoffStatusChanged, &preferences,
+            [&preferences](const QString &, bool isOn) { preferences.setOn(kOption, isOn); });
+    connect(&preferences, &Preferences::optionChanged, button,
+            [button](Preferences::Option option, bool isOn) {
+                if (option == kOption)
+                    button->setOnoffStatus(isOn);
+            });
 }
 
 } // namespace headunit

@@ -28,6 +28,8 @@ protected:
     void retranslate() override;
 
 private:
+    void connectKeyClicks();
+
     const std::unique_ptr<Ui::SoundEffects> m_ui;
 };
 

@@ -16,7 +16,7 @@ namespace
 {
 
 constexpr int kValueBand = 30; // px that a slider gives to its number
-constexpr int kLargestValue = 26; // px, of digits that fit into it
+constexpr int kLargestValue = 25; // px, of digits that fit into it
 constexpr int kLongTickEvery = 5; // values
 
 QString keyOf(const QString &band) { return QStringLiteral("sound/") + band; }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-#ifndef CATALOGUE_PRESSFEEDBACK_H
-#define CATALOGUE_PRESSFEEDBACK_H
+#ifndef PRESSFEEDBACK_H
+#define PRESSFEEDBACK_H
 
 #include <QObject>
 
@@ -24,4 +24,4 @@ signals:
     void requested(QWidget *widget);
 };
 
-#endif // CATALOGUE_PRESSFEEDBACK_H
+#endif // PRESSFEEDBACK_H

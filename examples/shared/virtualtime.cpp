@@ -23,10 +23,12 @@ constexpr qint64 kNsPerMinute = 60 * kNsPerSecond;
 constexpr qint64 kMonotonicStart = 6000 * kNsPerSecond; // a full minute, as the next one
 constexpr qint64 kRealStart = 1893456000 * kNsPerSecond; // 2030-01-01 00:00:00 UTC
 
-constexpr int kTurnsPerMs = 100;
-constexpr timespec kShortWait = {0, 10 * kNsPerMs}; // by the real clock
+constexpr int kTurnsPerMs = 10;
+constexpr timespec kShortWait = {0, 10 * kNsPerMs}; // by the true clock
 
 // Written by the main thread only.
+bool isStarted = false;
+int standstills = 0;
 qint64 elapsedNs = 0;
 bool isAdvancing = false;
 qint64 turns = 0; // of an event loop, since the clock is made to advance
@@ -69,7 +71,7 @@ qint64 ofOneTurn()
 
 int virtualPoll(pollfd *fds, nfds_t count, const timespec *timeout, const sigset_t *mask)
 {
-    if (!isMainThread())
+    if (!isStarted || !isMainThread() || standstills > 0)
         return waitFor(fds, count, timeout, mask);
     // With no timer to come only another thread can end the wait, or a loop outside this one that
     // has been told to end meanwhile: Qt looks for that when it wakes up, for whatever reason.
@@ -85,6 +87,8 @@ int virtualPoll(pollfd *fds, nfds_t count, const timespec *timeout, const sigset
 
 } // namespace
 
+// The C library's own names of the parameters are reserved ones.
+// NOLINTBEGIN(readability-inconsistent-declaration-parameter-name)
 extern "C" {
 
 Q_DECL_EXPORT int clock_gettime(clockid_t clock, timespec *time) noexcept
@@ -92,7 +96,7 @@ Q_DECL_EXPORT int clock_gettime(clockid_t clock, timespec *time) noexcept
     const bool isReal = clock == CLOCK_REALTIME || clock == CLOCK_REALTIME_COARSE;
     const bool isMonotonic = clock == CLOCK_MONOTONIC || clock == CLOCK_MONOTONIC_COARSE
         || clock == CLOCK_MONOTONIC_RAW || clock == CLOCK_BOOTTIME;
-    if ((!isReal && !isMonotonic) || !isMainThread())
+    if (!isStarted || (!isReal && !isMonotonic) || !isMainThread())
         return int(syscall(SYS_clock_gettime, clock, time));
     *time = toTimespec((isReal ? kRealStart : kMonotonicStart) + elapsedNs);
     return 0;
@@ -120,9 +124,16 @@ Q_DECL_EXPORT int __ppoll_chk(pollfd *fds, nfds_t count, const timespec *timeout
 }
 
 } // extern "C"
+// NOLINTEND(readability-inconsistent-declaration-parameter-name)
 
 namespace virtualtime
 {
+
+void start() { isStarted = true; }
+
+Standstill::Standstill() { ++standstills; }
+
+Standstill::~Standstill() { --standstills; }
 
 qint64 now() { return elapsedNs / kNsPerMs; }
 

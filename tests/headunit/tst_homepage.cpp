@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "pages/home.h"
+
+#include "pagetest.h"
+#include "touch.h"
+#include "virtualtime.h"
+
+#include <sphomeicon.h>
+#include <splabel.h>
+
+#include <QSignalSpy>
+
+using namespace headunit;
+
+namespace
+{
+
+struct Home : PageWorld {
+    Home()
+    {
+        Track track;
+        track.path = folder.filePath(QStringLiteral("track.wav"));
+        track.seconds = 100;
+        track.hasCover = true;
+        music.tracks()->setTracks({track});
+        player.setModel(music.tracks());
+        showPage(screen, page);
+    }
+
+    QString path() const { return folder.filePath(QStringLiteral("track.wav")); }
+    QColor coverColor() const
+    {
+        auto *cover = page.findChild<SpLabel *>(QStringLiteral("cover"));
+        const QImage picture = painted(*cover);
+        return picture.pixelColor(picture.rect().center());
+    }
+    void readCover(const QString &path, int side, Qt::GlobalColor color)
+    {
+        QImage cover(side, side, QImage::Format_RGB32);
+        cover.fill(color);
+        emit music.coverRead(path, cover);
+    }
+
+    HomePage page{context};
+};
+
+} // namespace
+
+class HomePageTest : public WidgetTest
+{
+    Q_OBJECT
+
+private slots:
+    void tilesOpenTheirPages_data();
+    void tilesOpenTheirPages();
+    void stripShowsTheCover();
+    void idlePageDoesNothing();
+};
+
+void HomePageTest::tilesOpenTheirPages_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name : {"radio", "media", "phone", "sound", "settings"})
+        QTest::addRow("%s", name) << QString::fromLatin1(name);
+}
+
+void HomePageTest::tilesOpenTheirPages()
+{
+    QFETCH(QString, name);
+    Home home;
+    const QSignalSpy wanted(&home.page, &Page::pageWanted);
+    auto *tile = home.page.findChild<SpHomeIcon *>(name + QStringLiteral("Tile"));
+    QVERIFY(tile->getIsReady());
+    touch(tile).press(20, 20).hold(40).release().hold(0);
+    QCOMPARE(wanted.count(), 1);
+    QCOMPARE(wanted.first().first().toString(), name);
+}
+
+void HomePageTest::stripShowsTheCover()
+{
+    Home home;
+    home.player.playRow(0);
+    const QColor before = home.coverColor();
+    home.readCover(QStringLiteral("another"), 200, Qt::red);
+    QCOMPARE(home.coverColor(), before);
+    home.readCover(home.path(), 200, Qt::green);
+    QCOMPARE(home.coverColor(), QColor(Qt::green));
+    home.readCover(home.path(), 30, Qt::red); // asked for by somebody who needs less
+    QCOMPARE(home.coverColor(), QColor(Qt::green));
+    home.page.setTheme(Theme({1024, 600}, Theme::Day));
+    QCOMPARE(home.coverColor(), QColor(Qt::green));
+}
+
+void HomePageTest::idlePageDoesNothing()
+{
+    const Home home;
+    QCOMPARE(happenedWhileIdle(), QString());
+}
+
+WIDGET_TEST_MAIN(HomePageTest)
+#include "tst_homepage.moc"
