@@ -23,7 +23,6 @@ constexpr qint64 kNsPerMinute = 60 * kNsPerSecond;
 constexpr qint64 kMonotonicStart = 6000 * kNsPerSecond; // a full minute, as the next one
 constexpr qint64 kRealStart = 1893456000 * kNsPerSecond; // 2030-01-01 00:00:00 UTC
 
-constexpr int kTurnsPerMs = 10;
 constexpr timespec kShortWait = {0, 10 * kNsPerMs}; // by the true clock
 
 // Written by the main thread only.
@@ -66,7 +65,7 @@ qint64 untilDue(const timespec &timeout)
 qint64 ofOneTurn()
 {
     turns = isAdvancing ? turns + 1 : 0;
-    return turns > 0 && turns % kTurnsPerMs == 0 ? kNsPerMs : 0;
+    return turns > 0 && turns % virtualtime::kTurnsPerMs == 0 ? kNsPerMs : 0;
 }
 
 int virtualPoll(pollfd *fds, nfds_t count, const timespec *timeout, const sigset_t *mask)
@@ -79,9 +78,10 @@ int virtualPoll(pollfd *fds, nfds_t count, const timespec *timeout, const sigset
         return waitFor(fds, count, &kShortWait, mask);
     const timespec atOnce = {};
     const int ready = waitFor(fds, count, &atOnce, mask);
-    if (ready > 0)
-        return ready;
-    elapsedNs += timeout->tv_sec > 0 || timeout->tv_nsec > 0 ? untilDue(*timeout) : ofOneTurn();
+    if (timeout->tv_sec == 0 && timeout->tv_nsec == 0)
+        elapsedNs += ofOneTurn();
+    else if (ready == 0)
+        elapsedNs += untilDue(*timeout);
     return ready;
 }
 

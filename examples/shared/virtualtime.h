@@ -7,10 +7,13 @@
 /// A clock for programs that are played by a script. A program with virtualtime.cpp among its own
 /// sources, and ENABLE_EXPORTS, has clock_gettime, gettimeofday and ppoll from there; once the
 /// clock is started, an event loop of the main thread with nothing to do moves it to its next timer
-/// instead of sleeping, so that minutes pass in no time and every expiry is exact. A timer without
-/// interval ticks ten times a ms. It needs the plain Unix event dispatcher (QT_NO_GLIB=1).
+/// instead of sleeping, so that minutes pass in no time and every expiry is exact. It needs the
+/// plain Unix event dispatcher (QT_NO_GLIB=1).
 namespace virtualtime
 {
+
+/// How often a timer without interval ticks in a ms.
+constexpr int kTurnsPerMs = 10;
 
 /// Starts the clock, at the same time of day in every run. Call it first of all: timers that run
 /// already belong to the true clock.

@@ -228,16 +228,20 @@ void Drive::wait(int ms)
     --m_loops;
 }
 
-// A hundred ticks of the fastest timer are enough of it.
+// Some ticks of the fastest timer are enough of it, and fewer where each repaints a large area.
 int Drive::longestWait() const
 {
-    constexpr int kTicks = 100;
+    constexpr int kTicks = 40;
+    // A shadow is blurred anew for each.
+    const auto *widget = qobject_cast<const QWidget *>(m_object.data());
+    const qint64 pixels = widget && widget->graphicsEffect() ? 1 << 17 : 4 << 20;
+    const int ticks = qBound(1, int(pixels / qMax(area(), pixels / kTicks)), kTicks);
     int interval = INT_MAX / kTicks;
     if (m_object) {
         for (const auto &timer : QAbstractEventDispatcher::instance()->registeredTimers(m_object))
-            interval = qBound(1, timer.interval, interval);
+            interval = qMin(timer.interval, interval);
     }
-    return kTicks * interval;
+    return interval > 0 ? ticks * interval : qMax(1, ticks / virtualtime::kTurnsPerMs);
 }
 
 QPoint Drive::somewhere(const QWidget &widget)
@@ -253,6 +257,7 @@ QPoint Drive::somewhere(const QWidget &widget)
 void Drive::resize(QWidget &widget)
 {
     widget.setMinimumSize(0, 0);
+    widget.setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
     widget.resize(m_values.once(64) ? QSize(4096, 4096)
                                     : m_values.oneOf({QSize(120, 80), QSize(0, 0), QSize(1, 1),
                                                       QSize(3, 900), QSize(800, 480)}));
@@ -414,20 +419,26 @@ void Drive::paint(QWidget &widget)
     widget.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
 }
 
-// Of which Qt makes no picture to paint on, and says so.
-bool Drive::isWindowBeyondMemory() const
+// In pixels; none without a widget.
+qint64 Drive::area() const
 {
     const auto *widget = qobject_cast<const QWidget *>(m_object.data());
-    constexpr qint64 kMostPixels = 64 << 20;
-    return widget && widget->isWindow() && qint64(widget->width()) * widget->height() > kMostPixels;
+    return widget ? qint64(widget->width()) * widget->height() : 0;
 }
 
 void Drive::check()
 {
+    // Of a window that is empty or immense Qt makes no picture to paint on, and says so. What takes
+    // long to paint goes on as a small widget.
+    constexpr qint64 kMostPixels = 1920 * 1080;
+    auto *widget = qobject_cast<QWidget *>(m_object.data());
+    const bool isPainted = !widget || (area() > 0 && area() <= kMostPixels);
     for (const QString &warning : std::exchange(warnings, QStringList())) {
-        if (!isWindowBeyondMemory())
+        if (isPainted)
             report(warning);
     }
+    if (area() > kMostPixels)
+        widget->setFixedSize(120, 80);
     if (!m_object) {
         if (!QAbstractEventDispatcher::instance()->registeredTimers(m_last).isEmpty())
             report(QStringLiteral("a timer goes on without its object"));

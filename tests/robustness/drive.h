@@ -51,7 +51,7 @@ private:
     void move(QWidget &widget);
     void paint(QWidget &widget);
     void interfere();
-    bool isWindowBeyondMemory() const;
+    qint64 area() const;
     void check();
     void report(const QString &problem);
     QPoint somewhere(const QWidget &widget);

@@ -55,7 +55,7 @@ QString Values::text()
 QPixmap Values::picture()
 {
     const QSize size = oneOf({QSize(40, 30), QSize(0, 0), QSize(1, 1), QSize(333, 7),
-                              QSize(390, 58), QSize(20000, 2), QSize(2, 20000)});
+                              QSize(390, 58), QSize(1500, 2), QSize(2, 1500)});
     if (once(8))
         return QBitmap(16, 16);
     QPixmap pixmap(size);
