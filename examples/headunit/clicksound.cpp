@@ -10,6 +10,7 @@
 #include <QSoundEffect>
 #include <QTextStream>
 #include <QUrl>
+#include <QWidget>
 
 #include <utility>
 
