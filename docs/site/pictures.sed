@@ -1,3 +1,3 @@
 # SPDX-License-Identifier: Apache-2.0
 # Pages for Doxygen, which knows pictures by their names alone.
-s#](\(\.\./\)*pictures/#](#g
+s#](\(\.\./\)*pictures/\(moving/\)*#](#g

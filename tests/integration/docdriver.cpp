@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Linked into each program that stands in the documentation: lets it show its window, touches it as
-// the page says, and ends it. The program is right if it comes here, returns from its event loop, and
-// has said what the page says that it does.
+// the page says, and ends it. The program is right if it comes here, returns from its event loop,
+// and has said what the page says that it does.
 
 #include "finger.h"
 #include "virtualtime.h"
