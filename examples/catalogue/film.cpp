@@ -18,7 +18,7 @@ namespace
 {
 
 constexpr int kEach = 50; // ms between pictures: what moves long enough, at its own speed
-constexpr int kSlow = 16; // ms: what is short is shown at a third of their speed
+constexpr int kSlow = 16; // ms: what is short is shown at a third of its speed
 constexpr int kMargin = 12; // px around the content
 constexpr int kFingerRadius = 14; // px
 
