@@ -22,7 +22,7 @@ constexpr int kSlow = 16; // ms: what is short is shown at a third of its speed
 constexpr int kMargin = 12; // px around the content
 constexpr int kFingerRadius = 14; // px
 
-// What moves.
+// What moves. tests/integration/pages.py knows the classes, too.
 struct Shot {
     const char *page;
     const char *act;

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Takes the commands out of a page: each block of them becomes OUT/<number>.sh, and what the page says
-that they write OUT/<number>.says.
+"""Takes the commands out of a page: each block of them becomes OUT/<number>.sh, and what the page
+says that they write OUT/<number>.says.
 
 usage: transcript.py PAGE OUT
 """

@@ -1,14 +1,14 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: Apache-2.0
-# Runs as root in a fresh Debian: the commands in /share/commands, in one shell, as a reader would give
-# them. A program that they leave in the background has to show a window; Designer has to have the
-# plugin, and the program is touched with the mouse of the display.
+# Runs as root in a fresh Debian: the commands in /share/commands, in one shell, as a reader would
+# give them. A program that they leave in the background has to show a window; Designer has to have
+# the plugin, and the program is touched with the mouse of the display.
 set -euo pipefail
 export DEBIAN_FRONTEND=noninteractive LC_ALL=C.UTF-8
 XDG_RUNTIME_DIR=$(mktemp -d)
 export XDG_RUNTIME_DIR
 readonly patience=120 # s
-readonly radio_button="90 120" # px, its middle in the window
+readonly radio_button=(90 120) # px, its middle in the window
 mkdir -p /share/screens
 cd /share
 
@@ -55,7 +55,7 @@ use()
         sleep 2 # until all of it is painted, for the picture
     else
         xdotool mousemove --window "$(xdotool search --onlyvisible --pid "$1" | tail -n 1)" \
-            $radio_button click 1
+            "${radio_button[@]}" click 1
         await ends_with_what_it_says || fail "the touch was to write what the page says"
     fi
     scrot "/share/screens/$block.png"
