@@ -9,6 +9,7 @@
 #include <QSoundEffect>
 #include <QTextStream>
 #include <QUrl>
+#include <QWidget>
 
 #include <utility>
 
