@@ -19,6 +19,17 @@ fail()
     exit 1
 }
 
+started=()
+stop()
+{
+    local process
+    for process in "${started[@]}"; do
+        kill "$process" 2>/dev/null || true
+        wait "$process" 2>/dev/null || true
+    done
+}
+trap stop EXIT
+
 # Waits until a command succeeds.
 await()
 {
@@ -40,16 +51,18 @@ ends_with_what_it_says()
 start_display()
 {
     apt-get install --yes xvfb xdotool scrot fonts-dejavu-core >/share/display.log 2>&1
-    Xvfb :7 -screen 0 1280x800x24 -nolisten tcp >/share/xvfb.log 2>&1 &
-    display=$!
-    export DISPLAY=:7
-    await xdotool getdisplaygeometry || fail "no display"
+    mkfifo /share/display
+    Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>/share/display 2>/share/xvfb.log &
+    started+=($!)
+    read -r DISPLAY </share/display || fail "no display"
+    export DISPLAY=:$DISPLAY
 }
 
 # What the block has left in the background, by its process.
 use()
 {
-    await xdotool search --onlyvisible --pid "$1" --name . || fail "no window"
+    started+=("$1")
+    await xdotool search --onlyvisible --pid "$1" || fail "no window"
     if [[ $(readlink "/proc/$1/exe") == */designer ]]; then
         await grep -q libpanelkitdesigner "/proc/$1/maps" || fail "Designer does not have the plugin"
         sleep 2 # until all of it is painted, for the picture
@@ -67,12 +80,11 @@ for commands in /share/commands/*.sh; do
     block=$(basename "$commands" .sh)
     # shellcheck source=/dev/null
     source "$commands" >"/share/$block.out" 2>"/share/$block.log" || fail "a command fails"
-    [[ -n ${display:-} ]] || start_display
+    [[ ${#started[@]} -gt 0 ]] || start_display
     if [[ $(tail -n 1 "$commands") == *'&' ]]; then
         use $!
     elif [[ -f /share/commands/$block.says ]]; then
         ends_with_what_it_says || fail "writes something else than the page says"
     fi
 done
-kill "$display"
 echo "$((10#$block)) blocks of commands do what the page says"
