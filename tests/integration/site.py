@@ -18,21 +18,22 @@ ATTRIBUTES = {"a": "href", "link": "href", "img": "src", "script": "src", "ifram
 # Doxygen's other lists of what the menu leads to.
 LISTS = re.compile(r"(dir_.*|functions_.*|classes|hierarchy|pages)\.html$")
 
+RAW = re.compile(r"[@\\]ref\b|\]\([^)]*\.md")
+
 
 class Page(html.parser.HTMLParser):
     """What a page refers to, and what in it can be referred to."""
 
     def __init__(self, path):
         super().__init__()
-        self.links, self.anchors, self.menu, self.title = [], set(), set(), ""
-        self.in_menu = self.in_title = False
+        self.links, self.anchors, self.menu, self.raw = [], set(), set(), []
+        self.in_menu = False
         self.feed(path.read_text(encoding="utf-8"))
 
     def handle_starttag(self, tag, attrs):
         attrs = dict(attrs)
         self.anchors.update(attrs[key] for key in ("id", "name") if attrs.get(key))
         self.in_menu |= tag == "nav"
-        self.in_title |= tag == "title"
         link = attrs.get(ATTRIBUTES.get(tag, ""))
         if link and not link.startswith("javascript:"):
             self.links.append(link)
@@ -41,21 +42,23 @@ class Page(html.parser.HTMLParser):
 
     def handle_endtag(self, tag):
         self.in_menu &= tag != "nav"
-        self.in_title &= tag != "title"
 
     def handle_data(self, data):
-        if self.in_title:
-            self.title += data
+        # A link that is broken into two lines, say, stays as it was written, without a warning.
+        if RAW.search(data):
+            self.raw.append(data.strip())
 
 
 def faults_of(name, page, pages, site):
-    """The links of a page that lead nowhere."""
+    """The links of a page that lead nowhere, or are none."""
+    for text in page.raw:
+        yield f"{name}: not understood: {text[:80]}"
     for link in page.links:
         url = urllib.parse.urlsplit(link)
-        if url.scheme or url.netloc:
+        target = urllib.parse.unquote(url.path) or name
+        if url.scheme or url.netloc or target.startswith("/"):
             yield f"{name}: {link} is not in the site"
             continue
-        target = urllib.parse.unquote(url.path) or name
         if not (site / target).is_file():
             yield f"{name}: there is no {link}"
         elif url.fragment and target in pages and url.fragment not in pages[target].anchors:
