@@ -2,6 +2,7 @@
 #include "pages/library.h"
 
 #include "dress.h"
+#include "listpanel.h"
 #include "listrows.h"
 #include "models/musiclibrary.h"
 #include "models/player.h"
@@ -55,13 +56,8 @@ void Library::dress()
     dressLabel(*m_ui->progress, theme(), Theme::Small, true);
     layout()->setSpacing(theme().px(8));
     layout()->activate();
-    m_ui->panel->setPixmap(
-        theme().panel(m_ui->panel->size(), theme().face, theme().line, theme().radius()));
-    m_ui->listRow->setContentsMargins(theme().px(4), theme().px(6), theme().px(4), theme().px(6));
-    m_ui->listRow->setSpacing(0);
-    m_ui->index->dress(theme(), m_ui->panel->height() - 2 * theme().px(6));
-    m_ui->listRow->activate();
-    dressList(*m_ui->list, theme());
+    m_ui->index->dress(theme(), listHeight(*m_ui->panel, theme()));
+    dressListPanel(*m_ui->panel, *m_ui->list, theme());
 }
 
 void Library::retranslate()

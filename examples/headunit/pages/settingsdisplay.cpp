@@ -80,7 +80,7 @@ void SettingsDisplay::showBrightness()
     const int percent = context().preferences.brightness();
     if (m_ui->brightness->currentValue() != percent)
         m_ui->brightness->setCurrentValue(percent);
-    m_ui->brightnessValue->setText(tr("%1 %").arg(QLocale().toString(percent)));
+    m_ui->brightnessValue->setText(tr("%1%").arg(QLocale().toString(percent)));
 }
 
 void SettingsDisplay::showLook()

@@ -129,7 +129,7 @@ QString SettingsUpdate::sentence() const
     case SoftwareUpdate::State::None:
         break;
     case SoftwareUpdate::State::Checking:
-        return tr("Looking for an update...");
+        return tr("Looking for an update…");
     case SoftwareUpdate::State::Installing:
         return tr("The update is being installed. You can go on driving.");
     case SoftwareUpdate::State::Installed:
