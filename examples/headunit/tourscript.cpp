@@ -168,14 +168,11 @@ QVector<TourStep> settingsSteps(const QString &language)
                {"languages", {settingsKey(2)}},
            }
     + languageSteps(language)
-    + QVector<TourStep>{
-        {"update", {settingsKey(3)}},
-        {"looking for an update", {tap("key")}},
-        {"update is installed", {wait(4000)}},
-        {"update is called off", {tap("key")}},
-        {"licence", {settingsKey(4)}},
-        {"licence scrolls", {wait(4000)}},
-    };
+        + QVector<TourStep>{
+            {"update", {settingsKey(3)}},          {"looking for an update", {tap("key")}},
+            {"update is installed", {wait(4000)}}, {"update is called off", {tap("key")}},
+            {"licence", {settingsKey(4)}},         {"licence scrolls", {wait(4000)}},
+        };
 }
 
 } // namespace
