@@ -28,8 +28,6 @@ protected:
     void retranslate() override;
 
 private:
-    void connectKeyClicks();
-
     const std::unique_ptr<Ui::SoundEffects> m_ui;
 };
 
