@@ -30,6 +30,7 @@ protected:
     void retranslate() override;
 
 private:
+    void layOutLines();
     void showPart(int part);
 
     const std::unique_ptr<Ui::SettingsAbout> m_ui;

@@ -29,6 +29,8 @@ protected:
 
 private:
     void connectLooks();
+    void dressBrightness();
+    static QString percentText(int percent);
     void showBrightness();
     void showLook();
 
