@@ -35,8 +35,10 @@ Arrangement arranged(const QSize &size, const Theme &theme, bool hasIcon, bool h
 {
     Arrangement result;
     const int most = std::min(theme.px(44), size.height() * 6 / 10);
+    // Alone in a large key an icon has the weight of the key.
+    const int alone = std::max(most, std::min(theme.px(64), size.height() * 9 / 20));
     const int lineHeight = theme.textPx(Theme::Small) * 3 / 2;
-    result.iconPx = hasIcon ? most : 0;
+    result.iconPx = hasIcon ? alone : 0;
     result.caption = QRect(QPoint(), size);
     if (hasIcon && hasCaption) {
         result.iconPx = std::min(most, size.height() - lineHeight - theme.px(14));
@@ -60,14 +62,14 @@ QPixmap switchTrack(const Theme &theme, const QSize &size, int pill, const QColo
     return pixmap;
 }
 
-QPixmap switchKnob(const Theme &theme, int pill, const QColor &color)
+QPixmap switchKnob(const Theme &theme, int pill, const QColor &color, const QColor &border)
 {
     QPixmap pixmap(pill, pill);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     const int margin = theme.px(5);
     const int size = pill - 2 * margin;
-    painter.drawPixmap(margin, margin, theme.panel({size, size}, color, QColor(), size / 2));
+    painter.drawPixmap(margin, margin, theme.panel({size, size}, color, border, size / 2));
     return pixmap;
 }
 
@@ -136,8 +138,7 @@ void dressKey(SpIconButton &button, const Theme &theme, Theme::Style style, cons
 void dressPanel(QLabel &panel, const Theme &theme)
 {
     if (QLayout *layout = panel.layout()) {
-        const int inset = panelInset(theme);
-        layout->setContentsMargins(inset, theme.px(8), inset, theme.px(8));
+        layout->setContentsMargins(theme.inset(), theme.px(8), theme.inset(), theme.px(8));
         layout->setSpacing(theme.gap());
         layout->activate();
     }
@@ -146,7 +147,7 @@ void dressPanel(QLabel &panel, const Theme &theme)
 
 void dressChoice(MFocusButton &button, const Theme &theme, const QString &icon)
 {
-    const int inset = panelInset(theme);
+    const int inset = theme.inset();
     const int side = theme.px(32);
     const QRect whole(QPoint(), button.size());
     const auto mirrored = [&](const QRect &rect) {
@@ -212,15 +213,21 @@ void dressSwitch(MOnOffButton &button, const Theme &theme)
     button.setFixedSize(size);
     button.setReverse(button.isRightToLeft());
     button.setNormalBkgPix(switchTrack(theme, size, pill, theme.accent));
-    button.setPressBkgPix(switchTrack(theme, size, pill, theme.quietText));
-    button.setNormalChunkPix(switchKnob(theme, pill, Qt::white));
-    button.setPressChunkPix(switchKnob(theme, pill, Qt::white));
+    button.setPressBkgPix(switchTrack(theme, size, pill, grooveColor(theme)));
+    button.setNormalChunkPix(switchKnob(theme, pill, theme.onAccent, {}));
+    // By day the track of what is off is nearly as light as its knob.
+    button.setPressChunkPix(theme.look() == Theme::Day
+                                ? switchKnob(theme, pill, Qt::white, theme.quietText)
+                                : switchKnob(theme, pill, theme.text, {}));
 }
 
 void rollWhileShown(SpRollingText &text) { new RollWhileShown(text); }
 
 void dressLabel(QLabel &label, const Theme &theme, Theme::TextSize size, bool quiet)
 {
+    // Marks above letters stand higher than the font says that it goes.
+    const int marks = theme.textPx(size) / 6;
+    label.setContentsMargins(0, marks, 0, marks);
     label.setFont(theme.font(size, size == Theme::Title));
     QPalette palette = label.palette();
     palette.setColor(QPalette::WindowText, quiet ? theme.quietText : theme.text);
@@ -238,8 +245,6 @@ void showRolling(SpRollingText &text, const QString &string)
     text.setLayoutDirection(string.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     text.setText(string);
 }
-
-int panelInset(const Theme &theme) { return theme.px(20); }
 
 void dressHeading(QLabel &label, const Theme &theme)
 {

@@ -57,9 +57,6 @@ Qt::Alignment leadingAlignment();
 /// is: the blanks between its end and its start stay behind it.
 void showRolling(SpRollingText &text, const QString &string);
 
-/// What stays free in a panel between its edge and what lies in it.
-int panelInset(const Theme &theme);
-
 /// Gives a label the looks of what stands above the contents of a panel or a view.
 void dressHeading(QLabel &label, const Theme &theme);
 

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "tourscript.h"
 
+#include <QGuiApplication>
 #include <QMap>
+
+#include <array>
 
 namespace headunit
 {
@@ -61,7 +64,7 @@ QVector<TourStep> radioSteps()
         {"tape scale", {tap("scaleKey"), drag("tapeScale", {0.6, 0.5}, {0.4, 0.5}, 400)}},
         {"pointer scale", {tap("scaleKey"), drag("pointerScale", {0.5, 0.5}, {0.7, 0.5}, 400)}},
         {"preset stored", {hold("preset9")}},
-        {"preset recalled", {tap("preset5"), wait(2000)}},
+        {"preset recalled", {tap("preset7"), wait(2000)}},
         {"text rolls", {wait(4000)}},
         {"scan", {tap("scaleKey"), tap("scanKey"), wait(3500)}},
         {"AM", {tap("amKey"), tap("seekDownKey")}},
@@ -85,12 +88,18 @@ QVector<TourStep> mediaSteps()
     };
 }
 
+// In the middle of the letters, which are next to the rows.
+TourTouch tapLetter()
+{
+    return tap("index", {QGuiApplication::isRightToLeft() ? 0.75 : 0.35, 0.7});
+}
+
 QVector<TourStep> phoneSteps()
 {
     return {
         {"contacts", {}},
         {"contacts flung", {drag("list", {0.4, 0.8}, {0.4, 0.2}, 130), wait(2500)}},
-        {"letter", {tap("arc", {0.9, 0.7}), wait(600)}},
+        {"letter", {tapLetter(), wait(600)}},
         {"arc scroll bar", {drag("bar", {0.85, 0.2}, {0.85, 0.9}, 500)}},
         {"favourites", {sideKey(1)}},
         {"favourite pressed", {press("favourite1")}},
@@ -127,20 +136,39 @@ QVector<TourStep> soundSteps()
     };
 }
 
-QVector<TourStep> settingsSteps()
+// Through all languages, and last to the one with this code.
+QVector<TourStep> languageSteps(const QString &code)
 {
-    return {
-        {"general", {}},
-        {"general scrolled", {drag("list", {0.4, 0.8}, {0.4, 0.2}, 130), wait(2500)}},
-        {"display", {fifthKey(1)}},
-        {"darker", {drag("brightness", {0.9, 0.5}, {0.4, 0.5}, 500)}},
-        {"brighter", {drag("brightness", {0.4, 0.5}, {0.98, 0.5}, 500)}},
-        {"night look", {tap("nightChoice")}},
-        {"day look", {tap("dayChoice")}},
-        {"languages", {fifthKey(2)}},
-        {"German", {tap("german")}},
-        {"Arabic", {tap("arabic")}},
-        {"English", {tap("english")}},
+    struct Language {
+        const char *code;
+        const char *name;
+        const char *key;
+    };
+    constexpr std::array<Language, 3> kLanguages{
+        {{"de", "German", "german"}, {"ar", "Arabic", "arabic"}, {"en", "English", "english"}}};
+    QVector<TourStep> steps;
+    QVector<TourStep> last;
+    for (const Language &language : kLanguages) {
+        QVector<TourStep> &part = code == QLatin1String(language.code) ? last : steps;
+        part.append({QLatin1String(language.name), {tap(language.key)}});
+    }
+    return steps + last;
+}
+
+QVector<TourStep> settingsSteps(const QString &language)
+{
+    return QVector<TourStep>{
+               {"general", {}},
+               {"general scrolled", {drag("list", {0.4, 0.8}, {0.4, 0.2}, 130), wait(2500)}},
+               {"display", {fifthKey(1)}},
+               {"darker", {drag("brightness", {0.9, 0.5}, {0.4, 0.5}, 500)}},
+               {"brighter", {drag("brightness", {0.4, 0.5}, {0.98, 0.5}, 500)}},
+               {"night look", {tap("nightChoice")}},
+               {"day look", {tap("dayChoice")}},
+               {"languages", {fifthKey(2)}},
+           }
+    + languageSteps(language)
+    + QVector<TourStep>{
         {"update", {fifthKey(3)}},
         {"looking for an update", {tap("key")}},
         {"update is installed", {wait(4000)}},
@@ -152,13 +180,32 @@ QVector<TourStep> settingsSteps()
 
 } // namespace
 
-QVector<TourStep> tourOf(const QString &page)
+QVector<TourStep> tourOf(const QString &page, const QString &language)
 {
-    const QMap<QString, QVector<TourStep> (*)()> pages{
-        {"home", homeSteps},   {"radio", radioSteps}, {"media", mediaSteps},
-        {"phone", phoneSteps}, {"sound", soundSteps}, {"settings", settingsSteps}};
+    if (page == QLatin1String("settings"))
+        return settingsSteps(language);
+    const QMap<QString, QVector<TourStep> (*)()> pages{{"home", homeSteps},
+                                                       {"radio", radioSteps},
+                                                       {"media", mediaSteps},
+                                                       {"phone", phoneSteps},
+                                                       {"sound", soundSteps}};
     const auto steps = pages.value(page);
     return steps ? steps() : QVector<TourStep>{{page, {}}};
+}
+
+QVector<TourStep> nightTourOf(const QString &page)
+{
+    const QMap<QString, QVector<TourStep>> more{
+        {"home",
+         {{"popup at night", {tap("weatherTile")}},
+          {"popup closed at night", {tap("popupClose")}}}},
+        {"phone",
+         {{"contacts at night", {sideKey(0)}},
+          {"favourites at night", {sideKey(1)}},
+          {"call at night", {tap("favourite1"), wait(2500)}},
+          {"call over at night", {tap("hangUpKey")}}}},
+        {"sound", {{"effects at night", {tap("effectsTab")}}}}};
+    return QVector<TourStep>{{QStringLiteral("at night"), {}}} + more.value(page);
 }
 
 } // namespace headunit

@@ -8,6 +8,7 @@
 #include <sphomeicon.h>
 #include <splabel.h>
 
+#include <QLabel>
 #include <QSignalSpy>
 
 using namespace headunit;
@@ -53,6 +54,8 @@ class HomePageTest : public WidgetTest
 private slots:
     void tilesOpenTheirPages_data();
     void tilesOpenTheirPages();
+    void tileWithoutApplicationSaysSo();
+    void tilesFillTheirGrid();
     void stripShowsTheCover();
     void idlePageDoesNothing();
 };
@@ -74,6 +77,30 @@ void HomePageTest::tilesOpenTheirPages()
     touch(tile).press(20, 20).hold(40).release().hold(0);
     QCOMPARE(wanted.count(), 1);
     QCOMPARE(wanted.first().first().toString(), name);
+}
+
+void HomePageTest::tileWithoutApplicationSaysSo()
+{
+    Home home;
+    const QSignalSpy wanted(&home.page, &Page::pageWanted);
+    const QSignalSpy popup(&home.page, &Page::popupWanted);
+    auto *tile = home.page.findChild<SpHomeIcon *>(QStringLiteral("weatherTile"));
+    touch(tile).press(20, 20).hold(40).release().hold(0);
+    QCOMPARE(wanted.count(), 0);
+    QCOMPARE(popup.count(), 1);
+    QCOMPARE(popup.first().first().toString(), QStringLiteral("Weather"));
+}
+
+// Their edges are those of the strip below them.
+void HomePageTest::tilesFillTheirGrid()
+{
+    const Home home;
+    const QRect strip = home.page.findChild<QLabel *>(QStringLiteral("strip"))->geometry();
+    const QRect first = home.page.findChild<SpHomeIcon *>(QStringLiteral("radioTile"))->geometry();
+    const QRect last = home.page.findChild<SpHomeIcon *>(QStringLiteral("weatherTile"))->geometry();
+    QCOMPARE(first.left(), strip.left());
+    QVERIFY(strip.right() - last.right() < 4); // what the division leaves over
+    QCOMPARE(first.size(), last.size());
 }
 
 void HomePageTest::stripShowsTheCover()

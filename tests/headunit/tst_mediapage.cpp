@@ -89,6 +89,7 @@ private slots:
     void arcsFollowTheList();
     void dragOfTheListIsNotRounded();
     void animationMovesOnlyWhileMusicPlays();
+    void rowsAreAsWideAsTheirList();
     void nothingHappensWhileIdle();
 };
 
@@ -250,6 +251,24 @@ void tst_MediaPage::animationMovesOnlyWhileMusicPlays()
     QCOMPARE(animation->getGifState(), 0);
     media.player.pause();
     QCOMPARE(animation->getGifState(), 1);
+}
+
+// With the letters beside the rows, and without them.
+void tst_MediaPage::rowsAreAsWideAsTheirList()
+{
+    Media media;
+    auto *list = media.child<SpTableList>("list");
+    const QWidget *panel = list->parentWidget();
+    media.openTracks();
+    const int beside = list->width();
+    QVERIFY(beside < panel->width() - 100);
+    QCOMPARE(list->columnWidth(0), beside);
+    emit media.child<SideKeys>("sideKeys")->chosen(2);
+    QVERIFY(list->width() > beside + 100);
+    QCOMPARE(list->columnWidth(0), list->width());
+    emit media.child<SideKeys>("sideKeys")->chosen(1);
+    QCOMPARE(list->width(), beside);
+    QCOMPARE(list->columnWidth(0), beside);
 }
 
 void tst_MediaPage::nothingHappensWhileIdle()

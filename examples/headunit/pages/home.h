@@ -41,7 +41,7 @@ private:
     void showCover();
     void takeCover(const QString &path, const QImage &cover);
     void showPlaying();
-    void dressTile(SpHomeIcon &tile, int side);
+    void dressTile(SpHomeIcon &tile, const QSize &size);
 
     const std::unique_ptr<Ui::Home> m_ui;
     QString m_coverPath; // empty: the track has no cover

@@ -53,7 +53,7 @@ void NowPlaying::dress()
     m_ui->keys->setFixedHeight(side);
     layout()->activate();
     dressPanel(*m_ui->panel, theme());
-    const int inset = panelInset(theme());
+    const int inset = theme().inset();
     m_ui->track->setContentsMargins(inset, inset, inset, inset);
     const int cover = m_ui->panel->height() - 2 * inset;
     m_ui->cover->setFixedSize(cover, cover);

@@ -64,7 +64,7 @@ void SettingsAbout::dress()
 // At rest the text ends between two lines.
 void SettingsAbout::layOutLines()
 {
-    const int inset = panelInset(theme());
+    const int inset = theme().inset();
     const auto layOut = [this, inset](int below) {
         m_ui->licenceColumn->setContentsMargins(inset, theme().gap(), inset, below);
         m_ui->licenceColumn->activate();

@@ -45,7 +45,7 @@ void SettingsDisplay::dress()
     layout()->activate();
     for (QLabel *panel : {m_ui->brightnessPanel, m_ui->lookPanel})
         dressPanel(*panel, t);
-    const int inset = panelInset(t);
+    const int inset = t.inset();
     m_ui->lookColumn->setContentsMargins(inset, t.gap(), inset, inset);
     m_ui->lookColumn->setSpacing(t.px(12));
     m_ui->lookColumn->activate();
@@ -65,7 +65,7 @@ void SettingsDisplay::dressBrightness()
     m_ui->brightnessValue->setFixedWidth(value + theme().px(2));
     m_ui->brightnessValue->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
     m_ui->brightnessRow->setSpacing(theme().gap());
-    const int room = m_ui->brightnessPanel->width() - 2 * panelInset(theme()) - name
+    const int room = m_ui->brightnessPanel->width() - 2 * theme().inset() - name
         - m_ui->brightnessValue->width() - 2 * theme().gap();
     dressSlider(*m_ui->brightness, theme(), room - 2 * sliderOverhang(theme()));
     m_ui->brightnessRow->activate();

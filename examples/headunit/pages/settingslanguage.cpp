@@ -38,7 +38,7 @@ void SettingsLanguage::dress()
         button->setFixedHeight(std::max(t.touch(), t.px(72)));
     layout()->activate();
     dressPanel(*m_ui->panel, t);
-    const int inset = panelInset(t);
+    const int inset = t.inset();
     m_ui->column->setContentsMargins(inset, t.gap(), inset, inset);
     m_ui->column->setSpacing(t.px(12));
     m_ui->column->activate();

@@ -49,7 +49,7 @@ void SettingsUpdate::dress()
     layout()->activate();
     for (QLabel *panel : {m_ui->ringPanel, m_ui->panel})
         dressPanel(*panel, t);
-    const int inset = panelInset(t);
+    const int inset = t.inset();
     m_ui->column->setContentsMargins(inset, t.gap(), inset, inset);
     m_ui->column->setSpacing(t.px(12));
     m_ui->column->activate();

@@ -93,7 +93,7 @@ void SoundBalance::dress()
 // The sliders stand out of what is above and below them, so that their bars do not.
 void SoundBalance::layOutControls()
 {
-    const int inset = panelInset(theme());
+    const int inset = theme().inset();
     const int overhang = sliderOverhang(theme());
     m_ui->controlColumn->setContentsMargins(inset - overhang, theme().gap(), inset - overhang,
                                             theme().gap());

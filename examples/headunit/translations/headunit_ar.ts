@@ -20,12 +20,16 @@
         <translation>إنهاء</translation>
     </message>
     <message>
-        <source>Calling...</source>
-        <translation>جارٍ الاتصال...</translation>
+        <source>Calling…</source>
+        <translation>جارٍ الاتصال…</translation>
     </message>
     <message>
         <source>On hold, %1</source>
         <translation>قيد الانتظار، %1</translation>
+    </message>
+    <message>
+        <source>Connected, %1</source>
+        <translation>متصل، %1</translation>
     </message>
 </context>
 <context>
@@ -99,14 +103,6 @@
 <context>
     <name>headunit::HeadUnit</name>
     <message>
-        <source>Not ready</source>
-        <translation>غير جاهز</translation>
-    </message>
-    <message>
-        <source>This application is not ready yet.</source>
-        <translation>هذا التطبيق غير جاهز بعد.</translation>
-    </message>
-    <message>
         <source>Music</source>
         <translation>الموسيقى</translation>
     </message>
@@ -162,6 +158,10 @@
         <translation>الطقس</translation>
     </message>
     <message>
+        <source>Not available in this car.</source>
+        <translation>غير متوفر في هذه السيارة.</translation>
+    </message>
+    <message>
         <source>Nothing is playing</source>
         <translation>لا شيء قيد التشغيل</translation>
     </message>
@@ -172,6 +172,10 @@
 </context>
 <context>
     <name>headunit::Keypad</name>
+    <message>
+        <source>Enter a number</source>
+        <translation>أدخل رقمًا</translation>
+    </message>
     <message>
         <source>No recent numbers</source>
         <translation>لا مكالمات أخيرة</translation>
@@ -269,7 +273,7 @@
     </message>
     <message>
         <source>Contacts</source>
-        <translation>جهات الاتصال</translation>
+        <translation>الأسماء</translation>
     </message>
     <message>
         <source>Favourites</source>
@@ -287,8 +291,8 @@
         <translation>لا توجد موسيقى للتشغيل.</translation>
     </message>
     <message>
-        <source>There is nothing to play sound with here: the music goes on silently.</source>
-        <translation>لا يوجد مخرج صوت هنا: تستمر الموسيقى بصمت.</translation>
+        <source>No audio output was found: the music plays on without sound.</source>
+        <translation>لم يُعثر على مخرج صوت: تستمر الموسيقى دون صوت.</translation>
     </message>
     <message>
         <source>%1 cannot be played.</source>
@@ -375,8 +379,8 @@
         <translation>ليل</translation>
     </message>
     <message>
-        <source>%1 %</source>
-        <translation>%1 %</translation>
+        <source>%1%</source>
+        <translation>%1%</translation>
     </message>
 </context>
 <context>
@@ -531,8 +535,8 @@
         <translation>البحث عن تحديث</translation>
     </message>
     <message>
-        <source>Looking for an update...</source>
-        <translation>جارٍ البحث عن تحديث...</translation>
+        <source>Looking for an update…</source>
+        <translation>جارٍ البحث عن تحديث…</translation>
     </message>
     <message>
         <source>The update is being installed. You can go on driving.</source>

@@ -20,12 +20,16 @@
         <translation>Auflegen</translation>
     </message>
     <message>
-        <source>Calling...</source>
-        <translation>Ruft an ...</translation>
+        <source>Calling…</source>
+        <translation>Ruft an …</translation>
     </message>
     <message>
         <source>On hold, %1</source>
         <translation>Gehalten, %1</translation>
+    </message>
+    <message>
+        <source>Connected, %1</source>
+        <translation>Verbunden, %1</translation>
     </message>
 </context>
 <context>
@@ -99,14 +103,6 @@
 <context>
     <name>headunit::HeadUnit</name>
     <message>
-        <source>Not ready</source>
-        <translation>Nicht bereit</translation>
-    </message>
-    <message>
-        <source>This application is not ready yet.</source>
-        <translation>Diese Anwendung ist noch nicht bereit.</translation>
-    </message>
-    <message>
         <source>Music</source>
         <translation>Musik</translation>
     </message>
@@ -162,6 +158,10 @@
         <translation>Wetter</translation>
     </message>
     <message>
+        <source>Not available in this car.</source>
+        <translation>In diesem Auto nicht vorhanden.</translation>
+    </message>
+    <message>
         <source>Nothing is playing</source>
         <translation>Es spielt nichts</translation>
     </message>
@@ -172,6 +172,10 @@
 </context>
 <context>
     <name>headunit::Keypad</name>
+    <message>
+        <source>Enter a number</source>
+        <translation>Nummer eingeben</translation>
+    </message>
     <message>
         <source>No recent numbers</source>
         <translation>Keine letzten Anrufe</translation>
@@ -287,8 +291,8 @@
         <translation>Es gibt keine Musik zum Spielen.</translation>
     </message>
     <message>
-        <source>There is nothing to play sound with here: the music goes on silently.</source>
-        <translation>Hier gibt es keine Tonausgabe: Die Musik läuft stumm weiter.</translation>
+        <source>No audio output was found: the music plays on without sound.</source>
+        <translation>Keine Tonausgabe gefunden: Die Musik läuft ohne Ton weiter.</translation>
     </message>
     <message>
         <source>%1 cannot be played.</source>
@@ -375,7 +379,7 @@
         <translation>Nacht</translation>
     </message>
     <message>
-        <source>%1 %</source>
+        <source>%1%</source>
         <translation>%1 %</translation>
     </message>
 </context>
@@ -531,8 +535,8 @@
         <translation>Nach Updates suchen</translation>
     </message>
     <message>
-        <source>Looking for an update...</source>
-        <translation>Suche nach einem Update ...</translation>
+        <source>Looking for an update…</source>
+        <translation>Suche nach einem Update …</translation>
     </message>
     <message>
         <source>The update is being installed. You can go on driving.</source>
