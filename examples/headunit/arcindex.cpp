@@ -157,10 +157,11 @@ void ArcIndex::straighten(const Theme &theme, int height)
 {
     const int touch = theme.touch();
     const int rows = height / pitch(theme);
-    setFixedWidth(2 * touch + theme.px(8));
+    const int gap = theme.px(12);
+    setFixedWidth(2 * touch + 2 * gap);
     resize(width(), height);
     m_bar->setRange(0, std::max(1, (height - 2 * kBarMargin) / kTickPitch));
-    m_bar->setGeometry(0, 0, touch, height);
+    m_bar->setGeometry(gap, 0, touch, height);
     m_bar->setRadius(0);
     m_bar->setPointPixmap(theme.panel({touch, theme.px(8)}, theme.accent, {}, theme.px(4)));
     m_arc->clearMask();

@@ -37,8 +37,8 @@ struct ListLetters {
 /**
  * Stands at the end of the rows of a long list: an arc with its letters, and outside of them an arc
  * scroll bar. A letter that is tapped takes the list to its first row, the bar takes it anywhere,
- * and both follow the list wherever it goes. Both arcs bend to the left: where rows end at the left,
- * the letters stand in a column, and the bar is straight.
+ * and both follow the list wherever it goes. Both arcs bend to the left: where rows end at the
+ * left, the letters stand in a column, and the bar is straight.
  */
 class ArcIndex : public QWidget
 {

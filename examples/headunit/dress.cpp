@@ -138,7 +138,7 @@ void dressKey(SpIconButton &button, const Theme &theme, Theme::Style style, cons
 void dressPanel(QLabel &panel, const Theme &theme)
 {
     if (QLayout *layout = panel.layout()) {
-        layout->setContentsMargins(theme.inset(), theme.px(8), theme.inset(), theme.px(8));
+        layout->setContentsMargins(theme.inset(), theme.px(4), theme.inset(), theme.px(4));
         layout->setSpacing(theme.gap());
         layout->activate();
     }
@@ -214,11 +214,12 @@ void dressSwitch(MOnOffButton &button, const Theme &theme)
     button.setReverse(button.isRightToLeft());
     button.setNormalBkgPix(switchTrack(theme, size, pill, theme.accent));
     button.setPressBkgPix(switchTrack(theme, size, pill, grooveColor(theme)));
-    button.setNormalChunkPix(switchKnob(theme, pill, theme.onAccent, {}));
-    // By day the track of what is off is nearly as light as its knob.
-    button.setPressChunkPix(theme.look() == Theme::Day
-                                ? switchKnob(theme, pill, Qt::white, theme.quietText)
-                                : switchKnob(theme, pill, theme.text, {}));
+    // The same knob lies on both tracks, of which one is nearly as light: there its rim is seen.
+    const QPixmap knob = theme.look() == Theme::Day
+        ? switchKnob(theme, pill, Qt::white, theme.quietText)
+        : switchKnob(theme, pill, theme.text, theme.onAccent);
+    button.setNormalChunkPix(knob);
+    button.setPressChunkPix(knob);
 }
 
 void rollWhileShown(SpRollingText &text) { new RollWhileShown(text); }
@@ -226,8 +227,7 @@ void rollWhileShown(SpRollingText &text) { new RollWhileShown(text); }
 void dressLabel(QLabel &label, const Theme &theme, Theme::TextSize size, bool quiet)
 {
     // Marks above letters stand higher than the font says that it goes.
-    const int marks = theme.textPx(size) / 6;
-    label.setContentsMargins(0, marks, 0, marks);
+    label.setContentsMargins(0, theme.textPx(size) / 8, 0, 0);
     label.setFont(theme.font(size, size == Theme::Title));
     QPalette palette = label.palette();
     palette.setColor(QPalette::WindowText, quiet ? theme.quietText : theme.text);

@@ -36,9 +36,8 @@ constexpr int kEvening = 19; // o'clock, when it becomes that of the night
 
 HeadUnit::HeadUnit(Context &context, const QSize &screen, Theme::Look look, QWidget *parent)
     : QWidget(parent), m_context(context), m_theme(screen, look),
-      m_backdrop(new SpBackgroundImage(this)),
-      m_statusBar(new StatusBar(context, this)), m_stack(new QStackedWidget(this)),
-      m_popup(new Popup(this)), m_dimmer(new Dimmer(this)),
+      m_backdrop(new SpBackgroundImage(this)), m_statusBar(new StatusBar(context, this)),
+      m_stack(new QStackedWidget(this)), m_popup(new Popup(this)), m_dimmer(new Dimmer(this)),
       m_wantedLook(wantedLook(context.preferences))
 {
     setFixedSize(screen);

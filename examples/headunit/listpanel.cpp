@@ -17,7 +17,7 @@ namespace
 {
 
 constexpr int kBorder = 1; // px
-constexpr int kFade = 20; // units
+constexpr int kFade = 14; // units
 
 enum class End { Top, Bottom };
 

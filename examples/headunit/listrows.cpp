@@ -18,7 +18,8 @@ namespace headunit
 namespace
 {
 
-constexpr int kRowUnits = 72; // of a row's height, about
+constexpr int kTextUnits = 900; // from the beginning of a row's texts to their end, at most
+constexpr int kRowUnits = 78; // of a row's height, about
 
 QVariant answer(const ListRow &row, int role)
 {
@@ -146,6 +147,8 @@ void RowPainter::drawTexts(QPainter &painter, const QRect &whole, int left,
                            const ListRow &row) const
 {
     int right = whole.right() + 1 - m_theme.gap() - row.room;
+    if (!row.tail.isEmpty()) // not too far from what it belongs to
+        right = std::min(right, left + m_theme.px(kTextUnits));
     painter.setFont(m_theme.font(Theme::Small));
     painter.setPen(m_theme.quietText);
     if (!row.tail.isEmpty()) {
@@ -166,8 +169,8 @@ void RowPainter::drawTexts(QPainter &painter, const QRect &whole, int left,
 
 int rowsIn(const Theme &theme, int height)
 {
-    return std::max(1, std::min(qRound(double(height) / theme.px(kRowUnits)),
-                                height / theme.touch()));
+    return std::max(1,
+                    std::min(qRound(double(height) / theme.px(kRowUnits)), height / theme.touch()));
 }
 
 void dressList(SpTableList &list, const Theme &theme)
@@ -205,6 +208,9 @@ QPixmap initialsDisc(const Theme &theme, int side, const QString &initials)
         painter.drawEllipse(disc);
         QFont font = theme.font(Theme::Body, true);
         font.setPixelSize(side * 2 / 5);
+        const int wide = QFontMetrics(font).horizontalAdvance(initials);
+        if (wide > side * 2 / 3)
+            font.setPixelSize(font.pixelSize() * side * 2 / 3 / wide);
         painter.setFont(font);
         painter.setPen(Qt::white);
         painter.drawText(disc, Qt::AlignCenter, initials);

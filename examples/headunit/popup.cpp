@@ -8,13 +8,14 @@
 #include <QEvent>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace headunit
 {
 
 Popup::Popup(QWidget *parent)
     : SpMaskBackground(parent), m_panel(new QLabel(this)), m_title(new QLabel(m_panel)),
-      m_sentence(new QLabel(m_panel)), m_close(new SpIconButton(m_panel)),
-      m_theme({}, Theme::Night)
+      m_sentence(new QLabel(m_panel)), m_close(new SpIconButton(m_panel)), m_theme({}, Theme::Night)
 {
     setObjectName(QStringLiteral("popup"));
     m_close->setObjectName(QStringLiteral("popupClose"));
@@ -83,8 +84,10 @@ void Popup::retranslate() { m_close->setDisplayText(tr("Close")); }
 // As high as its sentence asks for.
 void Popup::place()
 {
+    const QLayout &layout = *m_panel->layout();
     const int width = m_theme.px(620);
-    const QSize size(width, m_panel->layout()->totalHeightForWidth(width));
+    const QSize size(width,
+                     std::max(layout.totalHeightForWidth(width), layout.totalSizeHint().height()));
     QColor face = m_theme.face;
     face.setAlpha(255); // nothing of the page shines through
     m_panel->setFixedSize(size);

@@ -34,7 +34,7 @@ QPixmap chip(const Theme &theme, const QSize &size, Theme::State state, bool isM
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     painter.drawPixmap(0, (size.height() - height) / 2, pill);
-    painter.drawPixmap(isMirrored ? size.width() - icon - theme.px(14) : theme.px(14),
+    painter.drawPixmap(isMirrored ? size.width() - icon - theme.px(16) : theme.px(16),
                        (size.height() - icon) / 2,
                        theme.icon(QStringLiteral("call"), icon, theme.onAccent));
     return picture;
@@ -79,8 +79,8 @@ void StatusBar::layOut()
     keys->addWidget(m_back);
     layout->addLayout(keys);
     layout->addWidget(m_title, 1);
-    for (QWidget *widget : std::initializer_list<QWidget *>{m_call, m_mute, m_bluetooth, m_signal,
-                                                            m_date, m_clock})
+    for (QWidget *widget :
+         std::initializer_list<QWidget *>{m_call, m_mute, m_bluetooth, m_signal, m_date, m_clock})
         layout->addWidget(widget);
 }
 

@@ -179,7 +179,8 @@ QPixmap Theme::key(const QSize &size, Style style, State state, const QString &i
                    int rise) const
 {
     const QColor fill = faceColor(style, state);
-    const QColor border = style == Key && state != Selected ? line : QColor();
+    const bool isPlain = style == Key ? state != Selected : style != Bare && state == Disabled;
+    const QColor border = isPlain ? line : QColor();
     const QPixmap blank = panel(size, fill, border, radius());
     if (icon.isEmpty())
         return blank;

@@ -50,6 +50,8 @@ public:
     /// The gap between things, and between them and the edge of a page.
     int gap() const { return px(16); }
     int margin() const { return px(28); }
+    /// The widest that a page of one column is; a wider one has a second.
+    int content() const { return px(1180); }
     /// From the edge of a panel to what stands on it.
     int inset() const { return px(20); }
     int textPx(TextSize size) const;

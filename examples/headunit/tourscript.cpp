@@ -168,14 +168,14 @@ QVector<TourStep> settingsSteps(const QString &language)
                {"languages", {fifthKey(2)}},
            }
     + languageSteps(language)
-    + QVector<TourStep>{
-        {"update", {fifthKey(3)}},
-        {"looking for an update", {tap("key")}},
-        {"update is installed", {wait(4000)}},
-        {"update is called off", {tap("key")}},
-        {"licence", {fifthKey(4)}},
-        {"licence scrolls", {wait(4000)}},
-    };
+        + QVector<TourStep>{
+            {"update", {fifthKey(3)}},
+            {"looking for an update", {tap("key")}},
+            {"update is installed", {wait(4000)}},
+            {"update is called off", {tap("key")}},
+            {"licence", {fifthKey(4)}},
+            {"licence scrolls", {wait(4000)}},
+        };
 }
 
 } // namespace

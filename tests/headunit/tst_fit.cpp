@@ -161,8 +161,7 @@ QStringList cutMarks(const HeadUnit &unit)
     QStringList all;
     const auto labels = unit.findChildren<QLabel *>();
     for (QLabel *label : labels) {
-        if (!label->isVisible() || label->text().isEmpty() || label->wordWrap()
-            || qobject_cast<MVScrollLabel *>(label))
+        if (!label->isVisible() || !label->text().isRightToLeft())
             continue;
         QLabel copy(QStringLiteral("أ"));
         copy.setFont(label->font());

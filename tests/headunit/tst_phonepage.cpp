@@ -273,10 +273,11 @@ void tst_PhonePage::favouritesReachBothEdges()
 void tst_PhonePage::callIsSeenOnOtherPages()
 {
     Phone phone;
-    StatusBar bar(phone.context);
+    StatusBar bar(phone.context, &phone.screen);
     bar.setTheme(Theme({1024, 600}, Theme::Night));
     connect(&phone.page, &PhonePage::callTimeChanged, &bar, &StatusBar::setCall);
-    show(bar);
+    bar.setGeometry(0, 0, 1024, 76);
+    bar.show();
     auto *chip = bar.findChild<SpIconButton *>(QStringLiteral("callChip"));
     const QSignalSpy wanted(&bar, &StatusBar::callWanted);
     QVERIFY(chip->isHidden());
@@ -344,7 +345,8 @@ void tst_PhonePage::letterUnderTheFingerScrollsTheContacts()
     const QPoint place(int(index->width() * letters.x()), int(index->height() * letters.y()));
     QWidget *hit = index->childAt(place);
     QCOMPARE(hit, phone.page.findChild<MArcList *>());
-    touch(hit).tap(hit->mapFrom(index, place)).hold(0);
+    const QPoint inHit = hit->mapFrom(index, place);
+    touch(hit).tap(inHit.x(), inHit.y()).hold(0);
     QVERIFY(!phone.isCallShown());
     const int row = list->rowAt(0);
     QVERIFY2(row > 0 && row % 10 == 0, qPrintable(QString::number(row)));

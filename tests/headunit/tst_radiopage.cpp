@@ -361,19 +361,23 @@ void RadioPageTest::needlesLeaveTheNumbersFree()
         radio.showScale(scale);
         QWidget *widget = radio.child<QStackedWidget>("scales")->currentWidget();
         const QImage picture = painted(*widget);
-        const auto inkIn = [&picture](const QRect &area, const QColor &color) {
+        const auto inkIn = [&picture](const QRect &area, auto isInk) {
             QRect ink;
             for (int y = area.top(); y <= area.bottom(); ++y) {
                 for (int x = area.left(); x <= area.right(); ++x) {
-                    if (picture.pixel(x, y) == color.rgb())
+                    if (isInk(picture.pixel(x, y)))
                         ink |= QRect(x, y, 1, 1);
                 }
             }
             return ink;
         };
-        const QRect needle = inkIn(picture.rect(), theme.accent);
-        const QRect number = inkIn({needle.center().x() - 15, 0, 30, needle.top()}, theme.text);
-        QVERIFY(number.height() > theme.px(18) * 6 / 10); // all of a digit
+        const QRgb accent = theme.accent.rgb();
+        const QRgb ground = picture.pixel(0, 0);
+        const QRect needle =
+            inkIn(picture.rect(), [accent](QRgb color) { return color == accent; });
+        const QRect number = inkIn({needle.center().x() - 10, 0, 20, needle.top()},
+                                   [ground](QRgb color) { return color != ground; });
+        QVERIFY(number.height() > theme.px(14) * 7 / 10); // all of a digit
         if (scale == 0)
             firstNeedle = needle;
         QCOMPARE(needle.top(), firstNeedle.top());

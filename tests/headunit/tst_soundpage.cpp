@@ -249,8 +249,10 @@ void SoundPageTest::dialStandsOnWholeVolumes()
     Sound sound;
     sound.openView(VolumeKey);
     auto *dial = sound.child<MCircularDial>("dial");
-    const int y = dial->height() / 2 - qRound(dial->radius() * 0.93);
-    touch(dial).press(dial->width() / 2 + 8, y).release(); // a third of a step after the middle
+    const double reach = dial->radius() * 0.93;
+    const int aside = qRound(reach * std::sin(qDegreesToRadians(1.0))); // a third of a step
+    const QPoint middle = dial->rect().center();
+    touch(dial).press(middle.x() + aside, middle.y() - qRound(reach)).release();
     QCOMPARE(sound.player.volume(), 20);
     QCOMPARE(dial->value(), 20.0);
 }

@@ -91,6 +91,7 @@ QString HomePage::title() const { return tr("Home"); }
 
 void HomePage::dress()
 {
+    layOutStrip();
     dressStrip();
     m_ui->tiles->setSpacing(theme().gap());
     layout()->activate(); // what is left for the tiles
@@ -103,18 +104,42 @@ void HomePage::dress()
     showTrack();
 }
 
+bool HomePage::isWide() const { return width() > theme().content(); }
+
+// Below the tiles; on a wide screen a card beside them.
+void HomePage::layOutStrip()
+{
+    const int gap = theme().gap();
+    const int touch = theme().touch();
+    const int side = isWide() ? theme().px(220) : touch;
+    const auto along = isWide() ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom;
+    const auto across = isWide() ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight;
+    const Qt::Alignment alignment = isWide() ? Qt::AlignCenter : Qt::Alignment();
+    m_ui->columns->setDirection(along);
+    m_ui->nowPlaying->setDirection(across);
+    m_ui->nowPlaying->setAlignment(m_ui->cover, alignment);
+    m_ui->nowPlaying->setAlignment(m_ui->keys, alignment);
+    m_ui->nowPlaying->setContentsMargins(gap, isWide() ? theme().px(40) : 0, gap,
+                                         isWide() ? theme().px(28) : 0);
+    m_ui->nowPlaying->setSpacing(gap);
+    m_ui->keyRow->setSpacing(isWide() ? theme().px(32) : gap);
+    m_ui->titles->setSpacing(theme().px(2));
+    m_ui->cover->setFixedSize(side, side);
+    m_ui->strip->setMinimumSize(0, 0);
+    m_ui->strip->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    if (isWide())
+        m_ui->strip->setFixedWidth(theme().px(420));
+    else
+        m_ui->strip->setFixedHeight(touch + theme().px(32));
+}
+
 void HomePage::dressStrip()
 {
     const int touch = theme().touch();
-    m_ui->strip->setFixedHeight(touch + theme().px(32));
-    m_ui->nowPlaying->setContentsMargins(theme().gap(), 0, theme().gap(), 0);
-    m_ui->nowPlaying->setSpacing(theme().gap());
-    m_ui->keyRow->setSpacing(theme().gap());
-    m_ui->titles->setSpacing(theme().px(2));
-    m_ui->cover->setFixedSize(touch, touch);
     m_ui->title->setFontSize(theme().textPx(Theme::Body));
     m_ui->title->setTextColor(theme().text);
-    const Qt::Alignment side = leadingAlignment() & ~Qt::AlignVertical_Mask;
+    const Qt::Alignment side =
+        isWide() ? Qt::AlignHCenter : leadingAlignment() & ~Qt::AlignVertical_Mask;
     m_ui->title->setTextAlignment(side | Qt::AlignBottom);
     dressLabel(*m_ui->artist, theme(), Theme::Small, true);
     m_ui->artist->setAlignment(side | Qt::AlignTop);
@@ -189,7 +214,9 @@ void HomePage::takeCover(const QString &path, const QImage &cover)
 
 void HomePage::showCover()
 {
-    const QSize size(theme().touch(), theme().touch());
+    const QSize size = m_ui->cover->size();
+    if (size.isEmpty())
+        return;
     const QImage shown =
         m_cover.isNull() ? theme().drawing(QStringLiteral("cover"), size).toImage() : m_cover;
     m_ui->cover->setImage(theme().rounded(shown, size));

@@ -35,6 +35,8 @@ protected:
 
 private:
     void connectPlayer();
+    bool isWide() const;
+    void layOutStrip();
     void dressStrip();
     void openTile(const SpHomeIcon &tile);
     void showTrack();

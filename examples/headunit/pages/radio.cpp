@@ -69,7 +69,11 @@ void RadioPage::dress()
     layOut();
     dressPanel(*m_ui->display, theme());
     dressPanel(*m_ui->scalePanel, theme());
+    // Three lines are as much as the display holds on a small screen.
+    m_ui->displayRow->setContentsMargins(theme().inset(), theme().px(4), theme().inset(),
+                                         theme().px(4));
     dressTexts();
+    m_ui->displayRow->activate();
     for (MSelectButton *key : {m_ui->fmKey, m_ui->amKey})
         dressBand(*key);
     for (SpIconButton *key : m_ui->keys->findChildren<SpIconButton *>())
@@ -235,6 +239,7 @@ void RadioPage::layOut()
 void RadioPage::dressTexts()
 {
     dressLabel(*m_ui->frequency, theme(), Theme::Huge);
+    m_ui->frequency->setContentsMargins(0, 0, 0, 0); // no digit has a mark
     m_ui->frequency->setAlignment(leadingAlignment());
     m_ui->displayTexts->setSpacing(0);
     m_ui->station->setFontSize(theme().textPx(Theme::Title));

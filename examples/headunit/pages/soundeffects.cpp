@@ -45,7 +45,7 @@ void SoundEffects::dress()
         dressPanel(*panel, theme());
     for (QVBoxLayout *texts :
          findChildren<QVBoxLayout *>(QRegularExpression(QStringLiteral("Texts$"))))
-        texts->setSpacing(theme().px(4));
+        texts->setSpacing(0);
 }
 
 void SoundEffects::retranslate()

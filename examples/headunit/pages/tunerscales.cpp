@@ -86,7 +86,6 @@ void TunerScales::dress(const Theme &theme)
     m_widgets.needle->setFont(labels);
     labels.setPixelSize(std::min(labels.pixelSize(), kLargestLabel));
     m_widgets.tape->setFont(labels);
-    m_widgets.pointer->setFont(labels);
     m_widgets.needle->setLineColor(theme.text);
     m_widgets.tape->setLineColor(theme.text);
     m_widgets.pointer->setLineColor(theme.text);
@@ -200,8 +199,23 @@ void TunerScales::layOutPointer()
     scale.setIsFM(isFm);
     scale.setMarginX(m_theme.px(30));
     scale.setFreqStep(isFm ? 0.5F : 20.0F);
+    scale.setFont(pointerFont());
     placeRows(scale);
     scale.setScaleMarginY(m_rows.ticks);
+}
+
+// All numbers of the scale stand beside each other, with gaps between them.
+QFont TunerScales::pointerFont() const
+{
+    const MKARVOSlider &scale = *m_widgets.pointer;
+    const bool isFm = m_tuner.band() == Band::Fm;
+    const int numbers = int(scale.getFreqEnd() - scale.getFreqStart()) / (isFm ? 1 : 100);
+    const int room = (m_size.width() - 2 * scale.marginX()) / numbers - m_theme.px(6);
+    QFont font = m_widgets.tape->font();
+    const QString longest = isFm ? QStringLiteral("108") : QStringLiteral("1700");
+    const int width = QFontMetrics(font).horizontalAdvance(longest);
+    font.setPixelSize(std::min(font.pixelSize(), font.pixelSize() * room / width));
+    return font;
 }
 
 void TunerScales::showFrequency()

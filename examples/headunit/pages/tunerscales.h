@@ -51,6 +51,7 @@ private:
     template <typename Scale> void placeRows(Scale &scale) const;
     void layOutTape();
     void layOutPointer();
+    QFont pointerFont() const;
     void showFrequency();
     void tune(float frequency);
     float inDisplayUnits(int frequency) const;

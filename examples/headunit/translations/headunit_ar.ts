@@ -680,7 +680,7 @@
     </message>
     <message>
         <source>Volume</source>
-        <translation>مستوى الصوت</translation>
+        <translation>شدة الصوت</translation>
     </message>
 </context>
 <context>
