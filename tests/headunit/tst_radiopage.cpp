@@ -360,7 +360,7 @@ void RadioPageTest::needlesLeaveTheNumbersFree()
     for (int scale = 0; scale < 3; ++scale) {
         radio.showScale(scale);
         QWidget *widget = radio.child<QStackedWidget>("scales")->currentWidget();
-        const QImage picture = painted(*widget);
+        const QImage picture = widget->grab().toImage();
         const auto inkIn = [&picture](const QRect &area, auto isInk) {
             QRect ink;
             for (int y = area.top(); y <= area.bottom(); ++y) {
@@ -377,7 +377,11 @@ void RadioPageTest::needlesLeaveTheNumbersFree()
             inkIn(picture.rect(), [accent](QRgb color) { return color == accent; });
         const QRect number = inkIn({needle.center().x() - 10, 0, 20, needle.top()},
                                    [ground](QRgb color) { return color != ground; });
-        QVERIFY(number.height() > theme.px(14) * 7 / 10); // all of a digit
+        QVERIFY2(number.height() > theme.px(14) * 7 / 10, // all of a digit
+                 qPrintable(QStringLiteral("%1 of %2, needle from %3")
+                                .arg(number.height())
+                                .arg(scale)
+                                .arg(needle.top())));
         if (scale == 0)
             firstNeedle = needle;
         QCOMPARE(needle.top(), firstNeedle.top());

@@ -106,6 +106,9 @@ void SoundEqualiser::dress()
         dressLabel(*label, theme(), Theme::Body);
     layout()->activate();
     dressPanel(*m_ui->panel, theme());
+    m_ui->panelRow->setContentsMargins(theme().inset(), theme().gap(), theme().inset(),
+                                       theme().px(8));
+    m_ui->panelRow->activate();
     dressSliders();
 }
 

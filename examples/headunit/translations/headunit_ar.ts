@@ -680,7 +680,7 @@
     </message>
     <message>
         <source>Volume</source>
-        <translation>شدة الصوت</translation>
+        <translation>الشدة</translation>
     </message>
 </context>
 <context>
