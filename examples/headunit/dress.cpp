@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "dress.h"
 
+#include "sidekeys.h"
+
 #include <mfocusbutton.h>
 #include <mhorslider.h>
 #include <monoffbutton.h>
@@ -23,6 +25,7 @@ namespace
 {
 
 constexpr int kSliderKnob = 40; // units of what is seen of it
+constexpr int kLongestRow = 900; // units
 
 struct Arrangement {
     int iconPx = 0;
@@ -244,6 +247,14 @@ void showRolling(SpRollingText &text, const QString &string)
 {
     text.setLayoutDirection(string.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     text.setText(string);
+}
+
+QMargins rowMargins(const Theme &theme)
+{
+    const int room =
+        theme.screen().width() - 2 * theme.margin() - SideKeys::columnWidth(theme) - theme.gap();
+    const int spare = std::max(0, room - theme.px(kLongestRow)) / 2;
+    return {spare, 0, spare, 0};
 }
 
 void dressHeading(QLabel &label, const Theme &theme)

@@ -57,6 +57,10 @@ Qt::Alignment leadingAlignment();
 /// is: the blanks between its end and its start stay behind it.
 void showRolling(SpRollingText &text, const QString &string);
 
+/// The margins beside rows that stand below each other: on a wide screen they do not become so long
+/// that the eye loses its way from one end to the other. To be used in View::margins().
+QMargins rowMargins(const Theme &theme);
+
 /// Gives a label the looks of what stands above the contents of a panel or a view.
 void dressHeading(QLabel &label, const Theme &theme);
 

@@ -259,7 +259,8 @@ void RadioPage::dressBand(MSelectButton &key)
     key.setNormalTextColor(theme().text);
     key.setPressTextColor(theme().onAccent);
     key.setSelectTextColor(theme().onAccent);
-    key.setFontSize(theme().textPx(Theme::Title));
+    key.setFont(theme().font(Theme::Body, true));
+    key.setFontSize(theme().textPx(Theme::Body));
 }
 
 void RadioPage::dressPreset(MPresetButton &key)

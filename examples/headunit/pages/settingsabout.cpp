@@ -74,6 +74,8 @@ void SettingsAbout::layOutLines()
     layOut(inset + rest);
 }
 
+QMargins SettingsAbout::margins(const Theme &theme) const { return rowMargins(theme); }
+
 void SettingsAbout::retranslate()
 {
     m_ui->retranslateUi(this);

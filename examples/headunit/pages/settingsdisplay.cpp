@@ -71,6 +71,8 @@ void SettingsDisplay::dressBrightness()
     m_ui->brightnessRow->activate();
 }
 
+QMargins SettingsDisplay::margins(const Theme &theme) const { return rowMargins(theme); }
+
 void SettingsDisplay::retranslate()
 {
     m_ui->retranslateUi(this);

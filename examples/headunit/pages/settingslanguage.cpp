@@ -46,6 +46,8 @@ void SettingsLanguage::dress()
         dressChoice(*button, t);
 }
 
+QMargins SettingsLanguage::margins(const Theme &theme) const { return rowMargins(theme); }
+
 void SettingsLanguage::retranslate()
 {
     m_ui->retranslateUi(this);

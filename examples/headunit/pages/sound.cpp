@@ -36,7 +36,7 @@ QString SoundPage::title() const { return tr("Sound"); }
 
 void SoundPage::setTheme(const Theme &theme)
 {
-    m_ui->sideKeys->setFixedWidth(theme.px(132));
+    m_ui->sideKeys->setFixedWidth(SideKeys::columnWidth(theme));
     for (View *view : m_ui->views->findChildren<View *>())
         view->setTheme(theme);
     Page::setTheme(theme);

@@ -48,6 +48,8 @@ void SoundEffects::dress()
         texts->setSpacing(0);
 }
 
+QMargins SoundEffects::margins(const Theme &theme) const { return rowMargins(theme); }
+
 void SoundEffects::retranslate()
 {
     m_ui->retranslateUi(this);
