@@ -11,6 +11,8 @@ namespace headunit
 
 SideKeys::SideKeys(QWidget *parent) : QWidget(parent), m_view(new MListView(this, QRect())) { }
 
+int SideKeys::columnWidth(const Theme &theme) { return theme.px(132); }
+
 void SideKeys::setCaptions(const QStringList &captions)
 {
     m_captions = captions;

@@ -115,26 +115,26 @@ QVector<TourStep> phoneSteps()
     };
 }
 
+// One of the five keys at the side of the sound and of the settings.
+TourTouch fifthKey(int key) { return tap("sideKeys", {0.5, (key + 0.5) / 5}); }
+
 QVector<TourStep> soundSteps()
 {
     return {
         {"equaliser", {}},
         {"bass", {drag("bass", {0.5, 0.5}, {0.5, 0.25}, 400)}},
-        {"levels", {tap("nextKey")}},
-        {"balance", {tap("balanceTab"), drag("balance", {0.5, 0.5}, {0.7, 0.5}, 400)}},
+        {"levels", {fifthKey(1)}},
+        {"balance", {fifthKey(2), drag("balance", {0.5, 0.5}, {0.7, 0.5}, 400)}},
         {"fader", {drag("fader", {0.5, 0.5}, {0.3, 0.5}, 400)}},
         {"middle", {tap("centreKey")}},
-        {"effects", {tap("effectsTab")}},
+        {"effects", {fifthKey(3)}},
         {"switches", {tap("loudness"), drag("surround", {0.2, 0.5}, {0.9, 0.5}, 300)}},
-        {"volume", {tap("volumeTab"), hold("louderKey", 1000)}},
+        {"volume", {fifthKey(4), hold("louderKey", 1000)}},
         {"dial turned", {drag("dial", {0.15, 0.25}, {0.3, 0.11}, 400)}},
         {"muted", {tap("muteLock")}},
         {"unmuted", {tap("muteLock")}},
     };
 }
-
-// One of the five keys at the side of the settings.
-TourTouch settingsKey(int key) { return tap("sideKeys", {0.5, (key + 0.5) / 5}); }
 
 // Through all languages, and last to the one with this code.
 QVector<TourStep> languageSteps(const QString &code)
@@ -160,18 +160,21 @@ QVector<TourStep> settingsSteps(const QString &language)
     return QVector<TourStep>{
                {"general", {}},
                {"general scrolled", {drag("list", {0.4, 0.8}, {0.4, 0.2}, 130), wait(2500)}},
-               {"display", {settingsKey(1)}},
+               {"display", {fifthKey(1)}},
                {"darker", {drag("brightness", {0.9, 0.5}, {0.4, 0.5}, 500)}},
                {"brighter", {drag("brightness", {0.4, 0.5}, {0.98, 0.5}, 500)}},
                {"night look", {tap("nightChoice")}},
                {"day look", {tap("dayChoice")}},
-               {"languages", {settingsKey(2)}},
+               {"languages", {fifthKey(2)}},
            }
     + languageSteps(language)
         + QVector<TourStep>{
-            {"update", {settingsKey(3)}},          {"looking for an update", {tap("key")}},
-            {"update is installed", {wait(4000)}}, {"update is called off", {tap("key")}},
-            {"licence", {settingsKey(4)}},         {"licence scrolls", {wait(4000)}},
+            {"update", {fifthKey(3)}},
+            {"looking for an update", {tap("key")}},
+            {"update is installed", {wait(4000)}},
+            {"update is called off", {tap("key")}},
+            {"licence", {fifthKey(4)}},
+            {"licence scrolls", {wait(4000)}},
         };
 }
 

@@ -191,7 +191,7 @@ void HomePage::showTrack()
 {
     const Track track = context().player.track();
     const bool isSomething = !track.path.isEmpty();
-    m_ui->title->setText(isSomething ? track.title : tr("Nothing is playing"));
+    showRolling(*m_ui->title, isSomething ? track.title : tr("Nothing is playing"));
     m_ui->artist->setText(isSomething ? track.artist : tr("Choose a track in Media"));
     const QString path = track.hasCover ? track.path : QString();
     if (path != m_coverPath) {

@@ -43,6 +43,7 @@ private:
     enum class Content { AllTracks, Folders, FolderTracks };
 
     void show(Content content);
+    void showIndex();
     void openRow(int row);
     void openFolder(const QString &path);
     void playRow(TrackModel *tracks, int row);

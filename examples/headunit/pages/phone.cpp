@@ -47,7 +47,7 @@ QString PhonePage::title() const { return tr("Phone"); }
 
 void PhonePage::setTheme(const Theme &theme)
 {
-    m_ui->sideKeys->setFixedWidth(theme.px(132));
+    m_ui->sideKeys->setFixedWidth(SideKeys::columnWidth(theme));
     for (View *view : std::initializer_list<View *>{m_contacts, m_favourites, m_keypad, m_callView})
         view->setTheme(theme);
     Page::setTheme(theme);

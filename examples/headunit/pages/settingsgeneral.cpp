@@ -95,6 +95,8 @@ void SettingsGeneral::dress()
     retranslate(); // the titles end before the switches
 }
 
+QMargins SettingsGeneral::margins(const Theme &theme) const { return rowMargins(theme); }
+
 void SettingsGeneral::retranslate()
 {
     m_ui->retranslateUi(this);

@@ -313,14 +313,6 @@
         <translation>الراديو</translation>
     </message>
     <message>
-        <source>Seek</source>
-        <translation>بحث</translation>
-    </message>
-    <message>
-        <source>Step</source>
-        <translation>خطوة</translation>
-    </message>
-    <message>
         <source>Scan</source>
         <translation>مسح</translation>
     </message>
@@ -481,8 +473,8 @@
         <translation>اللغة</translation>
     </message>
     <message>
-        <source>Texts, numbers and times of all pages</source>
-        <translation>نصوص وأرقام وأوقات كل الصفحات</translation>
+        <source>Changes texts, numbers and times</source>
+        <translation>تغيّر النصوص والأرقام والأوقات</translation>
     </message>
 </context>
 <context>
@@ -558,10 +550,6 @@
         <source>done</source>
         <translation>تم</translation>
     </message>
-    <message>
-        <source>ready</source>
-        <translation>جاهز</translation>
-    </message>
 </context>
 <context>
     <name>headunit::SoundBalance</name>
@@ -590,8 +578,8 @@
         <translation>أمام</translation>
     </message>
     <message>
-        <source>To the middle</source>
-        <translation>إلى الوسط</translation>
+        <source>Centre sound</source>
+        <translation>توسيط الصوت</translation>
     </message>
     <message>
         <source>Left %1</source>
@@ -610,7 +598,7 @@
         <translation>أمام %1</translation>
     </message>
     <message>
-        <source>Middle</source>
+        <source>Centre</source>
         <translation>الوسط</translation>
     </message>
 </context>
@@ -640,14 +628,6 @@
         <source>Louder as the car goes faster</source>
         <translation>أعلى كلما زادت السرعة</translation>
     </message>
-    <message>
-        <source>Key clicks</source>
-        <translation>نقرات الأزرار</translation>
-    </message>
-    <message>
-        <source>A click for each touch</source>
-        <translation>نقرة عند كل لمسة</translation>
-    </message>
 </context>
 <context>
     <name>headunit::SoundEqualiser</name>
@@ -656,7 +636,7 @@
         <translation>الجهير</translation>
     </message>
     <message>
-        <source>Middle</source>
+        <source>Mid</source>
         <translation>المتوسط</translation>
     </message>
     <message>
@@ -683,8 +663,12 @@
         <translation>الصوت</translation>
     </message>
     <message>
-        <source>Equaliser</source>
-        <translation>المعادل</translation>
+        <source>Tone</source>
+        <translation>النغمة</translation>
+    </message>
+    <message>
+        <source>Levels</source>
+        <translation>المستويات</translation>
     </message>
     <message>
         <source>Balance</source>
@@ -696,7 +680,7 @@
     </message>
     <message>
         <source>Volume</source>
-        <translation>مستوى الصوت</translation>
+        <translation>الشدة</translation>
     </message>
 </context>
 <context>

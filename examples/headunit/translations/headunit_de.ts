@@ -313,14 +313,6 @@
         <translation>Radio</translation>
     </message>
     <message>
-        <source>Seek</source>
-        <translation>Suche</translation>
-    </message>
-    <message>
-        <source>Step</source>
-        <translation>Schritt</translation>
-    </message>
-    <message>
         <source>Scan</source>
         <translation>Scan</translation>
     </message>
@@ -481,8 +473,8 @@
         <translation>Sprache</translation>
     </message>
     <message>
-        <source>Texts, numbers and times of all pages</source>
-        <translation>Texte, Zahlen und Zeiten aller Seiten</translation>
+        <source>Changes texts, numbers and times</source>
+        <translation>Ändert Texte, Zahlen und Zeiten</translation>
     </message>
 </context>
 <context>
@@ -558,10 +550,6 @@
         <source>done</source>
         <translation>fertig</translation>
     </message>
-    <message>
-        <source>ready</source>
-        <translation>bereit</translation>
-    </message>
 </context>
 <context>
     <name>headunit::SoundBalance</name>
@@ -590,8 +578,8 @@
         <translation>Vorn</translation>
     </message>
     <message>
-        <source>To the middle</source>
-        <translation>Zur Mitte</translation>
+        <source>Centre sound</source>
+        <translation>Klang zentrieren</translation>
     </message>
     <message>
         <source>Left %1</source>
@@ -610,7 +598,7 @@
         <translation>Vorn %1</translation>
     </message>
     <message>
-        <source>Middle</source>
+        <source>Centre</source>
         <translation>Mitte</translation>
     </message>
 </context>
@@ -640,14 +628,6 @@
         <source>Louder as the car goes faster</source>
         <translation>Lauter bei schneller Fahrt</translation>
     </message>
-    <message>
-        <source>Key clicks</source>
-        <translation>Tastenklick</translation>
-    </message>
-    <message>
-        <source>A click for each touch</source>
-        <translation>Ein Klick bei jeder Berührung</translation>
-    </message>
 </context>
 <context>
     <name>headunit::SoundEqualiser</name>
@@ -656,7 +636,7 @@
         <translation>Bass</translation>
     </message>
     <message>
-        <source>Middle</source>
+        <source>Mid</source>
         <translation>Mitten</translation>
     </message>
     <message>
@@ -683,8 +663,12 @@
         <translation>Klang</translation>
     </message>
     <message>
-        <source>Equaliser</source>
-        <translation>Equalizer</translation>
+        <source>Tone</source>
+        <translation>Klang</translation>
+    </message>
+    <message>
+        <source>Levels</source>
+        <translation>Pegel</translation>
     </message>
     <message>
         <source>Balance</source>
