@@ -18,7 +18,6 @@ namespace headunit
 namespace
 {
 
-constexpr int kTextUnits = 900; // from the beginning of a row's texts to their end, at most
 constexpr int kRowUnits = 78; // of a row's height, about
 
 QVariant answer(const ListRow &row, int role)
@@ -147,8 +146,6 @@ void RowPainter::drawTexts(QPainter &painter, const QRect &whole, int left,
                            const ListRow &row) const
 {
     int right = whole.right() + 1 - m_theme.gap() - row.room;
-    if (!row.tail.isEmpty()) // not too far from what it belongs to
-        right = std::min(right, left + m_theme.px(kTextUnits));
     painter.setFont(m_theme.font(Theme::Small));
     painter.setPen(m_theme.quietText);
     if (!row.tail.isEmpty()) {

@@ -15,6 +15,7 @@
 #include <QPainter>
 
 #include <initializer_list>
+#include <utility>
 
 namespace headunit
 {
@@ -99,9 +100,12 @@ void StatusBar::setTheme(const Theme &theme)
     const auto sign = [&theme](const char *name) {
         return theme.icon(QLatin1String(name), theme.px(28), theme.text);
     };
-    m_mute->setPixmap(sign("mute"));
-    m_bluetooth->setPixmap(sign("bluetooth"));
-    m_signal->setPixmap(sign("signal"));
+    const std::initializer_list<std::pair<QLabel *, const char *>> signs{
+        {m_mute, "mute"}, {m_bluetooth, "bluetooth"}, {m_signal, "signal"}};
+    for (const auto &each : signs) {
+        each.first->setPixmap(sign(each.second));
+        each.first->setContentsMargins(0, theme.px(4), 0, 0); // as high as the digits beside them
+    }
     dressCall(theme);
     dressLabel(*m_date, theme, Theme::Body, true);
     dressLabel(*m_clock, theme, Theme::Title);

@@ -64,7 +64,7 @@ QVector<TourStep> radioSteps()
         {"tape scale", {tap("scaleKey"), drag("tapeScale", {0.6, 0.5}, {0.4, 0.5}, 400)}},
         {"pointer scale", {tap("scaleKey"), drag("pointerScale", {0.5, 0.5}, {0.7, 0.5}, 400)}},
         {"preset stored", {hold("preset9")}},
-        {"preset recalled", {tap("preset7"), wait(2000)}},
+        {"preset recalled", {tap("preset1"), wait(2000)}},
         {"text rolls", {wait(4000)}},
         {"scan", {tap("scaleKey"), tap("scanKey"), wait(3500)}},
         {"AM", {tap("amKey"), tap("seekDownKey")}},

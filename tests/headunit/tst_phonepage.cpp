@@ -216,6 +216,11 @@ void tst_PhonePage::callKeyCallsAgainAfterACall()
     phone.tap("hangUpKey");
     phone.open(KeypadKey);
     QCOMPARE(face(), calling);
+    phone.write("555");
+    phone.tap("callKey");
+    phone.tap("hangUpKey");
+    QVERIFY(phone.child<SpIconButton>("callKey")->isVisible());
+    QCOMPARE(face(), calling);
 }
 
 void tst_PhonePage::callsBeginWithoutMute()

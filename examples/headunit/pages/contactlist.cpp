@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "pages/contactlist.h"
 
+#include "dress.h"
 #include "listpanel.h"
 #include "listrows.h"
 #include "models/contacts.h"
@@ -62,6 +63,8 @@ void ContactList::dress()
     m_ui->index->dress(theme(), listHeight(*m_ui->panel, theme()));
     dressListPanel(*m_ui->panel, *m_ui->list, theme());
 }
+
+QMargins ContactList::margins(const Theme &theme) const { return rowMargins(theme); }
 
 void ContactList::retranslate() { m_ui->retranslateUi(this); }
 

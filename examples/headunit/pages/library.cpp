@@ -69,6 +69,8 @@ void Library::dress()
     dressListPanel(*m_ui->panel, *m_ui->list, theme());
 }
 
+QMargins Library::margins(const Theme &theme) const { return rowMargins(theme); }
+
 void Library::retranslate()
 {
     m_ui->retranslateUi(this);

@@ -38,6 +38,7 @@ signals:
 protected:
     void dress() override;
     void retranslate() override;
+    QMargins margins(const Theme &theme) const override;
 
 private:
     enum class Content { AllTracks, Folders, FolderTracks };
