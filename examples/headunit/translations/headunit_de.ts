@@ -664,7 +664,7 @@
     </message>
     <message>
         <source>Tone</source>
-        <translation>Klang</translation>
+        <translation>Equalizer</translation>
     </message>
     <message>
         <source>Levels</source>
