@@ -91,6 +91,8 @@ private slots:
     void dragOfTheListIsNotRounded();
     void coverIsAskedForWhenItHasItsSize();
     void animationMovesOnlyWhileMusicPlays();
+    void rowsAreAsWideAsTheirList();
+    void fewLettersTakeNoRoom();
     void nothingHappensWhileIdle();
 };
 
@@ -267,6 +269,42 @@ void tst_MediaPage::animationMovesOnlyWhileMusicPlays()
     QCOMPARE(animation->getGifState(), 0);
     media.player.pause();
     QCOMPARE(animation->getGifState(), 1);
+}
+
+// With the letters beside the rows and without them, also when it was another view that was shown
+// at the moment of the change.
+void tst_MediaPage::rowsAreAsWideAsTheirList()
+{
+    Media media;
+    auto *list = media.child<SpTableList>("list");
+    const auto keys = media.child<SideKeys>("sideKeys");
+    media.openTracks();
+    const int beside = list->width();
+    QVERIFY(beside < list->parentWidget()->width() - 100);
+    QCOMPARE(list->columnWidth(0), beside);
+    emit keys->chosen(0);
+    emit keys->chosen(2);
+    QVERIFY(list->width() > beside + 100);
+    QCOMPARE(list->columnWidth(0), list->width());
+    emit keys->chosen(0);
+    emit keys->chosen(1);
+    QCOMPARE(list->width(), beside);
+    QCOMPARE(list->columnWidth(0), beside);
+}
+
+void tst_MediaPage::fewLettersTakeNoRoom()
+{
+    Media media;
+    auto *index = media.page.findChild<MArcList *>()->parentWidget();
+    auto *list = media.child<SpTableList>("list");
+    media.openTracks();
+    QVERIFY(index->isVisible());
+    media.music.tracks()->setTracks(alphabet(media.folder).mid(0, 70)); // seven letters
+    QVERIFY(!index->isVisible());
+    QVERIFY(list->width() > list->parentWidget()->width() - 20);
+    QCOMPARE(list->columnWidth(0), list->width());
+    media.music.tracks()->setTracks(alphabet(media.folder).mid(0, 80));
+    QVERIFY(index->isVisible());
 }
 
 void tst_MediaPage::nothingHappensWhileIdle()
