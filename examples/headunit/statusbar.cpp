@@ -35,7 +35,7 @@ QPixmap chip(const Theme &theme, const QSize &size, Theme::State state, bool isM
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     painter.drawPixmap(0, (size.height() - height) / 2, pill);
-    painter.drawPixmap(isMirrored ? size.width() - icon - theme.px(16) : theme.px(16),
+    painter.drawPixmap(isMirrored ? size.width() - icon - theme.px(12) : theme.px(12),
                        (size.height() - icon) / 2,
                        theme.icon(QStringLiteral("call"), icon, theme.onAccent));
     return picture;

@@ -204,7 +204,7 @@ QVector<TourStep> nightTourOf(const QString &page)
           {"favourites at night", {sideKey(1)}},
           {"call at night", {tap("favourite1"), wait(2500)}},
           {"call over at night", {tap("hangUpKey")}}}},
-        {"sound", {{"effects at night", {tap("effectsTab")}}}}};
+        {"sound", {{"effects at night", {fifthKey(3)}}}}};
     return QVector<TourStep>{{QStringLiteral("at night"), {}}} + more.value(page);
 }
 

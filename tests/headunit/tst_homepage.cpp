@@ -2,6 +2,7 @@
 #include "pages/home.h"
 
 #include "pagetest.h"
+#include "statusbar.h"
 #include "touch.h"
 #include "virtualtime.h"
 
@@ -56,6 +57,7 @@ private slots:
     void tilesOpenTheirPages();
     void tileWithoutApplicationSaysSo();
     void tilesFillTheirGrid();
+    void muteIsSeenAboveThePage();
     void stripShowsTheCover();
     void idlePageDoesNothing();
 };
@@ -101,6 +103,20 @@ void HomePageTest::tilesFillTheirGrid()
     QCOMPARE(first.left(), strip.left());
     QVERIFY(strip.right() - last.right() < 4); // what the division leaves over
     QCOMPARE(first.size(), last.size());
+}
+
+void HomePageTest::muteIsSeenAboveThePage()
+{
+    Home home;
+    StatusBar bar(home.context, &home.screen);
+    bar.setTheme(Theme({1024, 600}, Theme::Day));
+    bar.show();
+    auto *sign = bar.findChild<QLabel *>(QStringLiteral("muteSign"));
+    QVERIFY(!sign->isVisible());
+    home.player.setMuted(true);
+    QVERIFY(sign->isVisible());
+    home.player.setMuted(false);
+    QVERIFY(!sign->isVisible());
 }
 
 void HomePageTest::stripShowsTheCover()
