@@ -141,6 +141,7 @@ private slots:
     void dateFollowsTheSwitch();
     void brightnessDimsTheScreen();
     void fullSliderLooksFull();
+    void rowsAreNotWithoutEnd();
     void dimmedScreenIsTouchedAsEver();
     void looksAreChosen();
     void lookForOneRunIsNotKept();
@@ -361,6 +362,24 @@ void SettingsPageTest::fullSliderLooksFull()
     slider->setCurrentValue(10);
     const QImage empty = painted(*slider);
     QVERIFY(ink(empty, isAccent).left() - ink(empty, isSomething).left() <= 1);
+}
+
+void SettingsPageTest::rowsAreNotWithoutEnd()
+{
+    PageWorld world;
+    const QSize wide(1920, 720);
+    HeadUnit unit(world.context, wide, Theme::Day);
+    unit.openPage(QStringLiteral("settings"));
+    WidgetTest::show(unit);
+    const auto *page = unit.page(QStringLiteral("settings"));
+    auto *views = page->findChild<QStackedWidget *>(QStringLiteral("views"));
+    const int most = Theme(wide, Theme::Day).px(900);
+    for (const SideKey key : {GeneralKey, DisplayKey, LanguageKey, AboutKey}) {
+        views->setCurrentIndex(key);
+        virtualtime::advance(0);
+        for (const QLabel *panel : views->currentWidget()->findChildren<QLabel *>())
+            QVERIFY2(panel->width() <= most + 1, qPrintable(panel->objectName()));
+    }
 }
 
 void SettingsPageTest::dimmedScreenIsTouchedAsEver()

@@ -136,7 +136,7 @@ void SoundVolume::layOutDial()
     const int numbers = knob / 2 + t.textPx(Theme::Small) * 3 / 2;
     const int across = qRound((panel.width() / 2.0 - knob / 2.0 - t.margin()) / std::sin(half));
     const int down =
-        qRound((panel.height() - knob / 2 - numbers - 2 * t.gap()) / (1 - std::cos(half)));
+        qRound((panel.height() - knob / 2.0 - numbers - 2 * t.gap()) / (1 - std::cos(half)));
     m_arc.bar = std::min({across, down, t.px(kMostRadius)});
     m_arc.ticks = m_arc.bar - knob / 2;
     const int height = knob / 2 + qRound(m_arc.bar * (1 - std::cos(half))) + numbers;
