@@ -16,6 +16,11 @@ endif()
 set(CMAKE_C_COMPILER aarch64-linux-gnu-gcc)
 set(CMAKE_CXX_COMPILER aarch64-linux-gnu-g++)
 set(CMAKE_CROSSCOMPILING_EMULATOR qemu-aarch64;-L;${CMAKE_SYSROOT})
+# qemu does not see that Debian's Qt asks for a folder in there; a Qt somewhere else finds its own.
+if(NOT CMAKE_FIND_ROOT_PATH)
+    list(APPEND CMAKE_CROSSCOMPILING_EMULATOR
+        -E;QT_PLUGIN_PATH=${CMAKE_SYSROOT}/usr/lib/aarch64-linux-gnu/qt5/plugins)
+endif()
 
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
