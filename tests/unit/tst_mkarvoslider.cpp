@@ -138,9 +138,9 @@ void paintAll(QPainter &p, const MKARVOSlider &s)
 
 bool isAsDocumented(MKARVOSlider &slider)
 {
-    return isSamePicture(painted(slider),
-                         reference(slider, [&](QPainter &p) { paintAll(p, slider); }), __FILE__,
-                         __LINE__);
+    return isSamePicture(
+        {painted(slider), reference(slider, [&](QPainter &p) { paintAll(p, slider); })}, __FILE__,
+        __LINE__);
 }
 
 class Handlers : public MKARVOSlider
