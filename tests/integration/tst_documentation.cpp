@@ -39,7 +39,7 @@ QStringList namesIn(const QString &cell)
     if (cell.contains(QLatin1String("..."))) {
         const QString last = cell.section(QLatin1Char('`'), 3, 3);
         const QString stem = last.chopped(1);
-        for (int digit = 1; digit <= last.rightRef(1).toInt(); ++digit)
+        for (int digit = 1; digit <= last.right(1).toInt(); ++digit)
             names += stem + QString::number(digit);
     }
     return names;
