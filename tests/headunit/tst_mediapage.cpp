@@ -16,6 +16,7 @@
 #include <SpTableList>
 
 #include <QFile>
+#include <QSignalSpy>
 
 using namespace headunit;
 
@@ -88,6 +89,7 @@ private slots:
     void arcScrollBarScrollsTheList();
     void arcsFollowTheList();
     void dragOfTheListIsNotRounded();
+    void coverIsAskedForWhenItHasItsSize();
     void animationMovesOnlyWhileMusicPlays();
     void nothingHappensWhileIdle();
 };
@@ -235,6 +237,21 @@ void tst_MediaPage::dragOfTheListIsNotRounded()
         place->setValue(value);
         QCOMPARE(place->value(), value);
     }
+}
+
+void tst_MediaPage::coverIsAskedForWhenItHasItsSize()
+{
+    PageWorld world;
+    MediaPage page(world.context);
+    QVector<Track> tracks = alphabet(world.folder);
+    tracks.first().hasCover = true;
+    world.music.tracks()->setTracks(tracks);
+    world.player.setModel(world.music.tracks());
+    const QSignalSpy covers(&world.music, &MusicLibrary::coverRead);
+    world.player.playRow(0);
+    QVERIFY(!world.music.isReadingCovers());
+    showPage(world.screen, page);
+    QVERIFY(world.music.isReadingCovers() || covers.count() > 0);
 }
 
 void tst_MediaPage::animationMovesOnlyWhileMusicPlays()

@@ -26,7 +26,7 @@ private slots:
     void picturesAreThoseOfTheReference();
 
 private:
-    const QDir m_tour{QDir::current().filePath(QStringLiteral("headunit-tour"))};
+    const QDir m_tour{QStringLiteral(PICTURES)};
     int m_exitCode = -1;
     QString m_errors;
 };

@@ -225,7 +225,8 @@ void NowPlaying::showTrack()
     if (m_coverPath.isNull() || m_coverPath != track.path) {
         m_coverPath = track.path.isNull() ? QLatin1String("") : track.path;
         showCover(m_coverPath, {});
-        if (track.hasCover)
+        const bool isDressed = m_play; // before, the cover has no size of its own
+        if (track.hasCover && isDressed)
             context().music.requestCover(track.path, m_ui->cover->size());
     }
     showDuration();
