@@ -199,8 +199,9 @@ void TourTest::picturesAreThoseOfTheReference()
         if (expected.contains(line))
             continue;
         const QString name = line.section(QLatin1Char(' '), 1);
-        isSamePicture(withoutPalette(madeSmall(picture(m_tour, name))), picture(kReferences, name),
-                      qPrintable(name), 0);
+        isSamePicture(
+            {withoutPalette(madeSmall(picture(m_tour, name))), picture(kReferences, name)},
+            qPrintable(name), 0);
     }
     compareLines(actual, expected);
 }
