@@ -177,6 +177,25 @@ QStringList cutMarks(const HeadUnit &unit)
     return all;
 }
 
+// What is wrong with any view of any page.
+template <typename Look> QStringList ofEveryView(const Car &car, Look look)
+{
+    QStringList all;
+    const auto names = car.unit->pageNames();
+    for (const QString &name : names) {
+        car.unit->openPage(name);
+        auto *views = car.unit->page(name)->findChild<QStackedWidget *>(QStringLiteral("views"));
+        for (int view = 0; view < (views ? views->count() : 1); ++view) {
+            if (views)
+                views->setCurrentIndex(view);
+            virtualtime::advance(0);
+            all += look(*car.unit);
+        }
+    }
+    all.removeDuplicates();
+    return all;
+}
+
 } // namespace
 
 class FitTest : public WidgetTest
@@ -209,19 +228,9 @@ void FitTest::everythingHasRoom()
     QFETCH(QSize, size);
     QFETCH(QString, code);
     const Car car(size, code);
-    QStringList all;
-    const auto names = car.unit->pageNames();
-    for (const QString &name : names) {
-        car.unit->openPage(name);
-        auto *views = car.unit->page(name)->findChild<QStackedWidget *>(QStringLiteral("views"));
-        for (int view = 0; view < (views ? views->count() : 1); ++view) {
-            if (views)
-                views->setCurrentIndex(view);
-            virtualtime::advance(0);
-            all += complaintsAbout(*car.unit, Theme(size, Theme::Day).touch());
-        }
-    }
-    all.removeDuplicates();
+    const int touch = Theme(size, Theme::Day).touch();
+    const QStringList all =
+        ofEveryView(car, [touch](const HeadUnit &unit) { return complaintsAbout(unit, touch); });
     QVERIFY2(all.isEmpty(), qPrintable(all.join(QLatin1Char('\n'))));
 }
 
@@ -237,19 +246,7 @@ void FitTest::marksAboveLettersHaveRoom()
 {
     QFETCH(QSize, size);
     const Car car(size, QStringLiteral("ar"));
-    const auto names = car.unit->pageNames();
-    QStringList all;
-    for (const QString &name : names) {
-        car.unit->openPage(name);
-        auto *views = car.unit->page(name)->findChild<QStackedWidget *>(QStringLiteral("views"));
-        for (int view = 0; view < (views ? views->count() : 1); ++view) {
-            if (views)
-                views->setCurrentIndex(view);
-            virtualtime::advance(0);
-            all += cutMarks(*car.unit);
-        }
-    }
-    all.removeDuplicates();
+    const QStringList all = ofEveryView(car, cutMarks);
     QVERIFY2(all.isEmpty(), qPrintable(all.join(QLatin1Char('\n'))));
 }
 

@@ -22,7 +22,7 @@ mkdir -p "$work/share"
 cp "$debs"/*.deb "$work/share" || fail "there are no packages"
 "$source_dir/tests/integration/transcript.py" "$source_dir/docs/from-packages.md" \
     "$work/share/commands"
-cp "$source_dir/tests/integration/transcript_root.sh" "$work/share"
+cp "$source_dir"/tests/integration/{transcript_root,started}.sh "$work/share"
 # shellcheck disable=SC2016 # $1 is the root, which mmdebstrap tells the hooks
 mmdebstrap --quiet --variant=apt \
     --aptopt='APT::Install-Recommends "false"' \

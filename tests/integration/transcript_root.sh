@@ -19,16 +19,8 @@ fail()
     exit 1
 }
 
-started=()
-stop()
-{
-    local process
-    for process in "${started[@]}"; do
-        kill "$process" 2>/dev/null || true
-        wait "$process" 2>/dev/null || true
-    done
-}
-trap stop EXIT
+# shellcheck source-path=SCRIPTDIR source=started.sh
+. /share/started.sh
 
 # Waits until a command succeeds.
 await()

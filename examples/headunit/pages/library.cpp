@@ -105,6 +105,8 @@ void Library::showIndex()
 {
     const bool isWanted = m_content == Content::AllTracks
         && context().music.tracks()->letters().size() >= kLeastLetters;
+    if (isWanted == !m_ui->index->isHidden())
+        return;
     m_ui->index->setVisible(isWanted);
     dressAgain();
 }

@@ -23,7 +23,6 @@ namespace
 enum GifState : int { Playing, Still };
 
 constexpr qint64 kSecond = 1000; // ms
-constexpr ushort kMinus = 0x2212; // the sign, as wide as a digit
 
 } // namespace
 
@@ -275,7 +274,7 @@ void NowPlaying::showPosition()
     m_ui->progress->setRealValue(int(position));
     m_ui->elapsed->setText(timeText(position / kSecond));
     const qint64 remaining = context().player.duration() - position;
-    const QString sign = remaining >= kSecond ? QString(QChar(kMinus)) : QString();
+    const QString sign = remaining >= kSecond ? QString(kMinus) : QString();
     m_ui->remaining->setText(sign + timeText(remaining / kSecond));
 }
 

@@ -2,6 +2,7 @@
 #include "pages/soundequaliser.h"
 
 #include "dress.h"
+#include "texts.h"
 #include "ui_soundequaliser.h"
 
 #include <QPainter>
@@ -18,7 +19,6 @@ namespace
 constexpr int kValueBand = 30; // px that a slider gives to its number
 constexpr int kLargestValue = 25; // px, of digits that fit into it
 constexpr int kLongTickEvery = 5; // values
-constexpr ushort kMinus = 0x2212; // the sign, as wide as the other one
 const QString kValue = QStringLiteral("value"); // the name of the label that shows it
 
 QString keyOf(const QString &band) { return QStringLiteral("sound/") + band; }
@@ -137,9 +137,7 @@ void SoundEqualiser::turn(bool forward)
 void SoundEqualiser::showValue(SpSetupSlider &slider)
 {
     const int value = slider.currentValue();
-    const QString sign = value > 0 ? QStringLiteral("+")
-        : value < 0                ? QString(QChar(kMinus))
-                                   : QString();
+    const QString sign = value > 0 ? QStringLiteral("+") : value < 0 ? QString(kMinus) : QString();
     slider.findChild<QLabel *>(kValue)->setText(sign + QString::number(qAbs(value))
                                                 + QStringLiteral(" dB"));
 }
