@@ -8,7 +8,9 @@ target_compile_options(panelkit_warnings INTERFACE
     -Wzero-as-null-pointer-constant
     $<$<BOOL:${PANELKIT_WERROR}>:-Werror>)
 target_compile_definitions(panelkit_warnings INTERFACE
-    QT_DEPRECATED_WARNINGS QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING)
+    QT_DEPRECATED_WARNINGS QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
+    # What the last Qt 5 calls deprecated is not there.
+    $<$<BOOL:${PANELKIT_WERROR}>:QT_DISABLE_DEPRECATED_BEFORE=0x050F00>)
 
 # The examples wait for fingers and for the library: optimising their own code more than this only
 # takes time.
@@ -31,7 +33,7 @@ function(panelkit_check_single_precision target)
     target_compile_options(${name} PRIVATE -O0)
     target_compile_definitions(${name} PRIVATE QT_COORD_TYPE=float)
     target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
-    target_link_libraries(${name} PRIVATE Qt5::Widgets panelkit_warnings)
+    target_link_libraries(${name} PRIVATE Qt${PANELKIT_QT}::Widgets panelkit_warnings)
     target_precompile_headers(${name} PRIVATE ${PANELKIT_PRECOMPILED})
     add_dependencies(single_precision ${name})
 endfunction()

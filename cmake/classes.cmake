@@ -132,7 +132,8 @@ panelkit_class(SpTableList
     INITIAL itemHeight=60 itemWidth=400
     TIMERS 8 # four of its own, four of QTableView
     UNDRIVEN deleteSelectionModel) # Qt's view needs one in every event: the next model brings it
-panelkit_class(styleDelegate NOT_A_WIDGET)
+panelkit_class(styleDelegate NOT_A_WIDGET
+    FAMILY "Scrolling lists")
 
 panelkit_class(MArcList
     FAMILY "Scrolling lists"

@@ -219,7 +219,7 @@ void MArcList::clearData()
  */
 void MArcList::setCurrentIndex(QChar c)
 {
-    const int index = d->characters.indexOf(c);
+    const int index = int(d->characters.indexOf(c));
     if (index < 0)
         return;
     d->currentIndex = index;
@@ -418,7 +418,7 @@ bool MArcList::Private::isItem(qint64 index) const
 }
 
 // The start angle at which the list lies just before the start.
-double MArcList::Private::arcEnd() const { return -(itemHight * characters.size()); }
+double MArcList::Private::arcEnd() const { return -(itemHight * int(characters.size())); }
 
 // The first row at which the last one still is shown; negative for a list that fits.
 double MArcList::Private::lastFirstRow() const { return double(characters.size()) - showItem; }
@@ -508,8 +508,8 @@ void MArcList::Private::startFling(const QPoint &pos)
 const std::vector<MArcList::Private::Place> &MArcList::Private::placesOnArc(const QPainter &painter)
 {
     const Arc arc{
-        DeviceView(painter), painter.worldTransform(), radius, startAngle, itemHight, showItem,
-        characters.size()};
+        DeviceView(painter),   painter.worldTransform(), radius, startAngle, itemHight, showItem,
+        int(characters.size())};
     return places.value(arc, [&](std::vector<Place> &seen) {
         seen.clear();
         const qint64 first = toInt(ratio(-startAngle, itemHight));

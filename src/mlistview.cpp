@@ -190,6 +190,6 @@ void MListView::Private::stackButtons()
 // others (kept behaviour).
 void MListView::Private::raiseButtons()
 {
-    for (int i = buttonList.size() - 2; i >= 1; --i)
+    for (int i = int(buttonList.size()) - 2; i >= 1; --i)
         buttonList.at(i)->raise();
 }

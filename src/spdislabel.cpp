@@ -281,7 +281,7 @@ QString SpDisLabel::Private::shortened(const QString &full) const
     };
     if (widthOf(full) <= q->width())
         return full;
-    const int reaching = firstThat(full.size() + 1, kPrefixesTried,
+    const int reaching = firstThat(int(full.size()) + 1, kPrefixesTried,
                                    [&](int n) { return widthOf(full.left(n)) > q->width() - 1; });
     const int most = qMax(0, reaching - 1);
     const int dropped = firstThat(most, kRemovalsTried, [&](int n) {

@@ -16,6 +16,7 @@
 #include <QPainter>
 #include <QPointer>
 
+#include <algorithm>
 #include <array>
 
 using namespace panelkit;
@@ -31,7 +32,7 @@ constexpr int kCaptionRoom = 10; // px, in height beside its size and margin
 
 enum LayerNumber { FrameLayer, BaseLayer, StateLayer, PressLayer, LayerCount };
 
-int widgetLength(qint64 px) { return int(qBound<qint64>(0, px, QWIDGETSIZE_MAX)); }
+int widgetLength(qint64 px) { return int(std::clamp<qint64>(px, 0, QWIDGETSIZE_MAX)); }
 
 bool isAnyTileAnimated = false; // ever, in this process
 

@@ -267,7 +267,7 @@ void SpMultipleButton::setPressImage7(QPixmap image) { d->replacePressImage(7, i
  */
 void SpMultipleButton::setPixmapList(const QList<QPixmap> &normal, const QList<QPixmap> &press)
 {
-    if (!canBeStates(normal.size(), press.size()))
+    if (!canBeStates(int(normal.size()), int(press.size())))
         return;
     d->adoptPixmapLists(normal, press);
     const QPixmap second = d->normalImages.value(1);
@@ -283,7 +283,7 @@ void SpMultipleButton::setPixmapList(
     QList<QString> normal, // NOLINT(performance-unnecessary-value-param)
     QList<QString> press) // NOLINT(performance-unnecessary-value-param)
 {
-    if (canBeStates(normal.size(), press.size()))
+    if (canBeStates(int(normal.size()), int(press.size())))
         d->adoptPixmapLists(fromFiles(normal), fromFiles(press));
 }
 
@@ -357,7 +357,7 @@ void SpMultipleButton::Private::adoptPixmapLists(const QList<QPixmap> &normal,
 {
     normalImages = normal;
     pressImages = press;
-    totalValue = normal.size();
+    totalValue = int(normal.size());
     dataValid = true;
 }
 

@@ -284,7 +284,7 @@ QString SpRollingText::Private::shortened() const
 {
     const QFontMetrics metrics(q->font());
     const int room = q->width() - 1 - metrics.horizontalAdvance(kEllipsis);
-    const int count = firstThat(rollSource.size() - 1, kPrefixesTried, [&](int n) {
+    const int count = firstThat(int(rollSource.size()) - 1, kPrefixesTried, [&](int n) {
         return metrics.horizontalAdvance(rollSource.left(n + 1)) > room;
     });
     return rollSource.left(count) + kEllipsis;

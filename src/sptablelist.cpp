@@ -85,7 +85,7 @@ void roll(StringRollingData &record, const QFontMetrics &metrics)
     record.offset += kRollStep;
     if (record.offset < record.firstWidth || record.fullText.isEmpty())
         return;
-    const int length = record.fullText.size();
+    const int length = int(record.fullText.size());
     const int next = isWithin(record.nextIndex, 0, length - 1) ? record.nextIndex : 0;
     record.visibleText = record.visibleText.mid(1) + record.fullText.at(next);
     record.nextIndex = (next + 1) % length;

@@ -573,7 +573,7 @@ void styleDelegate::Private::drawPlainCentre(const Row &row, const QString &text
 void styleDelegate::Private::drawTwoLineCentre(const Row &row, const QString &text) const
 {
     const QRect rect = centreRect(row);
-    const int slash = text.indexOf(QLatin1Char('/'));
+    const int slash = int(text.indexOf(QLatin1Char('/')));
     const QString upper = slash < 0 ? text : text.left(slash);
     const QString shown = texts.elided(centerFont, upper, rect.width());
     if (slash < 0) {

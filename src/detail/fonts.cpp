@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "fonts.h"
 
+#include "qtversion.h"
+
 namespace panelkit
 {
 
@@ -14,7 +16,7 @@ QFont resized(QFont font, int px)
 QFont applicationFont(int px)
 {
     QFont font = resized(QFont(), px);
-    font.resolve(~0U);
+    setFullyResolved(font);
     return font;
 }
 

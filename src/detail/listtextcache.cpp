@@ -58,9 +58,9 @@ QString ListTextCache::elided(const QFont &font, const QString &text, int width)
     return shortened;
 }
 
-uint qHash(const ListTextCache::Key &key, uint seed)
+Hash qHash(const ListTextCache::Key &key, Hash seed)
 {
-    return qHash(key.text, seed) ^ uint(key.rect.width());
+    return qHash(key.text, seed) ^ Hash(key.rect.width());
 }
 
 } // namespace panelkit

@@ -2,6 +2,7 @@
 #ifndef PANELKIT_DETAIL_LISTTEXTCACHE_H
 #define PANELKIT_DETAIL_LISTTEXTCACHE_H
 
+#include "qtversion.h"
 #include "textcache.h"
 
 #include <QCache>
@@ -34,7 +35,7 @@ public:
     /// How often a text had to be shortened.
     int elisions() const { return m_elisionCount; }
     /// How much of the bound is in use, in bytes: an estimate.
-    int bytes() const { return m_layouts.totalCost() + m_elisions.totalCost(); }
+    int bytes() const { return int(m_layouts.totalCost() + m_elisions.totalCost()); }
 
     static constexpr int kMostBytes = 4 << 20; ///< For the layouts, and again for the elisions.
 
@@ -47,7 +48,7 @@ private:
         auto tied() const { return std::tie(rect, flags, text); }
         bool operator==(const Key &other) const { return tied() == other.tied(); }
     };
-    friend uint qHash(const Key &key, uint seed);
+    friend Hash qHash(const Key &key, Hash seed);
 
     QCache<Key, TextCache> m_layouts;
     QCache<Key, QString> m_elisions;

@@ -61,7 +61,7 @@ void ScalePicture::addLine(Tone tone, int x, int y1, int y2)
         m_lastSolid = std::max(m_lastSolid, x);
     else if (x <= m_lastSolid)
         m_isToneMixed = true;
-    extend(tone == Solid ? SolidLines : FaintLines, m_lines[tone].size());
+    extend(tone == Solid ? SolidLines : FaintLines, int(m_lines[tone].size()));
 }
 
 void ScalePicture::addLabel(const QRectF &box, double value, Write write)
@@ -103,8 +103,8 @@ void ScalePicture::draw(QPainter &painter, const QRect &part, const QColor &soli
         }
     };
     if (isOrderFree(painter)) {
-        drawRun({FaintLines, 0, m_lines[Faint].size()});
-        drawRun({SolidLines, 0, m_lines[Solid].size()});
+        drawRun({FaintLines, 0, int(m_lines[Faint].size())});
+        drawRun({SolidLines, 0, int(m_lines[Solid].size())});
         drawRun({Labels, 0, int(m_labels.size())});
     } else {
         std::for_each(m_runs.begin(), m_runs.end(), drawRun);

@@ -37,9 +37,9 @@ QWidget *newParent()
     return parent;
 }
 
-QTouchDevice *touchPanel()
+auto *touchPanel()
 {
-    static QTouchDevice *const panel = QTest::createTouchDevice();
+    static auto *const panel = QTest::createTouchDevice();
     return panel;
 }
 

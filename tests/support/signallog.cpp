@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "signallog.h"
 
+#include "detail/qtversion.h"
+
 #include <QCoreApplication>
 #include <QDebug>
 #include <QKeyEvent>
@@ -27,7 +29,7 @@ int firstOwnMethod(const QMetaObject *type)
 QString described(int type, const void *value)
 {
     QString text;
-    QDebug(&text).nospace() << QVariant(type, value);
+    QDebug(&text).nospace() << panelkit::variantOf(type, value);
     const int open = text.indexOf(QStringLiteral(", "));
     return text.mid(open + 2).chopped(1); // of "QVariant(type, value)"
 }

@@ -92,6 +92,20 @@ void pinAppearance()
     QApplication::setFont(font);
 }
 
+QImage rendered(QWidget &widget, QWidget::RenderFlags flags)
+{
+    // Qt gives a window that never had a size its own when it is first rendered: too late for this.
+    QWidget &window = *widget.window();
+    if (!window.isVisible() && !window.testAttribute(Qt::WA_Resized))
+        window.adjustSize();
+    QImage image(widget.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    if (image.isNull())
+        return image;
+    widget.render(&image, QPoint(), QRegion(), flags);
+    return image;
+}
+
 } // namespace
 
 QStringList WidgetTest::takeMessages() { return std::exchange(messages, QStringList()); }
@@ -131,15 +145,9 @@ void WidgetTest::cleanup()
     QVERIFY2(unexpected.isEmpty(), qPrintable(unexpected.join(QLatin1Char('\n'))));
 }
 
-QImage painted(QWidget &widget)
-{
-    QImage image(widget.size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    if (image.isNull())
-        return image;
-    widget.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
-    return image;
-}
+QImage painted(QWidget &widget) { return rendered(widget, QWidget::DrawChildren); }
+
+QImage paintedItself(QWidget &widget) { return rendered(widget, QWidget::RenderFlags()); }
 
 QImage reference(const QWidget &widget, const std::function<void(QPainter &)> &paint)
 {
@@ -154,8 +162,9 @@ QImage reference(const QWidget &widget, const std::function<void(QPainter &)> &p
     return image;
 }
 
-bool isSamePicture(const QImage &actual, const QImage &expected, const char *file, int line)
+bool isSamePicture(const PicturePair &pictures, const char *file, int line)
 {
+    const auto &[actual, expected] = pictures;
     if (actual == expected)
         return true;
     const QDir directory(QDir::current().filePath(QStringLiteral("differences")));

@@ -120,7 +120,7 @@ private slots:
                     [&] { return drawn([&](QPainter &p) { p.drawText(kBox, t.flags, t.text); }); });
                 const QImage actual =
                     drawn([&](QPainter &p) { draw(letters, p, kBox, t.flags, letter); });
-                QVERIFY2(isSamePicture(actual, expected, __FILE__, __LINE__),
+                QVERIFY2(isSamePicture({actual, expected}, __FILE__, __LINE__),
                          qPrintable(t.inWords()));
             }
         }

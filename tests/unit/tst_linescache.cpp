@@ -137,7 +137,7 @@ private slots:
             for (int paint = 0; paint < 2; ++paint) {
                 const QImage actual =
                     drawn([&](QPainter &p) { lines.draw(p, rect, t.flags, t.text, kCanvas); });
-                QVERIFY2(isSamePicture(actual, expected, __FILE__, __LINE__),
+                QVERIFY2(isSamePicture({actual, expected}, __FILE__, __LINE__),
                          qPrintable(t.inWords()));
             }
         }

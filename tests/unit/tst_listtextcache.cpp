@@ -89,7 +89,8 @@ private slots:
             const QImage expected = settled(
                 [&] { return drawn([&](QPainter &p) { p.drawText(rect, t.flags, t.text); }); });
             const QImage actual = drawn([&](QPainter &p) { texts.draw(p, rect, t.flags, t.text); });
-            QVERIFY2(isSamePicture(actual, expected, __FILE__, __LINE__), qPrintable(t.inWords()));
+            QVERIFY2(isSamePicture({actual, expected}, __FILE__, __LINE__),
+                     qPrintable(t.inWords()));
         }
     }
 

@@ -59,17 +59,6 @@ QImage knobPicture(const MHorSlider &slider)
     return knobOf(slider)->property("pixmap").value<QPixmap>().toImage();
 }
 
-// The slider without its labels.
-QImage paintedItself(MHorSlider &slider)
-{
-    QImage image(slider.size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    if (image.isNull())
-        return image;
-    slider.render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
-    return image;
-}
-
 // The groove with the columns from `left` to `right` filled.
 QImage shown(const MHorSlider &slider, int left, int right, const QPixmap &groove,
              const QPixmap &fill)

@@ -112,9 +112,9 @@ void paintAll(QPainter &p, const MRadioSlider &s, int scrollX, int stepCount, in
 bool isAs(MRadioSlider &slider, int scrollX, int stepCount)
 {
     return isSamePicture(
-        painted(slider),
-        reference(slider, [&](QPainter &p) { paintAll(p, slider, scrollX, stepCount); }), __FILE__,
-        __LINE__);
+        {painted(slider),
+         reference(slider, [&](QPainter &p) { paintAll(p, slider, scrollX, stepCount); })},
+        __FILE__, __LINE__);
 }
 
 } // namespace

@@ -124,9 +124,9 @@ public:
 
     bool isAs(const Model &model) const
     {
-        return isSamePicture(painted(*scale),
-                             reference(*scale, [&](QPainter &p) { paintScale(p, model, owner); }),
-                             __FILE__, __LINE__);
+        return isSamePicture(
+            {painted(*scale), reference(*scale, [&](QPainter &p) { paintScale(p, model, owner); })},
+            __FILE__, __LINE__);
     }
 
     MRadioMovePoint owner;

@@ -741,7 +741,7 @@ private slots:
                 + letter(has(6), 'X') + letter(has(7), 'S') + letter(has(8), 'H');
             const QString layers = documentedLayers(state);
             const bool isSame =
-                isSamePicture(painted(*tile), documented(*tile, layers), __FILE__, __LINE__);
+                isSamePicture({painted(*tile), documented(*tile, layers)}, __FILE__, __LINE__);
             QVERIFY2(isSame, qPrintable(state + QStringLiteral(": ") + layers));
             ++count;
         }

@@ -82,15 +82,6 @@ SpIconButton *buttonOf(const SpSetupSlider &slider, const QString &id)
     return nullptr;
 }
 
-// The slider without its labels and buttons.
-QImage paintedItself(SpSetupSlider &slider)
-{
-    QImage image(slider.size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    slider.render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
-    return image;
-}
-
 QString changed(int id, int value, const QPoint &pos)
 {
     return QStringLiteral("valueChangeSig(%1, %2, QPoint(%3,%4))")

@@ -146,14 +146,14 @@ private slots:
         QImage one(4, 4, QImage::Format_ARGB32_Premultiplied);
         one.fill(Qt::red);
         QImage two = one;
-        QVERIFY(isSamePicture(one, two, "same.cpp", 1));
+        QVERIFY(isSamePicture({one, two}, "same.cpp", 1));
         two.setPixel(3, 3, qRgba(254, 0, 0, 255));
-        QVERIFY(!isSamePicture(one, two, "expected-difference.cpp", 1));
+        QVERIFY(!isSamePicture({one, two}, "expected-difference.cpp", 1));
         const QString written =
             QStringLiteral("differences/expected-difference-oneWrongPixelIsSeen-1-difference.png");
         QVERIFY(QFile::exists(written));
         QCOMPARE(QImage(written).pixelColor(3, 3), QColor(Qt::red));
-        QVERIFY(!isSamePicture(one, QImage(), "expected-difference.cpp", 2));
+        QVERIFY(!isSamePicture({one, QImage()}, "expected-difference.cpp", 2));
     }
 
     void messagesAreTaken()

@@ -98,7 +98,7 @@ private slots:
                         prepare(p);
                         p.drawText(rect, flags, text);
                     });
-                    QVERIFY2(isSamePicture(actual, expected, __FILE__, __LINE__),
+                    QVERIFY2(isSamePicture({actual, expected}, __FILE__, __LINE__),
                              qPrintable(QStringLiteral("%1 | %2").arg(text, font.toString())));
                 }
             }
@@ -136,7 +136,7 @@ private slots:
             for (int paint = 0; paint < 2; ++paint) {
                 const QImage actual =
                     drawn([&](QPainter &p) { cache.draw(p, rect, t.flags, t.text); });
-                QVERIFY2(isSamePicture(actual, expected, __FILE__, __LINE__),
+                QVERIFY2(isSamePicture({actual, expected}, __FILE__, __LINE__),
                          qPrintable(t.inWords()));
             }
         }
