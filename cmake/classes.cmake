@@ -14,6 +14,7 @@
 #       [CREATE <expression>]           how to make one under `parent`, if not new Class(parent)
 #       [PROMISES <expression>...]      what is always true of an object `o`
 #       [TIMERS <number>]               the most timers that run in it at once, if not one
+#       [PAINT_COST <number>]           how much a paint costs beside copying its pixels
 #       [SIGNALS_INSIDE_QT <signal>...] those after which Qt goes on with the widget, so that it must
 #                                       not be deleted directly
 #       [UNDRIVEN <function>...]        what the robustness drive does not call
@@ -130,8 +131,7 @@ panelkit_class(SpTableList
     TOOLTIP "Kinetic list whose rows have icons, texts and seven styles, with clicks on rows and icons"
     SIZE 400 300
     INITIAL itemHeight=60 itemWidth=400
-    TIMERS 8 # four of its own, four of QTableView
-    UNDRIVEN deleteSelectionModel) # Qt's view needs one in every event: the next model brings it
+    TIMERS 8) # four of its own, four of QTableView
 panelkit_class(styleDelegate NOT_A_WIDGET
     FAMILY "Scrolling lists")
 

@@ -58,7 +58,7 @@ MultipleStateButton::MultipleStateButton(int x, int y, int id, QStringList norma
             d->disabled = true;
     }
     const QPixmap &sized = d->background.isNull() ? d->normalImages.value(0) : d->background;
-    setGeometry(QRect(QPoint(x, y), sized.size()));
+    setGeometry(QRect(QPoint(boundedPixel(x), boundedPixel(y)), sized.size()));
     setGraphicsEffect(d->opacity);
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "playbutton.h"
 
+#include "detail/geometry.h"
 #include "detail/imagefile.h"
 
 #include <QGraphicsOpacityEffect>
@@ -41,7 +42,7 @@ PlayButton::PlayButton(int x, int y, int id, QString normalPath, QString pressPa
     d->buttonId = id;
     d->disabled = d->normalImage.isNull() || d->pressImage.isNull();
     d->opacity = new QGraphicsOpacityEffect(this);
-    setGeometry(QRect(QPoint(x, y), d->normalImage.size()));
+    setGeometry(QRect(QPoint(boundedPixel(x), boundedPixel(y)), d->normalImage.size()));
     setGraphicsEffect(d->opacity);
 }
 

@@ -11,6 +11,7 @@
 #include <QFontMetrics>
 #include <QHeaderView>
 #include <QItemSelectionModel>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPoint>
 #include <QPointer>
@@ -95,7 +96,7 @@ void roll(StringRollingData &record, const QFontMetrics &metrics)
 
 } // namespace
 
-class Q_DECL_HIDDEN SpTableList::Private
+class Q_DECL_HIDDEN SpTableList::Private : public QObject
 {
 public:
     explicit Private(SpTableList *widget) : q(widget) { }
@@ -108,6 +109,7 @@ public:
         QPointer<const QAbstractItemModel> model; // of the index, which cannot tell that it is gone
     };
 
+    bool eventFilter(QObject *list, QEvent *event) override;
     bool isThere(const PlainIndex &plain) const;
     bool rollsTexts() const;
     bool showsRowPressed() const;
@@ -159,6 +161,7 @@ public:
  */
 SpTableList::SpTableList(QWidget *parent) : QTableView(parent), d(std::make_unique<Private>(this))
 {
+    installEventFilter(d.get());
     d->delegate = new styleDelegate(this);
     verticalScrollBar()->setStyleSheet(scrollBarStyleSheet());
     setItemDelegate(d->delegate);
@@ -585,6 +588,17 @@ void SpTableList::speedTimerSlot()
     emit currentShowIndex(currentIndex().row());
     if (guard)
         d->restartRollingLater();
+}
+
+// QTableView takes for granted that there is a selection model when a key moves the current row.
+// Between deleteSelectionModel() and the next model there is none, and a key brings one; the request
+// for a click sound moves nothing.
+bool SpTableList::Private::eventFilter(QObject *, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress && q->model() && !q->selectionModel()
+        && !isKeyRequest(static_cast<QKeyEvent *>(event), kBeepRequest))
+        q->setSelectionModel(new QItemSelectionModel(q->model(), q));
+    return false;
 }
 
 void SpTableList::Private::PlainIndex::set(const QModelIndex &newIndex)

@@ -27,8 +27,9 @@ public:
     /// action after which it was seen; nothing if all is well.
     QStringList play(int actions = std::numeric_limits<int>::max());
 
-    /// The name of each action so far.
-    QStringList track() const { return m_track; }
+    int actions() const { return m_actions; }
+    /// The name of everything done so far.
+    const QStringList &track() const { return m_values.track.lines(); }
 
     bool eventFilter(QObject *object, QEvent *event) override;
     int qt_metacall(QMetaObject::Call call, int id, void **arguments) override;
@@ -52,7 +53,9 @@ private:
     void paint(QWidget &widget);
     void interfere();
     qint64 area() const;
+    qint64 paintWork() const;
     void check();
+    void checkObject();
     void report(const QString &problem);
     QPoint somewhere(const QWidget &widget);
 
@@ -63,7 +66,7 @@ private:
     std::unique_ptr<WildModel> m_model;
     QPointer<QObject> m_object;
     QObject *m_last = nullptr; // only an address once the object is deleted
-    QStringList m_track;
+    int m_actions = 0;
     QStringList m_problems;
     bool m_isInsideQt = false; // which goes on with the object
     int m_loops = 0; // nested inside each other

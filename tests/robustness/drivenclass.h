@@ -15,25 +15,26 @@ class Values;
 /// on the spot, and what holds at any time. Made from the written interface and the list of
 /// classes.
 struct DrivenClass {
-    template <typename T> struct Named {
-        QByteArray name;
-        std::function<T(QObject *, Values &)> function;
+    struct Promise {
+        QByteArray text;
+        std::function<bool(QObject *)> isKept;
     };
 
     QByteArray name;
     std::vector<std::function<QObject *(Values &)>> constructors;
-    std::vector<Named<void>> calls;
-    std::vector<Named<bool>> promises;
+    std::vector<std::function<void(QObject *, Values &)>> calls;
+    std::vector<Promise> promises;
     QByteArrayList signalsInsideQt; ///< Qt goes on with the widget after them
     int timers = 1; ///< the most that run at once
+    int paintCost = 1; ///< beside copying its pixels
 
     /// A function that is not public is none.
-    template <typename Class, typename Call> void addCall(const char *text, Call call)
+    template <typename Class, typename Call> void addCall(Call call)
     {
         if constexpr (std::is_invocable_v<Call, Class &, Values &>)
-            calls.push_back({text, [call](QObject *object, Values &values) {
-                                 call(static_cast<Class &>(*object), values);
-                             }});
+            calls.push_back([call](QObject *object, Values &values) {
+                call(static_cast<Class &>(*object), values);
+            });
     }
 };
 

@@ -25,6 +25,13 @@ def values(types):
     return ", ".join(f"v.value<{one}>()" for one in types)
 
 
+def told(name, types):
+    """Statements that make the arguments one after the other, and tell them; and their names."""
+    names = [f"a{at}" for at in range(len(types))]
+    made = "".join(f"auto &&{one} = v.value<{kind}>(); " for one, kind in zip(names, types))
+    return f'{made}v.track.add({", ".join([chr(34) + name + chr(34)] + names)});', ", ".join(names)
+
+
 def read_functions(path):
     for line in open(path, encoding="utf-8"):
         match = re.match(r"function (\w+)::(\w+)\((.*)\)(?: const)?$", line.strip())
@@ -34,27 +41,31 @@ def read_functions(path):
 
 def write_class(out, name, options, directory):
     functions = list(read_functions(f"{directory}/{name.lower()}.txt"))
-    signals = set(re.findall(r"signal (\w+)\(", open(f"{directory}/{name.lower()}.txt").read()))
+    text = open(f"{directory}/{name.lower()}.txt", encoding="utf-8").read()
+    signals = set(re.findall(r"signal (\w+)\(", text))
+    properties = set(re.findall(r"^property .* (\w+):", text, re.M)) # read after each write
     out.append(f"void add{name}(std::vector<DrivenClass> &classes)\n{{")
     out.append(f'    DrivenClass c;\n    c.name = "{name}";')
     for owner, function, types in functions:
         if any(NOT_MADE.search(one) for one in types) or function in options["UNDRIVEN"]:
             continue
+        made, names = told(function, types)
         if function == owner:
             out.append(f"    c.constructors.push_back([](Values &v) -> QObject * "
-                       f"{{ return new {name}({values(types)}); }});")
-        elif function not in signals:
-            call = f"{function}({values(types)})"
-            out.append(f'    c.addCall<{name}>("{function}", [](auto &o, Values &v) -> '
-                       f"decltype(void(o.{call})) {{ Q_UNUSED(v) static_cast<void>(o.{call}); }});")
+                       f"{{ {made} return new {name}({names}); }});")
+        elif function not in signals | properties:
+            out.append(f"    c.addCall<{name}>([](auto &o, Values &v) -> "
+                       f"decltype(void(o.{function}({values(types)}))) "
+                       f"{{ {made} static_cast<void>(o.{function}({names})); }});")
     for promise in options["PROMISES"]:
-        out.append(f'    c.promises.push_back({{"{promise}", [](QObject *object, Values &) {{\n'
+        out.append(f'    c.promises.push_back({{"{promise}", [](QObject *object) {{\n'
                    f"        const auto &o = static_cast<const {name} &>(*object);\n"
                    f"        return {promise};\n    }}}});")
     for signal in options["SIGNALS_INSIDE_QT"]:
         out.append(f'    c.signalsInsideQt += "{signal}";')
-    for timers in options["TIMERS"]:
-        out.append(f"    c.timers = {timers};")
+    for option, member in (("TIMERS", "timers"), ("PAINT_COST", "paintCost")):
+        for number in options[option]:
+            out.append(f"    c.{member} = {number};")
     out.append("    classes.push_back(std::move(c));\n}\n")
 
 
@@ -63,7 +74,7 @@ def main(classes, directory, target):
     for line in open(classes, encoding="utf-8"):
         name, option, text = line.rstrip("\n").split("|", 2)
         listed.setdefault(name, {one: [] for one in
-                                 ("UNDRIVEN", "PROMISES", "SIGNALS_INSIDE_QT", "TIMERS")})
+                                 ("UNDRIVEN", "PROMISES", "SIGNALS_INSIDE_QT", "TIMERS", "PAINT_COST")})
         if option:
             listed[name][option].append(text)
     out = ['#include "drivenclass.h"\n#include "values.h"\n\n#include "panelkitclasses.h"\n',

@@ -1,11 +1,18 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "values.h"
 
+#include <MRadioMovePoint>
+
 #include <QBitmap>
 #include <QMetaProperty>
 #include <QRandomGenerator>
 
 #include <climits>
+
+QDebug operator<<(QDebug debug, const MapPixAndHz &map)
+{
+    return debug << "pix" << map.pix << "hz" << map.hz;
+}
 
 QByteArray Values::randomBytes(quint32 seed, int count)
 {

@@ -2,6 +2,8 @@
 #ifndef VALUES_H
 #define VALUES_H
 
+#include "track.h"
+
 #include <QAbstractItemModel>
 #include <QByteArray>
 #include <QFont>
@@ -18,10 +20,12 @@
 
 class QMetaProperty;
 struct MapPixAndHz;
+QDebug operator<<(QDebug debug, const MapPixAndHz &map);
 
 /// Turns bytes into whatever a drive asks for: decisions, and ordinary and hostile values of all
 /// types that the library's functions take. The same bytes give the same answers; behind their end
-/// everything is the first choice.
+/// everything is the first choice. Where two are asked for at once, braces keep them in order: the
+/// order of a function's arguments is up to the compiler.
 class Values
 {
 public:
@@ -50,6 +54,9 @@ public:
     /// A value of a type that a function takes; for a reference that the function writes to, a
     /// place that lives as long as these values.
     template <typename T> T value();
+
+    /// What has been done with these values.
+    Track track;
 
     /// What fits to the objects driven: a parent, and a model with its rows.
     QWidget *parent = nullptr;
@@ -107,15 +114,15 @@ template <typename T> T Values::value()
     else if constexpr (std::is_same_v<T, QColor>)
         return color();
     else if constexpr (std::is_same_v<T, QPoint>)
-        return QPoint(value<int>(), value<int>());
+        return QPoint{value<int>(), value<int>()};
     else if constexpr (std::is_same_v<T, QPointF>)
-        return QPointF(value<qreal>(), value<qreal>());
+        return QPointF{value<qreal>(), value<qreal>()};
     else if constexpr (std::is_same_v<T, QSize>)
-        return QSize(value<int>(), value<int>());
+        return QSize{value<int>(), value<int>()};
     else if constexpr (std::is_same_v<T, QRect>)
-        return QRect(value<QPoint>(), value<QPoint>());
+        return QRect{value<QPoint>(), value<QPoint>()};
     else if constexpr (std::is_same_v<T, QRectF>)
-        return QRectF(value<QPointF>(), value<QPointF>());
+        return QRectF{value<QPointF>(), value<QPointF>()};
     else if constexpr (std::is_same_v<T, QPainterPath>)
         return QPainterPath();
     else if constexpr (std::is_same_v<T, QFont>) {

@@ -37,7 +37,9 @@ public:
     void change()
     {
         const int rows = m_values.below(40);
-        switch (m_values.below(4)) {
+        const int kind = m_values.below(4);
+        m_values.track.add("model", kind, rows);
+        switch (kind) {
         case 0:
             beginResetModel();
             m_count = m_values.below(200);

@@ -126,6 +126,13 @@ private slots:
         QVERIFY(!isDisabled(*button));
     }
 
+    // Without a picture it has no size: its right edge is one px left of its left one.
+    void aHostilePlaceIsBounded()
+    {
+        const MultipleStateButton button(INT_MIN, INT_MAX, 0, {}, {}, QString(), &m_window);
+        QCOMPARE(button.geometry(), QRect(-QWIDGETSIZE_MAX, QWIDGETSIZE_MAX, 0, 0));
+    }
+
     void withoutABackgroundTheFirstPictureGivesTheSize()
     {
         MultipleStateButton button(-5, 6, INT_MIN, normalFiles(), pressFiles(), QString());

@@ -97,6 +97,13 @@ private slots:
         QCOMPARE(effect->parent(), button.get());
     }
 
+    // Without a picture it has no size: its right edge is one px left of its left one.
+    void aHostilePlaceIsBounded()
+    {
+        const PlayButton button(INT_MIN, INT_MAX, 9, QString(), QString(), &m_window);
+        QCOMPARE(button.geometry(), QRect(-QWIDGETSIZE_MAX, QWIDGETSIZE_MAX, 0, 0));
+    }
+
     void aMissingPictureDisablesIt_data()
     {
         QTest::addColumn<QString>("normalPath");

@@ -2106,6 +2106,28 @@ private slots:
         list->repaint();
     }
 
+    void aListWithoutSelectionModelCanStillBeMovedThroughWithKeys()
+    {
+        Rows rows(100);
+        const auto list = makeList(&rows);
+        show(*list);
+        list->deleteSelectionModel();
+        tap(*list, 100, 70);
+        virtualtime::advance(50);
+        QVERIFY(!list->selectionModel()); // the request for a click sound is no such key
+        QTest::keyClick(list.get(), Qt::Key_Down);
+        QCOMPARE(list->currentIndex().row(), 0);
+        QTest::keyClick(list.get(), Qt::Key_Down);
+        QCOMPARE(list->currentIndex().row(), 1);
+        list->deleteSelectionModel();
+        QCOMPARE(selectionModels(*list), 0);
+        list->setModel(nullptr);
+        QTest::keyClick(list.get(), Qt::Key_Down);
+        list->deleteSelectionModel();
+        QTest::keyClick(list.get(), Qt::Key_Down);
+        QVERIFY(!list->selectionModel());
+    }
+
     // --- Hard to break --------------------------------------------------------------------------
 
     // What a model may do at any moment of a touch.
