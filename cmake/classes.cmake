@@ -14,7 +14,7 @@
 #       [CREATE <expression>]           how to make one under `parent`, if not new Class(parent)
 #       [PROMISES <expression>...]      what is always true of an object `o`
 #       [TIMERS <number>]               the most timers that run in it at once, if not one
-#       [PAINT_COST <number>]           how much a paint costs beside copying its pixels
+#       [LONGEST_TEXT <number>]         the most characters that it is driven with, if not 5000
 #       [SIGNALS_INSIDE_QT <signal>...] those after which Qt goes on with the widget, so that it must
 #                                       not be deleted directly
 #       [UNDRIVEN <function>...]        what the robustness drive does not call
@@ -163,6 +163,7 @@ panelkit_class(MVScrollLabel
     TOOLTIP "Label that scrolls its text upward where it is too high"
     SIZE 200 120
     INITIAL "text=Scrolling label"
+    LONGEST_TEXT 500 # each paint goes through all lines
     SIGNALS_INSIDE_QT scrollStateChanged)
 
 panelkit_class(SpSetupSlider

@@ -591,8 +591,8 @@ void SpTableList::speedTimerSlot()
 }
 
 // QTableView takes for granted that there is a selection model when a key moves the current row.
-// Between deleteSelectionModel() and the next model there is none, and a key brings one; the request
-// for a click sound moves nothing.
+// Between deleteSelectionModel() and the next model there is none, and a key brings one; the
+// request for a click sound moves nothing.
 bool SpTableList::Private::eventFilter(QObject *, QEvent *event)
 {
     if (event->type() == QEvent::KeyPress && q->model() && !q->selectionModel()

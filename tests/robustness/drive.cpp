@@ -75,11 +75,11 @@ void Drive::report(const QString &problem)
 {
     constexpr int kShown = 8;
     const QStringList &lines = track();
-    m_problems += QStringLiteral("%1, action %2, after ... %3: %4")
-                      .arg(QString::fromLatin1(m_driven.name))
-                      .arg(m_actions)
-                      .arg(lines.mid(qMax(0, lines.size() - kShown)).join(QLatin1String(", ")),
-                           problem);
+    m_problems +=
+        QStringLiteral("%1, action %2, after ... %3: %4")
+            .arg(QString::fromLatin1(m_driven.name))
+            .arg(m_actions)
+            .arg(lines.mid(qMax(0, lines.size() - kShown)).join(QLatin1String(", ")), problem);
 }
 
 void Drive::revive()
@@ -88,6 +88,7 @@ void Drive::revive()
         m_parent.reset(newParent());
     if (!m_model)
         m_model = std::make_unique<WildModel>(m_values);
+    m_values.longestText = m_driven.longestText;
     m_values.parent = m_parent.get();
     m_values.model = m_model.get();
     m_object =
@@ -202,28 +203,39 @@ void Drive::callFunction()
     m_driven.calls[size_t(m_values.below(int(m_driven.calls.size())))](m_object, m_values);
 }
 
+// Some ticks are enough of a timer, and fewer where each is followed by much work: the wait goes
+// from one to the next.
 void Drive::wait(int ms)
 {
+    constexpr qint64 kTicks = 40;
+    constexpr qint64 kMostWork = 4 << 20;
+    constexpr int kNone = 100; // ms, after which to look again for a timer that has come
+    m_values.track.add("wait", ms);
     ++m_loops;
-    const int bounded = qMin(ms, longestWait());
-    m_values.track.add("wait", bounded);
-    virtualtime::advance(bounded);
+    qint64 ticks = qBound(qint64(1), kMostWork / qMax(qint64(1), paintWork()), kTicks);
+    do {
+        const int next = untilNextTick();
+        const int part = qMin(ms, qBound(1, next, kNone));
+        virtualtime::advance(part);
+        ms -= part;
+        if (next <= part)
+            ticks -= next == 0 ? virtualtime::kTurnsPerMs : 1;
+    } while (ms > 0 && ticks > 0);
     --m_loops;
 }
 
-// Some ticks of the fastest timer are enough of it, and fewer where each is followed by much work.
-int Drive::longestWait() const
+int Drive::untilNextTick() const
 {
-    constexpr int kTicks = 40;
-    constexpr qint64 kMostWork = 4 << 20;
-    const int ticks = int(qBound(qint64(1), kMostWork / qMax(qint64(1), paintWork()),
-                                 qint64(kTicks)));
-    int interval = INT_MAX / kTicks;
-    if (m_object) {
-        for (const auto &timer : QAbstractEventDispatcher::instance()->registeredTimers(m_object))
-            interval = qMin(timer.interval, interval);
+    auto *const dispatcher = QAbstractEventDispatcher::instance();
+    int next = INT_MAX;
+    QObjectList owners;
+    if (m_object)
+        owners = m_object->children() + QObjectList{m_object};
+    for (QObject *owner : qAsConst(owners)) {
+        for (const auto &timer : dispatcher->registeredTimers(owner))
+            next = qMin(next, dispatcher->remainingTime(timer.timerId));
     }
-    return interval > 0 ? ticks * interval : qMax(1, ticks / virtualtime::kTurnsPerMs);
+    return next;
 }
 
 qint64 Drive::area() const
@@ -239,13 +251,13 @@ qint64 Drive::paintWork() const
     constexpr int kBlur = 8;
     const auto *widget = qobject_cast<const QWidget *>(m_object.data());
     if (!widget || !widget->graphicsEffect())
-        return area() * m_driven.paintCost;
+        return area();
     const QSizeF reach = widget->graphicsEffect()->boundingRectFor(widget->rect()).size();
     return qint64(reach.width()) * qint64(reach.height()) * kBlur;
 }
 
-// Of a window that is empty or immense Qt makes no picture to paint on, and says so. What takes long
-// to paint goes on as a small widget.
+// Of a window that is empty or immense Qt makes no picture to paint on, and says so. What takes
+// long to paint goes on as a small widget.
 void Drive::check()
 {
     constexpr qint64 kMostPixels = 1920 * 1080;

@@ -42,7 +42,7 @@ private:
     void writeProperty();
     void callFunction();
     void wait(int ms);
-    int longestWait() const;
+    int untilNextTick() const;
     void resize(QWidget &widget);
     void playMouse(QWidget &widget);
     void playFingers(QWidget &widget);

@@ -27,9 +27,9 @@ auto *touchPanel()
 void Drive::actOnWidget(QWidget &widget)
 {
     static constexpr void (Drive::*kActions[])(QWidget &) = {
-        &Drive::resize,    &Drive::playMouse, &Drive::playMouse, &Drive::playFingers,
-        &Drive::playKeys,  &Drive::sendEvent, &Drive::change,    &Drive::move,
-        &Drive::paint,     &Drive::paint};
+        &Drive::resize,   &Drive::playMouse, &Drive::playMouse, &Drive::playFingers,
+        &Drive::playKeys, &Drive::sendEvent, &Drive::change,    &Drive::move,
+        &Drive::paint,    &Drive::paint};
     (this->*kActions[m_values.below(int(std::size(kActions)))])(widget);
 }
 
@@ -47,10 +47,9 @@ void Drive::resize(QWidget &widget)
 {
     widget.setMinimumSize(0, 0);
     widget.setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-    const QSize size = m_values.once(64)
-        ? QSize(4096, 4096)
-        : m_values.oneOf(
-            {QSize(120, 80), QSize(0, 0), QSize(1, 1), QSize(3, 900), QSize(800, 480)});
+    const QSize size = m_values.once(64) ? QSize(4096, 4096)
+                                         : m_values.oneOf({QSize(120, 80), QSize(0, 0), QSize(1, 1),
+                                                           QSize(3, 900), QSize(800, 480)});
     m_values.track.add("resize", size);
     widget.resize(size);
 }

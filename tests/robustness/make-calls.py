@@ -63,7 +63,7 @@ def write_class(out, name, options, directory):
                    f"        return {promise};\n    }}}});")
     for signal in options["SIGNALS_INSIDE_QT"]:
         out.append(f'    c.signalsInsideQt += "{signal}";')
-    for option, member in (("TIMERS", "timers"), ("PAINT_COST", "paintCost")):
+    for option, member in (("TIMERS", "timers"), ("LONGEST_TEXT", "longestText")):
         for number in options[option]:
             out.append(f"    c.{member} = {number};")
     out.append("    classes.push_back(std::move(c));\n}\n")
@@ -74,7 +74,7 @@ def main(classes, directory, target):
     for line in open(classes, encoding="utf-8"):
         name, option, text = line.rstrip("\n").split("|", 2)
         listed.setdefault(name, {one: [] for one in
-                                 ("UNDRIVEN", "PROMISES", "SIGNALS_INSIDE_QT", "TIMERS", "PAINT_COST")})
+                                 ("UNDRIVEN", "PROMISES", "SIGNALS_INSIDE_QT", "TIMERS", "LONGEST_TEXT")})
         if option:
             listed[name][option].append(text)
     out = ['#include "drivenclass.h"\n#include "values.h"\n\n#include "panelkitclasses.h"\n',

@@ -52,11 +52,13 @@ QString Values::text()
 {
     if (!files.isEmpty() && once(4))
         return files[below(files.size())];
-    return oneOf({QString(), QStringLiteral("a"), QStringLiteral("Radio"),
-                  QStringLiteral("two\nlines"), QStringLiteral("a/b/c"), QStringLiteral("///"),
-                  QString(5000, QLatin1Char('W')), QString(300, QChar(0xD800)), QString(QChar(0)),
-                  QStringLiteral("\u0645\u0648\u0633\u064a\u0642\u0649 abc \u0645"),
-                  QStringLiteral("/"), QStringLiteral("/absent.png"), QStringLiteral(":/absent")});
+    const QString text =
+        oneOf({QString(), QStringLiteral("a"), QStringLiteral("Radio"),
+               QStringLiteral("two\nlines"), QStringLiteral("a/b/c"), QStringLiteral("///"),
+               QString(5000, QLatin1Char('W')), QString(300, QChar(0xD800)), QString(QChar(0)),
+               QStringLiteral("\u0645\u0648\u0633\u064a\u0642\u0649 abc \u0645"),
+               QStringLiteral("/"), QStringLiteral("/absent.png"), QStringLiteral(":/absent")});
+    return text.left(longestText);
 }
 
 QPixmap Values::picture()
