@@ -209,18 +209,19 @@ void Drive::wait(int ms)
 {
     constexpr qint64 kTicks = 40;
     constexpr qint64 kMostWork = 4 << 20;
-    constexpr int kNone = 100; // ms, after which to look again for a timer that has come
+    constexpr int kNone = 2000; // ms, after which to look again for a timer that has come
     m_values.track.add("wait", ms);
     ++m_loops;
+    virtualtime::advance(0);
     qint64 ticks = qBound(qint64(1), kMostWork / qMax(qint64(1), paintWork()), kTicks);
-    do {
+    while (ms > 0 && ticks > 0) {
         const int next = untilNextTick();
         const int part = qMin(ms, qBound(1, next, kNone));
         virtualtime::advance(part);
         ms -= part;
         if (next <= part)
             ticks -= next == 0 ? virtualtime::kTurnsPerMs : 1;
-    } while (ms > 0 && ticks > 0);
+    }
     --m_loops;
 }
 
