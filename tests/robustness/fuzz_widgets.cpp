@@ -15,11 +15,13 @@
 #include <sys/syscall.h>
 #include <sys/time.h>
 #include <unistd.h>
+#include <utility>
 
 namespace
 {
 
 constexpr int kLongestDrive = 60; // s of processor time
+constexpr int kActionsALine = 250000;
 
 long long actions = 0;
 long end = 0; // s by the true clock, none if 0
@@ -61,13 +63,17 @@ extern "C" int LLVMFuzzerTestOneInput(const quint8 *data, size_t size)
     if (end > 0 && trueTime() >= end) {
         std::printf("%lld actions, nothing found\n", actions);
         std::fflush(stdout);
-        std::_Exit(0);
+        std::_Exit(0); // which the fuzzer does not take for the end of a crash
     }
     const QByteArray bytes(reinterpret_cast<const char *>(data) + 1, int(size) - 1);
     startWatch();
     Drive drive(classes[data[0] % classes.size()], bytes);
     const QStringList problems = drive.play();
-    actions += drive.actions();
+    const long long before = std::exchange(actions, actions + drive.actions());
+    if (before / kActionsALine < actions / kActionsALine) {
+        std::printf("%lld actions\n", actions);
+        std::fflush(stdout);
+    }
     if (problems.isEmpty())
         return 0;
     std::fprintf(stderr, "%s\n", qPrintable(problems.join(QLatin1Char('\n'))));
