@@ -9,6 +9,9 @@ import sys
 # Events and painters come from Qt, and an instance is given back to where it was taken.
 NOT_MADE = re.compile(r"Event ?\*|QPainter ?[&*]|QStyleOption|QPixmap ?\*|StringRollingData|^Sp\w+ ?\*")
 
+# What they return belongs to the caller.
+MAKERS = ("GetInstance",)
+
 
 def arguments(text):
     """The types between the parentheses, without the const references that take any value."""
@@ -54,9 +57,10 @@ def write_class(out, name, options, directory):
             out.append(f"    c.constructors.push_back([](Values &v) -> QObject * "
                        f"{{ {made} return new {name}({names}); }});")
         elif function not in signals | properties:
+            call = f"o.{function}({names})"
+            done = f"delete {call}" if function in MAKERS else f"static_cast<void>({call})"
             out.append(f"    c.addCall<{name}>([](auto &o, Values &v) -> "
-                       f"decltype(void(o.{function}({values(types)}))) "
-                       f"{{ {made} static_cast<void>(o.{function}({names})); }});")
+                       f"decltype(void(o.{function}({values(types)}))) {{ {made} {done}; }});")
     for promise in options["PROMISES"]:
         out.append(f'    c.promises.push_back({{"{promise}", [](QObject *object) {{\n'
                    f"        const auto &o = static_cast<const {name} &>(*object);\n"
