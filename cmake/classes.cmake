@@ -79,13 +79,16 @@ panelkit_class(MSelectButton
 panelkit_class(SpMultipleButton
     FAMILY "State buttons"
     TOOLTIP "Button that goes through up to 20 states, each with a picture and a pressed picture"
-    SIZE 120 120)
+    SIZE 120 120
+    PROMISES "o.totalValue() >= 0 && o.totalValue() <= 20"
+        "o.currentValue() >= 0 && o.currentValue() < 20")
 
 panelkit_class(MultipleStateButton
     FAMILY "State buttons"
     TOOLTIP "Image button that each touch steps to its next state, made from image files"
     SIZE 120 80
-    CREATE "new MultipleStateButton(0, 0, 0, {}, {}, {}, parent)")
+    CREATE "new MultipleStateButton(0, 0, 0, {}, {}, {}, parent)"
+    PROMISES "o.getButtonValue() >= 0")
 
 panelkit_class(PlayButton
     FAMILY "State buttons"
@@ -185,7 +188,9 @@ panelkit_class(MCircularDial
     FAMILY "Sliders"
     TOOLTIP "Round dial with ticks, labels and a pointer, turned by touching near its rim"
     SIZE 300 300
-    INITIAL radius=150 scaleLong=5)
+    INITIAL radius=150 scaleLong=5
+    PROMISES "o.minValue() < o.maxValue()" # a value stays within 0.05 of a limit that passes it
+        "o.value() >= o.minValue() - 0.05 && o.value() <= o.maxValue() + 0.05")
 
 panelkit_class(MProgressBar
     FAMILY "Progress"
