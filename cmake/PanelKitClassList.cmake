@@ -9,8 +9,8 @@ define_property(GLOBAL PROPERTY PANELKIT_HEADERS BRIEF_DOCS "Header names withou
     FULL_DOCS "Header names without their ending")
 
 function(panelkit_class class)
-    cmake_parse_arguments(arg "NOT_A_WIDGET" "FAMILY;TOOLTIP;HEADER;CREATE;PART_OF;TIMERS;LONGEST_TEXT"
-        "SIZE;INITIAL;PROMISES;SIGNALS_INSIDE_QT;UNDRIVEN" ${ARGN})
+    cmake_parse_arguments(arg "NOT_A_WIDGET" "FAMILY;TOOLTIP;HEADER;CREATE;PART_OF;TIMERS"
+        "SIZE;INITIAL;PROMISES;SIGNALS_INSIDE_QT" ${ARGN})
     if(arg_UNPARSED_ARGUMENTS)
         message(FATAL_ERROR "${class}: not understood: ${arg_UNPARSED_ARGUMENTS}")
     endif()
@@ -40,7 +40,7 @@ function(panelkit_class class)
     endif()
 
     set_property(GLOBAL APPEND_STRING PROPERTY PANELKIT_DRIVEN "${class}||\n")
-    foreach(option TIMERS LONGEST_TEXT PROMISES SIGNALS_INSIDE_QT UNDRIVEN)
+    foreach(option TIMERS PROMISES SIGNALS_INSIDE_QT)
         foreach(text IN LISTS arg_${option})
             set_property(GLOBAL APPEND_STRING PROPERTY PANELKIT_DRIVEN "${class}|${option}|${text}\n")
         endforeach()

@@ -14,10 +14,8 @@
 #       [CREATE <expression>]           how to make one under `parent`, if not new Class(parent)
 #       [PROMISES <expression>...]      what is always true of an object `o`
 #       [TIMERS <number>]               the most timers that run in it at once, if not one
-#       [LONGEST_TEXT <number>]         the most characters that it is driven with, if not 5000
 #       [SIGNALS_INSIDE_QT <signal>...] those after which Qt goes on with the widget, so that it must
 #                                       not be deleted directly
-#       [UNDRIVEN <function>...]        what the robustness drive does not call
 #       [NOT_A_WIDGET])                 a class that Designer and the catalogue cannot show
 #
 #   panelkit_class(<Class> PART_OF <Class above>)
@@ -166,7 +164,6 @@ panelkit_class(MVScrollLabel
     TOOLTIP "Label that scrolls its text upward where it is too high"
     SIZE 200 120
     INITIAL "text=Scrolling label"
-    LONGEST_TEXT 500 # each paint goes through all lines
     SIGNALS_INSIDE_QT scrollStateChanged)
 
 panelkit_class(SpSetupSlider

@@ -65,6 +65,7 @@ QStringList Drive::play(int actions)
             revive();
         ++m_actions;
         act();
+        deleteLate();
         check();
     }
     qInstallMessageHandler(handler);
@@ -88,7 +89,6 @@ void Drive::revive()
         m_parent.reset(newParent());
     if (!m_model)
         m_model = std::make_unique<WildModel>(m_values);
-    m_values.longestText = m_driven.longestText;
     m_values.parent = m_parent.get();
     m_values.model = m_model.get();
     m_object =
@@ -203,6 +203,10 @@ void Drive::callFunction()
     m_driven.calls[size_t(m_values.below(int(m_driven.calls.size())))](m_object, m_values);
 }
 
+// What deleteLater() was called for goes before the next event in a program with an event loop
+// around everything, which there is none here.
+void Drive::deleteLate() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
+
 // Some ticks are enough of a timer, and fewer where each is followed by much work: the wait goes
 // from one to the next.
 void Drive::wait(int ms)
@@ -211,6 +215,7 @@ void Drive::wait(int ms)
     constexpr qint64 kMostWork = 4 << 20;
     constexpr int kNone = 2000; // ms, after which to look again for a timer that has come
     m_values.track.add("wait", ms);
+    deleteLate();
     ++m_loops;
     virtualtime::advance(0);
     qint64 ticks = qBound(qint64(1), kMostWork / qMax(qint64(1), paintWork()), kTicks);

@@ -41,6 +41,7 @@ private:
     void actOnWidget(QWidget &widget);
     void writeProperty();
     void callFunction();
+    static void deleteLate();
     void wait(int ms);
     int untilNextTick() const;
     void resize(QWidget &widget);

@@ -37,12 +37,13 @@ QPoint Drive::somewhere(const QWidget &widget)
 {
     const auto along = [this](int length) {
         return m_values.once(4) ? m_values.oneOf({-500, -1, 0, 500, 5000})
-                                : m_values.below(256) * qMax(1, length) / 256;
+                                : int(m_values.below(256) * qint64(qMax(1, length)) / 256);
     };
     const int x = along(widget.width());
     return {x, along(widget.height())};
 }
 
+// Qt asks for the picture of a window that has become empty, and there is none.
 void Drive::resize(QWidget &widget)
 {
     widget.setMinimumSize(0, 0);
@@ -51,7 +52,7 @@ void Drive::resize(QWidget &widget)
                                          : m_values.oneOf({QSize(120, 80), QSize(0, 0), QSize(1, 1),
                                                            QSize(3, 900), QSize(800, 480)});
     m_values.track.add("resize", size);
-    widget.resize(size);
+    widget.resize(widget.isWindow() ? size.expandedTo(QSize(1, 1)) : size);
 }
 
 // Mouse events as they come from a touch screen, to the widget or to one inside it.
@@ -71,6 +72,7 @@ void Drive::playMouse(QWidget &widget)
                           button, down, Qt::NoModifier);
         event.setTimestamp(ulong(virtualtime::now()));
         QCoreApplication::sendEvent(target, &event);
+        deleteLate();
     };
     down = Qt::LeftButton;
     send(m_values.once(8) ? QEvent::MouseButtonDblClick : QEvent::MouseButtonPress, Qt::LeftButton);
@@ -122,6 +124,7 @@ void Drive::playKeys(QWidget &widget)
         QKeyEvent event(type, key, Qt::NoModifier, text);
         if (target)
             QCoreApplication::sendEvent(target, &event);
+        deleteLate();
     }
 }
 
@@ -189,6 +192,7 @@ void Drive::move(QWidget &widget)
         break;
     case 1:
         widget.setParent(nullptr);
+        widget.resize(widget.size().expandedTo(QSize(1, 1)));
         widget.show();
         break;
     case 2:

@@ -26,7 +26,6 @@ struct DrivenClass {
     std::vector<Promise> promises;
     QByteArrayList signalsInsideQt; ///< Qt goes on with the widget after them
     int timers = 1; ///< the most that run at once
-    int longestText = 5000; ///< characters
 
     /// A function that is not public is none.
     template <typename Class, typename Call> void addCall(Call call)

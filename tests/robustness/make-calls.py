@@ -1,13 +1,14 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
 """Writes the constructors and functions of the classes, as tests/interface has them, as C++ that
-calls each with values made on the spot: make-calls.py <classes> <directory> <out>. The classes are a
-file of lines "class|option|text" in the order of the list of classes."""
+calls each with values made on the spot: make-calls.py <classes> <directory> <out>. The classes are
+a file of lines "class|option|text" in the order of the list of classes."""
 import re
 import sys
 
 # Events and painters come from Qt, and an instance is given back to where it was taken.
-NOT_MADE = re.compile(r"Event ?\*|QPainter ?[&*]|QStyleOption|QPixmap ?\*|StringRollingData|^Sp\w+ ?\*")
+NOT_MADE = re.compile(r"Event ?\*|QPainter ?[&*]|QStyleOption|QPixmap ?\*|StringRollingData|"
+                      r"^Sp\w+ ?\*")
 
 # What they return belongs to the caller.
 MAKERS = ("GetInstance",)
@@ -50,7 +51,7 @@ def write_class(out, name, options, directory):
     out.append(f"void add{name}(std::vector<DrivenClass> &classes)\n{{")
     out.append(f'    DrivenClass c;\n    c.name = "{name}";')
     for owner, function, types in functions:
-        if any(NOT_MADE.search(one) for one in types) or function in options["UNDRIVEN"]:
+        if any(NOT_MADE.search(one) for one in types):
             continue
         made, names = told(function, types)
         if function == owner:
@@ -67,9 +68,8 @@ def write_class(out, name, options, directory):
                    f"        return {promise};\n    }}}});")
     for signal in options["SIGNALS_INSIDE_QT"]:
         out.append(f'    c.signalsInsideQt += "{signal}";')
-    for option, member in (("TIMERS", "timers"), ("LONGEST_TEXT", "longestText")):
-        for number in options[option]:
-            out.append(f"    c.{member} = {number};")
+    for number in options["TIMERS"]:
+        out.append(f"    c.timers = {number};")
     out.append("    classes.push_back(std::move(c));\n}\n")
 
 
@@ -78,7 +78,7 @@ def main(classes, directory, target):
     for line in open(classes, encoding="utf-8"):
         name, option, text = line.rstrip("\n").split("|", 2)
         listed.setdefault(name, {one: [] for one in
-                                 ("UNDRIVEN", "PROMISES", "SIGNALS_INSIDE_QT", "TIMERS", "LONGEST_TEXT")})
+                                 ("PROMISES", "SIGNALS_INSIDE_QT", "TIMERS")})
         if option:
             listed[name][option].append(text)
     out = ['#include "drivenclass.h"\n#include "values.h"\n\n#include "panelkitclasses.h"\n',

@@ -63,7 +63,6 @@ public:
     QAbstractItemModel *model = nullptr;
     /// Pictures and animations that text() may name.
     QStringList files;
-    int longestText = 5000; ///< characters
 
 private:
     template <typename T> QList<T> list()
