@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mlistview.h"
 
+#include "detail/geometry.h"
 #include "spiconbutton.h"
 
 #include <QMouseEvent>
 #include <QPointer>
 
 #include <algorithm>
+
+using namespace panelkit;
 
 class Q_DECL_HIDDEN MListView::Private
 {
@@ -167,10 +170,13 @@ SpIconButton *MListView::Private::makeButton(const QPixmap &first, const QPixmap
     return button;
 }
 
+// A button's place is added to that of each touch that the button leaves to the view.
 void MListView::Private::placeButtons()
 {
-    for (int i = 0; i < buttonList.size(); ++i)
-        buttonList.at(i)->move(positionList.at(i));
+    for (int i = 0; i < buttonList.size(); ++i) {
+        const QPoint place = positionList.at(i);
+        buttonList.at(i)->move(boundedPixel(place.x()), boundedPixel(place.y()));
+    }
 }
 
 // Each button stands at its predecessor's height plus all tops before: buttons of one height h at

@@ -9,6 +9,7 @@
 
 #include <QPainter>
 
+#include <climits>
 #include <memory>
 #include <type_traits>
 
@@ -248,6 +249,17 @@ private slots:
         view.setPixmapList(list);
         for (int i = 0; i < 3; ++i)
             QCOMPARE(buttonsOf(view)[i]->geometry(), QRect(places[i], QSize(60, 20)));
+    }
+
+    // What a button leaves to the view has come from its place: a touch out there is still one.
+    void hostilePositionsAreBounded()
+    {
+        MListView view(nullptr, kRect);
+        QList<QPoint> places{{INT_MIN, INT_MAX}};
+        QList<QPixmap> list = pictures(1);
+        view.setPositionList(places);
+        view.setPixmapList(list);
+        QCOMPARE(buttonsOf(view)[0]->pos(), QPoint(-QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
     }
 
     void positionsOfAnotherNumberAreNotUsed()
