@@ -16,6 +16,7 @@ public:
     {
         QString line = QString::fromLatin1(name);
         if (m_isPrinted) {
+            line += QLatin1Char(' ');
             QDebug debug(&line);
             static_cast<void>((debug << ... << values));
             std::fprintf(stderr, "%s\n", qPrintable(line.left(kLongest)));
