@@ -26,7 +26,7 @@ int seeds()
 #ifdef PANELKIT_EMULATED // each costs an emulated processor many minutes
     constexpr int kSeeds = 1;
 #else
-    constexpr int kSeeds = 4;
+    constexpr int kSeeds = 3;
 #endif
     return asked > 0 ? asked : kSeeds;
 }
