@@ -109,7 +109,7 @@ public:
         QPointer<const QAbstractItemModel> model; // of the index, which cannot tell that it is gone
     };
 
-    bool eventFilter(QObject *list, QEvent *event) override;
+    bool eventFilter(QObject *object, QEvent *event) override;
     bool isThere(const PlainIndex &plain) const;
     bool rollsTexts() const;
     bool showsRowPressed() const;
@@ -162,6 +162,8 @@ public:
 SpTableList::SpTableList(QWidget *parent) : QTableView(parent), d(std::make_unique<Private>(this))
 {
     installEventFilter(d.get());
+    horizontalHeader()->viewport()->installEventFilter(d.get());
+    verticalHeader()->viewport()->installEventFilter(d.get());
     d->delegate = new styleDelegate(this);
     verticalScrollBar()->setStyleSheet(scrollBarStyleSheet());
     setItemDelegate(d->delegate);
@@ -590,13 +592,16 @@ void SpTableList::speedTimerSlot()
         d->restartRollingLater();
 }
 
-// QTableView takes for granted that there is a selection model when a key moves the current row.
-// Between deleteSelectionModel() and the next model there is none, and a key brings one; the
-// request for a click sound moves nothing.
-bool SpTableList::Private::eventFilter(QObject *, QEvent *event)
+// QTableView takes for granted that there is a selection model when a key or a touch of a header
+// selects. Between deleteSelectionModel() and the next model there is none, and such an event
+// brings one; the request for a click sound selects nothing.
+bool SpTableList::Private::eventFilter(QObject *object, QEvent *event)
 {
-    if (event->type() == QEvent::KeyPress && q->model() && !q->selectionModel()
-        && !isKeyRequest(static_cast<QKeyEvent *>(event), kBeepRequest))
+    const QEvent::Type type = event->type();
+    const bool selects = object == q
+        ? type == QEvent::KeyPress && !isKeyRequest(static_cast<QKeyEvent *>(event), kBeepRequest)
+        : type == QEvent::MouseButtonPress || type == QEvent::MouseMove;
+    if (selects && q->model() && !q->selectionModel())
         q->setSelectionModel(new QItemSelectionModel(q->model(), q));
     return false;
 }

@@ -2128,6 +2128,22 @@ private slots:
         QVERIFY(!list->selectionModel());
     }
 
+    void theHeadersOfAListWithoutSelectionModelCanStillBeTouched()
+    {
+        Rows rows(100);
+        const auto list = makeList(&rows);
+        list->verticalHeader()->show();
+        list->horizontalHeader()->show();
+        show(*list);
+        for (QHeaderView *header : {list->verticalHeader(), list->horizontalHeader()}) {
+            list->deleteSelectionModel();
+            touch(header->viewport()).press(5, 5);
+            QVERIFY(list->selectionModel());
+            list->deleteSelectionModel();
+            touch(header->viewport()).press(5, 5).moveTo(6, 6).release();
+        }
+    }
+
     // --- Hard to break --------------------------------------------------------------------------
 
     // What a model may do at any moment of a touch.
