@@ -79,9 +79,12 @@ void ImageLook::drawScaled(QPainter &painter, const QRect &target, const QPixmap
         return;
     }
     const Key key{Kind::Scaled, pixmap.cacheKey(), area, 0};
-    painter.drawImage(target.topLeft(), m_image.value(key, [&](QImage &image) {
-        image = scaledImage(pixmap, area);
-    }));
+    const QImage &copy =
+        m_image.value(key, [&](QImage &image) { image = scaledImage(pixmap, area); });
+    if (copy.isNull()) // for want of memory
+        painter.drawPixmap(target, pixmap);
+    else
+        painter.drawImage(target.topLeft(), copy);
 }
 
 void ImageLook::drawVeiled(QPainter &painter, const QRect &target, const QPixmap &pixmap, int alpha)
