@@ -141,7 +141,7 @@ void AccessibleWidget::doAction(const QString &actionName)
     }
     if (!isTouchable(living))
         return;
-    const QPoint middle = living->rect().center();
+    const QPoint middle(living->width() / 2, living->height() / 2);
     if (actionName == Action::nextPageAction())
         drag(living, middle, middle - QPoint(kSwipe, 0));
     else if (actionName == Action::previousPageAction())

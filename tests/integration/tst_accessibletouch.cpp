@@ -175,7 +175,7 @@ private slots:
     {
         QFETCH(const Specimen *, specimen);
         const QStringList ofTouch = said(*specimen, [](QWidget *widget) {
-            touch(widget).tap(widget->rect().center().x(), widget->rect().center().y());
+            touch(widget).tap(widget->width() / 2, widget->height() / 2);
         });
         const QStringList ofAction =
             said(*specimen, [](QWidget *widget) { actionsOf(widget)->doAction("Press"); });
