@@ -8,6 +8,8 @@
 #include <QString>
 #include <QVariant>
 
+#ifndef QT_NO_ACCESSIBILITY
+
 namespace panelkit
 {
 
@@ -80,7 +82,6 @@ struct AccessibleKind {
     }
 
     const char *className;
-    QAccessible::Role role;
     const char *caption = nullptr;
     const char *caption2 = nullptr;
     const char *id = nullptr;
@@ -90,16 +91,14 @@ struct AccessibleKind {
     const char *value = nullptr;
     const char *minimum = nullptr;
     const char *maximum = nullptr;
+    QAccessible::Role role;
     int actions = 0;
     int longPress = 0; // ms
-    bool isCheckable = false;
-    bool hasValue = false;
     Track track = NoTrack;
     AccessibleTeller teller = AccessibleTeller::None;
+    bool isCheckable = false;
+    bool hasValue = false;
 };
-
-/// That of the class with this name; none if it is no class of the library.
-const AccessibleKind *accessibleKind(const QString &className);
 
 /// A widget and its kind. While the widget is being destroyed it is none of its class any more, and
 /// all answers are empty.
@@ -138,5 +137,7 @@ private:
 };
 
 } // namespace panelkit
+
+#endif // QT_NO_ACCESSIBILITY
 
 #endif // PANELKIT_DETAIL_ACCESSIBLEKIND_H

@@ -100,11 +100,10 @@ QStringList AccessibleSlider::actionNames() const
 void AccessibleSlider::doAction(const QString &actionName)
 {
     const double step = minimumStepSize().toDouble();
-    if (kind().track == AccessibleKind::NoTrack)
-        AccessibleWidget::doAction(actionName);
-    else if (actionName == Action::increaseAction())
+    const bool isTrack = kind().track != AccessibleKind::NoTrack;
+    if (isTrack && actionName == Action::increaseAction())
         touchNear(currentValue().toDouble() + step, 1);
-    else if (actionName == Action::decreaseAction())
+    else if (isTrack && actionName == Action::decreaseAction())
         touchNear(currentValue().toDouble() - step, -1);
     else
         AccessibleWidget::doAction(actionName);
@@ -184,8 +183,8 @@ std::vector<QPoint> AccessibleSlider::placesNear(double wanted, int direction) c
 void AccessibleSlider::dragTapeTo(double wanted)
 {
     auto *slider = qobject_cast<MRadioSlider *>(livingWidget());
-    const double step = slider ? double(slider->getFreqStep()) : 0;
-    if (!(step > 0))
+    const double step = minimumStepSize().toDouble();
+    if (!slider || !(step > 0))
         return;
     const int steps = toInt(std::round((wanted - double(slider->getFreqStart())) / step));
     const int target =

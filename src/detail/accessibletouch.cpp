@@ -37,8 +37,13 @@ void tap(QWidget *widget, const QPoint &pos, int duration)
     const QPointer<QWidget> guard(widget);
     send(guard, QEvent::MouseButtonPress, pos);
     if (guard && duration > 0) {
-        QTimer::singleShot(duration, Qt::PreciseTimer, widget,
-                           [guard, pos] { send(guard, QEvent::MouseButtonRelease, pos); });
+        auto *lift = new QTimer(widget);
+        lift->setTimerType(Qt::PreciseTimer);
+        QObject::connect(lift, &QTimer::timeout, widget, [lift, guard, pos] {
+            delete lift;
+            send(guard, QEvent::MouseButtonRelease, pos);
+        });
+        lift->start(duration);
         return;
     }
     send(guard, QEvent::MouseButtonRelease, pos);
