@@ -13,6 +13,7 @@
 
 #include <cmath>
 #include <limits>
+#include <optional>
 #include <vector>
 
 namespace panelkit
@@ -142,41 +143,36 @@ void AccessibleSlider::touchNear(double wanted, int direction)
         dragTapeTo(wanted);
         return;
     }
-    const std::vector<QPoint> places = placesNear(wanted, direction);
-    if (places.empty())
+    const std::optional<QPoint> place = placeNear(wanted, direction);
+    if (!place)
         return;
-    const QPoint place = places[places.size() / 2];
     const QRect all = living->rect();
-    if (all.contains(place))
-        tap(living, place);
+    const QPoint inside(qBound(0, place->x(), all.right()), qBound(0, place->y(), all.bottom()));
+    if (*place == inside)
+        tap(living, inside);
     else
-        drag(living, {qBound(0, place.x(), all.right()), qBound(0, place.y(), all.bottom())},
-             place);
+        drag(living, inside, *place);
 }
 
-// All that are as near to the value as any; those inside the widget if there are some.
-std::vector<QPoint> AccessibleSlider::placesNear(double wanted, int direction) const
+// One that is inside the widget goes before one that is as near to the value outside.
+std::optional<QPoint> AccessibleSlider::placeNear(double wanted, int direction) const
 {
     const QRect inside = widget()->rect();
     const double present = currentValue().toDouble();
     const double least = qobject_cast<MCircularDial *>(object()) ? kLeastTurn : 0;
     double nearest = std::numeric_limits<double>::infinity();
-    std::vector<QPoint> places;
+    std::optional<QPoint> place;
     for (const QPoint &point : pointsOf(*widget(), kind().track)) {
         const double value = valueAt(point);
         if (std::isnan(value) || (direction != 0 && (value - present) * direction <= least))
             continue;
         const double off = std::abs(value - wanted);
-        const bool isBetter = off < nearest
-            || (off == nearest && inside.contains(point) && !inside.contains(places.front()));
-        if (isBetter)
-            places.clear();
-        if (isBetter
-            || (off == nearest && inside.contains(point) == inside.contains(places.front())))
-            places.push_back(point);
+        const bool isAsNear = place && off <= nearest;
+        if (off < nearest || (isAsNear && inside.contains(point) && !inside.contains(*place)))
+            place = point;
         nearest = std::min(nearest, off);
     }
-    return places;
+    return place;
 }
 
 // A scale below a fixed pointer goes the way of the finger, in whole steps.

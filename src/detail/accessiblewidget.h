@@ -7,7 +7,7 @@
 #include <QAccessibleWidget>
 
 #include <memory>
-#include <vector>
+#include <optional>
 
 #ifndef QT_NO_ACCESSIBILITY
 
@@ -79,7 +79,7 @@ public:
 private:
     double valueAt(const QPoint &pos) const;
     void touchNear(double wanted, int direction);
-    std::vector<QPoint> placesNear(double wanted, int direction) const;
+    std::optional<QPoint> placeNear(double wanted, int direction) const;
     void dragTapeTo(double wanted);
 };
 

@@ -3,6 +3,7 @@
 // actions, the rows of the lists; and that it may hold on to what it found when the widget goes.
 
 #include "accessiblespecimens.h"
+#include "touch.h"
 #include "virtualtime.h"
 #include "widgettest.h"
 
@@ -264,6 +265,9 @@ void tst_Accessible::rowsOfATableList()
     QCOMPARE(second->rect().topLeft(), found->rect().topLeft() + QPoint(1, 41));
     QCOMPARE(second->actionInterface()->actionNames(), QStringList{"Press"});
     QVERIFY(!found->childAt(found->rect().right() + 10, found->rect().top()));
+    QVERIFY(!second->state().pressed);
+    touch(list.viewport()).press(50, 50).hold(300);
+    QVERIFY(second->state().pressed && !found->child(3)->state().pressed);
 }
 
 void tst_Accessible::rowsAreThoseThatTheModelHasNow()
@@ -307,6 +311,8 @@ void tst_Accessible::lettersOfAnIndex()
         QVERIFY(found->child(1)->state().selected && !third->state().selected);
         QVERIFY(found->child(9)->state().offscreen && !third->state().offscreen);
         QCOMPARE(found->childAt(third->rect().center().x(), third->rect().center().y()), third);
+        touch(&index).press(third->rect().center() - found->rect().topLeft());
+        QVERIFY(third->state().pressed && !found->child(1)->state().pressed);
     }
 }
 

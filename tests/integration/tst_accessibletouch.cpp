@@ -251,6 +251,7 @@ private slots:
     void aValueIsSetByATouchThere();
     void everyValueCanBeSet_data() { addRows(m_sliders, "Increase"); }
     void everyValueCanBeSet();
+    void aStepMovesThoughPixelsAreFew();
     void aRowIsPressedAsByATap();
     void aRowOutOfSightIsScrolledTo();
     void aLetterIsPressedAsByATap();
@@ -269,10 +270,11 @@ void tst_AccessibleTouch::aValueIsSetByATouchThere_data()
     QTest::addColumn<QPoint>("from");
     QTest::addColumn<QPoint>("to");
     const auto row = [this](const char *name, double value, const QPoint &from, const QPoint &to) {
-        QTest::newRow(name) << &specimen(name) << value << from << to;
+        QTest::addRow("%s %g", name, value) << &specimen(name) << value << from << to;
     };
     row("SpSetupSlider", 5, {25, 32}, {25, 32});
     row("MHorSlider", -5, {2, 20}, {2, 20});
+    row("MProgressBar", 0, {0, 60}, {0, 60});
     row("MProgressBar", 25, {60, 60}, {60, 60});
     row("MArcScrollBar", 49, {20, 150}, {20, 150});
     row("MRadioMovePoint", 9800, {0, 0}, {0, 0});
@@ -331,6 +333,21 @@ void tst_AccessibleTouch::everyValueCanBeSet()
     QVERIFY(steps >= 10);
     actionsOf(widget)->doAction(QStringLiteral("Decrease"));
     QVERIFY(values->currentValue().toDouble() < before);
+}
+
+// Of 10,000 values on 240 px a finger goes to every fortieth or so.
+void tst_AccessibleTouch::aStepMovesThoughPixelsAreFew()
+{
+    QWidget window;
+    QWidget *widget = shown(specimen("MProgressBar"), window);
+    auto *bar = static_cast<MProgressBar *>(widget);
+    bar->setMaxValue(10000);
+    bar->setCurrentValue(5000);
+    actionsOf(widget)->doAction(QStringLiteral("Increase"));
+    QVERIFY(bar->currentValue() > 5000 && bar->currentValue() < 5100);
+    bar->setCurrentValue(5000);
+    actionsOf(widget)->doAction(QStringLiteral("Decrease"));
+    QVERIFY(bar->currentValue() < 5000 && bar->currentValue() > 4900);
 }
 
 void tst_AccessibleTouch::aRowIsPressedAsByATap()
