@@ -8,6 +8,7 @@
 #include "../styledelegate.h"
 #include "accessibletouch.h"
 #include "arithmetic.h"
+#include "geometry.h"
 #include "listroles.h"
 
 #include <QAbstractItemModel>
@@ -46,9 +47,12 @@ QAccessibleInterface *AccessibleRows::child(int index) const
 {
     if (index < 0 || index >= childCount())
         return nullptr;
-    const auto known = m_children.constFind(index);
-    if (known != m_children.constEnd())
-        return QAccessible::accessibleInterface(*known);
+    const QAccessible::Id id = m_children.value(index);
+    auto *known = static_cast<AccessibleRow *>(id ? QAccessible::accessibleInterface(id) : nullptr);
+    if (known && known->row() == rowOfChild(index))
+        return known;
+    if (known) // the model has another number of columns now
+        QAccessible::deleteAccessibleInterface(id);
     auto *row = new AccessibleRow(const_cast<AccessibleRows &>(*this), rowOfChild(index));
     m_children.insert(index, QAccessible::registerAccessibleInterface(row));
     return row;
@@ -131,16 +135,19 @@ int AccessibleTableList::columns() const
 
 int AccessibleTableList::childCount() const
 {
-    return columns() == 0 ? 0 : (rowCount() + 1) * (columns() + 1);
+    return columns() == 0 ? 0 : saturated((qint64(rowCount()) + 1) * (columns() + 1));
 }
 
 int AccessibleTableList::rowOfChild(int index) const
 {
     const int width = columns() + 1;
-    return index % width == 0 ? -1 : index / width - 1;
+    return index % width == 1 ? index / width - 1 : -1;
 }
 
-int AccessibleTableList::childOfRow(int row) const { return (row + 1) * (columns() + 1) + 1; }
+int AccessibleTableList::childOfRow(int row) const
+{
+    return saturated((qint64(row) + 1) * (columns() + 1) + 1);
+}
 
 int AccessibleTableList::rowAt(const QPoint &pos) const
 {
@@ -237,13 +244,14 @@ QPoint AccessibleArcList::touchPoint(int row) const
     const auto *letters = list();
     if (letters->acrListStyle() == MArcList::ARCLIST_STYLE_1) {
         const double first = std::trunc(letters->startAngle());
-        return {letters->width() / 2, toInt((row - first + 0.5) * letters->itemHight())};
+        const double y = (row - first + 0.5) * letters->itemHight();
+        return {letters->width() / 2, boundedPixel(toInt(y))};
     }
     const int middle = letters->height() / 2;
     const double angle =
         (letters->startAngle() + (row + 0.5) * letters->itemHight()) * M_PI / 180.0;
-    return {toInt(letters->radius() * std::cos(angle)),
-            toInt(middle + letters->radius() * std::sin(angle))};
+    return {boundedPixel(toInt(letters->radius() * std::cos(angle))),
+            boundedPixel(toInt(middle + letters->radius() * std::sin(angle)))};
 }
 
 QRect AccessibleArcList::rowRect(int row) const

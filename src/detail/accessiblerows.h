@@ -80,8 +80,9 @@ private:
 
 /**
  * The rows of a table list with the texts that its delegate paints. Qt reports changes of selection
- * and model with the places that children have in its own tables: first two headers, then for each
- * row its header and its cells. They have the same places here; the list shows no header.
+ * and model with the places that children have in its own tables: first the headers of the columns,
+ * then for each row its header and its cells. They have the same places here; the list shows no
+ * headers, and of the cells the first.
  */
 class AccessibleTableList : public AccessibleRows
 {

@@ -8,6 +8,7 @@
 #include "../mradioslider.h"
 #include "accessibletouch.h"
 #include "arithmetic.h"
+#include "geometry.h"
 
 #include <QtMath>
 
@@ -25,6 +26,7 @@ namespace
 using Action = QAccessibleActionInterface;
 
 constexpr int kDirections = 1440; // around a dial where a finger may come down
+constexpr int kMostPlaces = 4096; // along a track; of a longer one every second is tried, and so on
 constexpr double kNearRim = 0.95; // of the radius
 constexpr double kLeastTurn = 0.05; // of a dial's value; a smaller change is none
 
@@ -52,7 +54,8 @@ std::vector<QPoint> pointsAlong(const QWidget &widget, AccessibleKind::Track tra
     const bool isVertical = track == AccessibleKind::Vertical;
     const int length = isVertical ? widget.height() : widget.width();
     std::vector<QPoint> points;
-    for (int i = -length / 2; i < length + length / 2; ++i)
+    const int stride = 1 + length / kMostPlaces;
+    for (int i = -length / 2; i < length + length / 2; i += stride)
         points.push_back(isVertical ? QPoint(middle.x(), i) : QPoint(i, middle.y()));
     return points;
 }
@@ -187,7 +190,7 @@ void AccessibleSlider::dragTapeTo(double wanted)
         saturated(qint64(slider->width() / 2) - qint64(steps) * slider->getLineGap());
     const int way = saturated(qint64(target) - toInt(facts().told(AccessibleFact::ScaleX)));
     const QPoint middle = slider->rect().center();
-    drag(slider, middle, middle + QPoint(way, 0));
+    drag(slider, middle, middle + QPoint(boundedPixel(way), 0));
 }
 
 } // namespace panelkit

@@ -4,6 +4,7 @@
 #ifndef QT_NO_ACCESSIBILITY
 
 #include "accessibletouch.h"
+#include "arithmetic.h"
 
 #include <QColor>
 #include <QWindow>
@@ -19,7 +20,7 @@ using Action = QAccessibleActionInterface;
 constexpr int kSwipe = 121; // px, sideways, the shortest that turns a page
 
 // Timers of long presses may be 5 % late.
-int surelyLonger(int ms) { return ms + ms / 10 + 1; }
+int surelyLonger(int ms) { return saturated(qint64(ms) + ms / 10 + 1); }
 
 } // namespace
 

@@ -11,7 +11,7 @@
 #include <QLabel>
 #include <QLayout>
 
-#include <memory>
+#include <climits>
 
 namespace
 {
@@ -229,6 +229,8 @@ private slots:
     void rowsOfATableList();
     void rowsAreThoseThatTheModelHasNow();
     void lettersOfAnIndex();
+    void hostileValuesAreRead_data() { everyClass_data(); }
+    void hostileValuesAreRead();
     void aClientMayKeepWhatItHas_data() { everyClass_data(); }
     void aClientMayKeepWhatItHas();
 };
@@ -287,6 +289,12 @@ void tst_Accessible::rowsAreThoseThatTheModelHasNow()
     QVERIFY(!last->isValid());
     QCOMPARE(nameOf(*last), QString());
     QCOMPARE(nameOf(*found->child(found->childCount() - 1)), QStringLiteral("said"));
+    QAccessibleInterface *cell = found->child(3);
+    QCOMPARE(nameOf(*cell), QStringLiteral("Row 2"));
+    model->setColumnCount(2);
+    QCOMPARE(found->child(3)->role(), QAccessible::RowHeader);
+    QCOMPARE(nameOf(*found->child(4)), QStringLiteral("Row 2"));
+    QCOMPARE(found->child(5)->role(), QAccessible::RowHeader);
     list.setModel(nullptr);
     QCOMPARE(found->childCount(), 0);
 }
@@ -313,6 +321,39 @@ void tst_Accessible::lettersOfAnIndex()
         QCOMPARE(found->childAt(third->rect().center().x(), third->rect().center().y()), third);
         touch(&index).press(third->rect().center() - found->rect().topLeft());
         QVERIFY(third->state().pressed && !found->child(1)->state().pressed);
+    }
+}
+
+// Whatever the properties are: what is read agrees with the widget, and a touch is one or none.
+void tst_Accessible::hostileValuesAreRead()
+{
+    QFETCH(const Specimen *, specimen);
+    const QVariantList values{INT_MIN, -1,     0,     1,    INT_MAX,
+                              qQNaN(), qInf(), 1e300, true, QString(QChar(0xD800))};
+    QWidget window;
+    QWidget *widget = shown(*specimen, window);
+    QAccessibleInterface *found = interfaceOf(widget);
+    const QMetaObject *type = widget->metaObject();
+    for (int i = QWidget::staticMetaObject.propertyCount(); i < type->propertyCount(); ++i) {
+        const QVariant before = widget->property(type->property(i).name());
+        for (const QVariant &value : values) {
+            widget->setProperty(type->property(i).name(), value);
+            for (auto *each : {found, found->child(0), found->child(found->childCount() - 1)}) {
+                if (!each)
+                    continue;
+                each->state();
+                each->text(QAccessible::Name);
+                QVERIFY(each->rect().isEmpty() || each != found
+                        || each->rect().size() == widget->size());
+                if (auto *actions = each->actionInterface())
+                    actions->doAction(QAccessibleActionInterface::pressAction());
+            }
+            found->childAt(found->rect().x() + 5, found->rect().y() + 5);
+            found->actionInterface()->doAction(QAccessibleActionInterface::increaseAction());
+            if (auto *own = found->valueInterface())
+                own->setCurrentValue(1e300);
+        }
+        widget->setProperty(type->property(i).name(), before);
     }
 }
 
