@@ -17,10 +17,13 @@ namespace
 constexpr qint64 kLargestScaledCopy = qint64(4096) * 1024;
 
 // The nearest-neighbour scaling of drawPixmap, done once: the same pixels, ready to be copied. They
-// are the same in this composition mode alone, for which Qt has scaling of its own.
+// are the same in this composition mode alone, for which Qt has scaling of its own. What is opaque
+// stays so whatever its unused bits say: of damaged animations they say something.
 QImage scaledImage(const QPixmap &pixmap, const QSize &area)
 {
-    QImage image(area, QImage::Format_ARGB32_Premultiplied);
+    QImage image(area,
+                 pixmap.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
+                                          : QImage::Format_RGB32);
     if (image.isNull())
         return image;
     image.fill(Qt::transparent);
