@@ -10,8 +10,8 @@ namespace headunit
 namespace
 {
 
-// What stands on the widgets of the script. Those with a picture alone go by their identifier. Behind
-// a list stands the name of its row.
+// What stands on the widgets of the script. Those with a picture alone go by their identifier.
+// Behind a list stands the name of its row.
 const QMap<QString, QStringList> &captions()
 {
     static const QMap<QString, QStringList> all{

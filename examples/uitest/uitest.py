@@ -8,8 +8,8 @@
     print([row.name for row in screen.find("list").rows()])
     screen.picture("sound.png")
 
-Everything goes over the AT-SPI bus: the application may be written in any language and knows nothing
-of its test. It needs Debian's python3-pyatspi and at-spi2-core; see docs/guide/ui-testing.md.
+Everything goes over the AT-SPI bus: the application may be written in any language and knows
+nothing of its test. It needs Debian's python3-pyatspi and at-spi2-core; see docs/guide/ui-testing.md.
 """
 
 import subprocess
