@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mlistview.h"
 
+#include "detail/accessible.h"
+
 #include "spiconbutton.h"
 
 #include <QMouseEvent>
 #include <QPointer>
 
 #include <algorithm>
+
+using namespace panelkit;
 
 class Q_DECL_HIDDEN MListView::Private
 {
@@ -35,6 +39,7 @@ public:
 MListView::MListView(QWidget *parent, SpTableList *list, QRect rect)
     : QWidget(parent), d(std::make_unique<Private>(this))
 {
+    installAccessibility();
     d->tableList = list;
     d->viewRect = rect;
     setGeometry(d->viewRect);

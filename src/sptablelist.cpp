@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "sptablelist.h"
 
+#include "detail/accessible.h"
 #include "detail/arithmetic.h"
 #include "detail/fonts.h"
 #include "detail/keyrequest.h"
@@ -159,6 +160,7 @@ public:
  */
 SpTableList::SpTableList(QWidget *parent) : QTableView(parent), d(std::make_unique<Private>(this))
 {
+    installAccessibility();
     d->delegate = new styleDelegate(this);
     verticalScrollBar()->setStyleSheet(scrollBarStyleSheet());
     setItemDelegate(d->delegate);
