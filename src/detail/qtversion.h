@@ -4,6 +4,7 @@
 #define PANELKIT_DETAIL_QTVERSION_H
 
 #include <QFont>
+#include <QVariant>
 
 namespace panelkit
 {
@@ -21,6 +22,16 @@ inline void setFullyResolved(QFont &font)
     font.resolve(~0U);
 #else
     font.setResolveMask(~0U);
+#endif
+}
+
+/// A value of which only the number of its type is known.
+inline QVariant variantOf(int type, const void *value)
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    return QVariant(type, value);
+#else
+    return QVariant(QMetaType(type), value);
 #endif
 }
 

@@ -23,7 +23,11 @@ namespace
 {
 
 constexpr int kSteps = 500;
+#ifdef PANELKIT_EMULATED
+constexpr int kSeeds = 1;
+#else
 constexpr int kSeeds = 6;
+#endif
 
 class Values
 {

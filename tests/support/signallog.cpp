@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "signallog.h"
 
+#include "detail/qtversion.h"
+
 #include <QCoreApplication>
 #include <QDebug>
 #include <QKeyEvent>
@@ -87,7 +89,7 @@ int SignalLog::qt_metacall(QMetaObject::Call call, int id, void **arguments)
     const QMetaMethod &method = m_signals[id];
     QStringList values;
     for (int i = 0; i < method.parameterCount(); ++i) {
-        const QVariant value(method.parameterType(i), arguments[i + 1]);
+        const QVariant value = panelkit::variantOf(method.parameterType(i), arguments[i + 1]);
         values += m_hasAllDigits ? allDigits(value) : described(value);
     }
     add(QStringLiteral("%1(%2)").arg(QString::fromLatin1(method.name()),
