@@ -39,6 +39,7 @@ function(panelkit_class class)
     endif()
 
     set_property(GLOBAL APPEND PROPERTY PANELKIT_WHOLE_CLASSES ${class})
+    set_property(GLOBAL PROPERTY PANELKIT_FAMILY_OF_${class} ${arg_FAMILY})
     set_property(GLOBAL APPEND_STRING PROPERTY PANELKIT_OBJECT_ROWS
         " \\\n    ROW(${class}, ${arg_CREATE})")
     if(NOT arg_NOT_A_WIDGET)

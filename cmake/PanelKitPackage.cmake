@@ -24,8 +24,8 @@ if(NOT BUILD_SHARED_LIBS)
 endif()
 
 # The other ways to say "Qt 5 Widgets".
-string(REGEX REPLACE "([A-Za-z]+)" "Qt${PANELKIT_QT}\\1 >= ${PANELKIT_QT_VERSION}" PANELKIT_PC_REQUIRES
-    "${PANELKIT_QT_MODULES}")
+string(REGEX REPLACE "([A-Za-z]+)" "Qt${PANELKIT_QT}\\1 >= ${PANELKIT_QT_VERSION}"
+    PANELKIT_PC_REQUIRES "${PANELKIT_QT_MODULES}")
 string(REPLACE ";" ", " PANELKIT_PC_REQUIRES "${PANELKIT_PC_REQUIRES}")
 string(TOLOWER "core;gui;${PANELKIT_QT_MODULES}" PANELKIT_QMAKE_DEPENDS)
 string(REPLACE ";" " " PANELKIT_QMAKE_DEPENDS "${PANELKIT_QMAKE_DEPENDS}")
@@ -54,5 +54,6 @@ function(panelkit_install_package)
         ${CMAKE_CURRENT_BINARY_DIR}/PanelKitConfigVersion.cmake DESTINATION ${package_dir}
         ${PANELKIT_DEVELOPMENT})
     panelkit_install_description(panelkit.pc ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
-    panelkit_install_description(qt_lib_panelkit.pri ${CMAKE_INSTALL_LIBDIR}/qt${PANELKIT_QT}/mkspecs/modules)
+    panelkit_install_description(qt_lib_panelkit.pri
+        ${CMAKE_INSTALL_LIBDIR}/qt${PANELKIT_QT}/mkspecs/modules)
 endfunction()

@@ -124,7 +124,8 @@ panelkit_class(SpTableList
     TOOLTIP "Kinetic list whose rows have icons, texts and seven styles, with clicks on rows and icons"
     SIZE 400 300
     INITIAL itemHeight=60 itemWidth=400)
-panelkit_class(styleDelegate NOT_A_WIDGET)
+panelkit_class(styleDelegate NOT_A_WIDGET
+    FAMILY "Scrolling lists")
 
 panelkit_class(MArcList
     FAMILY "Scrolling lists"

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "clicksound.h"
 
-#include <QAudioDeviceInfo>
+#include <audiodevice.h>
+
 #include <QDataStream>
 #include <QFile>
 #include <QSoundEffect>
@@ -61,7 +62,7 @@ bool writeWave(const QString &path)
 ClickSound::ClickSound(QObject *parent) : QObject(parent)
 {
     const QString path = m_directory.filePath(QStringLiteral("click.wav"));
-    if (QAudioDeviceInfo::availableDevices(QAudio::AudioOutput).isEmpty() || !writeWave(path))
+    if (!audiodevice::isThere() || !writeWave(path))
         return;
     m_effect = new QSoundEffect(this);
     m_effect->setSource(QUrl::fromLocalFile(path));

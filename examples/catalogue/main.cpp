@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "catalogue.h"
 #include "clicksound.h"
+#include "film.h"
 #include "launch.h"
 #include "mainwindow.h"
 #include "playlist.h"
@@ -48,8 +49,10 @@ int showWindow(MainWindow &window, const PressFeedback &feedback, const Page &fi
 
 int main(int argc, char *argv[])
 {
-    if (launch::isGiven(argc, argv, {"--tour", "--list", "--help", "-h"}))
+    if (launch::isGiven(argc, argv, {"--tour", "--film", "--list", "--help", "-h"}))
         launch::preferNoScreen();
+    if (launch::isGiven(argc, argv, {"--film"}))
+        Film::prepare();
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("panelkit-catalogue"));
 
@@ -61,6 +64,10 @@ int main(int argc, char *argv[])
         QStringLiteral("tour"),
         QStringLiteral("Plays every page, or the one of --page, and writes pictures and signals."),
         QStringLiteral("directory"));
+    const QCommandLineOption filmOption(
+        QStringLiteral("film"),
+        QStringLiteral("Plays what moves, and writes pictures of it at even intervals."),
+        QStringLiteral("directory"));
     const QCommandLineOption listOption(QStringLiteral("list"), QStringLiteral("Lists the pages."));
     const QCommandLineOption playlistOption(
         QStringLiteral("playlist"),
@@ -70,7 +77,7 @@ int main(int argc, char *argv[])
         QStringLiteral("log"),
         QStringLiteral("Writes what Qt and the widgets log to this file, not to the console."),
         QStringLiteral("file"));
-    parser.addOptions({pageOption, tourOption, listOption, playlistOption, logOption});
+    parser.addOptions({pageOption, tourOption, filmOption, listOption, playlistOption, logOption});
     const TouchOptions touches(parser);
     parser.addHelpOption();
     parser.process(app);
@@ -100,5 +107,7 @@ int main(int argc, char *argv[])
     window.show();
     if (parser.isSet(tourOption))
         return takeTour(catalogue, window, parser.value(tourOption), page);
+    if (parser.isSet(filmOption))
+        return Film(window, parser.value(filmOption)).takeAll(catalogue);
     return showWindow(window, feedback, page ? *page : catalogue.pages().front(), touches);
 }

@@ -12,27 +12,58 @@
 namespace
 {
 
-// All pictures of a page on one, small and with their names, as the documentation shows them.
+// What of a picture is not the bare glass, and a little around it.
+QRect contentOf(const QImage &picture)
+{
+    constexpr int kMargin = 8; // px
+    const QRgb glass = Theme::kGlass.rgb();
+    int left = picture.width();
+    int right = -1;
+    int top = picture.height();
+    int bottom = -1;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if ((picture.pixel(x, y) | 0xff000000) == glass)
+                continue;
+            left = qMin(left, x);
+            right = qMax(right, x);
+            top = qMin(top, y);
+            bottom = qMax(bottom, y);
+        }
+    }
+    if (right < 0)
+        return {};
+    const QRect content(QPoint(left, top), QPoint(right, bottom));
+    return content.adjusted(-kMargin, -kMargin, kMargin, kMargin) & picture.rect();
+}
+
+// All pictures of a page on one, small and with their names, as the documentation shows them: the
+// same part of each, in which is all that any of them shows.
 QImage contactSheet(const QVector<QImage> &pictures, const QStringList &names)
 {
     constexpr int kColumns = 4;
     constexpr int kGap = 8; // px
-    constexpr QSize kPicture(240, 134);
-    constexpr QSize kCell(kPicture.width() + kGap, kPicture.height() + kGap + 20);
+    constexpr int kName = 20; // px
+    constexpr QSize kLargest(240, 180);
+    QRect part;
+    for (const QImage &picture : pictures)
+        part |= contentOf(picture);
+    const QSize shown = part.width() > kLargest.width() || part.height() > kLargest.height()
+        ? part.size().scaled(kLargest, Qt::KeepAspectRatio)
+        : part.size();
+    const QSize cell(kLargest.width() + kGap, shown.height() + kName + kGap);
     const int rows = (pictures.size() + kColumns - 1) / kColumns;
-    QImage sheet(kColumns * kCell.width() + kGap, rows * kCell.height() + kGap,
-                 QImage::Format_RGB32);
+    QImage sheet(kColumns * cell.width() + kGap, rows * cell.height() + kGap, QImage::Format_RGB32);
     sheet.fill(Theme::kLine);
     QPainter painter(&sheet);
     painter.setPen(Qt::white);
     for (int i = 0; i < pictures.size(); ++i) {
-        const QPoint corner(kGap + i % kColumns * kCell.width(),
-                            kGap + i / kColumns * kCell.height());
-        const QImage small =
-            pictures.at(i).scaled(kPicture, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-        const QSize spare = kPicture - small.size();
-        painter.drawImage(corner + QPoint(spare.width(), spare.height()) / 2, small);
-        painter.drawText(QRect(corner + QPoint(0, kPicture.height()), QSize(kPicture.width(), 20)),
+        const QPoint corner(kGap + i % kColumns * cell.width(),
+                            kGap + i / kColumns * cell.height());
+        const QImage small = pictures.at(i).copy(part).scaled(shown, Qt::IgnoreAspectRatio,
+                                                              Qt::SmoothTransformation);
+        painter.drawImage(corner + QPoint((kLargest.width() - shown.width()) / 2, 0), small);
+        painter.drawText(QRect(corner + QPoint(0, shown.height()), QSize(kLargest.width(), kName)),
                          Qt::AlignCenter, names.at(i));
     }
     return sheet;

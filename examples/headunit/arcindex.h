@@ -35,9 +35,10 @@ struct ListLetters {
 };
 
 /**
- * Stands at the right of a long list: an arc with its letters, and outside of them an arc scroll
- * bar. A letter that is tapped takes the list to its first row, the bar takes it anywhere, and both
- * follow the list wherever it goes.
+ * Stands at the end of the rows of a long list: an arc with its letters, and outside of them an arc
+ * scroll bar. A letter that is tapped takes the list to its first row, the bar takes it anywhere,
+ * and both follow the list wherever it goes. Both arcs bend to the left: where rows end at the
+ * left, the letters stand in a column, and the bar is straight.
  */
 class ArcIndex : public QWidget
 {
@@ -50,7 +51,7 @@ public:
     /// set that first.
     void setList(SpTableList *list, const ListLetters &letters);
 
-    /// Takes the width that both arcs need at this height.
+    /// Takes the width that letters and bar need at this height.
     void dress(const Theme &theme, int height);
 
 private:
@@ -65,8 +66,10 @@ private:
         int width; // px
     };
 
-    void dressLetters(const Theme &theme, const Arcs &arcs);
-    void dressBar(const Theme &theme, const Arcs &arcs);
+    void dressColors(const Theme &theme);
+    void bendLetters(const Theme &theme, const Arcs &arcs);
+    void bendBar(const Theme &theme, const Arcs &arcs);
+    void straighten(const Theme &theme, int height);
     void readLetters();
     void showLetter(QChar letter);
     void showPlace();

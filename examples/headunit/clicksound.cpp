@@ -4,11 +4,13 @@
 #include "models/preferences.h"
 #include "models/samples.h"
 
-#include <QAudioDeviceInfo>
+#include <audiodevice.h>
+
 #include <QCoreApplication>
 #include <QSoundEffect>
 #include <QTextStream>
 #include <QUrl>
+#include <QWidget>
 
 #include <utility>
 
@@ -29,13 +31,13 @@ ClickSound::ClickSound(const Preferences *preferences, QObject *parent)
 void ClickSound::play()
 {
     if (!std::exchange(m_isPrepared, true)) {
-        if (QAudioDeviceInfo::availableDevices(QAudio::AudioOutput).isEmpty()) {
+        if (audiodevice::isThere()) {
+            m_effect = new QSoundEffect(this);
+            m_effect->setSource(QUrl::fromLocalFile(samples::clickSound()));
+        } else {
             QTextStream(stderr) << tr("There is nothing to play sound with here: "
                                       "keys are pressed without a click.")
                                 << '\n';
-        } else {
-            m_effect = new QSoundEffect(this);
-            m_effect->setSource(QUrl::fromLocalFile(samples::clickSound()));
         }
     }
     if (m_effect)

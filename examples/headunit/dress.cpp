@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "dress.h"
 
+#include "sidekeys.h"
+
 #include <mfocusbutton.h>
 #include <mhorslider.h>
 #include <monoffbutton.h>
@@ -8,6 +10,7 @@
 #include <sprollingtext.h>
 
 #include <QEvent>
+#include <QFontMetrics>
 #include <QGuiApplication>
 #include <QLayout>
 #include <QPainter>
@@ -21,6 +24,9 @@ namespace headunit
 namespace
 {
 
+constexpr int kSliderKnob = 40; // units of what is seen of it
+constexpr int kLongestRow = 900; // units
+
 struct Arrangement {
     int iconPx = 0;
     int rise = 0; // px of the icon above the middle
@@ -32,8 +38,10 @@ Arrangement arranged(const QSize &size, const Theme &theme, bool hasIcon, bool h
 {
     Arrangement result;
     const int most = std::min(theme.px(44), size.height() * 6 / 10);
+    // Alone in a large key an icon has the weight of the key.
+    const int alone = std::max(most, std::min(theme.px(64), size.height() * 9 / 20));
     const int lineHeight = theme.textPx(Theme::Small) * 3 / 2;
-    result.iconPx = hasIcon ? most : 0;
+    result.iconPx = hasIcon ? alone : 0;
     result.caption = QRect(QPoint(), size);
     if (hasIcon && hasCaption) {
         result.iconPx = std::min(most, size.height() - lineHeight - theme.px(14));
@@ -57,14 +65,14 @@ QPixmap switchTrack(const Theme &theme, const QSize &size, int pill, const QColo
     return pixmap;
 }
 
-QPixmap switchKnob(const Theme &theme, int pill, const QColor &color)
+QPixmap switchKnob(const Theme &theme, int pill, const QColor &color, const QColor &border)
 {
     QPixmap pixmap(pill, pill);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     const int margin = theme.px(5);
     const int size = pill - 2 * margin;
-    painter.drawPixmap(margin, margin, theme.panel({size, size}, color, QColor(), size / 2));
+    painter.drawPixmap(margin, margin, theme.panel({size, size}, color, border, size / 2));
     return pixmap;
 }
 
@@ -96,7 +104,7 @@ QPixmap sliderKnob(const Theme &theme, const QColor &color)
     QPixmap pixmap(touch, touch);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
-    const int size = theme.px(40);
+    const int size = theme.px(kSliderKnob);
     painter.drawPixmap((touch - size) / 2, (touch - size) / 2,
                        theme.panel({size, size}, color, QColor(), size / 2));
     const int core = theme.px(12);
@@ -133,7 +141,7 @@ void dressKey(SpIconButton &button, const Theme &theme, Theme::Style style, cons
 void dressPanel(QLabel &panel, const Theme &theme)
 {
     if (QLayout *layout = panel.layout()) {
-        layout->setContentsMargins(theme.gap(), theme.px(8), theme.gap(), theme.px(8));
+        layout->setContentsMargins(theme.inset(), theme.px(4), theme.inset(), theme.px(4));
         layout->setSpacing(theme.gap());
         layout->activate();
     }
@@ -142,31 +150,57 @@ void dressPanel(QLabel &panel, const Theme &theme)
 
 void dressChoice(MFocusButton &button, const Theme &theme, const QString &icon)
 {
-    const QSize size = button.size();
-    const Arrangement place = arranged(size, theme, !icon.isEmpty(), true);
-    button.setNormalImage(
-        theme.key(size, Theme::Key, Theme::Normal, icon, place.iconPx, place.rise));
-    button.setPressImage(
-        theme.key(size, Theme::Key, Theme::Selected, icon, place.iconPx, place.rise));
+    const int inset = theme.inset();
+    const int side = theme.px(32);
+    const QRect whole(QPoint(), button.size());
+    const auto mirrored = [&](const QRect &rect) {
+        return QStyle::visualRect(button.layoutDirection(), whole, rect);
+    };
+    const auto place = [&](int left) {
+        return mirrored({left, (whole.height() - side) / 2, side, side}).topLeft();
+    };
+    const auto face = [&](Theme::State state) {
+        QPixmap picture = theme.key(whole.size(), Theme::Key, state);
+        const QColor ink = theme.ink(Theme::Key, state);
+        QPainter painter(&picture);
+        if (!icon.isEmpty())
+            painter.drawPixmap(place(inset), theme.icon(icon, side, ink));
+        if (state == Theme::Selected)
+            painter.drawPixmap(place(whole.width() - inset - side),
+                               theme.icon(QStringLiteral("check"), side, ink));
+        return picture;
+    };
+    button.setNormalImage(face(Theme::Normal));
+    button.setPressImage(face(Theme::Selected));
     button.setNormalTextColor(theme.text);
     button.setPressTextColor(theme.onAccent);
-    button.setFontSize(theme.textPx(icon.isEmpty() ? Theme::Body : Theme::Small));
-    button.setdisplayTextRect(place.caption);
+    button.setFontSize(theme.textPx(Theme::Body));
+    const int left = inset + (icon.isEmpty() ? 0 : side + theme.gap());
+    const int width = QFontMetrics(button.font()).horizontalAdvance(button.displayText()) + 1;
+    button.setdisplayTextRect(mirrored({left, 0, width, whole.height()}));
     button.update();
 }
 
-// The groove is as wide as the slider; what is seen of it is a bar in its middle.
+// The groove's picture is as wide as the slider, in which the knob's picture stays. The bar ends
+// where what is seen of the knob ends.
 void dressSlider(MHorSlider &slider, const Theme &theme, int width)
 {
     const int bar = theme.px(10);
+    const int overhang = sliderOverhang(theme);
     const auto groove = [&](const QColor &color) {
-        return theme.panel({width, bar}, color, QColor(), bar / 2);
+        QPixmap picture(width + 2 * overhang, bar);
+        picture.fill(Qt::transparent);
+        QPainter(&picture).drawPixmap(overhang, 0,
+                                      theme.panel({width, bar}, color, QColor(), bar / 2));
+        return picture;
     };
     slider.setSliderNormalImage(groove(grooveColor(theme)));
     slider.setSliderPressImage(groove(theme.accent));
     slider.setPointNormalImage(sliderKnob(theme, theme.accent));
     slider.setPointPressImage(sliderKnob(theme, theme.accent.darker(125)));
 }
+
+int sliderOverhang(const Theme &theme) { return (theme.touch() - theme.px(kSliderKnob)) / 2; }
 
 QColor grooveColor(const Theme &theme)
 {
@@ -182,15 +216,21 @@ void dressSwitch(MOnOffButton &button, const Theme &theme)
     button.setFixedSize(size);
     button.setReverse(button.isRightToLeft());
     button.setNormalBkgPix(switchTrack(theme, size, pill, theme.accent));
-    button.setPressBkgPix(switchTrack(theme, size, pill, theme.quietText));
-    button.setNormalChunkPix(switchKnob(theme, pill, Qt::white));
-    button.setPressChunkPix(switchKnob(theme, pill, Qt::white));
+    button.setPressBkgPix(switchTrack(theme, size, pill, grooveColor(theme)));
+    // The same knob lies on both tracks, of which one is nearly as light: there its rim is seen.
+    const QPixmap knob = theme.look() == Theme::Day
+        ? switchKnob(theme, pill, Qt::white, theme.quietText)
+        : switchKnob(theme, pill, theme.text, theme.onAccent);
+    button.setNormalChunkPix(knob);
+    button.setPressChunkPix(knob);
 }
 
 void rollWhileShown(SpRollingText &text) { new RollWhileShown(text); }
 
 void dressLabel(QLabel &label, const Theme &theme, Theme::TextSize size, bool quiet)
 {
+    // Marks above letters stand higher than the font says that it goes.
+    label.setContentsMargins(0, theme.textPx(size) / 8, 0, 0);
     label.setFont(theme.font(size, size == Theme::Title));
     QPalette palette = label.palette();
     palette.setColor(QPalette::WindowText, quiet ? theme.quietText : theme.text);
@@ -201,6 +241,26 @@ Qt::Alignment leadingAlignment()
 {
     return QStyle::visualAlignment(QGuiApplication::layoutDirection(), Qt::AlignLeft)
         | Qt::AlignAbsolute | Qt::AlignVCenter;
+}
+
+void showRolling(SpRollingText &text, const QString &string)
+{
+    text.setLayoutDirection(string.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+    text.setText(string);
+}
+
+QMargins rowMargins(const Theme &theme)
+{
+    const int room =
+        theme.screen().width() - 2 * theme.margin() - SideKeys::columnWidth(theme) - theme.gap();
+    const int spare = std::max(0, room - theme.px(kLongestRow)) / 2;
+    return {spare, 0, spare, 0};
+}
+
+void dressHeading(QLabel &label, const Theme &theme)
+{
+    dressLabel(label, theme, Theme::Body);
+    label.setFont(theme.font(Theme::Body, true));
 }
 
 } // namespace headunit

@@ -28,12 +28,14 @@ void dressKey(SpIconButton &button, const Theme &theme, Theme::Style style,
 /// free of a size of its own: its size policy is to be "Ignored".
 void dressPanel(QLabel &panel, const Theme &theme);
 
-/// Gives one of several choices its faces: it stays down while it is the one. An icon stands above
-/// the caption.
+/// Gives one of several choices that stand below each other its faces: it stays down while it is
+/// the one, with a tick at its end. The caption begins where lines begin, after the icon.
 void dressChoice(MFocusButton &button, const Theme &theme, const QString &icon = {});
 
-/// Gives a slider so wide a bar and a knob for a finger.
+/// Gives a slider so wide a bar, which its knob covers up to the ends, and a knob for a finger. The
+/// slider itself stands out of its bar by sliderOverhang() at either end.
 void dressSlider(MHorSlider &slider, const Theme &theme, int width);
+int sliderOverhang(const Theme &theme);
 
 /// The colour of the part of a slider that is not filled.
 QColor grooveColor(const Theme &theme);
@@ -50,6 +52,17 @@ void dressLabel(QLabel &label, const Theme &theme, Theme::TextSize size, bool qu
 /// Where lines begin in a language that is read like the application's, whatever language the line
 /// itself is in.
 Qt::Alignment leadingAlignment();
+
+/// Shows a text that rolls in the direction that it is written in, whatever that of the language
+/// is: the blanks between its end and its start stay behind it.
+void showRolling(SpRollingText &text, const QString &string);
+
+/// The margins beside rows that stand below each other: on a wide screen they do not become so long
+/// that the eye loses its way from one end to the other. To be used in View::margins().
+QMargins rowMargins(const Theme &theme);
+
+/// Gives a label the looks of what stands above the contents of a panel or a view.
+void dressHeading(QLabel &label, const Theme &theme);
 
 } // namespace headunit
 

@@ -36,9 +36,8 @@ constexpr int kEvening = 19; // o'clock, when it becomes that of the night
 
 HeadUnit::HeadUnit(Context &context, const QSize &screen, Theme::Look look, QWidget *parent)
     : QWidget(parent), m_context(context), m_theme(screen, look),
-      m_backdrop(new SpBackgroundImage(this)),
-      m_statusBar(new StatusBar(context.preferences, this)), m_stack(new QStackedWidget(this)),
-      m_popup(new Popup(this)), m_dimmer(new Dimmer(this)),
+      m_backdrop(new SpBackgroundImage(this)), m_statusBar(new StatusBar(context, this)),
+      m_stack(new QStackedWidget(this)), m_popup(new Popup(this)), m_dimmer(new Dimmer(this)),
       m_wantedLook(wantedLook(context.preferences))
 {
     setFixedSize(screen);
@@ -52,15 +51,19 @@ HeadUnit::HeadUnit(Context &context, const QSize &screen, Theme::Look look, QWid
     connect(m_statusBar, &StatusBar::homeWanted, this,
             [this] { openPage(QStringLiteral("home")); });
     connect(m_statusBar, &StatusBar::backWanted, this, &HeadUnit::goBack);
+    connect(m_statusBar, &StatusBar::callWanted, this,
+            [this] { openPage(QStringLiteral("phone")); });
 
     // Children lie over those that were made before them: the popup over the pages, the dimmer over
     // all.
     addPage(QStringLiteral("home"), new HomePage(context));
     addPage(QStringLiteral("radio"), new RadioPage(context));
     addPage(QStringLiteral("media"), new MediaPage(context));
-    addPage(QStringLiteral("phone"), new PhonePage(context));
+    auto *phone = new PhonePage(context);
+    addPage(QStringLiteral("phone"), phone);
     addPage(QStringLiteral("sound"), new SoundPage(context));
     addPage(QStringLiteral("settings"), new SettingsPage(context));
+    connect(phone, &PhonePage::callTimeChanged, m_statusBar, &StatusBar::setCall);
     followPreferences();
     setLook(look);
     openPage(QStringLiteral("home"));
@@ -88,10 +91,8 @@ Theme::Look HeadUnit::wantedLook(const Preferences &preferences)
 void HeadUnit::openPage(const QString &name)
 {
     Page *page = m_pages.value(name);
-    if (!page) {
-        say(tr("Not ready"), tr("This application is not ready yet."));
+    if (!page)
         return;
-    }
     m_stack->setCurrentWidget(page);
     showTitle();
     emit pageOpened(name);
@@ -145,7 +146,7 @@ void HeadUnit::addPage(const QString &name, Page *page)
     m_pages.insert(name, page);
     m_stack->addWidget(page);
     connect(page, &Page::pageWanted, this, &HeadUnit::openPage);
-    connect(page, &Page::popupWanted, m_popup, &Popup::say);
+    connect(page, &Page::popupWanted, this, &HeadUnit::say);
     connect(page, &Page::titleChanged, this, &HeadUnit::showTitle);
 }
 

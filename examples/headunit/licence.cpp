@@ -7,6 +7,8 @@
 #include <QFontMetrics>
 #include <QRegularExpression>
 
+#include <algorithm>
+
 namespace headunit
 {
 
@@ -37,12 +39,14 @@ QStringList paragraphsOf(const QString &text, int most)
     return paragraphs;
 }
 
-int widthOf(const QString &word, const QFontMetrics &metrics)
+// That of the line as it is painted, or of its letters one by one, by which the label breaks lines:
+// rounding may make either the wider one.
+int widthOf(const QString &line, const QFontMetrics &metrics)
 {
     int width = 0;
-    for (const QChar c : word)
+    for (const QChar c : line)
         width += metrics.horizontalAdvance(c);
-    return width;
+    return std::max(width, metrics.horizontalAdvance(line));
 }
 
 } // namespace
@@ -73,23 +77,21 @@ QStringList partsOf(const QString &text, int mostCharacters)
 
 QString withLines(const QString &text, const QFontMetrics &metrics, int width)
 {
-    const int blank = metrics.horizontalAdvance(QLatin1Char(' '));
     QStringList lines;
     const auto paragraphs = text.split(QLatin1Char('\n'));
     for (const QString &paragraph : paragraphs) {
-        lines << QString();
-        int used = -blank;
+        QString line;
         const auto words = paragraph.split(QLatin1Char(' '));
         for (const QString &word : words) {
-            const int more = blank + widthOf(word, metrics);
-            if (used >= 0 && used + more > width) {
-                lines << word;
-                used = more - blank;
+            const QString longer = line.isEmpty() ? word : line + QLatin1Char(' ') + word;
+            if (!line.isEmpty() && widthOf(longer, metrics) > width) {
+                lines << line;
+                line = word;
             } else {
-                lines.last() += used < 0 ? word : QLatin1Char(' ') + word;
-                used += more;
+                line = longer;
             }
         }
+        lines << line;
     }
     return lines.join(QLatin1Char('\n'));
 }

@@ -18,7 +18,7 @@ namespace headunit
 namespace
 {
 
-constexpr int kRowUnits = 72; // of a row's height
+constexpr int kRowUnits = 78; // of a row's height, about
 
 QVariant answer(const ListRow &row, int role)
 {
@@ -32,13 +32,11 @@ QRect mirrored(const QRect &rect, const QRect &within)
     return QStyle::visualRect(QGuiApplication::layoutDirection(), within, rect);
 }
 
-// A line below the row; nothing else, so that the list's ground is seen.
-QPixmap restingFace(const QSize &size, const Theme &theme)
+// Nothing, so that the list's ground is seen.
+QPixmap restingFace(const QSize &size)
 {
     QPixmap face(size);
     face.fill(Qt::transparent);
-    QPainter painter(&face);
-    painter.fillRect(theme.gap(), size.height() - 1, size.width() - 2 * theme.gap(), 1, theme.line);
     return face;
 }
 
@@ -111,10 +109,20 @@ void RowPainter::paint(QPainter *painter, const QStyleOptionViewItem &option,
                        const QModelIndex &index) const
 {
     m_faces->paint(painter, option, index);
+    if (index.row() + 1 < index.model()->rowCount())
+        drawDivider(*painter, option.rect);
     const auto row = index.data(kRowRole).value<ListRow>();
     painter->save();
     drawTexts(*painter, option.rect, drawPicture(*painter, option.rect, row), row);
     painter->restore();
+}
+
+// From row to row; below the last one there is nothing that it would divide from.
+void RowPainter::drawDivider(QPainter &painter, const QRect &whole) const
+{
+    const int inset = m_theme.gap();
+    painter.fillRect(whole.left() + inset, whole.bottom(), whole.width() - 2 * inset, 1,
+                     m_theme.line);
 }
 
 // Tells where the texts begin, as in a language that is read from the left.
@@ -156,6 +164,12 @@ void RowPainter::drawTexts(QPainter &painter, const QRect &whole, int left,
     drawLine(painter, mirrored({left, top, right - left, titleHeight}, whole), row.title);
 }
 
+int rowsIn(const Theme &theme, int height)
+{
+    return std::max(1,
+                    std::min(qRound(double(height) / theme.px(kRowUnits)), height / theme.touch()));
+}
+
 void dressList(SpTableList &list, const Theme &theme)
 {
     auto *painter = qobject_cast<RowPainter *>(list.itemDelegate());
@@ -170,10 +184,10 @@ void dressList(SpTableList &list, const Theme &theme)
     QPalette palette = list.palette();
     palette.setBrush(QPalette::Highlight, Qt::transparent);
     list.setPalette(palette);
-    const QSize row(list.width(), std::max(theme.touch(), theme.px(kRowUnits)));
+    const QSize row(list.width(), list.height() / rowsIn(theme, list.height()));
     list.setItemHeight(row.height());
     list.setItemWidth(row.width());
-    list.setNormalImage(restingFace(row, theme));
+    list.setNormalImage(restingFace(row));
     list.setPressImage(pressedFace(row, theme));
     list.viewport()->update();
 }
@@ -187,10 +201,13 @@ QPixmap initialsDisc(const Theme &theme, int side, const QString &initials)
         const QRect disc(0, 0, side, side);
         const int hue = int(qHash(initials, 0) % kHues) * kHueStep;
         painter.setPen(Qt::NoPen);
-        painter.setBrush(QColor::fromHsv(hue, 150, theme.look() == Theme::Day ? 150 : 130));
+        painter.setBrush(QColor::fromHsv(hue, 150, 120));
         painter.drawEllipse(disc);
         QFont font = theme.font(Theme::Body, true);
         font.setPixelSize(side * 2 / 5);
+        const int wide = QFontMetrics(font).horizontalAdvance(initials);
+        if (wide > side * 2 / 3)
+            font.setPixelSize(font.pixelSize() * side * 2 / 3 / wide);
         painter.setFont(font);
         painter.setPen(Qt::white);
         painter.drawText(disc, Qt::AlignCenter, initials);

@@ -82,6 +82,7 @@ public:
                const QModelIndex &index) const override;
 
 private:
+    void drawDivider(QPainter &painter, const QRect &whole) const;
     int drawPicture(QPainter &painter, const QRect &whole, const ListRow &row) const;
     void drawTexts(QPainter &painter, const QRect &whole, int left, const ListRow &row) const;
 
@@ -89,8 +90,11 @@ private:
     Theme m_theme;
 };
 
+/// How many rows of a list there are in so many px of height.
+int rowsIn(const Theme &theme, int height);
+
 /// Gives a list the faces of its rows and their size; the first time, its painter too. Rows are as
-/// wide as the list is at the moment.
+/// wide as the list is at the moment, and as high as makes all of them whole.
 void dressList(SpTableList &list, const Theme &theme);
 
 /// A disc with initials.

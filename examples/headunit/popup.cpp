@@ -2,19 +2,20 @@
 #include "popup.h"
 
 #include "dress.h"
-#include "theme.h"
 
 #include <spiconbutton.h>
 
 #include <QEvent>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace headunit
 {
 
 Popup::Popup(QWidget *parent)
     : SpMaskBackground(parent), m_panel(new QLabel(this)), m_title(new QLabel(m_panel)),
-      m_sentence(new QLabel(m_panel)), m_close(new SpIconButton(m_panel))
+      m_sentence(new QLabel(m_panel)), m_close(new SpIconButton(m_panel)), m_theme({}, Theme::Night)
 {
     setObjectName(QStringLiteral("popup"));
     m_close->setObjectName(QStringLiteral("popupClose"));
@@ -35,11 +36,11 @@ Popup::Popup(QWidget *parent)
 
 void Popup::setTheme(const Theme &theme)
 {
+    m_theme = theme;
     setPainterColor(theme.veil);
-    m_panel->setFixedSize(theme.px(620), theme.px(320));
-    m_panel->setPixmap(theme.panel(m_panel->size(), theme.ground, theme.line, theme.px(20)));
     m_panel->layout()->setContentsMargins(theme.margin(), theme.margin(), theme.margin(),
                                           theme.margin());
+    m_panel->layout()->setSpacing(theme.px(18));
     dressLabel(*m_title, theme, Theme::Title);
     dressLabel(*m_sentence, theme, Theme::Body);
     m_close->setFixedSize(theme.px(220), theme.touch());
@@ -75,10 +76,23 @@ void Popup::showNext()
     const auto next = m_waiting.takeFirst();
     m_title->setText(next.first);
     m_sentence->setText(next.second);
+    place();
 }
 
 void Popup::retranslate() { m_close->setDisplayText(tr("Close")); }
 
-void Popup::place() { m_panel->move(rect().center() - m_panel->rect().center()); }
+// As high as its sentence asks for.
+void Popup::place()
+{
+    const QLayout &layout = *m_panel->layout();
+    const int width = m_theme.px(620);
+    const QSize size(width,
+                     std::max(layout.totalHeightForWidth(width), layout.totalSizeHint().height()));
+    QColor face = m_theme.face;
+    face.setAlpha(255); // nothing of the page shines through
+    m_panel->setFixedSize(size);
+    m_panel->setPixmap(m_theme.panel(size, face, m_theme.line, m_theme.px(20)));
+    m_panel->move(rect().center() - m_panel->rect().center());
+}
 
 } // namespace headunit

@@ -2,6 +2,8 @@
 #ifndef HEADUNIT_POPUP_H
 #define HEADUNIT_POPUP_H
 
+#include "theme.h"
+
 #include <spmaskbackground.h>
 
 #include <QLabel>
@@ -10,8 +12,6 @@ class SpIconButton;
 
 namespace headunit
 {
-
-class Theme;
 
 /// A sentence in the middle of the screen, over everything else, until it is touched away.
 class Popup : public SpMaskBackground
@@ -38,6 +38,7 @@ private:
     QLabel *m_title;
     QLabel *m_sentence;
     SpIconButton *m_close;
+    Theme m_theme;
     QVector<QPair<QString, QString>> m_waiting;
 };
 

@@ -6,10 +6,22 @@
 #include <mlistview.h>
 #include <spiconbutton.h>
 
+#include <algorithm>
+
 namespace headunit
 {
 
+namespace
+{
+
+constexpr int kLeastWidth = 118; // px
+
+} // namespace
+
 SideKeys::SideKeys(QWidget *parent) : QWidget(parent), m_view(new MListView(this, QRect())) { }
+
+// On a small screen texts shrink less than keys.
+int SideKeys::columnWidth(const Theme &theme) { return std::max(theme.px(132), kLeastWidth); }
 
 void SideKeys::setCaptions(const QStringList &captions)
 {

@@ -21,6 +21,9 @@ class SideKeys : public QWidget
 public:
     explicit SideKeys(QWidget *parent = nullptr);
 
+    /// How wide the column is on all pages.
+    static int columnWidth(const Theme &theme);
+
     /// The icons of the keys, from the top.
     void setIcons(const QStringList &icons) { m_icons = icons; }
     /// What stands below the icons.

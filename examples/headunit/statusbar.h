@@ -2,6 +2,8 @@
 #ifndef HEADUNIT_STATUSBAR_H
 #define HEADUNIT_STATUSBAR_H
 
+#include "context.h"
+
 #include <QLabel>
 #include <QTimer>
 #include <QWidget>
@@ -11,26 +13,28 @@ class SpIconButton;
 namespace headunit
 {
 
-class Preferences;
 class Theme;
 
-/// The strip above every page: the way back and home, what page this is, the date and the time of
-/// day.
+/// The strip above every page: the way back and home, what page this is, how the car is connected,
+/// whether it is mute, the call that is going on, the date and the time of day.
 class StatusBar : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit StatusBar(const Preferences &preferences, QWidget *parent = nullptr);
+    explicit StatusBar(const Context &context, QWidget *parent = nullptr);
 
     void setTheme(const Theme &theme);
     void setTitle(const QString &title);
     /// The home page itself has no way home.
     void setKeysShown(bool shown);
+    /// How long the call lasts that is going on; empty: there is none.
+    void setCall(const QString &time);
 
 signals:
     void homeWanted();
     void backWanted();
+    void callWanted();
     void minutePassed();
 
 protected:
@@ -38,14 +42,23 @@ protected:
 
 private:
     void showTime();
+    void layOut();
+    void placeKeys();
+    void dressCall(const Theme &theme);
 
     const Preferences &m_preferences;
     SpIconButton *m_home;
     SpIconButton *m_back;
     QLabel *m_title;
+    SpIconButton *m_call;
+    QLabel *m_mute;
+    QLabel *m_bluetooth;
+    QLabel *m_signal;
     QLabel *m_date;
     QLabel *m_clock;
     QTimer m_minute;
+    QMargins m_margins;
+    int m_keyMargin = 0; // px, where the keys are
 };
 
 } // namespace headunit

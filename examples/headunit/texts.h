@@ -2,12 +2,16 @@
 #ifndef HEADUNIT_TEXTS_H
 #define HEADUNIT_TEXTS_H
 
+#include <QChar>
 #include <QString>
 
 class QFontMetrics;
 
 namespace headunit
 {
+
+/// The minus sign, as wide as a digit and as the plus sign.
+constexpr QChar kMinus(0x2212);
 
 /// A length of time as players and telephones write it: 4:07, or 1:02:33.
 QString timeText(qint64 seconds);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "theme.h"
 
+#include <QFile>
 #include <QPainter>
 #include <QSvgRenderer>
 
@@ -19,6 +20,8 @@ namespace
 
 constexpr double kUnits = 600; // of the screen's height
 constexpr int kLeastTouch = 57; // px, 9 mm at 160 dpi
+constexpr std::array<int, 4> kLeastText{19, 22, 0, 0}; // px, legible from arm's length
+constexpr int kLargeIcon = 60; // units
 constexpr int kPictures = 64 * 1024; // KiB, more than all of one look
 
 QString sizeKey(const QSize &size)
@@ -35,13 +38,14 @@ Theme::Theme(const QSize &screen, Look look)
     initialiseArt();
     const bool isDay = look == Day;
     ground = isDay ? QColor(0xe9, 0xee, 0xf3) : QColor(0x0c, 0x11, 0x18);
-    face = isDay ? QColor(0xff, 0xff, 0xff, 225) : QColor(0x1b, 0x24, 0x30, 225);
+    face = isDay ? QColor(0xff, 0xff, 0xff, 246) : QColor(0x1b, 0x24, 0x30, 240);
     pressedFace = isDay ? QColor(0xcf, 0xdb, 0xe8) : QColor(0x2f, 0x3e, 0x52);
     line = isDay ? QColor(0xc3, 0xcd, 0xd8) : QColor(0x33, 0x40, 0x50);
     text = isDay ? QColor(0x14, 0x1c, 0x26) : QColor(0xf3, 0xf6, 0xfa);
     quietText = isDay ? QColor(0x51, 0x5f, 0x70) : QColor(0x9d, 0xac, 0xbe);
     accent = isDay ? QColor(0x0b, 0x6b, 0xd0) : QColor(0x4a, 0xa8, 0xff);
     onAccent = isDay ? QColor(0xff, 0xff, 0xff) : QColor(0x06, 0x14, 0x22);
+    positive = isDay ? QColor(0x17, 0x80, 0x3d) : QColor(0x47, 0xc9, 0x74);
     danger = isDay ? QColor(0xc9, 0x26, 0x34) : QColor(0xf0, 0x5a, 0x64);
     veil = isDay ? QColor(0x20, 0x2c, 0x3a, 150) : QColor(0, 0, 0, 170);
 }
@@ -52,8 +56,9 @@ int Theme::touch() const { return std::max(kLeastTouch, px(64)); }
 
 int Theme::textPx(TextSize size) const
 {
-    constexpr std::array<double, 4> kSizes{18, 23, 30, 68};
-    return px(kSizes[std::size_t(size)]);
+    constexpr std::array<double, 4> kSizes{21, 25, 30, 68};
+    const auto place = std::size_t(size);
+    return std::max(px(kSizes[place]), kLeastText[place]);
 }
 
 QFont Theme::font(TextSize size, bool bold) const
@@ -89,7 +94,12 @@ QPixmap Theme::icon(const QString &name, int px, const QColor &color) const
     const QSize size(px, px);
     const QString key = QStringLiteral("icon %1 %2 %3").arg(name).arg(px).arg(color.rgba());
     return picture(key, size, [&](QPainter &painter) {
-        QSvgRenderer(file(name + QStringLiteral(".svg"))).render(&painter);
+        QFile drawing(file(name + QStringLiteral(".svg")));
+        drawing.open(QIODevice::ReadOnly);
+        QByteArray lines = drawing.readAll();
+        if (px > this->px(kLargeIcon)) // its lines would look bold beside those of its caption
+            lines.replace("stroke-width=\"3\"", "stroke-width=\"2.25\"");
+        QSvgRenderer(lines).render(&painter);
         painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
         painter.fillRect(QRect(QPoint(), size), color);
     });
@@ -128,10 +138,12 @@ QPixmap Theme::panel(const QSize &size, const QColor &fill, const QColor &border
                             .arg(border.isValid() ? border.rgba() : 0)
                             .arg(radius);
     return picture(key, size, [&](QPainter &painter) {
+        // The middle of a border lies within the face; a face alone ends at whole pixels.
+        const qreal inset = border.isValid() ? 0.5 : 0;
         painter.setPen(border.isValid() ? QPen(border, 1) : QPen(Qt::NoPen));
         painter.setBrush(fill);
-        painter.drawRoundedRect(QRectF(QPointF(), size).adjusted(0.5, 0.5, -0.5, -0.5), radius,
-                                radius);
+        painter.drawRoundedRect(QRectF(QPointF(), size).adjusted(inset, inset, -inset, -inset),
+                                radius, radius);
     });
 }
 
@@ -145,7 +157,9 @@ QColor Theme::faceColor(Style style, State state) const
         return accent;
     if (style == Key)
         return state == Pressed ? pressedFace : face;
-    const QColor color = style == Primary ? accent : danger;
+    QColor color = accent;
+    if (style != Primary)
+        color = style == Positive ? positive : danger;
     return state == Pressed ? color.darker(125) : color;
 }
 
@@ -165,7 +179,8 @@ QPixmap Theme::key(const QSize &size, Style style, State state, const QString &i
                    int rise) const
 {
     const QColor fill = faceColor(style, state);
-    const QColor border = style == Key && state != Selected ? line : QColor();
+    const bool isPlain = style == Key ? state != Selected : style != Bare && state == Disabled;
+    const QColor border = isPlain ? line : QColor();
     const QPixmap blank = panel(size, fill, border, radius());
     if (icon.isEmpty())
         return blank;

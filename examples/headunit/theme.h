@@ -29,6 +29,7 @@ public:
     enum Style {
         Key, ///< an ordinary one
         Primary, ///< the one thing to do on a page
+        Positive, ///< begins what Danger ends
         Danger, ///< ends something
         Bare ///< an icon without a face
     };
@@ -49,6 +50,10 @@ public:
     /// The gap between things, and between them and the edge of a page.
     int gap() const { return px(16); }
     int margin() const { return px(28); }
+    /// The widest that a page of one column is; a wider one has a second.
+    int content() const { return px(1180); }
+    /// From the edge of a panel to what stands on it.
+    int inset() const { return px(20); }
     int textPx(TextSize size) const;
     QFont font(TextSize size, bool bold = false) const;
 
@@ -60,6 +65,7 @@ public:
     QColor quietText;
     QColor accent;
     QColor onAccent; ///< text and icons on the accent
+    QColor positive;
     QColor danger;
     QColor veil; ///< over a page under a popup
 

@@ -4,6 +4,7 @@
 #include "headunit.h"
 #include "launch.h"
 #include "models/musiclibrary.h"
+#include "models/preferences.h"
 #include "virtualtime.h"
 
 #include <panelkitclasses.h>
@@ -136,7 +137,7 @@ void Tour::waitForMusic()
 void Tour::playPage(const QString &page)
 {
     openPage(page);
-    const QVector<TourStep> steps = tourOf(page);
+    const QVector<TourStep> steps = tourOf(page, m_context.preferences.language());
     for (const TourStep &step : steps)
         playStep(page, step);
     goHome();
@@ -161,7 +162,9 @@ void Tour::playNight()
     const QStringList pages = m_screen.pageNames();
     for (const QString &page : pages) {
         openPage(page);
-        playStep(page, {QStringLiteral("at night"), {}});
+        const QVector<TourStep> steps = nightTourOf(page);
+        for (const TourStep &step : steps)
+            playStep(page, step);
         goHome();
     }
 }

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "tourscript.h"
 
+#include <QGuiApplication>
 #include <QMap>
+
+#include <array>
 
 namespace headunit
 {
@@ -61,7 +64,7 @@ QVector<TourStep> radioSteps()
         {"tape scale", {tap("scaleKey"), drag("tapeScale", {0.6, 0.5}, {0.4, 0.5}, 400)}},
         {"pointer scale", {tap("scaleKey"), drag("pointerScale", {0.5, 0.5}, {0.7, 0.5}, 400)}},
         {"preset stored", {hold("preset9")}},
-        {"preset recalled", {tap("preset5"), wait(2000)}},
+        {"preset recalled", {tap("preset1"), wait(2000)}},
         {"text rolls", {wait(4000)}},
         {"scan", {tap("scaleKey"), tap("scanKey"), wait(3500)}},
         {"AM", {tap("amKey"), tap("seekDownKey")}},
@@ -85,12 +88,18 @@ QVector<TourStep> mediaSteps()
     };
 }
 
+// In the middle of the letters, which are next to the rows.
+TourTouch tapLetter()
+{
+    return tap("index", {QGuiApplication::isRightToLeft() ? 0.75 : 0.35, 0.7});
+}
+
 QVector<TourStep> phoneSteps()
 {
     return {
         {"contacts", {}},
         {"contacts flung", {drag("list", {0.4, 0.8}, {0.4, 0.2}, 130), wait(2500)}},
-        {"letter", {tap("arc", {0.9, 0.7}), wait(600)}},
+        {"letter", {tapLetter(), wait(600)}},
         {"arc scroll bar", {drag("bar", {0.85, 0.2}, {0.85, 0.9}, 500)}},
         {"favourites", {sideKey(1)}},
         {"favourite pressed", {press("favourite1")}},
@@ -106,59 +115,97 @@ QVector<TourStep> phoneSteps()
     };
 }
 
+// One of the five keys at the side of the sound and of the settings.
+TourTouch fifthKey(int key) { return tap("sideKeys", {0.5, (key + 0.5) / 5}); }
+
 QVector<TourStep> soundSteps()
 {
     return {
         {"equaliser", {}},
         {"bass", {drag("bass", {0.5, 0.5}, {0.5, 0.25}, 400)}},
-        {"levels", {tap("nextKey")}},
-        {"balance", {tap("balanceTab"), drag("balance", {0.5, 0.5}, {0.7, 0.5}, 400)}},
+        {"levels", {fifthKey(1)}},
+        {"balance", {fifthKey(2), drag("balance", {0.5, 0.5}, {0.7, 0.5}, 400)}},
         {"fader", {drag("fader", {0.5, 0.5}, {0.3, 0.5}, 400)}},
         {"middle", {tap("centreKey")}},
-        {"effects", {tap("effectsTab")}},
+        {"effects", {fifthKey(3)}},
         {"switches", {tap("loudness"), drag("surround", {0.2, 0.5}, {0.9, 0.5}, 300)}},
-        {"volume", {tap("volumeTab"), hold("louderKey", 1000)}},
+        {"volume", {fifthKey(4), hold("louderKey", 1000)}},
         {"dial turned", {drag("dial", {0.15, 0.25}, {0.3, 0.11}, 400)}},
         {"muted", {tap("muteLock")}},
         {"unmuted", {tap("muteLock")}},
     };
 }
 
-// One of the five keys at the side of the settings.
-TourTouch settingsKey(int key) { return tap("sideKeys", {0.5, (key + 0.5) / 5}); }
-
-QVector<TourStep> settingsSteps()
+// Through all languages, and last to the one with this code.
+QVector<TourStep> languageSteps(const QString &code)
 {
-    return {
-        {"general", {}},
-        {"general scrolled", {drag("list", {0.4, 0.8}, {0.4, 0.2}, 130), wait(2500)}},
-        {"display", {settingsKey(1)}},
-        {"darker", {drag("brightness", {0.9, 0.5}, {0.4, 0.5}, 500)}},
-        {"brighter", {drag("brightness", {0.4, 0.5}, {0.98, 0.5}, 500)}},
-        {"night look", {tap("nightChoice")}},
-        {"day look", {tap("dayChoice")}},
-        {"languages", {settingsKey(2)}},
-        {"German", {tap("german")}},
-        {"Arabic", {tap("arabic")}},
-        {"English", {tap("english")}},
-        {"update", {settingsKey(3)}},
-        {"looking for an update", {tap("key")}},
-        {"update is installed", {wait(4000)}},
-        {"update is called off", {tap("key")}},
-        {"licence", {settingsKey(4)}},
-        {"licence scrolls", {wait(4000)}},
+    struct Language {
+        const char *code;
+        const char *name;
+        const char *key;
     };
+    constexpr std::array<Language, 3> kLanguages{
+        {{"de", "German", "german"}, {"ar", "Arabic", "arabic"}, {"en", "English", "english"}}};
+    QVector<TourStep> steps;
+    QVector<TourStep> last;
+    for (const Language &language : kLanguages) {
+        QVector<TourStep> &part = code == QLatin1String(language.code) ? last : steps;
+        part.append({QLatin1String(language.name), {tap(language.key)}});
+    }
+    return steps + last;
+}
+
+QVector<TourStep> settingsSteps(const QString &language)
+{
+    return QVector<TourStep>{
+               {"general", {}},
+               {"general scrolled", {drag("list", {0.4, 0.8}, {0.4, 0.2}, 130), wait(2500)}},
+               {"display", {fifthKey(1)}},
+               {"darker", {drag("brightness", {0.9, 0.5}, {0.4, 0.5}, 500)}},
+               {"brighter", {drag("brightness", {0.4, 0.5}, {0.98, 0.5}, 500)}},
+               {"night look", {tap("nightChoice")}},
+               {"day look", {tap("dayChoice")}},
+               {"languages", {fifthKey(2)}},
+           }
+    + languageSteps(language)
+        + QVector<TourStep>{
+            {"update", {fifthKey(3)}},
+            {"looking for an update", {tap("key")}},
+            {"update is installed", {wait(4000)}},
+            {"update is called off", {tap("key")}},
+            {"licence", {fifthKey(4)}},
+            {"licence scrolls", {wait(4000)}},
+        };
 }
 
 } // namespace
 
-QVector<TourStep> tourOf(const QString &page)
+QVector<TourStep> tourOf(const QString &page, const QString &language)
 {
-    const QMap<QString, QVector<TourStep> (*)()> pages{
-        {"home", homeSteps},   {"radio", radioSteps}, {"media", mediaSteps},
-        {"phone", phoneSteps}, {"sound", soundSteps}, {"settings", settingsSteps}};
+    if (page == QLatin1String("settings"))
+        return settingsSteps(language);
+    const QMap<QString, QVector<TourStep> (*)()> pages{{"home", homeSteps},
+                                                       {"radio", radioSteps},
+                                                       {"media", mediaSteps},
+                                                       {"phone", phoneSteps},
+                                                       {"sound", soundSteps}};
     const auto steps = pages.value(page);
     return steps ? steps() : QVector<TourStep>{{page, {}}};
+}
+
+QVector<TourStep> nightTourOf(const QString &page)
+{
+    const QMap<QString, QVector<TourStep>> more{
+        {"home",
+         {{"popup at night", {tap("weatherTile")}},
+          {"popup closed at night", {tap("popupClose")}}}},
+        {"phone",
+         {{"contacts at night", {sideKey(0)}},
+          {"favourites at night", {sideKey(1)}},
+          {"call at night", {tap("favourite1"), wait(2500)}},
+          {"call over at night", {tap("hangUpKey")}}}},
+        {"sound", {{"effects at night", {fifthKey(3)}}}}};
+    return QVector<TourStep>{{QStringLiteral("at night"), {}}} + more.value(page);
 }
 
 } // namespace headunit

@@ -26,8 +26,12 @@ struct TourStep {
 };
 
 /// The steps on a page, from the moment when it has been opened from the home page. A page that the
-/// script does not know is looked at, and no more.
-QVector<TourStep> tourOf(const QString &page);
+/// script does not know is looked at, and no more. After its way through the languages the tour
+/// goes on in the one that it began in, of which this is the code.
+QVector<TourStep> tourOf(const QString &page, const QString &language);
+
+/// The steps on a page in the look of the night.
+QVector<TourStep> nightTourOf(const QString &page);
 
 } // namespace headunit
 

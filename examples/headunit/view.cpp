@@ -19,9 +19,7 @@ void View::setTheme(const Theme &theme)
         layout()->setContentsMargins(margins(theme));
         layout()->setSpacing(theme.gap());
     }
-    m_isDressed = false;
-    if (isVisible())
-        dressNow();
+    dressAgain();
 }
 
 QMargins View::margins(const Theme &) const { return {}; }
@@ -37,15 +35,20 @@ void View::changeEvent(QEvent *e)
 void View::resizeEvent(QResizeEvent *e)
 {
     QWidget::resizeEvent(e);
-    m_isDressed = false;
-    if (isVisible())
-        dressNow();
+    dressAgain();
 }
 
 void View::showEvent(QShowEvent *e)
 {
     QWidget::showEvent(e);
     if (!m_isDressed)
+        dressNow();
+}
+
+void View::dressAgain()
+{
+    m_isDressed = false;
+    if (isVisible())
         dressNow();
 }
 

@@ -33,6 +33,10 @@ protected:
     /// What stays free around the layout of the form; nothing by default.
     virtual QMargins margins(const Theme &theme) const;
 
+    /// Something else that the pictures depend on is not what it was: dresses the view again, at
+    /// once or when it is seen.
+    void dressAgain();
+
     const Theme &theme() const { return m_theme; }
     Context &context() { return m_context; }
 

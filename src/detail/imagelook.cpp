@@ -2,6 +2,7 @@
 #include "imagelook.h"
 
 #include "deviceview.h"
+#include "qtversion.h"
 
 #include <QPainter>
 #include <QRect>
@@ -67,8 +68,9 @@ QImage fadedImage(const QPixmap &pixmap, const QSize &area, int alpha)
 void ImageLook::drawScaled(QPainter &painter, const QRect &target, const QPixmap &pixmap)
 {
     const QSize area = target.size();
-    const bool isWorthKeeping = area != pixmap.size() && !area.isEmpty() && !pixmap.isQBitmap()
-        && qint64(area.width()) * area.height() <= kLargestScaledCopy && isOnPixels(painter);
+    const bool isWorthKeeping = kScalesAlikeUnderAnyClip && area != pixmap.size() && !area.isEmpty()
+        && !pixmap.isQBitmap() && qint64(area.width()) * area.height() <= kLargestScaledCopy
+        && isOnPixels(painter);
     if (!isWorthKeeping) {
         painter.drawPixmap(target, pixmap);
         return;

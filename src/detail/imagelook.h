@@ -30,7 +30,8 @@ QImage fadedImage(const QPixmap &pixmap, const QSize &area, int alpha);
 class ImageLook
 {
 public:
-    /// Draws what QPainter::drawPixmap(target, pixmap) draws, but scales only once.
+    /// Draws what QPainter::drawPixmap(target, pixmap) draws, but scales only once where that is
+    /// possible without a difference.
     void drawScaled(QPainter &painter, const QRect &target, const QPixmap &pixmap);
 
     /// Draws the veiled look into the target.

@@ -15,6 +15,14 @@ using Hash = uint;
 using Hash = size_t;
 #endif
 
+/// Whether drawPixmap() takes the same pixels of a picture that it scales wherever the clip begins.
+/// Qt 6 begins anew at the first column and row that show, with a place that it has rounded less.
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+constexpr bool kScalesAlikeUnderAnyClip = true;
+#else
+constexpr bool kScalesAlikeUnderAnyClip = false;
+#endif
+
 /// Makes a font say that every attribute was chosen: a widget takes none of its parent's.
 inline void setFullyResolved(QFont &font)
 {

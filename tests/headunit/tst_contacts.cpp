@@ -199,7 +199,8 @@ private slots:
         QCOMPARE(Contacts::initialsOf(QStringLiteral("ada maria brook")), QStringLiteral("AB"));
         QCOMPARE(Contacts::initialsOf(QStringLiteral("Öz")), QStringLiteral("Ö"));
         QCOMPARE(Contacts::initialsOf(QStringLiteral("(Dr.) Ada - ")), QStringLiteral("DA"));
-        QCOMPARE(Contacts::initialsOf(QStringLiteral("ليلى الحداد")), QStringLiteral("لا"));
+        QCOMPARE(Contacts::initialsOf(QStringLiteral("ليلى الحداد")), QStringLiteral("ل\u200cا"));
+        QCOMPARE(Contacts::initialsOf(QStringLiteral("أمينة ياسين")), QStringLiteral("أي"));
         QCOMPARE(Contacts::initialsOf(QString::fromUtf8("\xF0\x90\x90\x80x")),
                  QString::fromUtf8("\xF0\x90\x90\x80"));
         QCOMPARE(Contacts::initialsOf(QStringLiteral("-- ")), QString());

@@ -138,6 +138,64 @@ QStringList complaintsAbout(const HeadUnit &unit, int touch)
     return all;
 }
 
+// px from the highest to the lowest pixel that a label paints.
+int inkHeight(QLabel &label)
+{
+    QImage picture(label.size(), QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    label.render(&picture, {}, {}, {});
+    int first = picture.height();
+    int last = -1;
+    for (int y = 0; y < picture.height(); ++y) {
+        const auto *row = reinterpret_cast<const QRgb *>(picture.constScanLine(y));
+        if (std::any_of(row, row + picture.width(), [](QRgb color) { return qAlpha(color) > 0; })) {
+            first = std::min(first, y);
+            last = y;
+        }
+    }
+    return last - first + 1;
+}
+
+QStringList cutMarks(const HeadUnit &unit)
+{
+    QStringList all;
+    const auto labels = unit.findChildren<QLabel *>();
+    for (QLabel *label : labels) {
+        if (!label->isVisible() || !label->text().isRightToLeft())
+            continue;
+        QLabel copy(QStringLiteral("أ"));
+        copy.setFont(label->font());
+        copy.resize(200, 200);
+        QLabel same(copy.text());
+        same.setFont(label->font());
+        same.setAlignment(label->alignment());
+        same.setContentsMargins(label->contentsMargins());
+        same.resize(label->width(), label->height());
+        if (inkHeight(same) != inkHeight(copy))
+            all += nameOf(*label);
+    }
+    return all;
+}
+
+// What is wrong with any view of any page.
+template <typename Look> QStringList ofEveryView(const Car &car, Look look)
+{
+    QStringList all;
+    const auto names = car.unit->pageNames();
+    for (const QString &name : names) {
+        car.unit->openPage(name);
+        auto *views = car.unit->page(name)->findChild<QStackedWidget *>(QStringLiteral("views"));
+        for (int view = 0; view < (views ? views->count() : 1); ++view) {
+            if (views)
+                views->setCurrentIndex(view);
+            virtualtime::advance(0);
+            all += look(*car.unit);
+        }
+    }
+    all.removeDuplicates();
+    return all;
+}
+
 } // namespace
 
 class FitTest : public WidgetTest
@@ -147,6 +205,8 @@ class FitTest : public WidgetTest
 private slots:
     void everythingHasRoom_data();
     void everythingHasRoom();
+    void marksAboveLettersHaveRoom_data();
+    void marksAboveLettersHaveRoom();
     void popupHasRoom_data();
     void popupHasRoom();
 };
@@ -168,19 +228,25 @@ void FitTest::everythingHasRoom()
     QFETCH(QSize, size);
     QFETCH(QString, code);
     const Car car(size, code);
-    QStringList all;
-    const auto names = car.unit->pageNames();
-    for (const QString &name : names) {
-        car.unit->openPage(name);
-        auto *views = car.unit->page(name)->findChild<QStackedWidget *>(QStringLiteral("views"));
-        for (int view = 0; view < (views ? views->count() : 1); ++view) {
-            if (views)
-                views->setCurrentIndex(view);
-            virtualtime::advance(0);
-            all += complaintsAbout(*car.unit, Theme(size, Theme::Day).touch());
-        }
-    }
-    all.removeDuplicates();
+    const int touch = Theme(size, Theme::Day).touch();
+    const QStringList all =
+        ofEveryView(car, [touch](const HeadUnit &unit) { return complaintsAbout(unit, touch); });
+    QVERIFY2(all.isEmpty(), qPrintable(all.join(QLatin1Char('\n'))));
+}
+
+void FitTest::marksAboveLettersHaveRoom_data()
+{
+    QTest::addColumn<QSize>("size");
+    for (const QSize &size : {QSize(800, 480), QSize(1024, 600), QSize(1920, 720)})
+        QTest::addRow("%dx%d", size.width(), size.height()) << size;
+}
+
+// An alif with a hamza is as high in each label as in one with all the room that it wants.
+void FitTest::marksAboveLettersHaveRoom()
+{
+    QFETCH(QSize, size);
+    const Car car(size, QStringLiteral("ar"));
+    const QStringList all = ofEveryView(car, cutMarks);
     QVERIFY2(all.isEmpty(), qPrintable(all.join(QLatin1Char('\n'))));
 }
 

@@ -2,12 +2,14 @@
 #include "pages/home.h"
 
 #include "pagetest.h"
+#include "statusbar.h"
 #include "touch.h"
 #include "virtualtime.h"
 
 #include <sphomeicon.h>
 #include <splabel.h>
 
+#include <QLabel>
 #include <QSignalSpy>
 
 using namespace headunit;
@@ -53,6 +55,9 @@ class HomePageTest : public WidgetTest
 private slots:
     void tilesOpenTheirPages_data();
     void tilesOpenTheirPages();
+    void tileWithoutApplicationSaysSo();
+    void tilesFillTheirGrid();
+    void muteIsSeenAboveThePage();
     void stripShowsTheCover();
     void idlePageDoesNothing();
 };
@@ -74,6 +79,44 @@ void HomePageTest::tilesOpenTheirPages()
     touch(tile).press(20, 20).hold(40).release().hold(0);
     QCOMPARE(wanted.count(), 1);
     QCOMPARE(wanted.first().first().toString(), name);
+}
+
+void HomePageTest::tileWithoutApplicationSaysSo()
+{
+    Home home;
+    const QSignalSpy wanted(&home.page, &Page::pageWanted);
+    const QSignalSpy popup(&home.page, &Page::popupWanted);
+    auto *tile = home.page.findChild<SpHomeIcon *>(QStringLiteral("weatherTile"));
+    touch(tile).press(20, 20).hold(40).release().hold(0);
+    QCOMPARE(wanted.count(), 0);
+    QCOMPARE(popup.count(), 1);
+    QCOMPARE(popup.first().first().toString(), QStringLiteral("Weather"));
+}
+
+// Their edges are those of the strip below them.
+void HomePageTest::tilesFillTheirGrid()
+{
+    const Home home;
+    const QRect strip = home.page.findChild<QLabel *>(QStringLiteral("strip"))->geometry();
+    const QRect first = home.page.findChild<SpHomeIcon *>(QStringLiteral("radioTile"))->geometry();
+    const QRect last = home.page.findChild<SpHomeIcon *>(QStringLiteral("weatherTile"))->geometry();
+    QCOMPARE(first.left(), strip.left());
+    QVERIFY(strip.right() - last.right() < 4); // what the division leaves over
+    QCOMPARE(first.size(), last.size());
+}
+
+void HomePageTest::muteIsSeenAboveThePage()
+{
+    Home home;
+    StatusBar bar(home.context, &home.screen);
+    bar.setTheme(Theme({1024, 600}, Theme::Day));
+    bar.show();
+    auto *sign = bar.findChild<QLabel *>(QStringLiteral("muteSign"));
+    QVERIFY(!sign->isVisible());
+    home.player.setMuted(true);
+    QVERIFY(sign->isVisible());
+    home.player.setMuted(false);
+    QVERIFY(!sign->isVisible());
 }
 
 void HomePageTest::stripShowsTheCover()

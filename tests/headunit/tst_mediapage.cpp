@@ -16,6 +16,7 @@
 #include <SpTableList>
 
 #include <QFile>
+#include <QSignalSpy>
 
 using namespace headunit;
 
@@ -88,7 +89,10 @@ private slots:
     void arcScrollBarScrollsTheList();
     void arcsFollowTheList();
     void dragOfTheListIsNotRounded();
+    void coverIsAskedForWhenItHasItsSize();
     void animationMovesOnlyWhileMusicPlays();
+    void rowsAreAsWideAsTheirList();
+    void fewLettersTakeNoRoom();
     void nothingHappensWhileIdle();
 };
 
@@ -237,6 +241,21 @@ void tst_MediaPage::dragOfTheListIsNotRounded()
     }
 }
 
+void tst_MediaPage::coverIsAskedForWhenItHasItsSize()
+{
+    PageWorld world;
+    MediaPage page(world.context);
+    QVector<Track> tracks = alphabet(world.folder);
+    tracks.first().hasCover = true;
+    world.music.tracks()->setTracks(tracks);
+    world.player.setModel(world.music.tracks());
+    const QSignalSpy covers(&world.music, &MusicLibrary::coverRead);
+    world.player.playRow(0);
+    QVERIFY(!world.music.isReadingCovers());
+    showPage(world.screen, page);
+    QVERIFY(world.music.isReadingCovers() || covers.count() > 0);
+}
+
 void tst_MediaPage::animationMovesOnlyWhileMusicPlays()
 {
     Media media;
@@ -250,6 +269,42 @@ void tst_MediaPage::animationMovesOnlyWhileMusicPlays()
     QCOMPARE(animation->getGifState(), 0);
     media.player.pause();
     QCOMPARE(animation->getGifState(), 1);
+}
+
+// With the letters beside the rows and without them, also when it was another view that was shown
+// at the moment of the change.
+void tst_MediaPage::rowsAreAsWideAsTheirList()
+{
+    Media media;
+    auto *list = media.child<SpTableList>("list");
+    const auto keys = media.child<SideKeys>("sideKeys");
+    media.openTracks();
+    const int beside = list->width();
+    QVERIFY(beside < list->parentWidget()->width() - 100);
+    QCOMPARE(list->columnWidth(0), beside);
+    emit keys->chosen(0);
+    emit keys->chosen(2);
+    QVERIFY(list->width() > beside + 100);
+    QCOMPARE(list->columnWidth(0), list->width());
+    emit keys->chosen(0);
+    emit keys->chosen(1);
+    QCOMPARE(list->width(), beside);
+    QCOMPARE(list->columnWidth(0), beside);
+}
+
+void tst_MediaPage::fewLettersTakeNoRoom()
+{
+    Media media;
+    auto *index = media.page.findChild<MArcList *>()->parentWidget();
+    auto *list = media.child<SpTableList>("list");
+    media.openTracks();
+    QVERIFY(index->isVisible());
+    media.music.tracks()->setTracks(alphabet(media.folder).mid(0, 70)); // seven letters
+    QVERIFY(!index->isVisible());
+    QVERIFY(list->width() > list->parentWidget()->width() - 20);
+    QCOMPARE(list->columnWidth(0), list->width());
+    media.music.tracks()->setTracks(alphabet(media.folder).mid(0, 80));
+    QVERIFY(index->isVisible());
 }
 
 void tst_MediaPage::nothingHappensWhileIdle()

@@ -3,6 +3,7 @@
 #include "trackmodel.h"
 
 #include "files.h"
+#include "sounddevices.h"
 #include "virtualtime.h"
 #include "widgettest.h"
 
@@ -82,6 +83,8 @@ class tst_Player : public WidgetTest
     }
 
 private slots:
+    void initTestCase() { sounddevices::offerNone(); }
+
     void silenceTakesAsLongAsTheMusic()
     {
         TrackModel model;
@@ -535,7 +538,7 @@ private slots:
     void whereNothingCanSoundThePlayerIsSilentWithoutAWarning()
     {
         Player player;
-        QCOMPARE(player.isSilent(), !MediaBackend::isAvailable());
+        QVERIFY(player.isSilent());
     }
 };
 

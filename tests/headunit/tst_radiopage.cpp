@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "dress.h"
 #include "models/samples.h"
 #include "pages/radio.h"
 #include "pagetest.h"
@@ -62,8 +63,10 @@ class RadioPageTest : public WidgetTest
 private slots:
     void bandKeysChooseTheBand();
     void displayFollowsTheTuner();
+    void rollingTextRunsInItsOwnDirection();
     void touchOnAPresetTunes();
     void longPressStores();
+    void presetSaysItsFrequencyOnce();
     void emptyPresetDoesNothing();
     void seekStepAndScan();
     void heldStepKeyRepeats();
@@ -76,6 +79,8 @@ private slots:
     void tapeComesBackToItsFrequency();
     void pointerTunes_data();
     void pointerTunes();
+    void needlesLeaveTheNumbersFree_data();
+    void needlesLeaveTheNumbersFree();
     void idlePageDoesNothing();
 };
 
@@ -103,6 +108,22 @@ void RadioPageTest::displayFollowsTheTuner()
     radio.tuner.setFrequency(10350);
     QCOMPARE(radio.child<SpRollingText>("station")->text(), QStringLiteral("No station"));
     QCOMPARE(radio.child<SpRollingText>("radioText")->text(), QString());
+    QVERIFY(!radio.child<SpRollingText>("radioText")->isVisible());
+    QVERIFY(!radio.child<QLabel>("badge")->isVisible());
+}
+
+// The blanks between the end of a text and its start follow its end, and not the language's.
+void RadioPageTest::rollingTextRunsInItsOwnDirection()
+{
+    Radio radio;
+    radio.page->setLayoutDirection(Qt::RightToLeft);
+    radio.tuner.setFrequency(9600); // its text is too long
+    auto *text = radio.child<SpRollingText>("radioText");
+    QVERIFY(QFontMetrics(text->font()).horizontalAdvance(text->text()) > text->width());
+    QCOMPARE(text->layoutDirection(), Qt::LeftToRight);
+    SpRollingText title;
+    showRolling(title, QStringLiteral("العربية"));
+    QCOMPARE(title.layoutDirection(), Qt::RightToLeft);
 }
 
 void RadioPageTest::touchOnAPresetTunes()
@@ -129,7 +150,20 @@ void RadioPageTest::longPressStores()
     QVERIFY(radio.preset(2)->displayText2() != QStringLiteral("Stored"));
     QCOMPARE(radio.preset(3)->displayText2(), QStringLiteral("Stored"));
     virtualtime::advance(1500);
-    QCOMPARE(radio.preset(3)->displayText2(), Tuner::textOf(Band::Fm, 10350));
+    QCOMPARE(radio.preset(3)->displayText2(), QStringLiteral("MHz"));
+}
+
+void RadioPageTest::presetSaysItsFrequencyOnce()
+{
+    Radio radio;
+    radio.tuner.setFrequency(8930);
+    radio.tuner.storePreset(0);
+    QCOMPARE(radio.preset(0)->displayText(), QStringLiteral("Radio Larch"));
+    QCOMPARE(radio.preset(0)->displayText2(), Tuner::textOf(Band::Fm, 8930));
+    radio.tuner.setFrequency(10350); // there is no station
+    radio.tuner.storePreset(0);
+    QCOMPARE(radio.preset(0)->displayText(), Tuner::textOf(Band::Fm, 10350));
+    QCOMPARE(radio.preset(0)->displayText2(), QStringLiteral("MHz"));
 }
 
 void RadioPageTest::emptyPresetDoesNothing()
@@ -291,6 +325,57 @@ void RadioPageTest::pointerTunes()
     const int width = scale->width() - 2 * scale->marginX();
     touch(scale).press(300, 40).moveTo(scale->marginX() + qRound(place * float(width)), 40);
     QCOMPARE(radio.tuner.frequency(), frequency); // while the finger is down
+}
+
+void RadioPageTest::needlesLeaveTheNumbersFree_data()
+{
+    QTest::addColumn<QSize>("screen");
+    for (const QSize &screen :
+         {QSize(800, 480), QSize(1024, 600), QSize(1280, 720), QSize(1920, 720)})
+        QTest::addRow("%dx%d", screen.width(), screen.height()) << screen;
+}
+
+// The numbers and the needle have the same rows in all three scales, and no row of both.
+void RadioPageTest::needlesLeaveTheNumbersFree()
+{
+    QFETCH(QSize, screen);
+    Radio radio;
+    const Theme theme(screen, Theme::Night);
+    radio.screen.resize(screen);
+    radio.page->setTheme(theme);
+    radio.page->resize(screen.width(), screen.height() - theme.px(76));
+    radio.tuner.setFrequency(9600);
+    QRect firstNeedle;
+    for (int scale = 0; scale < 3; ++scale) {
+        radio.showScale(scale);
+        QWidget *widget = radio.child<QStackedWidget>("scales")->currentWidget();
+        const QImage picture = widget->grab().toImage();
+        const auto inkIn = [&picture](const QRect &area, auto isInk) {
+            QRect ink;
+            for (int y = area.top(); y <= area.bottom(); ++y) {
+                for (int x = area.left(); x <= area.right(); ++x) {
+                    if (isInk(picture.pixel(x, y)))
+                        ink |= QRect(x, y, 1, 1);
+                }
+            }
+            return ink;
+        };
+        const QRgb accent = theme.accent.rgb();
+        const QRgb ground = picture.pixel(0, 0);
+        const QRect needle =
+            inkIn(picture.rect(), [accent](QRgb color) { return color == accent; });
+        const QRect number = inkIn({needle.center().x() - 10, 0, 20, needle.top()},
+                                   [ground](QRgb color) { return color != ground; });
+        QVERIFY2(number.height() > theme.px(14) * 7 / 10, // all of a digit
+                 qPrintable(QStringLiteral("%1 of %2, needle from %3")
+                                .arg(number.height())
+                                .arg(scale)
+                                .arg(needle.top())));
+        if (scale == 0)
+            firstNeedle = needle;
+        QCOMPARE(needle.top(), firstNeedle.top());
+        QCOMPARE(needle.bottom(), firstNeedle.bottom());
+    }
 }
 
 void RadioPageTest::idlePageDoesNothing()

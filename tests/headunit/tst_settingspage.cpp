@@ -7,6 +7,7 @@
 #include "licence.h"
 #include "pagetest.h"
 #include "sidekeys.h"
+#include "sounddevices.h"
 #include "touch.h"
 #include "virtualtime.h"
 
@@ -20,7 +21,6 @@
 #include <sploadinground.h>
 #include <sptablelist.h>
 
-#include <QAudioDeviceInfo>
 #include <QFile>
 #include <QLabel>
 #include <QScrollBar>
@@ -125,6 +125,7 @@ class SettingsPageTest : public WidgetTest
     Q_OBJECT
 
 private slots:
+    void initTestCase() { sounddevices::offerNone(); }
     void keysOpenTheViews_data();
     void keysOpenTheViews();
     void switchesAreKept();
@@ -136,10 +137,11 @@ private slots:
     void touchOnASwitchClicksOnce();
     void keyClicksFollowTheSwitch();
     void missingDeviceIsSaidOnce();
-    void soundPageHasTheSameSwitch();
     void clockFollowsTheSwitch();
     void dateFollowsTheSwitch();
     void brightnessDimsTheScreen();
+    void fullSliderLooksFull();
+    void rowsAreNotWithoutEnd();
     void dimmedScreenIsTouchedAsEver();
     void looksAreChosen();
     void lookForOneRunIsNotKept();
@@ -167,7 +169,7 @@ void SettingsPageTest::keysOpenTheViews_data()
     QTest::newRow("general") << int(GeneralKey) << "list";
     QTest::newRow("display") << int(DisplayKey) << "brightness";
     QTest::newRow("language") << int(LanguageKey) << "german";
-    QTest::newRow("update") << int(UpdateKey) << "progress";
+    QTest::newRow("update") << int(UpdateKey) << "rest";
     QTest::newRow("about") << int(AboutKey) << "licence";
 }
 
@@ -178,7 +180,7 @@ void SettingsPageTest::keysOpenTheViews()
     Settings settings;
     settings.open(key == AboutKey ? GeneralKey : AboutKey);
     settings.open(SideKey(key));
-    for (const char *name : {"list", "brightness", "german", "progress", "licence"})
+    for (const char *name : {"list", "brightness", "german", "rest", "licence"})
         QCOMPARE(settings.inPage<QWidget>(name)->isVisible(), shown == name);
 }
 
@@ -284,26 +286,12 @@ void SettingsPageTest::keyClicksFollowTheSwitch()
 
 void SettingsPageTest::missingDeviceIsSaidOnce()
 {
-    if (!QAudioDeviceInfo::availableDevices(QAudio::AudioOutput).isEmpty())
-        QSKIP("There is a device.");
     Settings settings;
     const ClickSound click(&settings.preferences);
     const StandardError error;
     settings.tap("switch4");
     settings.tap("switch4");
     QCOMPARE(error.lines(), 1);
-}
-
-void SettingsPageTest::soundPageHasTheSameSwitch()
-{
-    const Settings settings;
-    auto *other = settings.unit->page(QStringLiteral("sound"))
-                      ->findChild<MOnOffButton *>(QStringLiteral("keyClicks"));
-    QVERIFY(other->onoffStatus());
-    other->changeStatus(false);
-    QVERIFY(!settings.switchOf(2)->onoffStatus());
-    settings.switchOf(2)->changeStatus(true);
-    QVERIFY(other->onoffStatus());
 }
 
 void SettingsPageTest::clockFollowsTheSwitch()
@@ -346,6 +334,52 @@ void SettingsPageTest::brightnessDimsTheScreen()
     touch(slider).press(slider->width() - 1, 20).release();
     QVERIFY(!settings.child<QWidget>("dimmer")->isVisible());
     QCOMPARE(settings.preferences.brightness(), 100);
+}
+
+// Its bar ends where the knob at its end does.
+void SettingsPageTest::fullSliderLooksFull()
+{
+    Settings settings;
+    settings.open(DisplayKey);
+    auto *slider = settings.inPage<MHorSlider>("brightness");
+    const QColor accent = Theme(kScreen, Theme::Day).accent;
+    const auto ink = [](const QImage &picture, auto isInk) {
+        QRect rect;
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                if (isInk(picture.pixelColor(x, y)))
+                    rect |= QRect(x, y, 1, 1);
+            }
+        }
+        return rect;
+    };
+    const auto isAccent = [&accent](const QColor &color) { return color == accent; };
+    slider->setCurrentValue(100);
+    const QImage full = painted(*slider);
+    const QColor ground = full.pixelColor(0, 0);
+    const auto isSomething = [&ground](const QColor &color) { return color != ground; };
+    QVERIFY(ink(full, isSomething).right() - ink(full, isAccent).right() <= 1);
+    slider->setCurrentValue(10);
+    const QImage empty = painted(*slider);
+    QVERIFY(ink(empty, isAccent).left() - ink(empty, isSomething).left() <= 1);
+}
+
+void SettingsPageTest::rowsAreNotWithoutEnd()
+{
+    PageWorld world;
+    const QSize wide(1920, 720);
+    HeadUnit unit(world.context, wide, Theme::Day);
+    unit.openPage(QStringLiteral("settings"));
+    WidgetTest::show(unit);
+    const auto *page = unit.page(QStringLiteral("settings"));
+    auto *views = page->findChild<QStackedWidget *>(QStringLiteral("views"));
+    const int most = Theme(wide, Theme::Day).px(900);
+    for (const SideKey key : {GeneralKey, DisplayKey, LanguageKey, AboutKey}) {
+        views->setCurrentIndex(key);
+        virtualtime::advance(0);
+        for (const QLabel *panel : views->currentWidget()->findChildren<QLabel *>())
+            QVERIFY2(panel->width() <= most + 1, qPrintable(panel->objectName()));
+    }
 }
 
 void SettingsPageTest::dimmedScreenIsTouchedAsEver()
@@ -473,6 +507,8 @@ void SettingsPageTest::updateRunsToItsEnd()
     settings.open(UpdateKey);
     auto *busy = settings.inPage<SpLoadingRound>("busy");
     auto *progress = settings.inPage<MOProgress>("progress");
+    QVERIFY(settings.inPage<QWidget>("rest")->isVisible()); // nothing counts before it starts
+    QVERIFY(!progress->isVisible());
     settings.tap("key");
     QVERIFY(busy->isVisible());
     const int index = busy->index();
@@ -499,7 +535,7 @@ void SettingsPageTest::updateIsCancelled()
     QCOMPARE(settings.inPage<SpHorStrButton>("key")->displayString(), QStringLiteral("Cancel"));
     virtualtime::advance(6000);
     settings.tap("key");
-    QCOMPARE(settings.inPage<MOProgress>("progress")->currentValue(), 0);
+    QVERIFY(settings.inPage<QWidget>("rest")->isVisible());
     QVERIFY(settings.text("message").contains(QLatin1String("cancelled")));
     virtualtime::advance(60'000);
     QVERIFY(!settings.child<QWidget>("popup")->isVisible());
@@ -535,8 +571,12 @@ void SettingsPageTest::licenceIsShownWhole()
     page->findChild<QStackedWidget *>(QStringLiteral("views"))->setCurrentIndex(AboutKey);
     auto *label = page->findChild<MVScrollLabel *>();
     auto *next = page->findChild<SpIconButton *>(QStringLiteral("nextKey"));
+    const QFontMetrics metrics(label->font());
+    QCOMPARE(label->height() % metrics.lineSpacing(), 0);
     QString shown;
     for (int turns = 0; turns < 100; ++turns) {
+        for (const QString &line : label->text().split(QLatin1Char('\n')))
+            QVERIFY2(metrics.horizontalAdvance(line) <= label->width(), qPrintable(line));
         shown += label->text() + QLatin1Char('\n');
         if (next->disableState())
             break;

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "pages/sound.h"
 #include "pagetest.h"
+#include "sidekeys.h"
 #include "touch.h"
 #include "virtualtime.h"
 
 #include <mcirculardial.h>
-#include <mfocusbutton.h>
 #include <mhorslider.h>
 #include <monoffbutton.h>
 #include <spiconbutton.h>
@@ -24,6 +24,8 @@ using namespace headunit;
 namespace
 {
 
+enum SideKey : int { ToneKey, LevelKey, BalanceKey, EffectsKey, VolumeKey };
+
 struct Sound : PageWorld {
     Sound() { openPage(); }
 
@@ -36,9 +38,12 @@ struct Sound : PageWorld {
     {
         return page->findChild<Widget *>(QLatin1String(name));
     }
-    void openView(const char *name)
+    void openView(SideKey key)
     {
-        tap(child<QWidget>(qPrintable(QLatin1String(name) + "Tab")));
+        for (SpIconButton *button : child<SideKeys>("sideKeys")->findChildren<SpIconButton *>()) {
+            if (button->buttonID().toInt() == key)
+                tap(button);
+        }
     }
     void tap(QWidget *key) { touch(key).tap(key->width() / 2, key->height() / 2); }
 
@@ -52,9 +57,10 @@ class SoundPageTest : public WidgetTest
     Q_OBJECT
 
 private slots:
-    void tabsOpenTheViews_data();
-    void tabsOpenTheViews();
-    void swipeAndKeysTurnThePages();
+    void sideKeysOpenTheViews_data();
+    void sideKeysOpenTheViews();
+    void swipeTurnsThePages();
+    void valuesHaveSignAndUnit();
     void bandsAreKept();
     void balanceAndFaderAreKept();
     void dotFollowsTheSliders();
@@ -64,6 +70,8 @@ private slots:
     void dialDrivesThePlayer();
     void dialStandsOnWholeVolumes();
     void dialFollowsThePlayer();
+    void dialLeavesItsPanelWhole_data();
+    void dialLeavesItsPanelWhole();
     void keysTurnTheVolume();
     void muteLockMutes();
     void volumeIsKept();
@@ -72,53 +80,66 @@ private slots:
     void idlePageDoesNothing();
 };
 
-void SoundPageTest::tabsOpenTheViews_data()
+void SoundPageTest::sideKeysOpenTheViews_data()
 {
-    QTest::addColumn<QString>("tab");
+    QTest::addColumn<int>("key");
     QTest::addColumn<QString>("shown");
-    QTest::newRow("equaliser") << "equaliser"
-                               << "bass";
-    QTest::newRow("balance") << "balance"
-                             << "fader";
-    QTest::newRow("effects") << "effects"
-                             << "loudness";
-    QTest::newRow("volume") << "volume"
-                            << "dial";
+    QTest::newRow("tone") << int(ToneKey) << "bass";
+    QTest::newRow("levels") << int(LevelKey) << "subwoofer";
+    QTest::newRow("balance") << int(BalanceKey) << "fader";
+    QTest::newRow("effects") << int(EffectsKey) << "loudness";
+    QTest::newRow("volume") << int(VolumeKey) << "dial";
 }
 
-void SoundPageTest::tabsOpenTheViews()
+void SoundPageTest::sideKeysOpenTheViews()
 {
-    QFETCH(QString, tab);
+    QFETCH(int, key);
     QFETCH(QString, shown);
     Sound sound;
-    sound.openView(tab == "volume" ? "balance" : "volume");
-    sound.openView(qPrintable(tab));
-    QVERIFY(sound.child<MFocusButton>(qPrintable(tab + "Tab"))->isChecked());
-    for (const char *name : {"bass", "fader", "loudness", "dial"})
+    sound.openView(key == VolumeKey ? BalanceKey : VolumeKey);
+    sound.openView(SideKey(key));
+    QCOMPARE(sound.child<SideKeys>("sideKeys")->current(), key);
+    for (const char *name : {"bass", "subwoofer", "fader", "loudness", "dial"})
         QCOMPARE(sound.child<QWidget>(name)->isVisible(), shown == name);
 }
 
-void SoundPageTest::swipeAndKeysTurnThePages()
+void SoundPageTest::swipeTurnsThePages()
 {
     Sound sound;
     const auto isOnFirst = [&sound] { return sound.child<QWidget>("bass")->isVisible(); };
+    const auto key = [&sound] { return sound.child<SideKeys>("sideKeys")->current(); };
+    const auto swipe = [&sound](const char *page, int from, int to) {
+        touch(sound.child<QWidget>(page)).press(from, 20).moveTo(to, 20).release();
+    };
     QVERIFY(isOnFirst());
-    touch(sound.child<QWidget>("tonePage")).press(150, 20).moveTo(20, 20).release();
+    swipe("tonePage", 20, 150); // there is none before
+    QVERIFY(isOnFirst());
+    swipe("tonePage", 150, 20);
     QVERIFY(!isOnFirst());
     QVERIFY(sound.child<QWidget>("subwoofer")->isVisible());
-    touch(sound.child<QWidget>("levelPage"))
-        .press(150, 20)
-        .moveTo(20, 20)
-        .release(); // there is no third
+    QCOMPARE(key(), int(LevelKey));
+    swipe("levelPage", 150, 20); // there is no third
     QVERIFY(!isOnFirst());
-    touch(sound.child<QWidget>("levelPage")).press(20, 20).moveTo(150, 20).release();
+    swipe("levelPage", 20, 150);
     QVERIFY(isOnFirst());
-    QVERIFY(sound.child<SpIconButton>("previousKey")->disableState());
-    sound.tap(sound.child<QWidget>("nextKey"));
-    QVERIFY(!isOnFirst());
-    QVERIFY(sound.child<SpIconButton>("nextKey")->disableState());
-    sound.tap(sound.child<QWidget>("previousKey"));
-    QVERIFY(isOnFirst());
+    QCOMPARE(key(), int(ToneKey));
+}
+
+void SoundPageTest::valuesHaveSignAndUnit()
+{
+    Sound sound;
+    auto *treble = sound.child<SpSetupSlider>("treble");
+    const auto text = [treble] {
+        return treble->findChild<QLabel *>(QStringLiteral("value"))->text();
+    };
+    QCOMPARE(text(), QStringLiteral("0 dB"));
+    touch(treble).press(treble->width() / 2, 32).release();
+    QCOMPARE(text(), QStringLiteral("+10 dB"));
+    touch(treble).press(treble->width() / 2, treble->height() - 2).release();
+    QCOMPARE(text(), QStringLiteral("\u221210 dB"));
+    sound.openPage();
+    QCOMPARE(sound.child<SpSetupSlider>("treble")->findChild<QLabel *>("value")->text(),
+             QStringLiteral("\u221210 dB"));
 }
 
 void SoundPageTest::bandsAreKept()
@@ -135,7 +156,7 @@ void SoundPageTest::bandsAreKept()
 void SoundPageTest::balanceAndFaderAreKept()
 {
     Sound sound;
-    sound.openView("balance");
+    sound.openView(BalanceKey);
     touch(sound.child<QWidget>("balance")).press(1, 20).release();
     auto *fader = sound.child<MHorSlider>("fader");
     touch(fader).press(fader->width() - 2, 20).release();
@@ -150,7 +171,7 @@ void SoundPageTest::balanceAndFaderAreKept()
 void SoundPageTest::dotFollowsTheSliders()
 {
     Sound sound;
-    sound.openView("balance");
+    sound.openView(BalanceKey);
     const auto dot = [&sound] {
         const QImage cabin = sound.child<QLabel>("cabin")->pixmap(Qt::ReturnByValue).toImage();
         const QRgb accent = Theme({1024, 600}, Theme::Night).accent.rgb();
@@ -179,12 +200,12 @@ void SoundPageTest::dotFollowsTheSliders()
 void SoundPageTest::centreKeyCentres()
 {
     Sound sound;
-    sound.openView("balance");
+    sound.openView(BalanceKey);
     touch(sound.child<QWidget>("balance")).press(1, 20).release();
     touch(sound.child<QWidget>("fader")).press(1, 20).release();
     sound.tap(sound.child<QWidget>("centreKey"));
     QCOMPARE(sound.child<MHorSlider>("balance")->currentValue(), 0);
-    QCOMPARE(sound.child<QLabel>("faderValue")->text(), QStringLiteral("Middle"));
+    QCOMPARE(sound.child<QLabel>("faderValue")->text(), QStringLiteral("Centre"));
     sound.openPage();
     QCOMPARE(sound.child<MHorSlider>("balance")->currentValue(), 0);
     QCOMPARE(sound.child<MHorSlider>("fader")->currentValue(), 0);
@@ -193,7 +214,7 @@ void SoundPageTest::centreKeyCentres()
 void SoundPageTest::switchesAreKept()
 {
     Sound sound;
-    sound.openView("effects");
+    sound.openView(EffectsKey);
     sound.tap(sound.child<QWidget>("surround"));
     sound.openPage();
     QVERIFY(sound.child<MOnOffButton>("surround")->onoffStatus());
@@ -212,7 +233,7 @@ void SoundPageTest::dialDrivesThePlayer()
 {
     QFETCH(int, volume);
     Sound sound;
-    sound.openView("volume");
+    sound.openView(VolumeKey);
     auto *dial = sound.child<MCircularDial>("dial");
     const double angle = qDegreesToRadians(qBound(-59.8, volume * 3.0 - 60.0, 59.8));
     const double reach = dial->radius() * 0.93;
@@ -226,10 +247,12 @@ void SoundPageTest::dialDrivesThePlayer()
 void SoundPageTest::dialStandsOnWholeVolumes()
 {
     Sound sound;
-    sound.openView("volume");
+    sound.openView(VolumeKey);
     auto *dial = sound.child<MCircularDial>("dial");
-    const int y = dial->height() / 2 - qRound(dial->radius() * 0.93);
-    touch(dial).press(dial->width() / 2 + 8, y).release(); // a third of a step after the middle
+    const double reach = dial->radius() * 0.93;
+    const int aside = qRound(reach * std::sin(qDegreesToRadians(1.0))); // a third of a step
+    const QPoint middle = dial->rect().center();
+    touch(dial).press(middle.x() + aside, middle.y() - qRound(reach)).release();
     QCOMPARE(sound.player.volume(), 20);
     QCOMPARE(dial->value(), 20.0);
 }
@@ -237,18 +260,70 @@ void SoundPageTest::dialStandsOnWholeVolumes()
 void SoundPageTest::dialFollowsThePlayer()
 {
     Sound sound;
-    sound.openView("volume");
-    const QPoint before = sound.child<QWidget>("mark")->pos();
+    sound.openView(VolumeKey);
+    // How far to the right the accent reaches: that is where the knob is.
+    const auto reach = [&sound] {
+        const QImage arc = sound.child<QLabel>("arc")->pixmap(Qt::ReturnByValue).toImage();
+        const QRgb accent = Theme({1024, 600}, Theme::Night).accent.rgb();
+        int most = 0;
+        for (int y = 0; y < arc.height(); ++y) {
+            for (int x = most; x < arc.width(); ++x)
+                most = arc.pixel(x, y) == accent ? x : most;
+        }
+        return most;
+    };
+    const int before = reach();
     sound.player.setVolume(31);
     QCOMPARE(sound.child<MCircularDial>("dial")->value(), 31.0);
     QCOMPARE(sound.child<QLabel>("level")->text(), QStringLiteral("31"));
-    QVERIFY(sound.child<QWidget>("mark")->x() > before.x());
+    QVERIFY(reach() > before + 100);
+}
+
+void SoundPageTest::dialLeavesItsPanelWhole_data()
+{
+    QTest::addColumn<QSize>("screen");
+    for (const QSize &screen :
+         {QSize(800, 480), QSize(1024, 600), QSize(1280, 720), QSize(1920, 720)})
+        QTest::addRow("%dx%d", screen.width(), screen.height()) << screen;
+}
+
+// Nothing of it, nor of what is written beside it, comes near the border.
+void SoundPageTest::dialLeavesItsPanelWhole()
+{
+    QFETCH(QSize, screen);
+    Sound sound;
+    const Theme theme(screen, Theme::Night);
+    sound.screen.resize(screen);
+    sound.page->setTheme(theme);
+    sound.page->resize(screen.width(), screen.height() - theme.px(76));
+    sound.openView(VolumeKey);
+    auto *panel = sound.child<QLabel>("dialPanel");
+    const QRect inner =
+        panel->rect().adjusted(theme.gap(), theme.gap(), -theme.gap(), -theme.gap());
+    for (const int volume : {0, 20, 40}) {
+        sound.player.setVolume(volume);
+        const QImage shown = panel->grab().toImage();
+        for (QWidget *part : panel->findChildren<QWidget *>())
+            part->hide();
+        const QImage bare = panel->grab().toImage();
+        for (QWidget *part : panel->findChildren<QWidget *>())
+            part->show();
+        QVERIFY(shown != bare);
+        QRect changed;
+        for (int y = 0; y < shown.height(); ++y) {
+            for (int x = 0; x < shown.width(); ++x) {
+                if (shown.pixel(x, y) != bare.pixel(x, y))
+                    changed |= QRect(x, y, 1, 1);
+            }
+        }
+        QVERIFY(inner.contains(changed));
+    }
 }
 
 void SoundPageTest::keysTurnTheVolume()
 {
     Sound sound;
-    sound.openView("volume");
+    sound.openView(VolumeKey);
     sound.player.setVolume(10);
     sound.tap(sound.child<QWidget>("louderKey"));
     QCOMPARE(sound.player.volume(), 11);
@@ -259,7 +334,7 @@ void SoundPageTest::keysTurnTheVolume()
 void SoundPageTest::muteLockMutes()
 {
     Sound sound;
-    sound.openView("volume");
+    sound.openView(VolumeKey);
     sound.tap(sound.child<QWidget>("muteLock"));
     QVERIFY(sound.player.isMuted());
     QCOMPARE(sound.child<QLabel>("state")->text(), QStringLiteral("Muted"));
@@ -301,16 +376,19 @@ void SoundPageTest::otherLookKeepsTheValues()
 
 void SoundPageTest::idlePageDoesNothing_data()
 {
-    QTest::addColumn<QString>("tab");
-    for (const char *tab : {"equaliser", "balance", "effects", "volume"})
-        QTest::addRow("%s", tab) << QString::fromLatin1(tab);
+    QTest::addColumn<int>("key");
+    QTest::newRow("tone") << int(ToneKey);
+    QTest::newRow("levels") << int(LevelKey);
+    QTest::newRow("balance") << int(BalanceKey);
+    QTest::newRow("effects") << int(EffectsKey);
+    QTest::newRow("volume") << int(VolumeKey);
 }
 
 void SoundPageTest::idlePageDoesNothing()
 {
-    QFETCH(QString, tab);
+    QFETCH(int, key);
     Sound sound;
-    sound.openView(qPrintable(tab));
+    sound.openView(SideKey(key));
     QCOMPARE(happenedWhileIdle(), QString());
 }
 

@@ -21,16 +21,8 @@ fail()
     exit 1
 }
 
-started=()
-stop()
-{
-    local process
-    for process in "${started[@]}"; do
-        kill "$process" 2>/dev/null || true
-        wait "$process" 2>/dev/null || true
-    done
-}
-trap stop EXIT
+# shellcheck source-path=SCRIPTDIR source=started.sh
+. "$source_dir/tests/integration/started.sh"
 
 rm -rf "$work"
 mkdir -p "$work/plugins/designer" "$work/home"

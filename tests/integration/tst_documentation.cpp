@@ -7,6 +7,7 @@
 #include "files.h"
 #include "gifs.h"
 #include "pictures.h"
+#include "propertytype.h"
 #include "widgettest.h"
 
 #include <QFile>
@@ -39,7 +40,7 @@ QStringList namesIn(const QString &cell)
     if (cell.contains(QLatin1String("..."))) {
         const QString last = cell.section(QLatin1Char('`'), 3, 3);
         const QString stem = last.chopped(1);
-        for (int digit = 1; digit <= last.rightRef(1).toInt(); ++digit)
+        for (int digit = 1; digit <= last.right(1).toInt(); ++digit)
             names += stem + QString::number(digit);
     }
     return names;
@@ -260,7 +261,8 @@ private slots:
         const std::unique_ptr<QObject> object(make());
         QStringList actual;
         for (const QMetaProperty &property : propertiesOf(*object))
-            actual += QStringLiteral("%1 %2").arg(property.typeName(), property.name());
+            actual +=
+                QStringLiteral("%1 %2").arg(writtenType(property), QLatin1String(property.name()));
         QStringList documented;
         for (const Row &row : documentedRows(name))
             documented += QStringLiteral("%1 %2").arg(row.type, row.name);

@@ -5,6 +5,7 @@
 
 #include "panelkitclasses.h"
 
+#include "propertytype.h"
 #include "widgettest.h"
 
 #include <QDir>
@@ -72,7 +73,7 @@ QString describedProperty(const QMetaProperty &property)
     add(property.isConstant(), "constant");
     add(property.isFinal(), "final");
     return QStringLiteral("property %1 %2: %3")
-        .arg(latin(property.typeName()), latin(property.name()), flags.join(latin(" ")));
+        .arg(writtenType(property), latin(property.name()), flags.join(latin(" ")));
 }
 
 QString describedMethod(const QMetaMethod &method)
@@ -154,6 +155,20 @@ QString headerText(const QString &name)
     return QString::fromUtf8(file.readAll());
 }
 
+// The lines of functions as the symbols have them: in Qt 6 a QStringList is a QList<QString>, which
+// also stands elsewhere in the order of the letters.
+QStringList asLinked(QStringList lines)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    const auto isFunction = [](const QString &line) { return line.startsWith(latin("function ")); };
+    const auto functions = std::find_if(lines.begin(), lines.end(), isFunction);
+    for (auto line = functions; line != lines.end(); ++line)
+        line->replace(latin("QStringList"), latin("QList<QString>"));
+    std::sort(functions, lines.end());
+#endif
+    return lines;
+}
+
 QStringList written(const QString &className)
 {
     QFile file(QStringLiteral(INTERFACE_DIR "/%1.txt").arg(className.toLower()));
@@ -164,7 +179,7 @@ QStringList written(const QString &className)
         if (!line.trimmed().isEmpty() && !line.startsWith(QLatin1Char('#')))
             lines += line;
     }
-    return lines;
+    return asLinked(lines);
 }
 
 } // namespace

@@ -13,8 +13,8 @@
 namespace fused
 {
 
-// A processor that has an instruction for it is not asked to call a function: none is counted, and a
-// test that wants an exact number skips itself. A limit still holds where there is a function.
+// A processor that has an instruction for it is not asked to call a function: none is counted, and
+// a test that wants an exact number skips itself. A limit still holds where there is a function.
 #if defined(FP_FAST_FMA) || defined(FP_FAST_FMAF)
 constexpr bool canCount = false;
 #else

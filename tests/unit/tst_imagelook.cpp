@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "detail/imagelook.h"
 
+#include "detail/qtversion.h"
 #include "widgettest.h"
 
 #include <QBitmap>
@@ -44,6 +45,9 @@ QPixmap noise(const QSize &size, QRandomGenerator &random)
     }
     return QPixmap::fromImage(image.convertToFormat(QImage::Format_ARGB32_Premultiplied));
 }
+
+// How often a scaled look is computed that can be kept.
+constexpr int kScaledOnce = kScalesAlikeUnderAnyClip ? 1 : 0;
 
 using Paint = std::function<void(QPainter &)>;
 
@@ -223,7 +227,7 @@ private slots:
             ImageLook look;
             COMPARE_PICTURES(onCanvas([&](QPainter &p) { look.drawScaled(p, target, picture); }),
                              onCanvas([&](QPainter &p) { p.drawPixmap(target, picture); }));
-            QCOMPARE(look.computations(), target.height() == 2048 ? 1 : 0);
+            QCOMPARE(look.computations(), target.height() == 2048 ? kScaledOnce : 0);
         }
     }
 
@@ -248,7 +252,7 @@ private slots:
         const QPixmap picture = disc({40, 30}, Qt::green);
         for (int i = 0; i < 3; ++i)
             onCanvas([&](QPainter &p) { look.drawScaled(p, {5, 6, 60, 50}, picture); });
-        QCOMPARE(look.computations(), 1);
+        QCOMPARE(look.computations(), kScaledOnce);
     }
 
     void aPictureOfTheRightSizeNeedsNoLook()
@@ -292,7 +296,7 @@ private slots:
                                  p.translate(place);
                                  p.drawPixmap(target, picture);
                              }));
-            QCOMPARE(look.computations(), place.x() > 1 ? 1 : 0);
+            QCOMPARE(look.computations(), place.x() > 1 ? kScaledOnce : 0);
         }
     }
 

@@ -471,7 +471,7 @@ private slots:
     {
         const auto button = makeButton();
         SignalLog log(button.get());
-        button->animateClick(100);
+        button->animateClick();
         virtualtime::advance(1000);
         QVERIFY(button->isDown());
         QCOMPARE(log.take(), QStringList());

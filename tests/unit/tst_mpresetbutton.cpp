@@ -3,6 +3,7 @@
 
 #include "baseorder.h"
 #include "buttonimages.h"
+#include "detail/qtversion.h"
 #include "hostile.h"
 #include "longpress.h"
 #include "parent.h"
@@ -305,7 +306,7 @@ private slots:
                                  p.drawText(kTextRect, Qt::AlignCenter, kText);
                                  QFont second = QApplication::font();
                                  second.setPixelSize(24);
-                                 second.resolve(~0U);
+                                 panelkit::setFullyResolved(second);
                                  p.setFont(second);
                                  p.setPen(colors.second);
                                  p.drawText(kTextRect2, Qt::AlignCenter, kText2);
@@ -572,7 +573,7 @@ private slots:
     void timersOfTheBaseClassAreAnswered()
     {
         const auto button = makeButton();
-        button->animateClick(100);
+        button->animateClick();
         QVERIFY(button->isDown());
         virtualtime::advance(200);
         QVERIFY(!button->isDown());
@@ -587,7 +588,7 @@ private slots:
     {
         QPointer<Button> button = makeButton().release();
         connect(button, &QAbstractButton::released, this, [&] { delete button; });
-        button->animateClick(100);
+        button->animateClick();
         virtualtime::advance(200);
         QVERIFY(!button);
     }

@@ -145,7 +145,7 @@ private slots:
         for (const auto &value : values)
             QVERIFY(button.setProperty(value.first, value.second));
         for (const auto &value : values)
-            QCOMPARE(button.property(value.first), value.second);
+            QCOMPARE(plainValue(button, value.first), value.second);
     }
 
     void theNormalImageGivesTheMinimumSizeAndTheRectangle()

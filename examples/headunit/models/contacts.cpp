@@ -16,6 +16,7 @@ namespace headunit
 namespace
 {
 
+constexpr ushort kNonJoiner = 0x200c; // without width
 constexpr int kEnding = 7; // digits by which two ways to write a number are the same
 
 // The digits alone, with a '+' for a country's code; '*' and '#' belong to a number, too.
@@ -157,7 +158,13 @@ QString Contacts::initialsOf(const QString &name)
     }
     if (initials.isEmpty())
         return {};
-    return initials.size() == 1 ? initials.first() : initials.first() + initials.last();
+    if (initials.size() == 1)
+        return initials.first();
+    // Two letters are no word, and do not join to one.
+    const auto joining = initials.first().at(0).joiningType();
+    const bool joins = joining == QChar::Joining_Dual || joining == QChar::Joining_Left;
+    const QString between = joins ? QString(QChar(kNonJoiner)) : QString();
+    return initials.first() + between + initials.last();
 }
 
 int Contacts::rowCount(const QModelIndex &parent) const

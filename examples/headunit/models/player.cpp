@@ -257,7 +257,7 @@ void Player::start()
 {
     if (isSilent() && !m_hasSaidSilent) {
         m_hasSaidSilent = true;
-        emit problem(tr("There is nothing to play sound with here: the music goes on silently."));
+        emit problem(tr("No audio output was found: the music plays on without sound."));
     }
     setPlaying(true);
     // Qt finds out by itself what it cannot play; without sound nobody would.

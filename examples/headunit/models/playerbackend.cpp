@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "playerbackend.h"
 
-#include <QAudioDeviceInfo>
+#include <audiodevice.h>
+
 #include <QMediaPlayer>
 #include <QUrl>
 
@@ -12,6 +13,13 @@ namespace
 {
 
 constexpr int kTick = 250; // ms between two reports of the position
+
+// What plays nothing at all plays no WAV; GStreamer knows it by its older name only.
+bool canPlay()
+{
+    return QMediaPlayer::hasSupport(QStringLiteral("audio/wav")) != QMultimedia::NotSupported
+        || QMediaPlayer::hasSupport(QStringLiteral("audio/x-wav")) != QMultimedia::NotSupported;
+}
 
 } // namespace
 
@@ -90,17 +98,17 @@ void SilentBackend::scheduleTick()
     m_timer.start(int(qMax<qint64>(0, stop - reached)));
 }
 
-bool MediaBackend::isAvailable()
-{
-    return !QAudioDeviceInfo::availableDevices(QAudio::AudioOutput).isEmpty()
-        && QMediaPlayer::hasSupport(QStringLiteral("audio/wav")) != QMultimedia::NotSupported;
-}
+bool MediaBackend::isAvailable() { return audiodevice::isThere() && canPlay(); }
 
 MediaBackend::MediaBackend(QObject *parent)
     : PlayerBackend(parent), m_player(new QMediaPlayer(this))
 {
     m_player->setAudioRole(QAudio::MusicRole);
-    connect(m_player, &QMediaPlayer::positionChanged, this, &PlayerBackend::positionChanged);
+    m_player->setNotifyInterval(kTick);
+    connect(m_player, &QMediaPlayer::positionChanged, this, [this](qint64 position) {
+        m_position = position;
+        emit positionChanged(position);
+    });
     connect(m_player, &QMediaPlayer::durationChanged, this, [this](qint64 length) {
         if (length > 0)
             emit lengthFound(length);
@@ -128,6 +136,7 @@ MediaBackend::MediaBackend(QObject *parent)
 
 void MediaBackend::load(const QString &path, qint64)
 {
+    m_position = 0;
     m_player->setMedia(QUrl::fromLocalFile(path));
 }
 
@@ -137,10 +146,15 @@ void MediaBackend::play() { m_player->play(); }
 
 void MediaBackend::pause() { m_player->pause(); }
 
-void MediaBackend::seek(qint64 position) { m_player->setPosition(position); }
+// For a moment the player still tells the position before.
+void MediaBackend::seek(qint64 position)
+{
+    m_player->setPosition(position);
+    m_position = position;
+}
 
 void MediaBackend::setLoudness(int percent) { m_player->setVolume(percent); }
 
-qint64 MediaBackend::position() const { return m_player->position(); }
+qint64 MediaBackend::position() const { return m_position; }
 
 } // namespace headunit

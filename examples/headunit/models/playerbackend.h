@@ -86,6 +86,7 @@ public:
 
 private:
     QMediaPlayer *const m_player;
+    qint64 m_position = 0; // ms, as last told
 };
 
 } // namespace headunit

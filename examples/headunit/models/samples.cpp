@@ -10,7 +10,7 @@ static void initialiseSamples() { Q_INIT_RESOURCE(headunit_models_data); }
 namespace headunit::samples
 {
 
-QString musicFolder() { return QStringLiteral(HEADUNIT_SOUNDS "/music"); }
+QString musicFolder() { return QStringLiteral(HEADUNIT_SOUNDS "/Music"); }
 
 QString clickSound() { return QStringLiteral(HEADUNIT_SOUNDS "/click.wav"); }
 

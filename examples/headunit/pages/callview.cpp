@@ -2,6 +2,7 @@
 #include "pages/callview.h"
 
 #include "dress.h"
+#include "listrows.h"
 #include "models/contacts.h"
 #include "pages/call.h"
 #include "texts.h"
@@ -20,6 +21,7 @@ CallView::CallView(Context &context, Call *call, QWidget *parent)
     connect(m_ui->keypadKey, &SpIconButton::btnClicked, this, &CallView::keypadWanted);
     connect(m_ui->hangUpKey, &SpIconButton::btnClicked, call, &Call::hangUp);
     connect(call, &Call::stateChanged, this, &CallView::showCall);
+    connect(call, &Call::stateChanged, this, &CallView::dressAgain); // in the state of the call
     connect(call, &Call::secondPassed, this, &CallView::showTime);
     CallView::retranslate();
 }
@@ -28,22 +30,25 @@ CallView::~CallView() = default;
 
 void CallView::dress()
 {
-    const int side = theme().px(200);
     const int keyHeight = theme().touch() + theme().px(40);
-    m_ui->caller->setContentsMargins(theme().px(120), 0, theme().px(120), 0);
-    m_ui->caller->setSpacing(theme().px(48));
-    m_ui->texts->setSpacing(theme().px(10));
-    m_ui->picture->setFixedSize(side, side);
-    m_ui->picture->setImage(theme().icon(QStringLiteral("person-large"), side, theme().quietText));
+    for (SpIconButton *key : {m_ui->muteKey, m_ui->holdKey, m_ui->keypadKey, m_ui->hangUpKey})
+        key->setFixedHeight(keyHeight);
     dressLabel(*m_ui->name, theme(), Theme::Title);
     dressLabel(*m_ui->number, theme(), Theme::Body, true);
     dressLabel(*m_ui->state, theme(), Theme::Body);
+    QPalette colors = m_ui->state->palette();
+    colors.setColor(QPalette::WindowText, theme().accent);
+    m_ui->state->setPalette(colors);
     for (QLabel *label : {m_ui->name, m_ui->number, m_ui->state})
         label->setAlignment(leadingAlignment());
-    for (SpIconButton *key : {m_ui->muteKey, m_ui->holdKey, m_ui->keypadKey, m_ui->hangUpKey})
-        key->setFixedHeight(keyHeight);
     layout()->activate();
+    dressPanel(*m_ui->panel, theme());
+    m_ui->caller->setSpacing(theme().px(40));
+    m_ui->texts->setSpacing(theme().px(4));
+    dressPicture();
     showCall();
+    layout()->activate();
+    dressKeys();
 }
 
 void CallView::retranslate()
@@ -56,20 +61,34 @@ void CallView::retranslate()
     showCall();
 }
 
+// Who is known has the disc that there is in the list of contacts.
+void CallView::dressPicture()
+{
+    const int side = theme().px(200);
+    const QString name = context().contacts.contactByNumber(m_call->number()).name;
+    m_ui->picture->setFixedSize(side, side);
+    m_ui->picture->setImage(
+        name.isEmpty() ? theme().icon(QStringLiteral("person-large"), side, theme().quietText)
+                       : initialsDisc(theme(), side, Contacts::initialsOf(name)));
+}
+
+void CallView::dressKeys()
+{
+    dressKey(*m_ui->muteKey, theme(), Theme::Key,
+             m_call->isMuted() ? QStringLiteral("microphone-off") : QStringLiteral("microphone"));
+    dressKey(*m_ui->holdKey, theme(), Theme::Key, QStringLiteral("hold"));
+    dressKey(*m_ui->keypadKey, theme(), Theme::Key, QStringLiteral("keypad"));
+    dressKey(*m_ui->hangUpKey, theme(), Theme::Danger, QStringLiteral("hang-up"));
+}
+
 void CallView::showCall()
 {
     const Contact contact = context().contacts.contactByNumber(m_call->number());
-    m_ui->name->setText(contact.name.isEmpty() ? numberText(m_call->number()) : contact.name);
+    const QString name = contact.name.isEmpty() ? numberText(m_call->number()) : contact.name;
+    const int room = m_ui->panel->width() - m_ui->picture->width() - theme().px(3 * 40);
+    m_ui->name->setText(shortened(name, m_ui->name->fontMetrics(), room));
     m_ui->number->setText(numberText(m_call->number()));
     m_ui->number->setHidden(contact.name.isEmpty());
-    if (isVisible()) {
-        dressKey(*m_ui->muteKey, theme(), Theme::Key,
-                 m_call->isMuted() ? QStringLiteral("microphone-off")
-                                   : QStringLiteral("microphone"));
-        dressKey(*m_ui->holdKey, theme(), Theme::Key, QStringLiteral("hold"));
-        dressKey(*m_ui->keypadKey, theme(), Theme::Key, QStringLiteral("keypad"));
-        dressKey(*m_ui->hangUpKey, theme(), Theme::Danger, QStringLiteral("hang-up"));
-    }
     m_ui->muteKey->setFocus(m_call->isMuted());
     m_ui->holdKey->setFocus(m_call->isHeld());
     m_ui->holdKey->setDisableState(m_call->state() != Call::State::Connected);
@@ -78,12 +97,13 @@ void CallView::showCall()
 
 void CallView::showTime()
 {
+    const QString time = timeText(m_call->seconds());
     if (m_call->state() != Call::State::Connected)
-        m_ui->state->setText(tr("Calling..."));
+        m_ui->state->setText(tr("Calling…"));
     else if (m_call->isHeld())
-        m_ui->state->setText(tr("On hold, %1").arg(timeText(m_call->seconds())));
+        m_ui->state->setText(tr("On hold, %1").arg(time));
     else
-        m_ui->state->setText(timeText(m_call->seconds()));
+        m_ui->state->setText(tr("Connected, %1").arg(time));
 }
 
 } // namespace headunit

@@ -34,6 +34,8 @@ protected:
     void retranslate() override;
 
 private:
+    void dressPicture();
+    void dressKeys();
     void showCall();
     void showTime();
 

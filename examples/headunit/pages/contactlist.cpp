@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "pages/contactlist.h"
 
+#include "dress.h"
+#include "listpanel.h"
 #include "listrows.h"
 #include "models/contacts.h"
 #include "texts.h"
@@ -58,14 +60,11 @@ ContactList::~ContactList() = default;
 
 void ContactList::dress()
 {
-    m_ui->panel->setPixmap(
-        theme().panel(m_ui->panel->size(), theme().face, theme().line, theme().radius()));
-    m_ui->listRow->setContentsMargins(theme().px(4), theme().px(6), theme().px(4), theme().px(6));
-    m_ui->listRow->setSpacing(0);
-    m_ui->index->dress(theme(), m_ui->panel->height() - 2 * theme().px(6));
-    m_ui->listRow->activate();
-    dressList(*m_ui->list, theme());
+    m_ui->index->dress(theme(), listHeight(*m_ui->panel, theme()));
+    dressListPanel(*m_ui->panel, *m_ui->list, theme());
 }
+
+QMargins ContactList::margins(const Theme &theme) const { return rowMargins(theme); }
 
 void ContactList::retranslate() { m_ui->retranslateUi(this); }
 

@@ -29,6 +29,7 @@ signals:
 protected:
     void dress() override;
     void retranslate() override;
+    QMargins margins(const Theme &theme) const override;
 
 private:
     const std::unique_ptr<Ui::ContactList> m_ui;

@@ -14,22 +14,61 @@
 #include <QPainter>
 #include <QStyle>
 
+#include <algorithm>
+
 namespace headunit
 {
 
 namespace
 {
 
+constexpr int kNameLines = 2;
+
+// Where disc and name stand in a key, as one block in its middle.
+struct Arrangement {
+    Arrangement(const Theme &theme, const QSize &size)
+    {
+        const int gap = theme.px(10);
+        lines = QFontMetrics(fontOf(theme)).lineSpacing() * kNameLines;
+        disc = std::min(size.height() / 2, size.height() - lines - gap - 2 * theme.px(12));
+        top = (size.height() - disc - gap - lines) / 2;
+        name = top + disc + gap;
+    }
+
+    // That in which the key writes.
+    static QFont fontOf(const Theme &theme)
+    {
+        QFont font = QApplication::font();
+        font.setPixelSize(theme.textPx(Theme::Body));
+        return font;
+    }
+
+    int disc; // px, side
+    int top; // px, of the disc
+    int name; // px, top of the name
+    int lines; // px, height of the name
+};
+
 // The icon of a key is its whole face, so that all of it looks pressed.
 QPixmap faceWithDisc(const Theme &theme, const QSize &size, const QString &initials,
-                     const QColor &fill)
+                     const QColor &fill, const QColor &border)
 {
-    QPixmap face = theme.panel(size, fill, theme.line, theme.radius());
-    const int side = size.height() / 2;
+    const Arrangement place(theme, size);
+    QPixmap face = theme.panel(size, fill, border, theme.radius());
     QPainter painter(&face);
-    painter.drawPixmap((size.width() - side) / 2, size.height() / 7,
-                       initialsDisc(theme, side, initials));
+    painter.drawPixmap((size.width() - place.disc) / 2, place.top,
+                       initialsDisc(theme, place.disc, initials));
     return face;
+}
+
+// The last word has a line of its own.
+QString inLines(const QString &name, const QFontMetrics &metrics, int width)
+{
+    const int last = name.lastIndexOf(QLatin1Char(' '));
+    if (last < 0)
+        return shortened(name, metrics, width);
+    return shortened(name.left(last), metrics, width) + QLatin1Char('\n')
+        + shortened(name.mid(last + 1), metrics, width);
 }
 
 // Calls nobody when the finger has slid off it.
@@ -57,8 +96,7 @@ Favourites::Favourites(Context &context, QWidget *parent)
     m_hint->setWordWrap(true);
     connect(&context.contacts, &Contacts::modelReset, this, [this] {
         readContacts();
-        if (isVisible())
-            dress();
+        dressAgain();
     });
     readContacts();
     Favourites::retranslate();
@@ -70,14 +108,16 @@ void Favourites::dress()
     m_hint->setGeometry(rect());
     constexpr int kRows = kMost / kColumns;
     const int gap = theme().gap();
-    const QSize size((width() - (kColumns - 1) * gap) / kColumns,
-                     (height() - (kRows - 1) * gap) / kRows);
+    // What the division leaves over is spread over the columns and rows.
+    const auto leftOf = [this, gap](int column) { return column * (width() + gap) / kColumns; };
+    const auto topOf = [this, gap](int row) { return row * (height() + gap) / kRows; };
     for (int i = 0; i < m_keys.size(); ++i) {
-        const QPoint place(i % kColumns * (size.width() + gap),
-                           i / kColumns * (size.height() + gap));
-        dressKey(*m_keys.at(i), size);
-        m_keys.at(i)->setGeometry(
-            QStyle::visualRect(layoutDirection(), rect(), QRect(place, size)));
+        const int column = i % kColumns;
+        const int row = i / kColumns;
+        const QRect place(QPoint(leftOf(column), topOf(row)),
+                          QPoint(leftOf(column + 1) - gap - 1, topOf(row + 1) - gap - 1));
+        dressKey(*m_keys.at(i), place.size());
+        m_keys.at(i)->setGeometry(QStyle::visualRect(layoutDirection(), rect(), place));
     }
 }
 
@@ -113,19 +153,20 @@ void Favourites::readContacts()
 // The name stands over the lower part of the face.
 void Favourites::dressKey(SpVerStrButton &key, const QSize &size)
 {
+    const Theme &t = theme();
+    const Arrangement place(t, size);
     const QString name = m_names.at(key.buttonId());
     const QString initials = Contacts::initialsOf(name);
-    const int fontPx = theme().textPx(Theme::Small);
-    QFont font = QApplication::font();
-    font.setPixelSize(fontPx);
-    key.setDisplayString(shortened(name, QFontMetrics(font), size.width() - theme().gap()));
-    key.setNormalPixmap(faceWithDisc(theme(), size, initials, theme().face));
-    key.setPressPixmap(faceWithDisc(theme(), size, initials, theme().pressedFace));
-    key.setNormalColor(theme().text);
-    key.setPressColor(theme().text);
-    key.setFontSize(fontPx);
-    key.setStringHeight(fontPx * 3 / 2);
-    key.setWidgetGain(-size.height() * 3 / 10);
+    key.setDisplayString(
+        inLines(name, QFontMetrics(Arrangement::fontOf(t)), size.width() - t.gap()));
+    key.setMinimumSize(0, 0); // its face may have been larger
+    key.setNormalPixmap(faceWithDisc(t, size, initials, t.face, t.line));
+    key.setPressPixmap(faceWithDisc(t, size, initials, t.pressedFace, t.accent));
+    key.setNormalColor(t.text);
+    key.setPressColor(t.text);
+    key.setFontSize(t.textPx(Theme::Body));
+    key.setStringHeight(place.lines);
+    key.setWidgetGain(place.name - size.height());
 }
 
 } // namespace headunit

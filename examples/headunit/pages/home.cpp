@@ -10,6 +10,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <utility>
 
 namespace headunit
 {
@@ -17,32 +18,48 @@ namespace headunit
 namespace
 {
 
-constexpr int kCorner = 28; // units, of a tile's face
-constexpr int kCaptionMargin = 8; // units, above and below a tile's caption
+constexpr int kIcon = 64; // units
+constexpr int kIconToCaption = 10; // units
+constexpr int kCaptionRise = 10; // px that a tile's caption stands higher than its margins say
+constexpr int kColumns = 4;
 constexpr int kOwnPictures = 255; // alpha from which a tile takes the pressed picture it is given
 
+// Where icon and caption stand in a tile, as one block in its middle.
+struct Arrangement {
+    Arrangement(const Theme &theme, int height)
+    {
+        const int line = theme.textPx(Theme::Body) * 4 / 3;
+        icon = std::min(theme.px(kIcon), height - line - theme.px(3 * kIconToCaption));
+        iconTop = (height - icon - theme.px(kIconToCaption) - line) / 2;
+        captionMiddle = height - iconTop - line / 2;
+    }
+
+    int icon; // px, side
+    int iconTop; // px
+    int captionMiddle; // px
+};
+
 // A badge in the upper right corner of nothing: it lies over the face of a tile.
-QPixmap badge(const Theme &theme, int side)
+QPixmap badge(const Theme &theme, const QSize &tile)
 {
-    QPixmap pixmap(side, side);
+    QPixmap pixmap(tile);
     pixmap.fill(Qt::transparent);
     const int size = theme.px(16);
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(theme.accent);
-    painter.drawEllipse(side - size - theme.px(14), theme.px(14), size, size);
+    painter.drawEllipse(tile.width() - size - theme.px(14), theme.px(14), size, size);
     return pixmap;
 }
 
-QPixmap face(const Theme &theme, int side, const QString &icon, const QColor &fill,
-             const QColor &ink)
+QPixmap face(const Theme &theme, const QPixmap &panel, const QString &icon, const QColor &ink)
 {
-    QPixmap pixmap = theme.panel({side, side}, fill, theme.line, theme.px(kCorner));
-    const int iconSide = side / 2;
+    QPixmap pixmap = panel;
+    const Arrangement place(theme, panel.height());
     QPainter painter(&pixmap);
-    painter.drawPixmap((side - iconSide) / 2, (side - iconSide) / 2,
-                       theme.icon(icon, iconSide, ink));
+    painter.drawPixmap((panel.width() - place.icon) / 2, place.iconTop,
+                       theme.icon(icon, place.icon, ink));
     return pixmap;
 }
 
@@ -74,30 +91,55 @@ QString HomePage::title() const { return tr("Home"); }
 
 void HomePage::dress()
 {
+    layOutStrip();
     dressStrip();
+    m_ui->tiles->setSpacing(theme().gap());
     layout()->activate(); // what is left for the tiles
-    const int caption = theme().textPx(Theme::Small) + 2 * theme().px(kCaptionMargin);
     const QSize room = m_ui->tiles->geometry().size();
-    const int row = (room.height() - theme().gap()) / 2 - caption;
-    const int column = room.width() / 4 - theme().gap();
+    const QSize size((room.width() - (kColumns - 1) * theme().gap()) / kColumns,
+                     (room.height() - theme().gap()) / 2);
     for (SpHomeIcon *tile : findChildren<SpHomeIcon *>())
-        dressTile(*tile, std::min(row, column));
+        dressTile(*tile, size);
     showPlaying();
     showTrack();
+}
+
+bool HomePage::isWide() const { return width() > theme().content(); }
+
+// Below the tiles; on a wide screen a card beside them.
+void HomePage::layOutStrip()
+{
+    const int gap = theme().gap();
+    const int touch = theme().touch();
+    const int side = isWide() ? theme().px(220) : touch;
+    const auto along = isWide() ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom;
+    const auto across = isWide() ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight;
+    const Qt::Alignment alignment = isWide() ? Qt::AlignCenter : Qt::Alignment();
+    m_ui->columns->setDirection(along);
+    m_ui->nowPlaying->setDirection(across);
+    m_ui->nowPlaying->setAlignment(m_ui->cover, alignment);
+    m_ui->nowPlaying->setAlignment(m_ui->keys, alignment);
+    m_ui->nowPlaying->setContentsMargins(gap, isWide() ? theme().px(40) : 0, gap,
+                                         isWide() ? theme().px(28) : 0);
+    m_ui->nowPlaying->setSpacing(gap);
+    m_ui->keyRow->setSpacing(isWide() ? theme().px(32) : gap);
+    m_ui->titles->setSpacing(theme().px(2));
+    m_ui->cover->setFixedSize(side, side);
+    m_ui->strip->setMinimumSize(0, 0);
+    m_ui->strip->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    if (isWide())
+        m_ui->strip->setFixedWidth(theme().px(420));
+    else
+        m_ui->strip->setFixedHeight(touch + theme().px(32));
 }
 
 void HomePage::dressStrip()
 {
     const int touch = theme().touch();
-    m_ui->strip->setFixedHeight(touch + theme().px(32));
-    m_ui->nowPlaying->setContentsMargins(theme().gap(), 0, theme().gap(), 0);
-    m_ui->nowPlaying->setSpacing(theme().gap());
-    m_ui->keyRow->setSpacing(theme().gap());
-    m_ui->titles->setSpacing(theme().px(2));
-    m_ui->cover->setFixedSize(touch, touch);
     m_ui->title->setFontSize(theme().textPx(Theme::Body));
     m_ui->title->setTextColor(theme().text);
-    const Qt::Alignment side = leadingAlignment() & ~Qt::AlignVertical_Mask;
+    const Qt::Alignment side =
+        isWide() ? Qt::AlignHCenter : leadingAlignment() & ~Qt::AlignVertical_Mask;
     m_ui->title->setTextAlignment(side | Qt::AlignBottom);
     dressLabel(*m_ui->artist, theme(), Theme::Small, true);
     m_ui->artist->setAlignment(side | Qt::AlignTop);
@@ -137,16 +179,19 @@ void HomePage::connectPlayer()
 // A release on the tile that was pressed opens its application; a finger that slid off opens none.
 void HomePage::openTile(const SpHomeIcon &tile)
 {
-    if (m_pressed == &tile)
+    if (std::exchange(m_pressed, nullptr) != &tile)
+        return;
+    if (tile.getIsReady())
         emit pageWanted(tile.iconName());
-    m_pressed = nullptr;
+    else
+        emit popupWanted(tile.iconText(), tr("Not available in this car."));
 }
 
 void HomePage::showTrack()
 {
     const Track track = context().player.track();
     const bool isSomething = !track.path.isEmpty();
-    m_ui->title->setText(isSomething ? track.title : tr("Nothing is playing"));
+    showRolling(*m_ui->title, isSomething ? track.title : tr("Nothing is playing"));
     m_ui->artist->setText(isSomething ? track.artist : tr("Choose a track in Media"));
     const QString path = track.hasCover ? track.path : QString();
     if (path != m_coverPath) {
@@ -169,9 +214,12 @@ void HomePage::takeCover(const QString &path, const QImage &cover)
 
 void HomePage::showCover()
 {
-    const QSize size(theme().touch(), theme().touch());
-    m_ui->cover->setImage(m_cover.isNull() ? theme().drawing(QStringLiteral("cover"), size)
-                                           : theme().rounded(m_cover, size));
+    const QSize size = m_ui->cover->size();
+    if (size.isEmpty())
+        return;
+    const QImage shown =
+        m_cover.isNull() ? theme().drawing(QStringLiteral("cover"), size).toImage() : m_cover;
+    m_ui->cover->setImage(theme().rounded(shown, size));
 }
 
 void HomePage::showPlaying()
@@ -182,20 +230,26 @@ void HomePage::showPlaying()
     m_ui->mediaTile->setIsRunning(isPlaying);
 }
 
-void HomePage::dressTile(SpHomeIcon &tile, int side)
+void HomePage::dressTile(SpHomeIcon &tile, const QSize &size)
 {
     const Theme &t = theme();
+    const int font = t.textPx(Theme::Body);
+    const int fromBottom = size.height() - Arrangement(t, size.height()).captionMiddle;
     tile.setImageAlpha(kOwnPictures);
-    tile.setFontSize(t.textPx(Theme::Small));
-    tile.setTextMargin(t.px(kCaptionMargin));
+    tile.setTextInPic(true);
+    tile.setFontSize(font);
+    tile.setTextMargin(2 * (fromBottom - kCaptionRise) - font);
     for (const auto setColor : {&SpHomeIcon::setFontColor, &SpHomeIcon::setPressTextColor,
                                 &SpHomeIcon::setRunningTextColor})
         (tile.*setColor)(t.text);
-    tile.setGrayTextColor(t.quietText);
-    tile.setNormalImage(face(t, side, tile.iconName(), t.face, t.accent));
-    tile.setPressImage(face(t, side, tile.iconName(), t.pressedFace, t.accent));
-    tile.setGrayImage(face(t, side, tile.iconName(), t.face, t.line));
-    tile.setRunningImage(badge(t, side));
+    const QColor faint = t.ink(Theme::Key, Theme::Disabled);
+    tile.setGrayTextColor(faint);
+    const QPixmap panel = t.panel(size, t.face, t.line, t.radius());
+    const QPixmap pressed = t.panel(size, t.pressedFace, t.accent, t.radius());
+    tile.setNormalImage(face(t, panel, tile.iconName(), t.accent));
+    tile.setPressImage(face(t, pressed, tile.iconName(), t.accent));
+    tile.setGrayImage(face(t, panel, tile.iconName(), faint));
+    tile.setRunningImage(badge(t, size));
 }
 
 } // namespace headunit

@@ -35,13 +35,15 @@ protected:
 
 private:
     void connectPlayer();
+    bool isWide() const;
+    void layOutStrip();
     void dressStrip();
     void openTile(const SpHomeIcon &tile);
     void showTrack();
     void showCover();
     void takeCover(const QString &path, const QImage &cover);
     void showPlaying();
-    void dressTile(SpHomeIcon &tile, int side);
+    void dressTile(SpHomeIcon &tile, const QSize &size);
 
     const std::unique_ptr<Ui::Home> m_ui;
     QString m_coverPath; // empty: the track has no cover

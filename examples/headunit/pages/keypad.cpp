@@ -2,6 +2,7 @@
 #include "pages/keypad.h"
 
 #include "dress.h"
+#include "listpanel.h"
 #include "listrows.h"
 #include "models/contacts.h"
 #include "pages/recentnumbers.h"
@@ -38,6 +39,7 @@ Keypad::Keypad(Context &context, const RecentNumbers *recent, QWidget *parent)
         connect(m_ui->deleteKey, deletes, this,
                 [this] { setNumber(m_number.chopped(std::min(1, m_number.size()))); });
     connect(m_ui->callKey, &SpIconButton::btnClicked, this, &Keypad::callOrHangUp);
+    m_ui->number->setIsBeep(false);
     m_ui->recents->setModel(m_recentRows);
     connect(m_ui->recents, QOverload<int>::of(&SpTableList::itemClicked), this,
             [this](int row) { emit numberChosen(m_recent->numbers().value(row)); });
@@ -54,8 +56,7 @@ void Keypad::setInCall(bool inCall)
         return;
     m_isInCall = inCall;
     setNumber({});
-    if (isVisible())
-        dressCallKey();
+    dressAgain();
 }
 
 void Keypad::dress()
@@ -64,7 +65,7 @@ void Keypad::dress()
     m_ui->digits->setContentsMargins(0, 0, 0, 0);
     m_ui->digits->setSpacing(theme().gap());
     m_ui->pad->setFixedWidth(3 * side + 2 * theme().gap());
-    m_ui->number->setFixedHeight(theme().touch());
+    m_ui->numberPanel->setFixedHeight(theme().touch());
     for (SpIconButton *key : {m_ui->deleteKey, m_ui->callKey}) {
         key->setFixedHeight(theme().touch());
         key->setMinimumWidth(0); // its face was wider during a call
@@ -75,26 +76,17 @@ void Keypad::dress()
     m_ui->digits->activate();
     dressPad();
 
-    SpDisLabel &number = *m_ui->number;
-    number.setFontSize(theme().textPx(Theme::Title));
-    number.setFontColor(theme().text);
-    number.setPressFontColor(theme().text);
-    number.setNormalBackgroundColor(theme().face);
-    number.setPressBackgroundColor(theme().face);
-    number.setRoundXY(theme().radius());
-    number.setIsBeep(false);
+    m_ui->numberPanel->setPixmap(
+        theme().panel(m_ui->numberPanel->size(), theme().face, theme().line, theme().radius()));
     showNumber();
 
-    m_ui->panel->setPixmap(
-        theme().panel(m_ui->panel->size(), theme().face, theme().line, theme().radius()));
-    m_ui->listRow->setContentsMargins(theme().px(4), theme().px(6), theme().px(4), theme().px(6));
-    m_ui->listRow->activate();
-    dressList(*m_ui->recents, theme());
+    dressListPanel(*m_ui->panel, *m_ui->recents, theme());
 }
 
 void Keypad::retranslate()
 {
     m_ui->retranslateUi(this);
+    showNumber();
     readRecent();
 }
 
@@ -128,16 +120,23 @@ void Keypad::dressCallKey()
     if (m_isInCall)
         dressKey(*m_ui->callKey, theme(), Theme::Danger, QStringLiteral("hang-up"));
     else
-        dressKey(*m_ui->callKey, theme(), Theme::Primary, QStringLiteral("call"));
+        dressKey(*m_ui->callKey, theme(), Theme::Positive, QStringLiteral("call"));
 }
 
 // Of a number that is too long the end is seen, where the next digit goes.
 void Keypad::showNumber()
 {
     SpDisLabel &label = *m_ui->number;
+    const bool isHint = m_number.isEmpty() && !m_isInCall;
+    const QColor color = isHint ? theme().quietText : theme().text;
+    label.setFontSize(theme().textPx(isHint ? Theme::Body : Theme::Title));
+    label.setFontColor(color);
+    label.setPressFontColor(color);
     const QString shown = QFontMetrics(label.font())
                               .elidedText(m_number, Qt::ElideLeft, label.width() - theme().gap());
-    label.setNormalText(numberText(shown));
+    label.setNormalText(isHint ? tr("Enter a number") : numberText(shown));
+    m_ui->deleteKey->setDisableState(m_number.isEmpty());
+    m_ui->callKey->setDisableState(isHint);
 }
 
 void Keypad::readRecent()

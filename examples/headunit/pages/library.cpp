@@ -2,6 +2,7 @@
 #include "pages/library.h"
 
 #include "dress.h"
+#include "listpanel.h"
 #include "listrows.h"
 #include "models/musiclibrary.h"
 #include "models/player.h"
@@ -14,6 +15,13 @@
 namespace headunit
 {
 
+namespace
+{
+
+constexpr int kLeastLetters = 8; // of an index that is shown
+
+} // namespace
+
 Library::Library(Context &context, QWidget *parent)
     : View(context, parent), m_ui(std::make_unique<Ui::Library>()),
       m_allRows(new TrackRows(context.music.tracks(), &context.player, this)),
@@ -22,8 +30,10 @@ Library::Library(Context &context, QWidget *parent)
     m_ui->setupUi(this);
     const MusicLibrary &music = context.music;
     connect(m_ui->list, QOverload<int>::of(&SpTableList::itemClicked), this, &Library::openRow);
-    connect(music.tracks(), &TrackModel::rowsInserted, this, &Library::showHeading);
-    connect(music.tracks(), &TrackModel::modelReset, this, &Library::showHeading);
+    for (const auto change : {&Library::showHeading, &Library::showIndex}) {
+        connect(music.tracks(), &TrackModel::rowsInserted, this, change);
+        connect(music.tracks(), &TrackModel::modelReset, this, change);
+    }
     connect(&music, &MusicLibrary::walked, this, &Library::readFolders);
     connect(&music, &MusicLibrary::walked, this, &Library::showHeading);
     connect(&music, &MusicLibrary::progress, this, &Library::showProgress);
@@ -50,19 +60,16 @@ bool Library::goBack()
 
 void Library::dress()
 {
-    dressLabel(*m_ui->heading, theme(), Theme::Body);
+    dressHeading(*m_ui->heading, theme());
     m_ui->heading->setAlignment(leadingAlignment());
     dressLabel(*m_ui->progress, theme(), Theme::Small, true);
     layout()->setSpacing(theme().px(8));
     layout()->activate();
-    m_ui->panel->setPixmap(
-        theme().panel(m_ui->panel->size(), theme().face, theme().line, theme().radius()));
-    m_ui->listRow->setContentsMargins(theme().px(4), theme().px(6), theme().px(4), theme().px(6));
-    m_ui->listRow->setSpacing(0);
-    m_ui->index->dress(theme(), m_ui->panel->height() - 2 * theme().px(6));
-    m_ui->listRow->activate();
-    dressList(*m_ui->list, theme());
+    m_ui->index->dress(theme(), listHeight(*m_ui->panel, theme()));
+    dressListPanel(*m_ui->panel, *m_ui->list, theme());
 }
+
+QMargins Library::margins(const Theme &theme) const { return rowMargins(theme); }
 
 void Library::retranslate()
 {
@@ -86,12 +93,22 @@ void Library::show(Content content)
         m_ui->list->setModel(rows);
     }
     m_ui->list->scrollToTop();
-    m_ui->index->setVisible(isAll);
     if (isAll)
         m_ui->index->setList(m_ui->list, ListLetters::of(context().music.tracks()));
     showHeading();
-    if (isVisible())
-        Library::dress(); // the list may have more room now, or less
+    showIndex();
+}
+
+// With a few letters it would take room from the rows and save no way. The list has more room
+// without it, also if it is not seen at the moment.
+void Library::showIndex()
+{
+    const bool isWanted = m_content == Content::AllTracks
+        && context().music.tracks()->letters().size() >= kLeastLetters;
+    if (isWanted == !m_ui->index->isHidden())
+        return;
+    m_ui->index->setVisible(isWanted);
+    dressAgain();
 }
 
 void Library::openRow(int row)
@@ -167,6 +184,8 @@ void Library::showHeading()
         m_ui->heading->setText(m_content == Content::Folders ? tr("Folders") : tr("All tracks"));
     if (music.isWalked() && !music.isFinished())
         showProgress(music.readCount(), music.tracks()->rowCount());
+    else if (m_content == Content::Folders)
+        m_ui->progress->clear(); // the rows say it
     else
         m_ui->progress->setText(tr("Tracks: %L1").arg(total));
 }

@@ -38,11 +38,13 @@ signals:
 protected:
     void dress() override;
     void retranslate() override;
+    QMargins margins(const Theme &theme) const override;
 
 private:
     enum class Content { AllTracks, Folders, FolderTracks };
 
     void show(Content content);
+    void showIndex();
     void openRow(int row);
     void openFolder(const QString &path);
     void playRow(TrackModel *tracks, int row);

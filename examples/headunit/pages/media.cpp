@@ -35,7 +35,7 @@ QString MediaPage::title() const { return tr("Media"); }
 
 void MediaPage::setTheme(const Theme &theme)
 {
-    m_ui->sideKeys->setFixedWidth(theme.px(116));
+    m_ui->sideKeys->setFixedWidth(SideKeys::columnWidth(theme));
     m_nowPlaying->setTheme(theme);
     m_library->setTheme(theme);
     Page::setTheme(theme);

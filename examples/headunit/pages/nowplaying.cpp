@@ -10,6 +10,8 @@
 #include <multiplestatebutton.h>
 #include <playbutton.h>
 
+#include <QPainter>
+
 #include <algorithm>
 
 namespace headunit
@@ -30,7 +32,8 @@ NowPlaying::NowPlaying(Context &context, QWidget *parent)
     m_ui->setupUi(this);
     m_ui->cover->setImageAlpha(0);
     m_ui->title->setAutoRoll(false);
-    m_ui->equaliser->setGifImage(Theme::file(QStringLiteral("equaliser.gif")));
+    for (QLabel *label : {m_ui->elapsed, m_ui->remaining})
+        label->setAttribute(Qt::WA_TransparentForMouseEvents); // they lie on the bar
     m_ui->equaliser->setGifState(Still);
     QSizePolicy place = m_ui->equaliser->sizePolicy();
     place.setRetainSizeWhenHidden(true); // the titles stay where they are
@@ -45,13 +48,17 @@ NowPlaying::~NowPlaying() = default;
 void NowPlaying::dress()
 {
     const int side = theme().touch() + theme().px(24);
-    m_ui->times->setFixedHeight(theme().touch());
+    m_ui->times->setFixedHeight(theme().touch() + theme().px(14));
     m_ui->keys->setFixedHeight(side);
-    const int cover = height() - theme().touch() - side - 2 * theme().gap();
+    layout()->activate();
+    dressPanel(*m_ui->panel, theme());
+    const int inset = theme().inset();
+    m_ui->track->setContentsMargins(inset, inset, inset, inset);
+    const int cover = m_ui->panel->height() - 2 * inset;
     m_ui->cover->setFixedSize(cover, cover);
     m_ui->track->setSpacing(theme().margin());
-    layout()->activate();
     dressTitles();
+    m_ui->track->activate();
     dressProgress();
     dressKeys();
     m_coverPath.clear();
@@ -104,38 +111,37 @@ void NowPlaying::connectKeys()
             [this](int, int position) { m_ui->elapsed->setText(timeText(position / kSecond)); });
 }
 
+// The titles begin where the cover does, and the animation ends where it ends.
 void NowPlaying::dressTitles()
 {
     m_ui->titles->setSpacing(theme().px(8));
     m_ui->title->setFixedHeight(theme().textPx(Theme::Title) * 3 / 2);
+    m_ui->title->setFont(theme().font(Theme::Title, true));
     m_ui->title->setFontSize(theme().textPx(Theme::Title));
     m_ui->title->setTextColor(theme().text);
     m_ui->title->setTextAlignment(leadingAlignment());
     m_ui->artist->setAlignment(leadingAlignment());
     m_ui->album->setAlignment(leadingAlignment());
     dressLabel(*m_ui->artist, theme(), Theme::Body);
-    dressLabel(*m_ui->album, theme(), Theme::Small, true);
-    m_ui->equaliser->setFixedSize(theme().px(48), theme().px(48));
+    dressLabel(*m_ui->album, theme(), Theme::Body, true);
+    m_ui->equaliser->setFixedSize(theme().px(64), theme().px(64));
+    m_ui->equaliser->setGifImage(Theme::file(theme().look() == Theme::Day
+                                                 ? QStringLiteral("equaliser-day.gif")
+                                                 : QStringLiteral("equaliser-night.gif")));
 }
 
+// The bar reaches from edge to edge and is as high as a finger needs; the times lie under its ends.
 void NowPlaying::dressProgress()
 {
-    for (QLabel *label : {m_ui->elapsed, m_ui->remaining}) {
-        dressLabel(*label, theme(), Theme::Small, true);
-        label->setAlignment(Qt::AlignCenter);
-        label->setFixedWidth(theme().px(84));
-    }
+    for (QLabel *label : {m_ui->elapsed, m_ui->remaining})
+        dressLabel(*label, theme(), Theme::Body, true);
     MProgressBar &bar = *m_ui->progress;
-    const int width = m_ui->times->width() - 2 * (theme().px(84) + theme().gap());
-    const QSize groove(width, theme().px(8));
+    bar.setFixedHeight(theme().touch());
+    const QSize groove(m_ui->times->width(), theme().px(10));
     const int knob = theme().px(28);
-    QColor rest = theme().quietText;
-    rest.setAlphaF(0.4);
-    m_ui->progressRow->setContentsMargins(0, 0, 0, 0);
-    m_ui->progressRow->setSpacing(theme().gap());
     bar.setPonitRadius(knob / 2);
     bar.setSliderNormalImage(theme().panel(groove, theme().accent, {}, groove.height() / 2));
-    bar.setSliderPressImage(theme().panel(groove, rest, {}, groove.height() / 2));
+    bar.setSliderPressImage(theme().panel(groove, grooveColor(theme()), {}, groove.height() / 2));
     bar.setPointNormalImage(theme().panel({knob, knob}, theme().accent, {}, knob / 2));
     bar.setPointPressImage(theme().panel({knob, knob}, theme().text, {}, knob / 2));
 }
@@ -144,28 +150,36 @@ void NowPlaying::dressKeys()
 {
     const int side = m_ui->keys->height();
     m_ui->keyRow->setContentsMargins(0, 0, 0, 0);
-    m_ui->keyRow->setSpacing(theme().margin());
+    m_ui->keyRow->setSpacing(theme().gap());
     for (QWidget *place :
          {static_cast<QWidget *>(m_ui->previousKey), static_cast<QWidget *>(m_ui->nextKey),
           m_ui->playPlace, m_ui->shufflePlace, static_cast<QWidget *>(m_ui->repeatKey)})
         place->setFixedSize(side, side);
-    dressKey(*m_ui->previousKey, theme(), Theme::Bare, QStringLiteral("previous"));
-    dressKey(*m_ui->nextKey, theme(), Theme::Bare, QStringLiteral("next"));
+    dressKey(*m_ui->previousKey, theme(), Theme::Key, QStringLiteral("previous"));
+    dressKey(*m_ui->nextKey, theme(), Theme::Key, QStringLiteral("next"));
 
-    const QSize size(side, side);
-    const auto face = [&](const QString &icon, Theme::State state) {
-        return theme().key(size, Theme::Bare, state, icon, theme().px(38));
-    };
     QList<QPixmap> normal;
     QList<QPixmap> pressed;
     for (const char *icon : {"repeat-off", "repeat-all", "repeat-one"}) {
-        normal << face(QLatin1String(icon), normal.isEmpty() ? Theme::Normal : Theme::Selected);
-        pressed << face(QLatin1String(icon), Theme::Pressed);
+        const bool isOn = !normal.isEmpty();
+        normal << modeFace(QLatin1String(icon), Theme::Normal, isOn);
+        pressed << modeFace(QLatin1String(icon), Theme::Pressed, isOn);
     }
     m_ui->repeatKey->setPixmapList(normal, pressed);
     showRepeat();
     makePlayKeys(side);
     makeShuffleKey();
+}
+
+// That of a key for a mode: the play key is the only filled one.
+QPixmap NowPlaying::modeFace(const QString &icon, Theme::State state, bool isOn) const
+{
+    const int side = m_ui->keys->height();
+    const int size = theme().px(40);
+    QPixmap face = theme().key({side, side}, Theme::Key, state);
+    QPainter(&face).drawPixmap((side - size) / 2, (side - size) / 2,
+                               theme().icon(icon, size, isOn ? theme().accent : theme().text));
+    return face;
 }
 
 // Keys that are given files are made anew in each look.
@@ -195,17 +209,14 @@ void NowPlaying::makeShuffleKey()
 {
     if (m_shuffle)
         m_shuffle->deleteLater(); // it may be saying that it was touched
-    const QSize size = m_ui->shufflePlace->size();
-    const auto file = [&](const QString &icon, Theme::State state, const QString &name) {
-        return m_files.write(name, theme().key(size, Theme::Bare, state, icon, theme().px(38)));
+    const auto file = [this](bool isOn, Theme::State state, const char *ending) {
+        const QString icon = isOn ? QStringLiteral("shuffle-on") : QStringLiteral("shuffle-off");
+        return m_files.write(icon + QLatin1String(ending), modeFace(icon, state, isOn));
     };
-    const QString off = QStringLiteral("shuffle-off");
-    const QString on = QStringLiteral("shuffle-on");
     m_shuffle = new MultipleStateButton(
-        0, 0, 0, {file(off, Theme::Normal, off), file(on, Theme::Selected, on)},
-        {file(off, Theme::Pressed, off + QStringLiteral("-pressed")),
-         file(on, Theme::Pressed, on + QStringLiteral("-pressed"))},
-        {}, m_ui->shufflePlace);
+        0, 0, 0, {file(false, Theme::Normal, ""), file(true, Theme::Normal, "")},
+        {file(false, Theme::Pressed, "-pressed"), file(true, Theme::Pressed, "-pressed")}, {},
+        m_ui->shufflePlace);
     m_shuffle->setObjectName(QStringLiteral("shuffleKey"));
     connect(m_shuffle, &MultipleStateButton::clicked, &context().player,
             [this](int, int state) { context().player.setShuffled(state == 1); });
@@ -218,14 +229,15 @@ void NowPlaying::showTrack()
 {
     const Track track = context().player.track();
     const bool isSomething = !track.path.isEmpty();
-    m_ui->title->setText(isSomething ? track.title : tr("Nothing is playing"));
+    showRolling(*m_ui->title, isSomething ? track.title : tr("Nothing is playing"));
     m_ui->artist->setText(isSomething ? track.artist : tr("Choose a track or a folder"));
     m_ui->album->setText(track.album);
     m_ui->progress->setEnabled(isSomething);
     if (m_coverPath.isNull() || m_coverPath != track.path) {
         m_coverPath = track.path.isNull() ? QLatin1String("") : track.path;
         showCover(m_coverPath, {});
-        if (track.hasCover)
+        const bool isDressed = m_play; // before, the cover has no size of its own
+        if (track.hasCover && isDressed)
             context().music.requestCover(track.path, m_ui->cover->size());
     }
     showDuration();
@@ -262,7 +274,7 @@ void NowPlaying::showPosition()
     m_ui->progress->setRealValue(int(position));
     m_ui->elapsed->setText(timeText(position / kSecond));
     const qint64 remaining = context().player.duration() - position;
-    const QString sign = remaining >= kSecond ? QStringLiteral("-") : QString();
+    const QString sign = remaining >= kSecond ? QString(kMinus) : QString();
     m_ui->remaining->setText(sign + timeText(remaining / kSecond));
 }
 

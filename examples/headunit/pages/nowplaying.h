@@ -40,6 +40,7 @@ private:
     void dressTitles();
     void dressProgress();
     void dressKeys();
+    QPixmap modeFace(const QString &icon, Theme::State state, bool isOn) const;
     void makePlayKeys(int side);
     void makeShuffleKey();
     PlayButton *makePlayKey(const QString &icon, int side);

@@ -9,6 +9,7 @@
 #include "pages/favourites.h"
 #include "pages/keypad.h"
 #include "pages/recentnumbers.h"
+#include "texts.h"
 #include "ui_phone.h"
 
 #include <utility>
@@ -35,6 +36,8 @@ PhonePage::PhonePage(Context &context, QWidget *parent)
     connect(m_callView, &CallView::keypadWanted, this,
             [this] { m_ui->views->setCurrentWidget(m_keypad); });
     connect(m_call, &Call::stateChanged, this, &PhonePage::showCall);
+    connect(m_call, &Call::stateChanged, this, &PhonePage::tellTime);
+    connect(m_call, &Call::secondPassed, this, &PhonePage::tellTime);
     PhonePage::retranslate();
 }
 
@@ -44,7 +47,7 @@ QString PhonePage::title() const { return tr("Phone"); }
 
 void PhonePage::setTheme(const Theme &theme)
 {
-    m_ui->sideKeys->setFixedWidth(theme.px(116));
+    m_ui->sideKeys->setFixedWidth(SideKeys::columnWidth(theme));
     for (View *view : std::initializer_list<View *>{m_contacts, m_favourites, m_keypad, m_callView})
         view->setTheme(theme);
     Page::setTheme(theme);
@@ -90,6 +93,12 @@ void PhonePage::showCall()
         showView(m_ui->sideKeys->current());
     }
     pauseMusic(inCall);
+}
+
+void PhonePage::tellTime()
+{
+    const bool inCall = m_call->state() != Call::State::None;
+    emit callTimeChanged(inCall ? timeText(m_call->seconds()) : QString());
 }
 
 // Music that a call has interrupted goes on after it.

@@ -34,6 +34,10 @@ public:
     void setTheme(const Theme &theme) override;
     bool goBack() override;
 
+signals:
+    /// How long the call lasts that is going on; empty: there is none.
+    void callTimeChanged(const QString &time);
+
 protected:
     void dress() override;
     void retranslate() override;
@@ -41,6 +45,7 @@ protected:
 private:
     void showView(int key);
     void showCall();
+    void tellTime();
     void pauseMusic(bool inCall);
 
     const std::unique_ptr<Ui::Phone> m_ui;

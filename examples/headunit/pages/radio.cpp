@@ -2,6 +2,8 @@
 #include "pages/radio.h"
 
 #include "dress.h"
+#include "listrows.h"
+#include "models/contacts.h"
 #include "models/tuner.h"
 #include "pages/tunerscales.h"
 #include "texts.h"
@@ -21,6 +23,11 @@ namespace
 constexpr int kConfirmation = 1500; // ms
 constexpr int kStepRepeat = 120; // ms, of a step key that is held
 constexpr int kReading = 3000; // ms that a text stands before it rolls
+// Units of a width
+constexpr int kDisplay = 700;
+constexpr int kLeastKey = 96;
+constexpr int kMostKey = 180;
+constexpr int kBadge = 96;
 const QString kScaleKey = QStringLiteral("radio/scale");
 
 } // namespace
@@ -42,6 +49,9 @@ RadioPage::RadioPage(Context &context, QWidget *parent)
     m_confirmation.setInterval(kConfirmation);
     connect(&m_confirmation, &QTimer::timeout, this,
             [this] { showPreset(std::exchange(m_stored, -1)); });
+    QSizePolicy place = m_ui->badge->sizePolicy();
+    place.setRetainSizeWhenHidden(true); // the texts keep their room
+    m_ui->badge->setSizePolicy(place);
     rollWhileShown(*m_ui->station);
     rollWhileShown(*m_ui->radioText);
     connectTuner();
@@ -59,7 +69,11 @@ void RadioPage::dress()
     layOut();
     dressPanel(*m_ui->display, theme());
     dressPanel(*m_ui->scalePanel, theme());
+    // Three lines are as much as the display holds on a small screen.
+    m_ui->displayRow->setContentsMargins(theme().inset(), theme().px(4), theme().inset(),
+                                         theme().px(4));
     dressTexts();
+    m_ui->displayRow->activate();
     for (MSelectButton *key : {m_ui->fmKey, m_ui->amKey})
         dressBand(*key);
     for (SpIconButton *key : m_ui->keys->findChildren<SpIconButton *>())
@@ -78,10 +92,6 @@ void RadioPage::dress()
 void RadioPage::retranslate()
 {
     m_ui->retranslateUi(this);
-    m_ui->seekDownKey->setDisplayText(tr("Seek"));
-    m_ui->seekUpKey->setDisplayText(tr("Seek"));
-    m_ui->stepDownKey->setDisplayText(tr("Step"));
-    m_ui->stepUpKey->setDisplayText(tr("Step"));
     m_ui->scanKey->setDisplayText(tr("Scan"));
     m_ui->scaleKey->setDisplayText(tr("Scale"));
     showBand();
@@ -162,11 +172,19 @@ void RadioPage::showFrequency()
                                  .arg(QChar(0x2069)));
 }
 
+// The badge stands for the station as that of a person does for a contact.
 void RadioPage::showStation()
 {
     const Tuner &tuner = context().tuner;
-    m_ui->station->setText(tuner.stationName().isEmpty() ? tr("No station") : tuner.stationName());
-    m_ui->radioText->setText(tuner.radioText());
+    if (theme().screen().isEmpty())
+        return; // not dressed yet
+    const QString name = tuner.stationName();
+    m_ui->station->setTextColor(name.isEmpty() ? theme().quietText : theme().accent);
+    showRolling(*m_ui->station, name.isEmpty() ? tr("No station") : name);
+    m_ui->radioText->setHidden(tuner.radioText().isEmpty()); // the others stand in the middle then
+    showRolling(*m_ui->radioText, tuner.radioText());
+    m_ui->badge->setHidden(name.isEmpty());
+    m_ui->badge->setPixmap(initialsDisc(theme(), m_ui->badge->width(), Contacts::initialsOf(name)));
 }
 
 void RadioPage::showPresets()
@@ -175,18 +193,19 @@ void RadioPage::showPresets()
         showPreset(place);
 }
 
+// A preset has two lines: the station and its frequency or, for want of a name, the frequency and
+// its unit. One that is empty has a line in the middle.
 void RadioPage::showPreset(int place)
 {
     const Tuner &tuner = context().tuner;
     const int frequency = tuner.preset(place);
     const bool isStored = place == m_stored;
     MPresetButton &key = *m_presets[place];
-    const int room = key.width() - theme().px(12);
+    const QString number = frequency ? Tuner::textOf(tuner.band(), frequency) : QString();
     const QString name = frequency ? tuner.presetName(place) : tr("Empty");
-    key.setDisplayText(shortened(name, QFontMetrics(key.font()), room));
-    key.setDisplayText2(isStored        ? tr("Stored")
-                            : frequency ? Tuner::textOf(tuner.band(), frequency)
-                                        : QString());
+    const QString below = name == number ? tuner.unitText() : number;
+    key.setDisplayText(shortened(name, QFontMetrics(key.font()), key.width() - theme().px(12)));
+    key.setDisplayText2(isStored ? tr("Stored") : below);
     const int line = theme().textPx(Theme::Small) * 3 / 2;
     const int top = key.height() / 2 - line;
     key.setdisplayTextRect(frequency || isStored ? QRect(0, top, key.width(), line) : key.rect());
@@ -195,10 +214,13 @@ void RadioPage::showPreset(int place)
     key.setChecked(frequency && place == tuner.presetInUse());
 }
 
-// The rows of keys have their heights, what is left is for the display.
+// The rows of keys have their heights, what is left is for the display. On a wide screen it is not
+// wider than its texts need, and the four columns of keys are.
 void RadioPage::layOut()
 {
-    const int key = std::max(theme().touch(), theme().px(96));
+    const int spare = (width() - 2 * theme().margin() - theme().px(kDisplay)) / 4 - theme().gap();
+    const int key =
+        qBound(std::max(theme().touch(), theme().px(kLeastKey)), spare, theme().px(kMostKey));
     const int row = std::max(theme().touch(), theme().px(66));
     for (QLayout *layout :
          {static_cast<QLayout *>(m_ui->keyGrid), static_cast<QLayout *>(m_ui->presetGrid)})
@@ -210,21 +232,21 @@ void RadioPage::layOut()
     m_ui->presets->setFixedHeight(2 * row + theme().gap());
     m_ui->station->setFixedHeight(theme().textPx(Theme::Title) * 4 / 3);
     m_ui->radioText->setFixedHeight(theme().textPx(Theme::Body) * 4 / 3);
+    m_ui->badge->setFixedSize(theme().px(kBadge), theme().px(kBadge));
     layout()->activate();
 }
 
 void RadioPage::dressTexts()
 {
     dressLabel(*m_ui->frequency, theme(), Theme::Huge);
-    const Qt::Alignment start = isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
-    m_ui->frequency->setAlignment(start | Qt::AlignAbsolute | Qt::AlignVCenter);
+    m_ui->frequency->setContentsMargins(0, 0, 0, 0); // no digit has a mark
+    m_ui->frequency->setAlignment(leadingAlignment());
     m_ui->displayTexts->setSpacing(0);
     m_ui->station->setFontSize(theme().textPx(Theme::Title));
-    m_ui->station->setTextColor(theme().accent);
     m_ui->radioText->setFontSize(theme().textPx(Theme::Body));
     m_ui->radioText->setTextColor(theme().quietText);
     for (SpRollingText *text : {m_ui->station, m_ui->radioText}) {
-        text->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+        text->setTextAlignment(leadingAlignment());
         text->setWaitRoll(kReading);
     }
 }
@@ -237,7 +259,8 @@ void RadioPage::dressBand(MSelectButton &key)
     key.setNormalTextColor(theme().text);
     key.setPressTextColor(theme().onAccent);
     key.setSelectTextColor(theme().onAccent);
-    key.setFontSize(theme().textPx(Theme::Title));
+    key.setFont(theme().font(Theme::Body, true));
+    key.setFontSize(theme().textPx(Theme::Body));
 }
 
 void RadioPage::dressPreset(MPresetButton &key)

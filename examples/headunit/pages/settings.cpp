@@ -35,7 +35,7 @@ QString SettingsPage::title() const { return tr("Settings"); }
 
 void SettingsPage::setTheme(const Theme &theme)
 {
-    m_ui->sideKeys->setFixedWidth(theme.px(116));
+    m_ui->sideKeys->setFixedWidth(SideKeys::columnWidth(theme));
     for (View *view : qAsConst(m_views))
         view->setTheme(theme);
     Page::setTheme(theme);

@@ -39,10 +39,10 @@ SettingsAbout::~SettingsAbout() = default;
 void SettingsAbout::dress()
 {
     const Theme &t = theme();
-    dressLabel(*m_ui->product, t, Theme::Title);
+    dressHeading(*m_ui->product, t);
     m_ui->product->setAlignment(leadingAlignment());
     dressLabel(*m_ui->versions, t, Theme::Body, true);
-    dressLabel(*m_ui->licenceHeading, t, Theme::Body);
+    dressHeading(*m_ui->licenceHeading, t);
     dressLabel(*m_ui->part, t, Theme::Small, true);
     dressLabel(*m_ui->licence, t, Theme::Small);
     m_ui->versionPanel->setFixedHeight(std::max(t.touch(), t.px(72)));
@@ -50,18 +50,31 @@ void SettingsAbout::dress()
         key->setFixedSize(t.touch(), t.touch());
     layout()->activate();
     dressPanel(*m_ui->versionPanel, t);
-    m_ui->versionRow->setContentsMargins(t.margin(), 0, t.margin(), 0);
     dressPanel(*m_ui->licencePanel, t);
-    m_ui->licenceColumn->setContentsMargins(t.margin(), t.gap(), t.margin(), t.gap());
-    m_ui->licenceColumn->setSpacing(t.px(8));
     m_ui->licenceRow->setSpacing(t.px(8));
-    m_ui->licenceColumn->activate();
+    m_ui->licenceColumn->setSpacing(t.px(8));
+    layOutLines();
     dressKey(*m_ui->previousKey, t, Theme::Key,
              isRightToLeft() ? QStringLiteral("forward") : QStringLiteral("back"));
     dressKey(*m_ui->nextKey, t, Theme::Key,
              isRightToLeft() ? QStringLiteral("back") : QStringLiteral("forward"));
     showPart(m_part);
 }
+
+// At rest the text ends between two lines.
+void SettingsAbout::layOutLines()
+{
+    const int inset = theme().inset();
+    const auto layOut = [this, inset](int below) {
+        m_ui->licenceColumn->setContentsMargins(inset, theme().gap(), inset, below);
+        m_ui->licenceColumn->activate();
+    };
+    layOut(inset);
+    const int rest = m_ui->licence->height() % QFontMetrics(m_ui->licence->font()).lineSpacing();
+    layOut(inset + rest);
+}
+
+QMargins SettingsAbout::margins(const Theme &theme) const { return rowMargins(theme); }
 
 void SettingsAbout::retranslate()
 {

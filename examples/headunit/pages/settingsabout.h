@@ -28,8 +28,10 @@ public:
 protected:
     void dress() override;
     void retranslate() override;
+    QMargins margins(const Theme &theme) const override;
 
 private:
+    void layOutLines();
     void showPart(int part);
 
     const std::unique_ptr<Ui::SettingsAbout> m_ui;

@@ -5,7 +5,10 @@
 #include "models/preferences.h"
 #include "ui_settingsdisplay.h"
 
+#include <QFontMetrics>
 #include <QLocale>
+
+#include <algorithm>
 
 namespace headunit
 {
@@ -33,25 +36,42 @@ SettingsDisplay::~SettingsDisplay() = default;
 void SettingsDisplay::dress()
 {
     const Theme &t = theme();
-    for (QLabel *label : {m_ui->brightnessLabel, m_ui->lookLabel})
-        dressLabel(*label, t, Theme::Body);
-    dressLabel(*m_ui->brightnessValue, t, Theme::Title);
+    for (QLabel *label : {m_ui->brightnessLabel, m_ui->brightnessValue, m_ui->lookLabel})
+        dressHeading(*label, t);
+    m_ui->brightnessPanel->setFixedHeight(t.px(104));
+    const int row = std::max(t.touch(), t.px(72));
+    for (MFocusButton *choice : {m_ui->automaticChoice, m_ui->dayChoice, m_ui->nightChoice})
+        choice->setFixedHeight(row);
     layout()->activate();
     for (QLabel *panel : {m_ui->brightnessPanel, m_ui->lookPanel})
         dressPanel(*panel, t);
-    const int margin = t.margin();
-    for (QVBoxLayout *column : {m_ui->brightnessColumn, m_ui->lookColumn}) {
-        column->setContentsMargins(margin, t.gap(), margin, t.gap());
-        column->activate();
-    }
-    m_ui->lookRow->setSpacing(t.gap());
+    const int inset = t.inset();
+    m_ui->lookColumn->setContentsMargins(inset, t.gap(), inset, inset);
+    m_ui->lookColumn->setSpacing(t.px(12));
     m_ui->lookColumn->activate();
-    dressSlider(*m_ui->brightness, t, m_ui->brightnessPanel->width() - 2 * margin);
+    dressBrightness();
     dressChoice(*m_ui->automaticChoice, t, QStringLiteral("clock"));
     dressChoice(*m_ui->dayChoice, t, QStringLiteral("sun"));
     dressChoice(*m_ui->nightChoice, t, QStringLiteral("moon"));
     showBrightness();
 }
+
+// The slider has what its name and the longest of its values leave of their line.
+void SettingsDisplay::dressBrightness()
+{
+    const QFontMetrics metrics(m_ui->brightnessValue->font());
+    const int value = metrics.horizontalAdvance(percentText(Preferences::kFullBrightness));
+    const int name = m_ui->brightnessLabel->sizeHint().width();
+    m_ui->brightnessValue->setFixedWidth(value + theme().px(2));
+    m_ui->brightnessValue->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
+    m_ui->brightnessRow->setSpacing(theme().gap());
+    const int room = m_ui->brightnessPanel->width() - 2 * theme().inset() - name
+        - m_ui->brightnessValue->width() - 2 * theme().gap();
+    dressSlider(*m_ui->brightness, theme(), room - 2 * sliderOverhang(theme()));
+    m_ui->brightnessRow->activate();
+}
+
+QMargins SettingsDisplay::margins(const Theme &theme) const { return rowMargins(theme); }
 
 void SettingsDisplay::retranslate()
 {
@@ -80,7 +100,12 @@ void SettingsDisplay::showBrightness()
     const int percent = context().preferences.brightness();
     if (m_ui->brightness->currentValue() != percent)
         m_ui->brightness->setCurrentValue(percent);
-    m_ui->brightnessValue->setText(tr("%1 %").arg(QLocale().toString(percent)));
+    m_ui->brightnessValue->setText(percentText(percent));
+}
+
+QString SettingsDisplay::percentText(int percent)
+{
+    return tr("%1%").arg(QLocale().toString(percent));
 }
 
 void SettingsDisplay::showLook()

@@ -26,9 +26,12 @@ public:
 protected:
     void dress() override;
     void retranslate() override;
+    QMargins margins(const Theme &theme) const override;
 
 private:
     void connectLooks();
+    void dressBrightness();
+    static QString percentText(int percent);
     void showBrightness();
     void showLook();
 

@@ -2,6 +2,7 @@
 #include "pages/settingsgeneral.h"
 
 #include "dress.h"
+#include "listpanel.h"
 #include "listrows.h"
 #include "ui_settingsgeneral.h"
 
@@ -86,16 +87,15 @@ SettingsGeneral::~SettingsGeneral() = default;
 void SettingsGeneral::dress()
 {
     const Theme &t = theme();
-    m_ui->panel->setPixmap(t.panel(m_ui->panel->size(), t.face, t.line, t.radius()));
-    m_ui->listRow->setContentsMargins(t.px(4), t.px(6), t.px(4), t.px(6));
-    m_ui->listRow->activate();
-    dressList(*m_ui->list, t);
+    dressListPanel(*m_ui->panel, *m_ui->list, t);
     for (MOnOffButton *button : qAsConst(m_switches)) {
         dressSwitch(*button, t);
         button->parentWidget()->layout()->setContentsMargins(t.gap(), 0, t.gap(), 0);
     }
     retranslate(); // the titles end before the switches
 }
+
+QMargins SettingsGeneral::margins(const Theme &theme) const { return rowMargins(theme); }
 
 void SettingsGeneral::retranslate()
 {

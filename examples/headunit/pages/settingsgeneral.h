@@ -38,6 +38,7 @@ public:
 protected:
     void dress() override;
     void retranslate() override;
+    QMargins margins(const Theme &theme) const override;
     void hideEvent(QHideEvent *e) override;
 
 private:

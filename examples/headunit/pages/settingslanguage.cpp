@@ -6,6 +6,8 @@
 #include "models/preferences.h"
 #include "ui_settingslanguage.h"
 
+#include <algorithm>
+
 namespace headunit
 {
 
@@ -29,21 +31,28 @@ SettingsLanguage::~SettingsLanguage() = default;
 void SettingsLanguage::dress()
 {
     const Theme &t = theme();
-    dressLabel(*m_ui->heading, t, Theme::Body);
+    dressHeading(*m_ui->heading, t);
     dressLabel(*m_ui->note, t, Theme::Small, true);
+    const auto buttons = {m_ui->english, m_ui->german, m_ui->arabic};
+    for (MFocusButton *button : buttons)
+        button->setFixedHeight(std::max(t.touch(), t.px(72)));
     layout()->activate();
     dressPanel(*m_ui->panel, t);
-    m_ui->column->setContentsMargins(t.margin(), t.gap(), t.margin(), t.gap());
+    const int inset = t.inset();
+    m_ui->column->setContentsMargins(inset, t.gap(), inset, inset);
+    m_ui->column->setSpacing(t.px(12));
     m_ui->column->activate();
-    for (MFocusButton *button : {m_ui->english, m_ui->german, m_ui->arabic})
+    for (MFocusButton *button : buttons)
         dressChoice(*button, t);
 }
+
+QMargins SettingsLanguage::margins(const Theme &theme) const { return rowMargins(theme); }
 
 void SettingsLanguage::retranslate()
 {
     m_ui->retranslateUi(this);
     m_ui->heading->setText(tr("Language"));
-    m_ui->note->setText(tr("Texts, numbers and times of all pages"));
+    m_ui->note->setText(tr("Changes texts, numbers and times"));
 }
 
 void SettingsLanguage::showLanguage()

@@ -26,6 +26,7 @@ public:
 protected:
     void dress() override;
     void retranslate() override;
+    QMargins margins(const Theme &theme) const override;
 
 private:
     void showLanguage();

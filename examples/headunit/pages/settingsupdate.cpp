@@ -14,6 +14,7 @@ namespace
 {
 
 constexpr int kStep = 80; // ms, of the busy ring
+constexpr int kMostRadius = 134; // units, of the other one
 
 } // namespace
 
@@ -40,7 +41,7 @@ SettingsUpdate::~SettingsUpdate() = default;
 void SettingsUpdate::dress()
 {
     const Theme &t = theme();
-    dressLabel(*m_ui->updateHeading, t, Theme::Title);
+    dressHeading(*m_ui->updateHeading, t);
     dressLabel(*m_ui->version, t, Theme::Body, true);
     dressLabel(*m_ui->message, t, Theme::Body);
     m_ui->message->setAlignment(leadingAlignment());
@@ -48,23 +49,35 @@ void SettingsUpdate::dress()
     layout()->activate();
     for (QLabel *panel : {m_ui->ringPanel, m_ui->panel})
         dressPanel(*panel, t);
-    m_ui->column->setContentsMargins(t.margin(), t.margin(), t.margin(), t.margin());
-    m_ui->column->setSpacing(t.px(8));
+    const int inset = t.inset();
+    m_ui->column->setContentsMargins(inset, t.gap(), inset, inset);
+    m_ui->column->setSpacing(t.px(12));
     m_ui->column->activate();
     const QSize room = m_ui->rings->size();
-    const int radius = std::min(room.width(), room.height()) * 9 / 20;
+    const int radius = std::min({room.width() / 2, room.height() / 2, t.px(kMostRadius)});
+    dressRing(radius);
+    m_ui->rest->setPixmap(t.icon(QStringLiteral("update"), t.px(120), t.quietText));
+    m_ui->busy->setRadius(radius * 2 / 3);
+    m_ui->busy->setPainterColor(t.accent);
+    showState();
+}
+
+void SettingsUpdate::dressRing(int radius)
+{
+    const Theme &t = theme();
     MOProgress &ring = *m_ui->progress;
     ring.setRadius(radius);
     ring.setArcHeight(t.px(18));
     ring.setNormalColor(grooveColor(t));
     ring.setPressColor(t.accent);
     ring.setInsideColor(t.pressedFace);
+    // The middle is drawn with the pen that a painter begins with.
+    QPalette palette = ring.palette();
+    palette.setColor(QPalette::WindowText, t.pressedFace);
+    ring.setPalette(palette);
     ring.setDisplayTextColor(t.text);
     ring.setFont(t.font(Theme::Huge));
     ring.setFontSize(t.textPx(Theme::Small));
-    m_ui->busy->setRadius(radius * 2 / 3);
-    m_ui->busy->setPainterColor(t.accent);
-    showState();
 }
 
 void SettingsUpdate::retranslate()
@@ -98,8 +111,7 @@ void SettingsUpdate::onKey()
 
 void SettingsUpdate::showState()
 {
-    const bool isChecking = m_update->state() == SoftwareUpdate::State::Checking;
-    m_ui->rings->setCurrentWidget(isChecking ? static_cast<QWidget *>(m_ui->busy) : m_ui->progress);
+    m_ui->rings->setCurrentWidget(ring());
     turnBusyRing();
     m_ui->message->setText(sentence());
     m_ui->progress->setDispalyText(caption());
@@ -116,11 +128,25 @@ void SettingsUpdate::turnBusyRing()
         m_ui->busy->stopTimer();
 }
 
+// Where nothing is under way there is nothing to count.
+QWidget *SettingsUpdate::ring() const
+{
+    switch (m_update->state()) {
+    case SoftwareUpdate::State::None:
+    case SoftwareUpdate::State::Cancelled:
+        break;
+    case SoftwareUpdate::State::Checking:
+        return m_ui->busy;
+    case SoftwareUpdate::State::Installing:
+    case SoftwareUpdate::State::Installed:
+        return m_ui->progress;
+    }
+    return m_ui->rest;
+}
+
 QString SettingsUpdate::caption() const
 {
-    if (m_update->state() == SoftwareUpdate::State::Installing)
-        return tr("installing");
-    return m_update->state() == SoftwareUpdate::State::Installed ? tr("done") : tr("ready");
+    return m_update->state() == SoftwareUpdate::State::Installed ? tr("done") : tr("installing");
 }
 
 QString SettingsUpdate::sentence() const
@@ -129,7 +155,7 @@ QString SettingsUpdate::sentence() const
     case SoftwareUpdate::State::None:
         break;
     case SoftwareUpdate::State::Checking:
-        return tr("Looking for an update...");
+        return tr("Looking for an update…");
     case SoftwareUpdate::State::Installing:
         return tr("The update is being installed. You can go on driving.");
     case SoftwareUpdate::State::Installed:

@@ -36,9 +36,11 @@ protected:
     void showEvent(QShowEvent *e) override;
 
 private:
+    void dressRing(int radius);
     void onKey();
     void showState();
     void turnBusyRing();
+    QWidget *ring() const; ///< what stands at the side
     QString caption() const; ///< of the ring
     QString sentence() const;
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "pages/sound.h"
 
-#include "dress.h"
 #include "pages/soundbalance.h"
 #include "pages/soundeffects.h"
 #include "pages/soundequaliser.h"
@@ -14,22 +13,20 @@ namespace headunit
 {
 
 SoundPage::SoundPage(Context &context, QWidget *parent)
-    : Page(context, parent), m_ui(std::make_unique<Ui::Sound>())
+    : Page(context, parent), m_ui(std::make_unique<Ui::Sound>()),
+      m_equaliser(new SoundEqualiser(context))
 {
     m_ui->setupUi(this);
-    for (View *view : {static_cast<View *>(new SoundEqualiser(context)),
-                       static_cast<View *>(new SoundBalance(context)),
-                       static_cast<View *>(new SoundEffects(context)),
-                       static_cast<View *>(new SoundVolume(context))})
+    m_ui->sideKeys->setIcons({QStringLiteral("sound"), QStringLiteral("bass"),
+                              QStringLiteral("balance"), QStringLiteral("speaker"),
+                              QStringLiteral("volume")});
+    for (View *view :
+         {static_cast<View *>(m_equaliser), static_cast<View *>(new SoundBalance(context)),
+          static_cast<View *>(new SoundEffects(context)),
+          static_cast<View *>(new SoundVolume(context))})
         m_ui->views->addWidget(view);
-    int index = 0;
-    for (MFocusButton *tab :
-         {m_ui->equaliserTab, m_ui->balanceTab, m_ui->effectsTab, m_ui->volumeTab}) {
-        connect(tab, &MFocusButton::btnClicked, this,
-                [this, index] { m_ui->views->setCurrentIndex(index); });
-        ++index;
-    }
-    m_ui->equaliserTab->setChecked(true);
+    connect(m_ui->sideKeys, &SideKeys::chosen, this, &SoundPage::showView);
+    connect(m_equaliser, &SoundEqualiser::pageTurned, m_ui->sideKeys, &SideKeys::setCurrent);
     SoundPage::retranslate();
 }
 
@@ -39,27 +36,25 @@ QString SoundPage::title() const { return tr("Sound"); }
 
 void SoundPage::setTheme(const Theme &theme)
 {
-    Page::setTheme(theme);
-    for (View *view : findChildren<View *>())
+    m_ui->sideKeys->setFixedWidth(SideKeys::columnWidth(theme));
+    for (View *view : m_ui->views->findChildren<View *>())
         view->setTheme(theme);
+    Page::setTheme(theme);
 }
 
-void SoundPage::dress()
-{
-    m_ui->tabRow->setSpacing(theme().gap());
-    m_ui->tabs->setFixedHeight(theme().touch());
-    layout()->activate();
-    for (MFocusButton *tab : m_ui->tabs->findChildren<MFocusButton *>())
-        dressChoice(*tab, theme());
-}
+void SoundPage::dress() { m_ui->sideKeys->dress(theme()); }
 
 void SoundPage::retranslate()
 {
     m_ui->retranslateUi(this);
-    m_ui->equaliserTab->setDisplayText(tr("Equaliser"));
-    m_ui->balanceTab->setDisplayText(tr("Balance"));
-    m_ui->effectsTab->setDisplayText(tr("Effects"));
-    m_ui->volumeTab->setDisplayText(tr("Volume"));
+    m_ui->sideKeys->setCaptions(
+        {tr("Tone"), tr("Levels"), tr("Balance"), tr("Effects"), tr("Volume")});
+}
+
+void SoundPage::showView(int key)
+{
+    m_ui->views->setCurrentIndex(std::max(0, key - 1));
+    m_equaliser->showPage(key == 0 ? 0 : 1);
 }
 
 } // namespace headunit

@@ -14,7 +14,9 @@ class Sound;
 namespace headunit
 {
 
-/// The sound: a row of keys, and the view that the chosen one of them opens.
+class SoundEqualiser;
+
+/// The sound: a column of keys, and the view that the chosen one of them opens.
 class SoundPage : public Page
 {
     Q_OBJECT
@@ -32,7 +34,10 @@ protected:
     void retranslate() override;
 
 private:
+    void showView(int key);
+
     const std::unique_ptr<Ui::Sound> m_ui;
+    SoundEqualiser *m_equaliser; // has the first two keys
 };
 
 } // namespace headunit

@@ -80,20 +80,31 @@ void SoundBalance::dress()
     m_ui->centreKey->setFixedHeight(theme().touch());
     layout()->activate();
     dressPanel(*m_ui->controls, theme());
-    const QMargins margins(theme().margin(), theme().gap(), theme().margin(), theme().gap());
-    m_ui->controlColumn->setContentsMargins(margins);
-    m_ui->controlColumn->setSpacing(theme().px(4));
-    m_ui->controlColumn->activate();
-    for (QLabel *label : {m_ui->balanceLabel, m_ui->faderLabel})
-        dressLabel(*label, theme(), Theme::Body);
+    for (QLabel *label :
+         {m_ui->balanceLabel, m_ui->balanceValue, m_ui->faderLabel, m_ui->faderValue})
+        dressHeading(*label, theme());
     for (QLabel *label : {m_ui->balanceLeft, m_ui->balanceRight, m_ui->faderRear, m_ui->faderFront})
         dressLabel(*label, theme(), Theme::Small, true);
-    for (QLabel *label : {m_ui->balanceValue, m_ui->faderValue})
-        dressLabel(*label, theme(), Theme::Title);
-    for (MHorSlider *slider : {m_ui->balance, m_ui->fader})
-        dressSlider(*slider, theme(), m_ui->centreKey->width());
+    layOutControls();
     dressKey(*m_ui->centreKey, theme(), Theme::Key);
     showPlace();
+}
+
+// The sliders stand out of what is above and below them, so that their bars do not.
+void SoundBalance::layOutControls()
+{
+    const int inset = theme().inset();
+    const int overhang = sliderOverhang(theme());
+    m_ui->controlColumn->setContentsMargins(inset - overhang, theme().gap(), inset - overhang,
+                                            theme().gap());
+    m_ui->controlColumn->setSpacing(0);
+    for (QLayout *row : {static_cast<QLayout *>(m_ui->balanceTitle), m_ui->balanceEnds->layout(),
+                         static_cast<QLayout *>(m_ui->faderTitle), m_ui->faderEnds->layout(),
+                         static_cast<QLayout *>(m_ui->centreRow)})
+        row->setContentsMargins(overhang, 0, overhang, 0);
+    for (MHorSlider *slider : {m_ui->balance, m_ui->fader})
+        dressSlider(*slider, theme(), m_ui->controls->width() - 2 * inset);
+    m_ui->controlColumn->activate();
 }
 
 void SoundBalance::retranslate()
@@ -105,7 +116,7 @@ void SoundBalance::retranslate()
     m_ui->faderLabel->setText(tr("Fader"));
     m_ui->faderRear->setText(tr("Rear"));
     m_ui->faderFront->setText(tr("Front"));
-    m_ui->centreKey->setDisplayText(tr("To the middle"));
+    m_ui->centreKey->setDisplayText(tr("Centre sound"));
     showValues();
 }
 
@@ -132,7 +143,7 @@ void SoundBalance::showValues()
 
 void SoundBalance::showValue(QLabel &label, int value, const QString &below, const QString &above)
 {
-    label.setText(value == 0 ? tr("Middle") : (value < 0 ? below : above).arg(qAbs(value)));
+    label.setText(value == 0 ? tr("Centre") : (value < 0 ? below : above).arg(qAbs(value)));
 }
 
 void SoundBalance::showCabin()

@@ -30,6 +30,7 @@ protected:
     void retranslate() override;
 
 private:
+    void layOutControls();
     void centre();
     void showPlace();
     void showValues();

@@ -2,7 +2,6 @@
 #include "pages/soundeffects.h"
 
 #include "dress.h"
-#include "models/preferences.h"
 #include "ui_soundeffects.h"
 
 #include <QRegularExpression>
@@ -28,7 +27,6 @@ SoundEffects::SoundEffects(Context &context, QWidget *parent)
         connect(button, &MOnOffButton::onoffStatusChanged, this,
                 [&settings](const QString &id, bool isOn) { settings.setValue(keyOf(id), isOn); });
     }
-    connectKeyClicks();
     SoundEffects::retranslate();
 }
 
@@ -38,20 +36,19 @@ void SoundEffects::dress()
 {
     for (MOnOffButton *button : findChildren<MOnOffButton *>())
         dressSwitch(*button, theme());
-    for (QLabel *label :
-         {m_ui->loudnessLabel, m_ui->surroundLabel, m_ui->speedVolumeLabel, m_ui->keyClicksLabel})
+    for (QLabel *label : {m_ui->loudnessLabel, m_ui->surroundLabel, m_ui->speedVolumeLabel})
         dressLabel(*label, theme(), Theme::Body);
-    for (QLabel *label :
-         {m_ui->loudnessNote, m_ui->surroundNote, m_ui->speedVolumeNote, m_ui->keyClicksNote})
+    for (QLabel *label : {m_ui->loudnessNote, m_ui->surroundNote, m_ui->speedVolumeNote})
         dressLabel(*label, theme(), Theme::Small, true);
     layout()->activate();
-    for (QLabel *panel :
-         {m_ui->loudnessPanel, m_ui->surroundPanel, m_ui->speedVolumePanel, m_ui->keyClicksPanel})
+    for (QLabel *panel : {m_ui->loudnessPanel, m_ui->surroundPanel, m_ui->speedVolumePanel})
         dressPanel(*panel, theme());
     for (QVBoxLayout *texts :
          findChildren<QVBoxLayout *>(QRegularExpression(QStringLiteral("Texts$"))))
-        texts->setSpacing(theme().px(4));
+        texts->setSpacing(0);
 }
+
+QMargins SoundEffects::margins(const Theme &theme) const { return rowMargins(theme); }
 
 void SoundEffects::retranslate()
 {
@@ -62,24 +59,6 @@ void SoundEffects::retranslate()
     m_ui->surroundNote->setText(tr("A wider stage for all seats"));
     m_ui->speedVolumeLabel->setText(tr("Speed-dependent volume"));
     m_ui->speedVolumeNote->setText(tr("Louder as the car goes faster"));
-    m_ui->keyClicksLabel->setText(tr("Key clicks"));
-    m_ui->keyClicksNote->setText(tr("A click for each touch"));
-}
-
-// The general settings have the same switch.
-void SoundEffects::connectKeyClicks()
-{
-    constexpr auto kOption = Preferences::Option::KeyClicks;
-    Preferences &preferences = context().preferences;
-    MOnOffButton *button = m_ui->keyClicks;
-    button->setOnoffStatus(preferences.isOn(kOption));
-    connect(button, &MOnOffButton::onoffStatusChanged, &preferences,
-            [&preferences](const QString &, bool isOn) { preferences.setOn(kOption, isOn); });
-    connect(&preferences, &Preferences::optionChanged, button,
-            [button](Preferences::Option option, bool isOn) {
-                if (option == kOption)
-                    button->setOnoffStatus(isOn);
-            });
 }
 
 } // namespace headunit

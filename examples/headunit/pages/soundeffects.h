@@ -26,10 +26,9 @@ public:
 protected:
     void dress() override;
     void retranslate() override;
+    QMargins margins(const Theme &theme) const override;
 
 private:
-    void connectKeyClicks();
-
     const std::unique_ptr<Ui::SoundEffects> m_ui;
 };
 

@@ -2,6 +2,7 @@
 #include "pages/soundequaliser.h"
 
 #include "dress.h"
+#include "texts.h"
 #include "ui_soundequaliser.h"
 
 #include <QPainter>
@@ -18,35 +19,45 @@ namespace
 constexpr int kValueBand = 30; // px that a slider gives to its number
 constexpr int kLargestValue = 25; // px, of digits that fit into it
 constexpr int kLongTickEvery = 5; // values
+const QString kValue = QStringLiteral("value"); // the name of the label that shows it
 
 QString keyOf(const QString &band) { return QStringLiteral("sound/") + band; }
 
-// A groove with a tick for each value, long ones at round values, where the middle of the knob is.
-QPixmap track(const Theme &theme, const QSize &size, int knob, int values)
+// A groove with a tick for each value, long ones at round values, where the middle of the knob is
+// and beside it, and a dot at 0.
+QPixmap track(const Theme &theme, const QSize &size, const QSize &knob, int values)
 {
     QPixmap pixmap(size);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
-    const int travel = size.height() - knob;
+    const int travel = size.height() - knob.height();
     const int thickness = std::max(1, theme.px(2));
+    const int middle = size.width() / 2;
+    const int aside = knob.width() / 2 + theme.px(4);
     for (int i = 0; i < values; ++i) {
-        const int y = knob / 2 + travel * i / (values - 1);
+        const int y = knob.height() / 2 + travel * i / (values - 1) - thickness / 2;
         const int length = theme.px(i % kLongTickEvery == 0 ? 16 : 8);
-        painter.fillRect(size.width() / 2 - theme.px(16) - length, y, length, thickness,
-                         theme.quietText);
-        painter.fillRect(size.width() / 2 + theme.px(16), y, length, thickness, theme.quietText);
+        painter.fillRect(middle - aside - length, y, length, thickness, theme.quietText);
+        painter.fillRect(middle + aside, y, length, thickness, theme.quietText);
     }
+    const int width = theme.px(10);
+    const int groove = travel + width;
+    painter.drawPixmap(middle - width / 2, (size.height() - groove) / 2,
+                       theme.panel({width, groove}, grooveColor(theme), QColor(), width / 2));
+    const int dot = theme.px(20);
+    painter.drawPixmap(middle - dot / 2, (size.height() - dot) / 2,
+                       theme.panel({dot, dot}, theme.quietText, QColor(), dot / 2));
     return pixmap;
 }
 
-QPixmap withGroove(const Theme &theme, const QPixmap &ground, const QColor &color)
+// Where the slider would show its number.
+void addValue(SpSetupSlider &slider)
 {
-    QPixmap pixmap = ground;
-    const int width = theme.px(10);
-    QPainter painter(&pixmap);
-    painter.drawPixmap((ground.width() - width) / 2, 0,
-                       theme.panel({width, ground.height()}, color, QColor(), width / 2));
-    return pixmap;
+    auto *value = new QLabel(&slider);
+    value->setObjectName(kValue);
+    value->setLayoutDirection(Qt::LeftToRight);
+    value->setAlignment(Qt::AlignCenter);
+    value->setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
 QPixmap knobPicture(const Theme &theme, const QSize &size, const QColor &color)
@@ -67,9 +78,13 @@ SoundEqualiser::SoundEqualiser(Context &context, QWidget *parent)
     m_ui->setupUi(this);
     for (SpSetupSliderContainer *page : {m_ui->tonePage, m_ui->levelPage}) {
         for (SpSetupSlider *slider : page->findChildren<SpSetupSlider *>()) {
+            addValue(*slider);
             slider->setCurrentValue(context.settings.value(keyOf(slider->objectName())).toInt());
+            showValue(*slider);
             connect(slider, &SpSetupSlider::valueChangeSig, page,
                     &SpSetupSliderContainer::valueChangeSlot);
+            connect(slider, &SpSetupSlider::valueChangeSig, this,
+                    [this, slider] { showValue(*slider); });
             connect(slider, &SpSetupSlider::saveDataSig, page,
                     &SpSetupSliderContainer::saveDataSlot);
         }
@@ -77,9 +92,6 @@ SoundEqualiser::SoundEqualiser(Context &context, QWidget *parent)
         connect(page, &SpSetupSliderContainer::pageChanged, this,
                 [this](bool left) { turn(left != isRightToLeft()); });
     }
-    connect(m_ui->previousKey, &SpIconButton::btnClicked, this, [this] { turn(false); });
-    connect(m_ui->nextKey, &SpIconButton::btnClicked, this, [this] { turn(true); });
-    showPage();
     SoundEqualiser::retranslate();
 }
 
@@ -87,8 +99,6 @@ SoundEqualiser::~SoundEqualiser() = default;
 
 void SoundEqualiser::dress()
 {
-    for (SpIconButton *key : {m_ui->previousKey, m_ui->nextKey})
-        key->setFixedSize(theme().touch(), theme().touch());
     for (SpSetupSliderContainer *page : {m_ui->tonePage, m_ui->levelPage})
         page->layout()->setContentsMargins(0, 0, 0, 0);
     for (QLabel *label : {m_ui->bassLabel, m_ui->middleLabel, m_ui->trebleLabel,
@@ -96,37 +106,40 @@ void SoundEqualiser::dress()
         dressLabel(*label, theme(), Theme::Body);
     layout()->activate();
     dressPanel(*m_ui->panel, theme());
+    m_ui->panelRow->setContentsMargins(theme().inset(), theme().gap(), theme().inset(),
+                                       theme().px(8));
+    m_ui->panelRow->activate();
     dressSliders();
-    const bool isMirrored = isRightToLeft();
-    const QString left = QStringLiteral("back");
-    const QString right = QStringLiteral("forward");
-    dressKey(*m_ui->previousKey, theme(), Theme::Bare, isMirrored ? right : left);
-    dressKey(*m_ui->nextKey, theme(), Theme::Bare, isMirrored ? left : right);
 }
 
 void SoundEqualiser::retranslate()
 {
     m_ui->retranslateUi(this);
     m_ui->bassLabel->setText(tr("Bass"));
-    m_ui->middleLabel->setText(tr("Middle"));
+    m_ui->middleLabel->setText(tr("Mid"));
     m_ui->trebleLabel->setText(tr("Treble"));
     m_ui->subwooferLabel->setText(tr("Subwoofer"));
     m_ui->frontGainLabel->setText(tr("Front"));
     m_ui->rearGainLabel->setText(tr("Rear"));
 }
 
+void SoundEqualiser::showPage(int page) { m_ui->bandPages->setCurrentIndex(page); }
+
 void SoundEqualiser::turn(bool forward)
 {
     const int page = m_ui->bandPages->currentIndex() + (forward ? 1 : -1);
-    m_ui->bandPages->setCurrentIndex(qBound(0, page, m_ui->bandPages->count() - 1));
-    showPage();
+    if (page < 0 || page >= m_ui->bandPages->count())
+        return;
+    showPage(page);
+    emit pageTurned(page);
 }
 
-void SoundEqualiser::showPage()
+void SoundEqualiser::showValue(SpSetupSlider &slider)
 {
-    const int page = m_ui->bandPages->currentIndex();
-    m_ui->previousKey->setDisableState(page == 0);
-    m_ui->nextKey->setDisableState(page == m_ui->bandPages->count() - 1);
+    const int value = slider.currentValue();
+    const QString sign = value > 0 ? QStringLiteral("+") : value < 0 ? QString(kMinus) : QString();
+    slider.findChild<QLabel *>(kValue)->setText(sign + QString::number(qAbs(value))
+                                                + QStringLiteral(" dB"));
 }
 
 void SoundEqualiser::save()
@@ -146,20 +159,28 @@ void SoundEqualiser::dressSliders()
         dressSlider(*slider, height);
 }
 
-// The slider takes its size from its pictures. Its number would be white in any look.
+// The slider takes its size from its pictures. Its own number has neither sign nor unit.
 void SoundEqualiser::dressSlider(SpSetupSlider &slider, int height)
 {
     const QSize knob(std::max(theme().touch(), theme().px(72)), theme().px(40));
     const QSize size(theme().px(120), height);
     const int values = slider.maxValue() - slider.getMinValue() + 1;
-    const QPixmap ground = track(theme(), size, knob.height(), values);
-    slider.setSliderNormalImage(withGroove(theme(), ground, grooveColor(theme())));
-    slider.setSliderPressImage(withGroove(theme(), ground, theme().accent));
+    QPixmap nothing(size);
+    nothing.fill(Qt::transparent);
+    slider.setSliderNormalImage(track(theme(), size, knob, values));
+    slider.setSliderPressImage(nothing); // no side of 0 is the fuller one
     slider.setPointNormalImage(knobPicture(theme(), knob, theme().accent));
-    slider.setFontSize(std::min(theme().textPx(Theme::Body), kLargestValue));
     slider.setPointPressImage(knobPicture(theme(), knob, theme().accent.darker(125)));
-    for (QLabel *label : slider.findChildren<QLabel *>())
-        label->setStyleSheet(QStringLiteral("color: %1").arg(theme().text.name()));
+    auto *value = slider.findChild<QLabel *>(kValue);
+    for (QLabel *label : slider.findChildren<QLabel *>()) {
+        if (label != value)
+            label->setStyleSheet(QStringLiteral("color: transparent"));
+    }
+    dressHeading(*value, theme());
+    QFont font = value->font();
+    font.setPixelSize(std::min(font.pixelSize(), kLargestValue));
+    value->setFont(font);
+    value->setGeometry(0, 0, slider.width(), kValueBand);
 }
 
 } // namespace headunit

@@ -16,7 +16,7 @@ class SoundEqualiser;
 namespace headunit
 {
 
-/// Two pages of sliders, for the tone and for the levels, that a swipe or a key turns.
+/// Two pages of sliders, for the tone and for the levels. A swipe turns them, too.
 class SoundEqualiser : public View
 {
     Q_OBJECT
@@ -25,13 +25,18 @@ public:
     explicit SoundEqualiser(Context &context, QWidget *parent = nullptr);
     ~SoundEqualiser() override;
 
+    void showPage(int page);
+
+signals:
+    void pageTurned(int page); ///< by a swipe
+
 protected:
     void dress() override;
     void retranslate() override;
 
 private:
     void turn(bool forward);
-    void showPage();
+    void showValue(SpSetupSlider &slider);
     void save();
     void dressSliders();
     void dressSlider(SpSetupSlider &slider, int height);

@@ -5,10 +5,13 @@
 #include "models/player.h"
 #include "ui_soundvolume.h"
 
+#include <QPainter>
+#include <QPainterPath>
 #include <QSettings>
 #include <QtMath>
 
 #include <algorithm>
+#include <cmath>
 
 namespace headunit
 {
@@ -19,9 +22,26 @@ namespace
 const QString kVolumeKey = QStringLiteral("sound/volume");
 const QString kMutedKey = QStringLiteral("sound/muted");
 constexpr int kRepeat = 150; // ms, of a key that is held
-constexpr double kKnob = 0.85; // of the dial's radius: up to its ticks
-constexpr double kMark = 0.74; // likewise, from the middle
 constexpr double kArc = 120; // degrees from the lowest volume to the highest, around the top
+// Units of a length
+constexpr int kBar = 14; // thickness
+constexpr int kKnob = 44; // diameter
+constexpr int kMostRadius = 430;
+constexpr double kTicks = 0.83; // of the dial's radius: where its ticks have ended
+
+// From the right, as a painter counts, to the left of the top.
+double degreesOf(int volume) { return 90 + kArc / 2 - kArc * volume / Player::kMostVolume; }
+
+// The part of the bar up to a volume.
+void drawBar(QPainter &painter, const QRectF &circle, const QPen &pen, int volume)
+{
+    const double start = degreesOf(0);
+    painter.setPen(pen);
+    QPainterPath path;
+    path.arcMoveTo(circle, start);
+    path.arcTo(circle, start, degreesOf(volume) - start);
+    painter.drawPath(path);
+}
 
 } // namespace
 
@@ -29,7 +49,7 @@ SoundVolume::SoundVolume(Context &context, QWidget *parent)
     : View(context, parent), m_ui(std::make_unique<Ui::SoundVolume>())
 {
     m_ui->setupUi(this);
-    for (QLabel *label : {m_ui->knob, m_ui->mark, m_ui->level, m_ui->state})
+    for (QLabel *label : {m_ui->level, m_ui->state, m_ui->least, m_ui->most})
         label->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_ui->muteLock->setShowMode(SpLockButton::HighlightMode);
     Player &player = context.player;
@@ -58,6 +78,8 @@ void SoundVolume::dress()
 void SoundVolume::retranslate()
 {
     m_ui->retranslateUi(this);
+    m_ui->least->setNum(0);
+    m_ui->most->setNum(Player::kMostVolume);
     showVolume();
 }
 
@@ -101,51 +123,101 @@ void SoundVolume::showVolume()
     m_ui->state->setText(player.isMuted() ? tr("Muted") : tr("Volume"));
     m_ui->level->setEnabled(!player.isMuted());
 
-    const QRect dial = m_ui->dial->geometry();
-    const double angle =
-        qDegreesToRadians(kArc * (player.volume() * 1.0 / Player::kMostVolume - 0.5));
-    const double way = kMark * m_ui->dial->radius();
-    QRect mark = m_ui->mark->geometry();
-    mark.moveCenter(dial.center()
-                    + QPoint(qRound(way * std::sin(angle)), qRound(-way * std::cos(angle))));
-    m_ui->mark->setGeometry(mark);
+    showArc();
 }
 
-// The dial is larger than its panel: what is seen of it is the half with the arc. Its numbers would
-// be too small in a car: a knob with a large one covers them, and leaves the ticks.
+// The widest arc that has room with the numbers below its ends. Its texts are below its middle.
 void SoundVolume::layOutDial()
 {
+    const Theme &t = theme();
     const QSize panel = m_ui->dialPanel->size();
-    const int margin = theme().px(24);
-    const int radius = std::min(panel.width() / 2, panel.height()) - margin;
-    const QPoint middle(panel.width() / 2, panel.height() - 1);
-    const auto around = [&middle](int reach) {
-        return QRect(middle - QPoint(reach, reach), QSize(2 * reach, 2 * reach));
-    };
-    m_ui->dial->setGeometry(around(radius));
-    m_ui->dial->setRadius(radius);
-    m_ui->dial->setBgColor(theme().pressedFace);
-    m_ui->dial->setTextColor(theme().text);
-    m_ui->dial->setCenterColor(theme().accent);
+    const double half = qDegreesToRadians(kArc / 2);
+    const int knob = t.px(kKnob);
+    const int numbers = knob / 2 + t.textPx(Theme::Small) * 3 / 2;
+    const int across = qRound((panel.width() / 2.0 - knob / 2.0 - t.margin()) / std::sin(half));
+    const int down =
+        qRound((panel.height() - knob / 2.0 - numbers - 2 * t.gap()) / (1 - std::cos(half)));
+    m_arc.bar = std::min({across, down, t.px(kMostRadius)});
+    m_arc.ticks = m_arc.bar - knob / 2;
+    const int height = knob / 2 + qRound(m_arc.bar * (1 - std::cos(half))) + numbers;
+    m_arc.middle = QPoint(panel.width() / 2, (panel.height() - height) / 2 + knob / 2 + m_arc.bar);
 
-    const int knob = int(kKnob * radius);
-    QColor face = theme().face;
-    face.setAlpha(255);
-    m_ui->knob->setGeometry(around(knob));
-    m_ui->knob->setPixmap(theme().panel({2 * knob, 2 * knob}, face, theme().line, knob));
-    const int mark = theme().px(26);
-    m_ui->mark->resize(mark, mark);
-    m_ui->mark->setPixmap(theme().panel({mark, mark}, theme().accent, QColor(), mark / 2));
-    const int line = theme().textPx(Theme::Huge) * 4 / 3;
-    const int state = theme().textPx(Theme::Body) * 3 / 2;
-    const int top = middle.y() - theme().gap() - state - line;
-    m_ui->level->setGeometry(middle.x() - knob / 2, top, knob, line);
-    m_ui->state->setGeometry(middle.x() - knob / 2, top + line, knob, state);
-    dressLabel(*m_ui->level, theme(), Theme::Huge);
+    // What lies within the ticks is left to the texts; fingers and ticks have the ring.
+    const int reach = m_arc.bar + knob / 2;
+    const QPoint corner(reach, reach);
+    const int inner = int(kTicks * m_arc.ticks);
+    m_ui->dial->setGeometry(QRect(m_arc.middle - corner, 2 * QSize(reach, reach)));
+    m_ui->dial->setMask(
+        QRegion(m_ui->dial->rect(), QRegion::Ellipse)
+        - QRegion(QRect(corner - QPoint(inner, inner), 2 * QSize(inner, inner)), QRegion::Ellipse));
+    m_ui->dial->setRadius(m_arc.ticks);
+    m_ui->dial->setBgColor(Qt::transparent);
+    m_ui->dial->setCenterColor(Qt::transparent); // its pointer is a hair
+    m_ui->dial->setTextColor(t.quietText);
+    m_ui->arc->setGeometry(QRect(QPoint(), panel));
+    layOutTexts();
+}
+
+void SoundVolume::layOutTexts()
+{
+    const Theme &t = theme();
+    const int line = t.textPx(Theme::Huge) * 4 / 3;
+    const int state = t.textPx(Theme::Body) * 3 / 2;
+    const int number = t.textPx(Theme::Small) * 3 / 2;
+    const QPoint end = onArc(0).toPoint();
+    const int numberTop = end.y() + t.px(kKnob) / 2;
+    const int width = m_arc.ticks;
+    const int left = m_arc.middle.x() - width / 2;
+    const int ticksEnd = m_arc.middle.y() - int(kTicks * m_arc.ticks);
+    const int top = ticksEnd + (numberTop + number - ticksEnd - line - state) / 2;
+    m_ui->level->setGeometry(left, top, width, line);
+    m_ui->state->setGeometry(left, top + line, width, state);
+    const int end40 = onArc(Player::kMostVolume).toPoint().x();
+    m_ui->least->setGeometry(end.x() - number, numberTop, 2 * number, number);
+    m_ui->most->setGeometry(end40 - number, numberTop, 2 * number, number);
+    dressLabel(*m_ui->level, t, Theme::Huge);
     QPalette palette = m_ui->level->palette();
-    palette.setColor(QPalette::Disabled, QPalette::WindowText, theme().quietText);
+    palette.setColor(QPalette::Disabled, QPalette::WindowText, t.quietText);
     m_ui->level->setPalette(palette);
-    dressLabel(*m_ui->state, theme(), Theme::Body, true);
+    dressLabel(*m_ui->state, t, Theme::Body, true);
+    for (QLabel *label : {m_ui->least, m_ui->most})
+        dressLabel(*label, t, Theme::Small, true);
+}
+
+// As a straight slider: a groove that is filled up to the knob.
+void SoundVolume::showArc()
+{
+    const Theme &t = theme();
+    if (m_arc.bar == 0)
+        return; // not dressed yet
+    QPixmap picture(m_ui->arc->size());
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QPoint corner(m_arc.bar, m_arc.bar);
+    const QRectF circle(m_arc.middle - corner, 2 * QSizeF(m_arc.bar, m_arc.bar));
+    const bool isMuted = context().player.isMuted();
+    const int volume = context().player.volume();
+    const QColor color = isMuted ? t.quietText : t.accent;
+    const auto pen = [&t](const QColor &ink) {
+        return QPen(ink, t.px(kBar), Qt::SolidLine, Qt::RoundCap);
+    };
+    drawBar(painter, circle, pen(grooveColor(t)), Player::kMostVolume);
+    if (volume > 0)
+        drawBar(painter, circle, pen(color), volume);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color);
+    painter.drawEllipse(onArc(volume), t.px(kKnob) / 2.0, t.px(kKnob) / 2.0);
+    painter.setBrush(t.onAccent);
+    painter.drawEllipse(onArc(volume), t.px(12) / 2.0, t.px(12) / 2.0);
+    painter.end();
+    m_ui->arc->setPixmap(picture);
+}
+
+QPointF SoundVolume::onArc(int volume) const
+{
+    const double angle = qDegreesToRadians(degreesOf(volume));
+    return m_arc.middle + m_arc.bar * QPointF(std::cos(angle), -std::sin(angle));
 }
 
 void SoundVolume::dressKeys()

@@ -4,6 +4,8 @@
 
 #include "view.h"
 
+#include <QPoint>
+
 #include <memory>
 
 namespace Ui
@@ -14,7 +16,8 @@ class SoundVolume;
 namespace headunit
 {
 
-/// The volume as a dial, with a key that locks it at nothing.
+/// The volume as a slider that is bent around the ticks of a dial, with a key that locks it at
+/// nothing.
 class SoundVolume : public View
 {
     Q_OBJECT
@@ -32,9 +35,20 @@ private:
     void turnTo(double volume);
     void showVolume();
     void layOutDial();
+    void layOutTexts();
+    void showArc();
+    QPointF onArc(int volume) const;
     void dressKeys();
 
+    /// px in the panel of the dial; the bar runs around its ticks
+    struct Arc {
+        QPoint middle;
+        int ticks = 0; // radius
+        int bar = 0; // radius through its middle
+    };
+
     const std::unique_ptr<Ui::SoundVolume> m_ui;
+    Arc m_arc;
 };
 
 } // namespace headunit

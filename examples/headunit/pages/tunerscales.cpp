@@ -26,7 +26,7 @@ constexpr int kLabelHeight = 25;
 constexpr int kLargestLabel = 21;
 constexpr int kNeedleTop = 10;
 constexpr int kNeedleLabel = 20;
-constexpr int kNeedleTick = 18;
+constexpr int kTick = 18;
 
 // What stands at the tuned frequency: a line with a grip at its foot.
 QPixmap marker(const Theme &theme, int height, int grip)
@@ -45,9 +45,6 @@ QPixmap marker(const Theme &theme, int height, int grip)
     painter.drawEllipse(QPointF(width / 2.0, height - width / 2.0), grip * 0.4, grip * 0.4);
     return pixmap;
 }
-
-// The margin that brings the top of a picture, which stands in the middle by itself, to a row.
-int marginFor(int top, int pictureHeight, int height) { return top - (height - pictureHeight) / 2; }
 
 // A scale that goes on beyond its ends is not cut off there.
 void fadeEnds(QWidget &scale, int reach)
@@ -89,7 +86,6 @@ void TunerScales::dress(const Theme &theme)
     m_widgets.needle->setFont(labels);
     labels.setPixelSize(std::min(labels.pixelSize(), kLargestLabel));
     m_widgets.tape->setFont(labels);
-    m_widgets.pointer->setFont(labels);
     m_widgets.needle->setLineColor(theme.text);
     m_widgets.tape->setLineColor(theme.text);
     m_widgets.pointer->setLineColor(theme.text);
@@ -100,10 +96,27 @@ void TunerScales::layOut()
 {
     if (m_size.isEmpty())
         return;
+    layOutRows();
     layOutNeedle();
     layOutTape();
     layOutPointer();
     showFrequency();
+}
+
+// All three have the same rows, so that another scale changes nothing but the scale: the labels,
+// the ticks, and the grip below them. They stand in the middle together, as far as the needle's
+// labels let them, which keep away from its top.
+void TunerScales::layOutRows()
+{
+    const int gap = m_theme.px(3);
+    const int text = QFontMetrics(m_widgets.needle->font()).height();
+    m_rows.grip = m_theme.px(12);
+    const int all = text + kTick + 2 * gap + 2 * m_rows.grip + 1;
+    const int middle = (m_size.height() - all + text) / 2;
+    m_rows.needleLabels = std::max(0, (middle - kNeedleTop - kNeedleLabel / 2) * 2 / 3);
+    m_rows.labels = kNeedleTop + kNeedleLabel / 2 + m_rows.needleLabels * 3 / 2;
+    m_rows.ticks = m_rows.labels + text / 2 + gap;
+    m_rows.end = std::min(m_size.height(), m_rows.ticks + kTick + gap + 2 * m_rows.grip + 1);
 }
 
 // Every scale unit takes whole pixels, and the band with two units at either end stands in the
@@ -133,22 +146,27 @@ void TunerScales::layOutNeedle()
     scale.setInitByCustomeValue(true);
 }
 
-// The labels, the feet of the ticks and the grip below them stand in the middle together.
+// It begins below the labels, so that the one at the tuned frequency can be read.
 void TunerScales::placeNeedle()
 {
     MRadioMovePoint &scale = *m_widgets.needle;
-    const int grip = m_theme.px(13);
-    const int text = QFontMetrics(scale.font()).height();
-    const int space = m_size.height() - kNeedleTop - kNeedleLabel - kNeedleTick - 2 * grip;
-    const int labels = std::max(0, (2 * space - 52 + text) / 7);
-    const int foot = 2 * labels + kNeedleLabel + kNeedleTick + 2;
-    scale.setTxtYpos(labels);
-    scale.setLineYpos(foot);
-    const int bottom = std::min(m_size.height(), kNeedleTop + foot + 4 + 2 * grip + 1);
-    const QPixmap picture = marker(m_theme, bottom - labels - kNeedleTop, grip);
-    scale.setPointYpos(labels + kNeedleTop);
+    scale.setTxtYpos(m_rows.needleLabels);
+    scale.setLineYpos(m_rows.ticks + kTick - kNeedleTop);
+    const QPixmap picture = marker(m_theme, m_rows.end - m_rows.ticks, m_rows.grip);
+    scale.setPointYpos(m_rows.ticks);
     scale.setPointPix(picture);
     scale.findChild<MovePoint *>()->resize(picture.size()); // it keeps that of its first picture
+}
+
+// The rows of a tuner whose labels and picture have margins: the picture stands in the middle of
+// its height without one.
+template <typename Scale> void TunerScales::placeRows(Scale &scale) const
+{
+    const QPixmap picture = marker(m_theme, m_rows.end - m_rows.ticks, m_rows.grip);
+    scale.setTextMarginY(m_rows.labels - kLabelHeight / 2);
+    scale.setLineH(kTick / 3);
+    scale.setIndicatePix(picture);
+    scale.setPointMarginY(m_rows.ticks - (m_size.height() - picture.height()) / 2);
 }
 
 void TunerScales::layOutTape()
@@ -162,13 +180,8 @@ void TunerScales::layOutTape()
     scale.setLineGap(m_theme.px(12));
     scale.initSliderRange();
     scale.setTextPosition(MRadioSlider::TextTop);
-    const int ticks = kLabelHeight + m_theme.px(4);
-    const int height = m_size.height() - ticks;
-    scale.setScaleMarginY(-m_theme.px(10));
-    scale.setLineH((height - m_theme.px(14)) / 3);
-    const QPixmap picture = marker(m_theme, height, m_theme.px(13));
-    scale.setIndicatePix(picture);
-    scale.setPointMarginY(marginFor(ticks, picture.height(), m_size.height()));
+    placeRows(scale);
+    scale.setScaleMarginY(m_rows.ticks + kTick - m_size.height());
     fadeEnds(scale, m_theme.px(72));
 }
 
@@ -186,14 +199,23 @@ void TunerScales::layOutPointer()
     scale.setIsFM(isFm);
     scale.setMarginX(m_theme.px(30));
     scale.setFreqStep(isFm ? 0.5F : 20.0F);
-    const int ticks = kLabelHeight + m_theme.px(4);
-    const int grip = m_theme.px(13);
-    scale.setTextMarginY(0);
-    scale.setScaleMarginY(ticks);
-    scale.setLineH((m_size.height() - ticks - 2 * grip - m_theme.px(4)) / 3);
-    const QPixmap picture = marker(m_theme, m_size.height() - ticks, grip);
-    scale.setIndicatePix(picture);
-    scale.setPointMarginY(marginFor(ticks, picture.height(), m_size.height()));
+    scale.setFont(pointerFont());
+    placeRows(scale);
+    scale.setScaleMarginY(m_rows.ticks);
+}
+
+// All numbers of the scale stand beside each other, with gaps between them.
+QFont TunerScales::pointerFont() const
+{
+    const MKARVOSlider &scale = *m_widgets.pointer;
+    const bool isFm = m_tuner.band() == Band::Fm;
+    const int numbers = int(scale.getFreqEnd() - scale.getFreqStart()) / (isFm ? 1 : 100);
+    const int room = (m_size.width() - 2 * scale.marginX()) / numbers - m_theme.px(6);
+    QFont font = m_widgets.tape->font();
+    const QString longest = isFm ? QStringLiteral("108") : QStringLiteral("1700");
+    const int width = QFontMetrics(font).horizontalAdvance(longest);
+    font.setPixelSize(std::min(font.pixelSize(), font.pixelSize() * room / width));
+    return font;
 }
 
 void TunerScales::showFrequency()

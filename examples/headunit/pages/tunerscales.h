@@ -35,11 +35,23 @@ public:
     void dress(const Theme &theme);
 
 private:
+    /// px from the top of each
+    struct Rows {
+        int needleLabels = 0; // as the needle's tuner counts
+        int labels = 0; // their middle
+        int ticks = 0; // and of the line through them
+        int end = 0; // of the grip at its foot
+        int grip = 0; // its radius
+    };
+
     void layOut();
+    void layOutRows();
     void layOutNeedle();
     void placeNeedle();
+    template <typename Scale> void placeRows(Scale &scale) const;
     void layOutTape();
     void layOutPointer();
+    QFont pointerFont() const;
     void showFrequency();
     void tune(float frequency);
     float inDisplayUnits(int frequency) const;
@@ -48,6 +60,7 @@ private:
     Tuner &m_tuner;
     Theme m_theme;
     QSize m_size; // px, of each
+    Rows m_rows;
 };
 
 } // namespace headunit

@@ -66,7 +66,7 @@ bool makePiece(const QDir &folder, const Piece &piece)
 
 bool makeAll(const QDir &folder)
 {
-    const QDir music(folder.filePath(QStringLiteral("music")));
+    const QDir music(folder.filePath(QStringLiteral("Music")));
     if (!music.mkpath(QStringLiteral(".")))
         return false;
     for (const Piece &piece : allPieces()) {

@@ -20,12 +20,16 @@
         <translation>إنهاء</translation>
     </message>
     <message>
-        <source>Calling...</source>
-        <translation>جارٍ الاتصال...</translation>
+        <source>Calling…</source>
+        <translation>جارٍ الاتصال…</translation>
     </message>
     <message>
         <source>On hold, %1</source>
         <translation>قيد الانتظار، %1</translation>
+    </message>
+    <message>
+        <source>Connected, %1</source>
+        <translation>متصل، %1</translation>
     </message>
 </context>
 <context>
@@ -99,14 +103,6 @@
 <context>
     <name>headunit::HeadUnit</name>
     <message>
-        <source>Not ready</source>
-        <translation>غير جاهز</translation>
-    </message>
-    <message>
-        <source>This application is not ready yet.</source>
-        <translation>هذا التطبيق غير جاهز بعد.</translation>
-    </message>
-    <message>
         <source>Music</source>
         <translation>الموسيقى</translation>
     </message>
@@ -162,6 +158,10 @@
         <translation>الطقس</translation>
     </message>
     <message>
+        <source>Not available in this car.</source>
+        <translation>غير متوفر في هذه السيارة.</translation>
+    </message>
+    <message>
         <source>Nothing is playing</source>
         <translation>لا شيء قيد التشغيل</translation>
     </message>
@@ -172,6 +172,10 @@
 </context>
 <context>
     <name>headunit::Keypad</name>
+    <message>
+        <source>Enter a number</source>
+        <translation>أدخل رقمًا</translation>
+    </message>
     <message>
         <source>No recent numbers</source>
         <translation>لا مكالمات أخيرة</translation>
@@ -269,7 +273,7 @@
     </message>
     <message>
         <source>Contacts</source>
-        <translation>جهات الاتصال</translation>
+        <translation>الأسماء</translation>
     </message>
     <message>
         <source>Favourites</source>
@@ -287,8 +291,8 @@
         <translation>لا توجد موسيقى للتشغيل.</translation>
     </message>
     <message>
-        <source>There is nothing to play sound with here: the music goes on silently.</source>
-        <translation>لا يوجد مخرج صوت هنا: تستمر الموسيقى بصمت.</translation>
+        <source>No audio output was found: the music plays on without sound.</source>
+        <translation>لم يُعثر على مخرج صوت: تستمر الموسيقى دون صوت.</translation>
     </message>
     <message>
         <source>%1 cannot be played.</source>
@@ -307,14 +311,6 @@
     <message>
         <source>Radio</source>
         <translation>الراديو</translation>
-    </message>
-    <message>
-        <source>Seek</source>
-        <translation>بحث</translation>
-    </message>
-    <message>
-        <source>Step</source>
-        <translation>خطوة</translation>
     </message>
     <message>
         <source>Scan</source>
@@ -375,8 +371,8 @@
         <translation>ليل</translation>
     </message>
     <message>
-        <source>%1 %</source>
-        <translation>%1 %</translation>
+        <source>%1%</source>
+        <translation>%1%</translation>
     </message>
 </context>
 <context>
@@ -477,8 +473,8 @@
         <translation>اللغة</translation>
     </message>
     <message>
-        <source>Texts, numbers and times of all pages</source>
-        <translation>نصوص وأرقام وأوقات كل الصفحات</translation>
+        <source>Changes texts, numbers and times</source>
+        <translation>تغيّر النصوص والأرقام والأوقات</translation>
     </message>
 </context>
 <context>
@@ -531,8 +527,8 @@
         <translation>البحث عن تحديث</translation>
     </message>
     <message>
-        <source>Looking for an update...</source>
-        <translation>جارٍ البحث عن تحديث...</translation>
+        <source>Looking for an update…</source>
+        <translation>جارٍ البحث عن تحديث…</translation>
     </message>
     <message>
         <source>The update is being installed. You can go on driving.</source>
@@ -553,10 +549,6 @@
     <message>
         <source>done</source>
         <translation>تم</translation>
-    </message>
-    <message>
-        <source>ready</source>
-        <translation>جاهز</translation>
     </message>
 </context>
 <context>
@@ -586,8 +578,8 @@
         <translation>أمام</translation>
     </message>
     <message>
-        <source>To the middle</source>
-        <translation>إلى الوسط</translation>
+        <source>Centre sound</source>
+        <translation>توسيط الصوت</translation>
     </message>
     <message>
         <source>Left %1</source>
@@ -606,7 +598,7 @@
         <translation>أمام %1</translation>
     </message>
     <message>
-        <source>Middle</source>
+        <source>Centre</source>
         <translation>الوسط</translation>
     </message>
 </context>
@@ -636,14 +628,6 @@
         <source>Louder as the car goes faster</source>
         <translation>أعلى كلما زادت السرعة</translation>
     </message>
-    <message>
-        <source>Key clicks</source>
-        <translation>نقرات الأزرار</translation>
-    </message>
-    <message>
-        <source>A click for each touch</source>
-        <translation>نقرة عند كل لمسة</translation>
-    </message>
 </context>
 <context>
     <name>headunit::SoundEqualiser</name>
@@ -652,7 +636,7 @@
         <translation>الجهير</translation>
     </message>
     <message>
-        <source>Middle</source>
+        <source>Mid</source>
         <translation>المتوسط</translation>
     </message>
     <message>
@@ -679,8 +663,12 @@
         <translation>الصوت</translation>
     </message>
     <message>
-        <source>Equaliser</source>
-        <translation>المعادل</translation>
+        <source>Tone</source>
+        <translation>النغمة</translation>
+    </message>
+    <message>
+        <source>Levels</source>
+        <translation>المستويات</translation>
     </message>
     <message>
         <source>Balance</source>
@@ -692,7 +680,7 @@
     </message>
     <message>
         <source>Volume</source>
-        <translation>مستوى الصوت</translation>
+        <translation>الشدة</translation>
     </message>
 </context>
 <context>

@@ -20,12 +20,16 @@
         <translation>Auflegen</translation>
     </message>
     <message>
-        <source>Calling...</source>
-        <translation>Ruft an ...</translation>
+        <source>Calling…</source>
+        <translation>Ruft an …</translation>
     </message>
     <message>
         <source>On hold, %1</source>
         <translation>Gehalten, %1</translation>
+    </message>
+    <message>
+        <source>Connected, %1</source>
+        <translation>Verbunden, %1</translation>
     </message>
 </context>
 <context>
@@ -99,14 +103,6 @@
 <context>
     <name>headunit::HeadUnit</name>
     <message>
-        <source>Not ready</source>
-        <translation>Nicht bereit</translation>
-    </message>
-    <message>
-        <source>This application is not ready yet.</source>
-        <translation>Diese Anwendung ist noch nicht bereit.</translation>
-    </message>
-    <message>
         <source>Music</source>
         <translation>Musik</translation>
     </message>
@@ -162,6 +158,10 @@
         <translation>Wetter</translation>
     </message>
     <message>
+        <source>Not available in this car.</source>
+        <translation>In diesem Auto nicht vorhanden.</translation>
+    </message>
+    <message>
         <source>Nothing is playing</source>
         <translation>Es spielt nichts</translation>
     </message>
@@ -172,6 +172,10 @@
 </context>
 <context>
     <name>headunit::Keypad</name>
+    <message>
+        <source>Enter a number</source>
+        <translation>Nummer eingeben</translation>
+    </message>
     <message>
         <source>No recent numbers</source>
         <translation>Keine letzten Anrufe</translation>
@@ -287,8 +291,8 @@
         <translation>Es gibt keine Musik zum Spielen.</translation>
     </message>
     <message>
-        <source>There is nothing to play sound with here: the music goes on silently.</source>
-        <translation>Hier gibt es keine Tonausgabe: Die Musik läuft stumm weiter.</translation>
+        <source>No audio output was found: the music plays on without sound.</source>
+        <translation>Keine Tonausgabe gefunden: Die Musik läuft ohne Ton weiter.</translation>
     </message>
     <message>
         <source>%1 cannot be played.</source>
@@ -307,14 +311,6 @@
     <message>
         <source>Radio</source>
         <translation>Radio</translation>
-    </message>
-    <message>
-        <source>Seek</source>
-        <translation>Suche</translation>
-    </message>
-    <message>
-        <source>Step</source>
-        <translation>Schritt</translation>
     </message>
     <message>
         <source>Scan</source>
@@ -375,7 +371,7 @@
         <translation>Nacht</translation>
     </message>
     <message>
-        <source>%1 %</source>
+        <source>%1%</source>
         <translation>%1 %</translation>
     </message>
 </context>
@@ -477,8 +473,8 @@
         <translation>Sprache</translation>
     </message>
     <message>
-        <source>Texts, numbers and times of all pages</source>
-        <translation>Texte, Zahlen und Zeiten aller Seiten</translation>
+        <source>Changes texts, numbers and times</source>
+        <translation>Ändert Texte, Zahlen und Zeiten</translation>
     </message>
 </context>
 <context>
@@ -531,8 +527,8 @@
         <translation>Nach Updates suchen</translation>
     </message>
     <message>
-        <source>Looking for an update...</source>
-        <translation>Suche nach einem Update ...</translation>
+        <source>Looking for an update…</source>
+        <translation>Suche nach einem Update …</translation>
     </message>
     <message>
         <source>The update is being installed. You can go on driving.</source>
@@ -553,10 +549,6 @@
     <message>
         <source>done</source>
         <translation>fertig</translation>
-    </message>
-    <message>
-        <source>ready</source>
-        <translation>bereit</translation>
     </message>
 </context>
 <context>
@@ -586,8 +578,8 @@
         <translation>Vorn</translation>
     </message>
     <message>
-        <source>To the middle</source>
-        <translation>Zur Mitte</translation>
+        <source>Centre sound</source>
+        <translation>Klang zentrieren</translation>
     </message>
     <message>
         <source>Left %1</source>
@@ -606,7 +598,7 @@
         <translation>Vorn %1</translation>
     </message>
     <message>
-        <source>Middle</source>
+        <source>Centre</source>
         <translation>Mitte</translation>
     </message>
 </context>
@@ -636,14 +628,6 @@
         <source>Louder as the car goes faster</source>
         <translation>Lauter bei schneller Fahrt</translation>
     </message>
-    <message>
-        <source>Key clicks</source>
-        <translation>Tastenklick</translation>
-    </message>
-    <message>
-        <source>A click for each touch</source>
-        <translation>Ein Klick bei jeder Berührung</translation>
-    </message>
 </context>
 <context>
     <name>headunit::SoundEqualiser</name>
@@ -652,7 +636,7 @@
         <translation>Bass</translation>
     </message>
     <message>
-        <source>Middle</source>
+        <source>Mid</source>
         <translation>Mitten</translation>
     </message>
     <message>
@@ -679,8 +663,12 @@
         <translation>Klang</translation>
     </message>
     <message>
-        <source>Equaliser</source>
+        <source>Tone</source>
         <translation>Equalizer</translation>
+    </message>
+    <message>
+        <source>Levels</source>
+        <translation>Pegel</translation>
     </message>
     <message>
         <source>Balance</source>
