@@ -17,7 +17,8 @@ namespace
 constexpr qint64 kLargestScaledCopy = qint64(4096) * 1024;
 
 // The nearest-neighbour scaling of drawPixmap, done once: the same pixels, ready to be copied. They
-// are the same in this composition mode alone, for which Qt has scaling of its own.
+// are the same in this composition mode and without opacity alone, for which Qt has scaling of its
+// own.
 QImage scaledImage(const QPixmap &pixmap, const QSize &area)
 {
     QImage image(area, QImage::Format_ARGB32_Premultiplied);
@@ -70,7 +71,7 @@ void ImageLook::drawScaled(QPainter &painter, const QRect &target, const QPixmap
     const QSize area = target.size();
     const bool isWorthKeeping = kScalesAlikeUnderAnyClip && area != pixmap.size() && !area.isEmpty()
         && !pixmap.isQBitmap() && qint64(area.width()) * area.height() <= kLargestScaledCopy
-        && isOnPixels(painter);
+        && isOnPixels(painter) && painter.opacity() >= 1;
     if (!isWorthKeeping) {
         painter.drawPixmap(target, pixmap);
         return;

@@ -214,8 +214,16 @@ private slots:
                                       random.bounded(100) - random.bounded(size.height())),
                                size);
             ImageLook look;
-            COMPARE_PICTURES(onCanvas([&](QPainter &p) { look.drawScaled(p, target, picture); }),
-                             onCanvas([&](QPainter &p) { p.drawPixmap(target, picture); }));
+            for (const qreal opacity : {qreal(1), qreal(0.5)}) {
+                const auto fading = [&](const Paint &paint) {
+                    return onCanvas([&](QPainter &p) {
+                        p.setOpacity(opacity);
+                        paint(p);
+                    });
+                };
+                COMPARE_PICTURES(fading([&](QPainter &p) { look.drawScaled(p, target, picture); }),
+                                 fading([&](QPainter &p) { p.drawPixmap(target, picture); }));
+            }
         }
     }
 
