@@ -21,6 +21,7 @@ struct KnownNumbers {
 };
 
 struct KnownPictures {
+    int most = 0; // pictures of which a pixel differs by more than one level
     int mostLevels = 0; // of 255
     double mostPixels = 0; // in 10,000 of a picture
     QString why;
@@ -40,6 +41,8 @@ struct Tally {
     int largest = 0; // levels
     double mostPixels = 0; // by more than one level, in 10,000 of a picture
     QString worst; // the picture of these
+
+    int differing() const { return pictures - equal - oneLevel; }
 };
 
 QStringList linesOf(const QString &name)
@@ -67,8 +70,8 @@ bool take(const QString &line, const QString &platform, Known &known)
     if (kind == QLatin1String("pictures") && fields.size() == 4) {
         const QStringList limits = fields[2].split(QLatin1Char(' '));
         if (isMeant)
-            known.pictures[fields[1]] = {limits.value(0).toInt(), limits.value(1).toDouble(),
-                                         fields[3]};
+            known.pictures[fields[1]] = {limits.value(0).toInt(), limits.value(1).toInt(),
+                                         limits.value(2).toDouble(), fields[3]};
         return true;
     }
     return line.startsWith(QLatin1Char('#'));
@@ -147,14 +150,14 @@ bool compareNumbers(const QStringList &lines, const QStringList &others,
 
 bool isAllowed(const Tally &tally, const KnownPictures &known)
 {
-    return tally.largest <= std::max(1, known.mostLevels) && tally.mostPixels <= known.mostPixels;
+    return tally.differing() <= known.most && tally.largest <= std::max(1, known.mostLevels)
+        && tally.mostPixels <= known.mostPixels;
 }
 
 void print(const QString &className, const Tally &tally, const KnownPictures &known, bool isGood)
 {
     std::printf("%-22s %8d %8d %8d %8d %8d %8.1f  %s\n", qPrintable(className), tally.pictures,
-                tally.equal, tally.oneLevel, tally.pictures - tally.equal - tally.oneLevel,
-                tally.largest, tally.mostPixels,
+                tally.equal, tally.oneLevel, tally.differing(), tally.largest, tally.mostPixels,
                 isGood ? qPrintable(known.why)
                        : qPrintable(QStringLiteral("NOT KNOWN, see ") + tally.worst));
 }
