@@ -71,7 +71,8 @@ void ImageLook::drawScaled(QPainter &painter, const QRect &target, const QPixmap
     const QSize area = target.size();
     const bool isWorthKeeping = kScalesAlikeUnderAnyClip && area != pixmap.size() && !area.isEmpty()
         && !pixmap.isQBitmap() && qint64(area.width()) * area.height() <= kLargestScaledCopy
-        && isOnPixels(painter) && painter.opacity() >= 1;
+        && isOnPixels(painter) && painter.opacity() >= 1
+        && painter.compositionMode() == QPainter::CompositionMode_SourceOver;
     if (!isWorthKeeping) {
         painter.drawPixmap(target, pixmap);
         return;

@@ -214,15 +214,19 @@ private slots:
                                       random.bounded(100) - random.bounded(size.height())),
                                size);
             ImageLook look;
-            for (const qreal opacity : {qreal(1), qreal(0.5)}) {
-                const auto fading = [&](const Paint &paint) {
+            const Paint prepares[] = {
+                [](QPainter &) {}, [](QPainter &p) { p.setOpacity(qreal(0.5)); },
+                [](QPainter &p) { p.setCompositionMode(QPainter::CompositionMode_Multiply); }};
+            for (const Paint &prepare : prepares) {
+                const auto prepared = [&](const Paint &paint) {
                     return onCanvas([&](QPainter &p) {
-                        p.setOpacity(opacity);
+                        prepare(p);
                         paint(p);
                     });
                 };
-                COMPARE_PICTURES(fading([&](QPainter &p) { look.drawScaled(p, target, picture); }),
-                                 fading([&](QPainter &p) { p.drawPixmap(target, picture); }));
+                COMPARE_PICTURES(
+                    prepared([&](QPainter &p) { look.drawScaled(p, target, picture); }),
+                    prepared([&](QPainter &p) { p.drawPixmap(target, picture); }));
             }
         }
     }
