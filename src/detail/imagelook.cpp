@@ -17,8 +17,9 @@ namespace
 constexpr qint64 kLargestScaledCopy = qint64(4096) * 1024;
 
 // The nearest-neighbour scaling of drawPixmap, done once: the same pixels, ready to be copied. They
-// are the same in this composition mode alone, for which Qt has scaling of its own. What is opaque
-// stays so whatever its unused bits say: of damaged animations they say something.
+// are the same in this composition mode and without opacity alone, for which Qt has scaling of its
+// own. What is opaque stays so whatever its unused bits say: of damaged animations they say
+// something.
 QImage scaledImage(const QPixmap &pixmap, const QSize &area)
 {
     QImage image(area,
@@ -73,7 +74,8 @@ void ImageLook::drawScaled(QPainter &painter, const QRect &target, const QPixmap
     const QSize area = target.size();
     const bool isWorthKeeping = kScalesAlikeUnderAnyClip && area != pixmap.size() && !area.isEmpty()
         && !pixmap.isQBitmap() && qint64(area.width()) * area.height() <= kLargestScaledCopy
-        && isOnPixels(painter);
+        && isOnPixels(painter) && painter.opacity() >= 1
+        && painter.compositionMode() == QPainter::CompositionMode_SourceOver;
     if (!isWorthKeeping) {
         painter.drawPixmap(target, pixmap);
         return;

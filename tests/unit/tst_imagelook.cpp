@@ -231,8 +231,20 @@ private slots:
                                       random.bounded(100) - random.bounded(size.height())),
                                size);
             ImageLook look;
-            COMPARE_PICTURES(onCanvas([&](QPainter &p) { look.drawScaled(p, target, picture); }),
-                             onCanvas([&](QPainter &p) { p.drawPixmap(target, picture); }));
+            const Paint prepares[] = {
+                [](QPainter &) {}, [](QPainter &p) { p.setOpacity(qreal(0.5)); },
+                [](QPainter &p) { p.setCompositionMode(QPainter::CompositionMode_Multiply); }};
+            for (const Paint &prepare : prepares) {
+                const auto prepared = [&](const Paint &paint) {
+                    return onCanvas([&](QPainter &p) {
+                        prepare(p);
+                        paint(p);
+                    });
+                };
+                COMPARE_PICTURES(
+                    prepared([&](QPainter &p) { look.drawScaled(p, target, picture); }),
+                    prepared([&](QPainter &p) { p.drawPixmap(target, picture); }));
+            }
         }
     }
 
