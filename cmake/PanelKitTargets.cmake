@@ -2,6 +2,8 @@
 # How this project compiles: the warnings of its targets, and the second compilation of the library
 # with the single-precision coordinates of the device; and what its tests run under.
 
+include(CheckCXXSourceCompiles)
+
 add_library(panelkit_warnings INTERFACE)
 target_compile_options(panelkit_warnings INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Wcast-align
@@ -36,6 +38,31 @@ function(panelkit_check_single_precision target)
     target_link_libraries(${name} PRIVATE Qt${PANELKIT_QT}::Widgets panelkit_warnings)
     target_precompile_headers(${name} PRIVATE ${PANELKIT_PRECOMPILED})
     add_dependencies(single_precision ${name})
+endfunction()
+
+# The library calls its own functions directly, without a table that is filled when it is loaded. Not
+# its signals: their address has to be the one that a program sees, which is the program's own where it
+# is not position-independent.
+function(panelkit_bind_own_functions target)
+    set(CMAKE_REQUIRED_LINK_OPTIONS LINKER:--dynamic-list-data)
+    check_cxx_source_compiles("int main() { return 0; }" PANELKIT_HAS_DYNAMIC_LIST)
+    if(NOT BUILD_SHARED_LIBS OR NOT PANELKIT_HAS_DYNAMIC_LIST)
+        return()
+    endif()
+    set(promise ${PROJECT_SOURCE_DIR}/packaging/abi/interface.txt)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${promise})
+    file(STRINGS ${promise} lines REGEX "^class | signal ")
+    set(signals "")
+    foreach(line IN LISTS lines)
+        if(line MATCHES "^class ([A-Za-z]+)")
+            set(class ${CMAKE_MATCH_1})
+        elseif(line MATCHES " signal ([A-Za-z]+)")
+            string(APPEND signals "${class}::${CMAKE_MATCH_1}*;\n")
+        endif()
+    endforeach()
+    set(list ${CMAKE_CURRENT_BINARY_DIR}/signals.list)
+    file(WRITE ${list} "{ extern \"C++\" {\n${signals}}; };\n")
+    target_link_options(${target} PRIVATE LINKER:--dynamic-list-data LINKER:--dynamic-list=${list})
 endfunction()
 
 set(PANELKIT_TEST_ENVIRONMENT

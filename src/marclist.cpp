@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "marclist.h"
 
+#include "detail/accessible.h"
 #include "detail/arithmetic.h"
 #include "detail/deviceview.h"
 #include "detail/geometry.h"
@@ -82,6 +83,7 @@ public:
         }
     };
 
+    static double tell(const QWidget *widget, AccessibleFact fact, const QPoint &at);
     bool isItem(qint64 index) const;
     double arcEnd() const;
     double lastFirstRow() const;
@@ -122,6 +124,7 @@ public:
 /** An empty list, on an arc. */
 MArcList::MArcList(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
 {
+    installAccessibility(AccessibleTeller::ArcList, Private::tell);
     connect(&d->flingTimer, SIGNAL(timeout()), this, SLOT(speedTimerSlot()));
 }
 
@@ -541,4 +544,22 @@ void MArcList::Private::drawMarker(QPainter &painter, int marker, int index)
     const QRectF area = QRectF(rect).adjusted(-1, -1, 1, 1);
     markers[std::size_t(marker)].draw(painter, turned, area, {pointPixmap.cacheKey()},
                                       [&](QPainter &p) { p.drawPixmap(rect, pointPixmap); });
+}
+
+// To accessibility. Of the pressed letter it tells the number, not the index.
+double MArcList::Private::tell(const QWidget *widget, AccessibleFact fact, const QPoint &at)
+{
+    const Private &d = *static_cast<const MArcList *>(widget)->d;
+    switch (fact) {
+    case AccessibleFact::Letters:
+        return int(d.characters.size());
+    case AccessibleFact::LetterAt:
+        return d.characters.value(at.x()).unicode();
+    case AccessibleFact::CurrentLetter:
+        return d.currentIndex;
+    case AccessibleFact::IsPressed:
+        return d.pressedIndex + 1;
+    default:
+        return 0;
+    }
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "marcscrollbar.h"
 
+#include "detail/accessible.h"
 #include "detail/arithmetic.h"
 #include "detail/deviceview.h"
 #include "detail/geometry.h"
@@ -14,6 +15,7 @@
 #include <array>
 #include <cmath>
 #include <functional>
+#include <limits>
 #include <optional>
 
 using namespace panelkit;
@@ -78,8 +80,12 @@ public:
     double pointerAngle() const;
     bool ticksStandApart(const QPainter &painter) const;
     void drawTicksOneByOne(QPainter &painter) const;
+    double exactAt(const QPoint &p) const;
+    double exactOnColumn(const QPoint &p) const;
     void touch(const QPoint &p, bool release);
+    int wholeValue(double exact) const;
     void takeValue(double exact, bool release);
+    static double tell(const QWidget *widget, AccessibleFact fact, const QPoint &at);
 
     MArcScrollBar *const q;
     double radius = 570.0; // px, below 1: straight
@@ -99,6 +105,7 @@ public:
 MArcScrollBar::MArcScrollBar(QWidget *parent)
     : QScrollBar(parent), d(std::make_unique<Private>(this))
 {
+    installAccessibility(AccessibleTeller::ArcScrollBar, Private::tell);
     setAttribute(Qt::WA_WState_OwnSizePolicy);
     setAttribute(Qt::WA_OpaquePaintEvent, false);
 }
@@ -298,27 +305,12 @@ void MArcScrollBar::drawPointerVert(QPainter *painter)
  * the position of the slider, with sliderMoved, and on the release as the value. A point exactly
  * above, below or beside the centre is ignored, and so is one that makes no difference.
  */
-void MArcScrollBar::calcCurValue(QPoint p, bool release)
-{
-    const double x = double(p.x()) - toInt(double(d->centerPoint.x()));
-    const double y = double(p.y()) - toInt(double(d->centerPoint.y()));
-    const double off = std::sqrt(x * x + y * y) - d->radius;
-    if (!(off > -kReach && off < kReach))
-        return;
-    const std::optional<double> direction = touchDirection(x, y, 0);
-    if (!direction)
-        return;
-    double along = *direction + d->rotateAngle - d->startAngle;
-    if (along >= kFullTurn)
-        along = std::fmod(along, kFullTurn);
-    d->takeValue(minimum() + ratio(along * double(d->range()), d->span()), release);
-}
+void MArcScrollBar::calcCurValue(QPoint p, bool release) { d->takeValue(d->exactAt(p), release); }
 
 /** Sets the value from the height of a point, in the same way as calcCurValue(). */
 void MArcScrollBar::calcCurValueVert(QPoint p, bool release)
 {
-    d->takeValue(minimum() + ratio((p.y() - kMargin) * double(d->range()), height() - 2 * kMargin),
-                 release);
+    d->takeValue(d->exactOnColumn(p), release);
 }
 
 void MArcScrollBar::paintEvent(QPaintEvent *e)
@@ -427,7 +419,7 @@ void MArcScrollBar::Private::takeValue(double exact, bool release)
 {
     if (std::isnan(exact))
         return;
-    const int wanted = toInt(std::clamp(exact, double(q->minimum()), double(q->maximum())));
+    const int wanted = wholeValue(exact);
     if (wanted == q->value())
         return;
     const QPointer<MArcScrollBar> guard(q);
@@ -440,4 +432,40 @@ void MArcScrollBar::Private::takeValue(double exact, bool release)
         if (guard)
             emit q->sliderMoved(wanted);
     }
+}
+
+// Before it is bounded; no number where a touch of the arc is none.
+double MArcScrollBar::Private::exactAt(const QPoint &p) const
+{
+    constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
+    const double x = double(p.x()) - toInt(double(centerPoint.x()));
+    const double y = double(p.y()) - toInt(double(centerPoint.y()));
+    const double off = std::sqrt(x * x + y * y) - radius;
+    if (!(off > -kReach && off < kReach))
+        return kNone;
+    const std::optional<double> direction = touchDirection(x, y, 0);
+    if (!direction)
+        return kNone;
+    double along = *direction + rotateAngle - startAngle;
+    if (along >= kFullTurn)
+        along = std::fmod(along, kFullTurn);
+    return q->minimum() + ratio(along * double(range()), span());
+}
+
+double MArcScrollBar::Private::exactOnColumn(const QPoint &p) const
+{
+    return q->minimum() + ratio((p.y() - kMargin) * double(range()), q->height() - 2 * kMargin);
+}
+
+int MArcScrollBar::Private::wholeValue(double exact) const
+{
+    return toInt(std::clamp(exact, double(q->minimum()), double(q->maximum())));
+}
+
+// To accessibility.
+double MArcScrollBar::Private::tell(const QWidget *widget, AccessibleFact, const QPoint &at)
+{
+    const Private &d = *static_cast<const MArcScrollBar *>(widget)->d;
+    const double exact = d.isStraight() ? d.exactOnColumn(at) : d.exactAt(at);
+    return std::isnan(exact) ? exact : d.wholeValue(exact);
 }

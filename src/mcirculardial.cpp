@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mcirculardial.h"
 
+#include "detail/accessible.h"
 #include "detail/arithmetic.h"
 #include "detail/deviceview.h"
 #include "detail/geometry.h"
@@ -15,6 +16,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 #include <optional>
 
 using namespace panelkit;
@@ -128,7 +130,9 @@ public:
     void drawPointer(QPainter &painter) const;
     void drawValue(QPainter &painter) const;
     void takeTouch(QMouseEvent *e, bool release);
+    std::optional<double> valueAt(const QPoint &p) const;
     void calcCurValue(QPoint p, bool release);
+    static double tell(const QWidget *widget, AccessibleFact fact, const QPoint &at);
 
     MCircularDial *const q;
     double radius = 250.0; // px
@@ -151,6 +155,7 @@ public:
 /** A dial of 250 px at the lower end of the FM band. */
 MCircularDial::MCircularDial(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
 {
+    installAccessibility(AccessibleTeller::CircularDial, Private::tell);
 }
 
 MCircularDial::~MCircularDial() = default;
@@ -509,26 +514,41 @@ void MCircularDial::Private::drawValue(QPainter &painter) const
 // The value for a point, if it is near the rim. The angle is used as it is where the dial does not
 // reach: that is a value outside the range, which is ignored, as are points exactly above, below or
 // beside the centre. The report carries the value that was touched.
-void MCircularDial::Private::calcCurValue(QPoint p, bool release)
+std::optional<double> MCircularDial::Private::valueAt(const QPoint &p) const
 {
     const QPoint centre(q->width() / 2, q->height() / 2);
     const double x = double(p.x()) - centre.x();
     const double y = double(p.y()) - centre.y();
     const double off = std::sqrt(x * x + y * y) - radius;
     if (!(off > -kReach && off < kReach))
-        return;
+        return {};
     const std::optional<double> direction = touchDirection(x, y, 0);
     if (!direction)
-        return;
+        return {};
     double along = *direction - rotateAngle + 0.5 * startAngle;
     if (along >= kFullTurn)
         along = std::fmod(along, kFullTurn);
     const double touched = minValue + ratio((maxValue - minValue) * along, span());
-    if (!(touched >= minValue && touched <= maxValue) || std::abs(touched - value) <= kFinestValue)
+    if (!(touched >= minValue && touched <= maxValue))
+        return {};
+    return touched;
+}
+
+void MCircularDial::Private::calcCurValue(QPoint p, bool release)
+{
+    const std::optional<double> touched = valueAt(p);
+    if (!touched || std::abs(*touched - value) <= kFinestValue)
         return;
-    q->setValue(touched);
+    q->setValue(*touched);
     if (release)
-        emit q->valueChanged(touched);
+        emit q->valueChanged(*touched);
     else
-        emit q->currentValueChange(touched);
+        emit q->currentValueChange(*touched);
+}
+
+// To accessibility.
+double MCircularDial::Private::tell(const QWidget *widget, AccessibleFact, const QPoint &at)
+{
+    const std::optional<double> value = static_cast<const MCircularDial *>(widget)->d->valueAt(at);
+    return value.value_or(std::numeric_limits<double>::quiet_NaN());
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mfocusbutton.h"
 
+#include "detail/accessible.h"
 #include "detail/fonts.h"
 #include "detail/geometry.h"
 #include "detail/imagelook.h"
@@ -53,6 +54,7 @@ public:
 MFocusButton::MFocusButton(QWidget *parent)
     : QRadioButton(parent), d(std::make_unique<Private>(this))
 {
+    installAccessibility();
 }
 
 MFocusButton::~MFocusButton() = default;

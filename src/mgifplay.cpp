@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mgifplay.h"
 
+#include "detail/accessible.h"
 #include "detail/imagefile.h"
 #include "detail/imagelook.h"
 #include "detail/keyrequest.h"
@@ -40,6 +41,7 @@ public:
 /** A player without a file: it paints nothing. It stands above its siblings. */
 MGifPlay::MGifPlay(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
 {
+    installAccessibility();
     raise();
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mhorslider.h"
 
+#include "detail/accessible.h"
 #include "detail/arithmetic.h"
 #include "detail/geometry.h"
 #include "detail/keyrequest.h"
@@ -36,6 +37,8 @@ public:
     void layOutLabels(const QRect &valueRect);
     void placeFill(int value, int knobLeft);
     int knobLeftAt(int x) const;
+    int valueAt(int x) const;
+    static double tell(const QWidget *widget, AccessibleFact fact, const QPoint &at);
     bool isDrawnDisabled() const;
 
     MHorSlider *const q;
@@ -64,6 +67,7 @@ public:
 /** A slider for -5 to 5 at 0 that shows nothing before it has its pictures. */
 MHorSlider::MHorSlider(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
 {
+    installAccessibility(AccessibleTeller::HorSlider, Private::tell);
     d->knob = new QLabel(this);
     d->valueLabel = new QLabel(this);
 }
@@ -213,10 +217,7 @@ void MHorSlider::setTouchPos(int value)
 /** Sets the value from a touch at this x; a change is reported with valueChangeSig. */
 void MHorSlider::setTouchPos(QPoint pos)
 {
-    const qint64 range = qint64(d->maxValue) - d->minValue;
-    const qint64 way = d->knobLeftAt(pos.x()) - d->grooveRect.left();
-    const int travel = d->grooveRect.width() - d->pointNormalImage.width();
-    const int value = travel == 0 ? d->minValue : saturated(range * way / travel + d->minValue);
+    const int value = d->valueAt(pos.x());
     if (value == d->currentValue)
         return;
     setCurrentValue(value);
@@ -345,4 +346,18 @@ bool MHorSlider::Private::isDrawnDisabled() const
 {
     return !q->isEnabled() && !sliderNormalDisableImage.isNull()
         && !sliderPressDisableImage.isNull();
+}
+
+int MHorSlider::Private::valueAt(int x) const
+{
+    const qint64 range = qint64(maxValue) - minValue;
+    const qint64 way = knobLeftAt(x) - grooveRect.left();
+    const int travel = grooveRect.width() - pointNormalImage.width();
+    return travel == 0 ? minValue : saturated(range * way / travel + minValue);
+}
+
+// To accessibility.
+double MHorSlider::Private::tell(const QWidget *widget, AccessibleFact, const QPoint &at)
+{
+    return static_cast<const MHorSlider *>(widget)->d->valueAt(at.x());
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mkarvoslider.h"
 
+#include "detail/accessible.h"
 #include "detail/arithmetic.h"
 #include "detail/memo.h"
 #include "detail/scalepicture.h"
@@ -121,6 +122,7 @@ public:
     struct Tick;
 
     float freqAt(int x);
+    static double tell(const QWidget *widget, AccessibleFact fact, const QPoint &at);
     void tune(float freq);
     Look look() const;
     void layOut();
@@ -174,6 +176,7 @@ struct MKARVOSlider::Private::Tick {
  */
 MKARVOSlider::MKARVOSlider(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
 {
+    installAccessibility(AccessibleTeller::KarvoSlider, Private::tell);
     d->font.setPixelSize(20);
     initSliderRange();
 }
@@ -525,4 +528,10 @@ void MKARVOSlider::Private::drawIndicator(QPainter &painter) const
     const QRectF target({qreal(left), qreal(top)}, QSizeF(size));
     if (target.intersects(QRectF(q->rect())))
         painter.drawPixmap(target, indicatePix, QRectF());
+}
+
+// To accessibility.
+double MKARVOSlider::Private::tell(const QWidget *widget, AccessibleFact, const QPoint &at)
+{
+    return double(static_cast<const MKARVOSlider *>(widget)->d->freqAt(at.x()));
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mlistview.h"
 
+#include "detail/accessible.h"
 #include "detail/geometry.h"
 #include "spiconbutton.h"
 
@@ -38,6 +39,7 @@ public:
 MListView::MListView(QWidget *parent, SpTableList *list, QRect rect)
     : QWidget(parent), d(std::make_unique<Private>(this))
 {
+    installAccessibility();
     d->tableList = list;
     d->viewRect = rect;
     setGeometry(d->viewRect);

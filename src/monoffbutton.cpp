@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "monoffbutton.h"
 
+#include "detail/accessible.h"
 #include "detail/arithmetic.h"
 #include "detail/geometry.h"
 #include "detail/keyrequest.h"
@@ -122,6 +123,7 @@ struct MOnOffButton::Private::Surface {
 /** A switch that is off, of at least 90 x 44 px, painted in ONOFF_STYLE_0. */
 MOnOffButton::MOnOffButton(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
 {
+    installAccessibility();
     setMinimumSize(kSmallestSize);
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "moprogress.h"
 
+#include "detail/accessible.h"
 #include "detail/fonts.h"
 #include "detail/geometry.h"
 #include "detail/memo.h"
@@ -72,7 +73,10 @@ public:
 };
 
 /** A ring of 100 px at 50 %. */
-MOProgress::MOProgress(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this)) { }
+MOProgress::MOProgress(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
+{
+    installAccessibility();
+}
 
 MOProgress::~MOProgress() = default;
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mpresetbutton.h"
 
+#include "detail/accessible.h"
 #include "detail/arithmetic.h"
 #include "detail/fonts.h"
 #include "detail/geometry.h"
@@ -76,6 +77,7 @@ public:
 MPresetButton::MPresetButton(QWidget *parent)
     : QCheckBox(parent), d(std::make_unique<Private>(this))
 {
+    installAccessibility();
 }
 
 MPresetButton::~MPresetButton() = default;

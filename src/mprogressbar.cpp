@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mprogressbar.h"
 
+#include "detail/accessible.h"
 #include "detail/arithmetic.h"
 #include "detail/geometry.h"
 #include "detail/keyrequest.h"
@@ -45,6 +46,7 @@ public:
     int bounded(int value) const;
     int partOf(int length) const;
     int valueAt(int x) const;
+    static double tell(const QWidget *widget, AccessibleFact fact, const QPoint &at);
     QRect grooveRect() const;
     QRect knobRect() const;
     const QPixmap &currentKnob() const;
@@ -79,8 +81,10 @@ public:
 };
 
 /** A bar from 0 to 100 that shows 50, in plain colours and without a knob. */
-MProgressBar::MProgressBar(QWidget *parent)
-    : QWidget(parent), d(std::make_unique<Private>(this)) { }
+MProgressBar::MProgressBar(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
+{
+    installAccessibility(AccessibleTeller::ProgressBar, Private::tell);
+}
 
 MProgressBar::~MProgressBar() = default;
 
@@ -423,4 +427,10 @@ void MProgressBar::Private::drawPlain(QPainter &painter) const
         return;
     painter.setBrush(pressed ? pointPressColor : pointNormalColor);
     painter.drawEllipse(QRect(left, (q->height() - knob) / 2, knob, knob));
+}
+
+// To accessibility.
+double MProgressBar::Private::tell(const QWidget *widget, AccessibleFact, const QPoint &at)
+{
+    return static_cast<const MProgressBar *>(widget)->d->valueAt(at.x());
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mradiomovepoint.h"
 
+#include "detail/accessible.h"
 #include "detail/arithmetic.h"
 #include "detail/geometry.h"
 #include "detail/memo.h"
@@ -129,6 +130,7 @@ ScaleBkg::ScaleBkg(int freqStart, int freqEnd, int step, int lineStart, int line
                    int pixCountMeta, int bMid, int bLarge, int totalCountMeta)
     : QLabel(parent), d(std::make_unique<Private>(this))
 {
+    installAccessibility();
     d->owner = owner;
     if (owner)
         d->lineY = owner->getLineYpos();
@@ -349,6 +351,7 @@ MovePoint::MovePoint(int lineStart, int firstTick, int minFreq, int step, int ma
                      const MapPixAndHz &map, QPixmap *pixmap, MRadioMovePoint *owner)
     : QLabel(owner), d(std::make_unique<Private>())
 {
+    installAccessibility();
     d->lineStart = lineStart;
     d->firstTick = firstTick;
     d->minFreq = minFreq;
@@ -482,6 +485,7 @@ public:
  */
 MRadioMovePoint::MRadioMovePoint(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>())
 {
+    installAccessibility();
     constexpr char kFunction[] = "MRadioMovePoint::MRadioMovePoint(QWidget*)";
     setGeometry(80, 10, 831, 400);
     d->pointPix.fill(QColor(0, 0, 255));

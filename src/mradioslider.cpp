@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mradioslider.h"
 
+#include "detail/accessible.h"
 #include "detail/arithmetic.h"
 #include "detail/memo.h"
 #include "detail/scalepicture.h"
@@ -85,6 +86,7 @@ public:
         }
     };
 
+    static double tell(const QWidget *widget, AccessibleFact fact, const QPoint &at);
     Look look() const;
     void layOut();
     void addTick(int count, int x);
@@ -126,6 +128,7 @@ public:
  */
 MRadioSlider::MRadioSlider(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
 {
+    installAccessibility(AccessibleTeller::RadioSlider, Private::tell);
     initSliderRange();
 }
 
@@ -385,4 +388,10 @@ void MRadioSlider::Private::drawIndicator(QPainter &painter) const
     const QRectF target({qreal(left), qreal(top)}, QSizeF(size));
     if (target.intersects(QRectF(q->rect())))
         painter.drawPixmap(target, indicatePix, QRectF());
+}
+
+// To accessibility.
+double MRadioSlider::Private::tell(const QWidget *widget, AccessibleFact, const QPoint &)
+{
+    return static_cast<const MRadioSlider *>(widget)->d->scrollX;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mselectbutton.h"
 
+#include "detail/accessible.h"
 #include "detail/arithmetic.h"
 #include "detail/fonts.h"
 #include "detail/geometry.h"
@@ -31,6 +32,7 @@ class Q_DECL_HIDDEN MSelectButton::Private
 public:
     explicit Private(MSelectButton *widget) : q(widget) { }
 
+    static double tell(const QWidget *widget, AccessibleFact fact, const QPoint &at);
     bool isActive() const;
     const QPixmap &shownImage() const;
     QColor shownTextColor() const;
@@ -64,6 +66,7 @@ public:
 /** A button without pictures and caption: it paints nothing until it is given some. */
 MSelectButton::MSelectButton(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
 {
+    installAccessibility(AccessibleTeller::SelectButton, Private::tell);
 }
 
 MSelectButton::~MSelectButton() = default;
@@ -311,4 +314,11 @@ void MSelectButton::Private::drawCaption(QPainter &painter) const
         return;
     painter.setPen(shownTextColor());
     caption.draw(painter, boundedOr(displayTextRect, q->rect()), Qt::AlignCenter, displayText);
+}
+
+// To accessibility.
+double MSelectButton::Private::tell(const QWidget *widget, AccessibleFact fact, const QPoint &)
+{
+    const Private &d = *static_cast<const MSelectButton *>(widget)->d;
+    return fact == AccessibleFact::IsPressed ? d.isPressed : d.disableState;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "multiplestatebutton.h"
 
+#include "detail/accessible.h"
 #include "detail/geometry.h"
 #include "detail/imagefile.h"
 
@@ -23,6 +24,7 @@ constexpr qreal kDimmed = 0.5; // opacity while disabled
 class Q_DECL_HIDDEN MultipleStateButton::Private
 {
 public:
+    static double tell(const QWidget *widget, AccessibleFact fact, const QPoint &at);
     QPixmap stateImage() const;
 
     QList<QPixmap> normalImages; // one for each state
@@ -47,6 +49,7 @@ MultipleStateButton::MultipleStateButton(int x, int y, int id, QStringList norma
                                          QWidget *parent)
     : QWidget(parent), d(std::make_unique<Private>())
 {
+    installAccessibility(AccessibleTeller::MultipleStateButton, Private::tell);
     d->background = pixmapFromFile(backgroundPath);
     d->buttonId = id;
     d->disabled = normalPaths.isEmpty() || normalPaths.size() != pressPaths.size();
@@ -129,4 +132,14 @@ QPixmap MultipleStateButton::Private::stateImage() const
 {
     const bool isPressedShown = pressed && !disabled;
     return (isPressedShown ? pressImages : normalImages).value(buttonValue);
+}
+
+// To accessibility.
+double MultipleStateButton::Private::tell(const QWidget *widget, AccessibleFact fact,
+                                          const QPoint &)
+{
+    const Private &d = *static_cast<const MultipleStateButton *>(widget)->d;
+    if (fact == AccessibleFact::StateCount)
+        return int(d.normalImages.size());
+    return fact == AccessibleFact::IsPressed ? d.pressed : d.disabled;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mvscrolllabel.h"
 
+#include "detail/accessible.h"
 #include "detail/arithmetic.h"
 #include "detail/geometry.h"
 #include "detail/linescache.h"
@@ -83,6 +84,7 @@ public:
 MVScrollLabel::MVScrollLabel(QWidget *parent, Qt::WindowFlags flags)
     : QLabel(parent, flags), d(std::make_unique<Private>(this))
 {
+    installAccessibility();
     connect(this, SIGNAL(currentTextChanged()), this, SLOT(metrics()));
 }
 

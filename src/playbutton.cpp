@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "playbutton.h"
 
+#include "detail/accessible.h"
 #include "detail/geometry.h"
 #include "detail/imagefile.h"
 
@@ -22,6 +23,8 @@ constexpr int kOnlyState = 0;
 class Q_DECL_HIDDEN PlayButton::Private
 {
 public:
+    static double tell(const QWidget *widget, AccessibleFact fact, const QPoint &at);
+
     QPixmap normalImage;
     QPixmap pressImage;
     int buttonId = 0;
@@ -37,6 +40,7 @@ public:
 PlayButton::PlayButton(int x, int y, int id, QString normalPath, QString pressPath, QWidget *parent)
     : QWidget(parent), d(std::make_unique<Private>())
 {
+    installAccessibility(AccessibleTeller::PlayButton, Private::tell);
     d->normalImage = pixmapFromFile(normalPath);
     d->pressImage = pixmapFromFile(pressPath);
     d->buttonId = id;
@@ -84,4 +88,11 @@ void PlayButton::mouseReleaseEvent(QMouseEvent *)
     emit clicked(d->buttonId, kOnlyState);
     if (guard)
         update();
+}
+
+// To accessibility.
+double PlayButton::Private::tell(const QWidget *widget, AccessibleFact fact, const QPoint &)
+{
+    const Private &d = *static_cast<const PlayButton *>(widget)->d;
+    return fact == AccessibleFact::IsPressed ? d.pressed : d.disabled;
 }

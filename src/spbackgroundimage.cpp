@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "spbackgroundimage.h"
 
+#include "detail/accessible.h"
 #include "detail/deviceview.h"
 #include "detail/layercache.h"
 
@@ -30,6 +31,7 @@ public:
 SpBackgroundImage::SpBackgroundImage(QWidget *parent)
     : QWidget(parent), d(std::make_unique<Private>(this))
 {
+    installAccessibility();
 }
 
 SpBackgroundImage::~SpBackgroundImage() = default;

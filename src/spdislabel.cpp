@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "spdislabel.h"
 
+#include "detail/accessible.h"
 #include "detail/fonts.h"
 #include "detail/geometry.h"
 #include "detail/keyrequest.h"
@@ -73,6 +74,7 @@ public:
  */
 SpDisLabel::SpDisLabel(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
 {
+    installAccessibility();
     d->text = QObject::tr("text");
 }
 

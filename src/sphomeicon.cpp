@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "sphomeicon.h"
 
+#include "detail/accessible.h"
 #include "detail/fonts.h"
 #include "detail/geometry.h"
 #include "detail/imagefile.h"
@@ -113,6 +114,7 @@ struct SpHomeIcon::Private::Layers {
 /** A tile without a picture, above its siblings. It has no size until it is given a picture. */
 SpHomeIcon::SpHomeIcon(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
 {
+    installAccessibility();
     d->iconText = QObject::tr("Text");
     raise();
 }

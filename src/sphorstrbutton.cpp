@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "sphorstrbutton.h"
 
+#include "detail/accessible.h"
 #include "detail/fonts.h"
 #include "detail/geometry.h"
 #include "detail/imagefile.h"
@@ -39,6 +40,7 @@ public:
 
     struct Places;
 
+    static double tell(const QWidget *widget, AccessibleFact fact, const QPoint &at);
     Places places() const;
     QColor captionColor() const;
     void drawBackground(QPainter &painter) const;
@@ -78,6 +80,7 @@ struct SpHorStrButton::Private::Places {
 SpHorStrButton::SpHorStrButton(QWidget *parent)
     : QWidget(parent), d(std::make_unique<Private>(this))
 {
+    installAccessibility(AccessibleTeller::HorStrButton, Private::tell);
 }
 
 /**
@@ -89,6 +92,7 @@ SpHorStrButton::SpHorStrButton(StrPosition pos, QString id, QString text, QStrin
                                QString press, QString disable, QWidget *parent)
     : QWidget(parent), d(std::make_unique<Private>(this))
 {
+    installAccessibility(AccessibleTeller::HorStrButton, Private::tell);
     d->stringPosition = pos;
     d->buttonId = id;
     d->displayString = text;
@@ -338,4 +342,11 @@ void SpHorStrButton::Private::drawCaption(QPainter &painter, const Places &place
 {
     painter.setPen(captionColor());
     caption.draw(painter, places.text, places.flags, displayString);
+}
+
+// To accessibility.
+double SpHorStrButton::Private::tell(const QWidget *widget, AccessibleFact fact, const QPoint &)
+{
+    const Private &d = *static_cast<const SpHorStrButton *>(widget)->d;
+    return fact == AccessibleFact::IsPressed ? d.pressState : d.btnDisable;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "spiconbutton.h"
 
+#include "detail/accessible.h"
 #include "detail/arithmetic.h"
 #include "detail/fonts.h"
 #include "detail/geometry.h"
@@ -93,8 +94,10 @@ struct SpIconButton::Private::Look {
  * A button without pictures and caption: it paints nothing until it is given some. Size policy,
  * font, attributes and window flags are those of a plain QWidget.
  */
-SpIconButton::SpIconButton(QWidget *parent)
-    : QWidget(parent), d(std::make_unique<Private>(this)) { }
+SpIconButton::SpIconButton(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
+{
+    installAccessibility();
+}
 
 SpIconButton::~SpIconButton() = default;
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "splabel.h"
 
+#include "detail/accessible.h"
 #include "detail/imagelook.h"
 
 #include <QMouseEvent>
@@ -34,7 +35,10 @@ public:
 };
 
 /** A label without a picture: it paints nothing. */
-SpLabel::SpLabel(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this)) { }
+SpLabel::SpLabel(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
+{
+    installAccessibility();
+}
 
 SpLabel::~SpLabel() = default;
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "sploadinground.h"
 
+#include "detail/accessible.h"
 #include "detail/arithmetic.h"
 #include "detail/geometry.h"
 
@@ -47,6 +48,7 @@ public:
 SpLoadingRound::SpLoadingRound(QWidget *parent)
     : QWidget(parent), d(std::make_unique<Private>(this))
 {
+    installAccessibility();
 }
 
 QColor SpLoadingRound::painterColor() const { return d->painterColor; }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "splockbutton.h"
 
+#include "detail/accessible.h"
 #include "detail/fonts.h"
 #include "detail/geometry.h"
 #include "detail/imagelook.h"
@@ -46,8 +47,10 @@ public:
 };
 
 /** A button that is up, without pictures and caption. */
-SpLockButton::SpLockButton(QWidget *parent)
-    : QWidget(parent), d(std::make_unique<Private>(this)) { }
+SpLockButton::SpLockButton(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
+{
+    installAccessibility();
+}
 
 SpLockButton::~SpLockButton() = default;
 

@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "spmaskbackground.h"
 
+#include "detail/accessible.h"
+
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
+
+using namespace panelkit;
 
 class Q_DECL_HIDDEN SpMaskBackground::Private
 {
@@ -18,6 +22,7 @@ public:
 SpMaskBackground::SpMaskBackground(QWidget *parent)
     : QWidget(parent), d(std::make_unique<Private>())
 {
+    installAccessibility();
 }
 
 QColor SpMaskBackground::painterColor() const { return d->painterColor; }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "spmultiplebutton.h"
 
+#include "detail/accessible.h"
 #include "detail/geometry.h"
 #include "detail/imagefile.h"
 #include "detail/keyrequest.h"
@@ -87,6 +88,7 @@ class Q_DECL_HIDDEN SpMultipleButton::Private
 public:
     explicit Private(SpMultipleButton *widget) : q(widget) { }
 
+    static double tell(const QWidget *widget, AccessibleFact fact, const QPoint &at);
     void replaceNormalImage(int state, const QPixmap &image);
     void replacePressImage(int state, const QPixmap &image);
     void adoptPixmapLists(const QList<QPixmap> &normal, const QList<QPixmap> &press);
@@ -115,6 +117,7 @@ public:
 SpMultipleButton::SpMultipleButton(QWidget *parent)
     : QWidget(parent), d(std::make_unique<Private>(this))
 {
+    installAccessibility(AccessibleTeller::MultipleButton, Private::tell);
     d->normalImages = nullImages();
     d->pressImages = nullImages();
     d->opacity = new Dimming(this);
@@ -379,4 +382,11 @@ void SpMultipleButton::Private::dim()
 {
     if (opacity)
         opacity->setOpacity(disableState ? kDimmed : qreal(1));
+}
+
+// To accessibility.
+double SpMultipleButton::Private::tell(const QWidget *widget, AccessibleFact fact, const QPoint &)
+{
+    const Private &d = *static_cast<const SpMultipleButton *>(widget)->d;
+    return fact == AccessibleFact::IsPressed && d.pressed;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "sprollingtext.h"
 
+#include "detail/accessible.h"
 #include "detail/arithmetic.h"
 #include "detail/fonts.h"
 #include "detail/linescache.h"
@@ -88,6 +89,7 @@ public:
 /** An empty line. */
 SpRollingText::SpRollingText(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
 {
+    installAccessibility();
     d->rollTimer = new QTimer(this);
     d->rollTimer->setInterval(kRollInterval);
     connect(d->rollTimer, SIGNAL(timeout()), this, SLOT(updateIndex()));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "spsetupslider.h"
 
+#include "detail/accessible.h"
 #include "detail/arithmetic.h"
 #include "detail/fonts.h"
 #include "detail/keyrequest.h"
@@ -15,6 +16,8 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <limits>
+#include <optional>
 
 using namespace panelkit;
 
@@ -42,6 +45,8 @@ public:
     void layOutLabels();
     SpIconButton *makeButton(const QPixmap &normal, const QPixmap &press, const QString &id, int y);
     int knobTopAt(int y) const;
+    std::optional<int> valueAt(int y) const;
+    static double tell(const QWidget *widget, AccessibleFact fact, const QPoint &at);
     void drawTrack(QPainter &painter) const;
     void drawFill(QPainter &painter) const;
 
@@ -76,6 +81,7 @@ public:
 /** A slider for -5 to 5 at 0 that shows nothing before it has its pictures. */
 SpSetupSlider::SpSetupSlider(QWidget *parent) : QWidget(parent), d(std::make_unique<Private>(this))
 {
+    installAccessibility(AccessibleTeller::SetupSlider, Private::tell);
     d->knob = new QLabel(this);
     d->valueLabel = new QLabel(this);
     d->topLabel = new QLabel(this);
@@ -242,15 +248,10 @@ void SpSetupSlider::setTouchPos(int value)
  */
 void SpSetupSlider::setTouchPos(QPoint pos)
 {
-    if (pos.y() <= d->trackRect.top() || pos.y() >= d->trackRect.bottom() + 1)
+    const std::optional<int> value = d->valueAt(pos.y());
+    if (!value || *value == d->currentValue)
         return;
-    const qint64 range = qint64(d->maxValue) - d->minValue;
-    const qint64 way = d->knobTopAt(pos.y()) - d->trackRect.top();
-    const int travel = d->trackRect.height() - d->knob->height();
-    const int value = travel == 0 ? d->maxValue : saturated(d->maxValue - range * way / travel);
-    if (value == d->currentValue)
-        return;
-    setCurrentValue(value);
+    setCurrentValue(*value);
     emitValueChangedSgl();
 }
 
@@ -423,4 +424,21 @@ void SpSetupSlider::Private::drawFill(QPainter &painter) const
     // To drawPixmap an empty part means the rest of the picture; here it means nothing.
     if (!sliderPressImage.isNull() && !fillTarget.isEmpty())
         painter.drawPixmap(fillTarget, sliderPressImage, fillSource);
+}
+
+std::optional<int> SpSetupSlider::Private::valueAt(int y) const
+{
+    if (y <= trackRect.top() || y >= trackRect.bottom() + 1)
+        return {};
+    const qint64 range = qint64(maxValue) - minValue;
+    const qint64 way = knobTopAt(y) - trackRect.top();
+    const int travel = trackRect.height() - knob->height();
+    return travel == 0 ? maxValue : saturated(maxValue - range * way / travel);
+}
+
+// To accessibility.
+double SpSetupSlider::Private::tell(const QWidget *widget, AccessibleFact, const QPoint &at)
+{
+    const std::optional<int> value = static_cast<const SpSetupSlider *>(widget)->d->valueAt(at.y());
+    return value ? *value : std::numeric_limits<double>::quiet_NaN();
 }

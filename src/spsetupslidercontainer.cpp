@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "spsetupslidercontainer.h"
 
+#include "detail/accessible.h"
+
 #include <QMetaType>
 #include <QMouseEvent>
 #include <QPointer>
+
+using namespace panelkit;
 
 namespace
 {
@@ -26,6 +30,7 @@ public:
 SpSetupSliderContainer::SpSetupSliderContainer(QWidget *parent)
     : QWidget(parent), d(std::make_unique<Private>())
 {
+    installAccessibility();
     qRegisterMetaType<QList<int>>("QList<int>");
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "sptablelist.h"
 
+#include "detail/accessible.h"
 #include "detail/arithmetic.h"
 #include "detail/fonts.h"
 #include "detail/keyrequest.h"
@@ -110,6 +111,7 @@ public:
     };
 
     bool eventFilter(QObject *object, QEvent *event) override;
+    void provideSelectionModel() const;
     bool isThere(const PlainIndex &plain) const;
     bool rollsTexts() const;
     bool showsRowPressed() const;
@@ -161,9 +163,9 @@ public:
  */
 SpTableList::SpTableList(QWidget *parent) : QTableView(parent), d(std::make_unique<Private>(this))
 {
-    installEventFilter(d.get());
     horizontalHeader()->viewport()->installEventFilter(d.get());
     verticalHeader()->viewport()->installEventFilter(d.get());
+    installAccessibility();
     d->delegate = new styleDelegate(this);
     verticalScrollBar()->setStyleSheet(scrollBarStyleSheet());
     setItemDelegate(d->delegate);
@@ -518,6 +520,18 @@ void SpTableList::mouseMoveEvent(QMouseEvent *e)
 }
 
 /**
+ * A key moves through the rows, as in QTableView, which also sends one to the list when it is hidden
+ * while it has the focus. It makes a new selection model if there is none; the request for a click
+ * sound does not.
+ */
+void SpTableList::keyPressEvent(QKeyEvent *e)
+{
+    if (!isKeyRequest(e, kBeepRequest))
+        d->provideSelectionModel();
+    QTableView::keyPressEvent(e);
+}
+
+/**
  * A release ends a drag, perhaps with a fling, or starts the click that is reported a moment later.
  * It emits currentShowIndex and, in highlight mode, haveItemSelect.
  */
@@ -592,18 +606,20 @@ void SpTableList::speedTimerSlot()
         d->restartRollingLater();
 }
 
-// QTableView takes for granted that there is a selection model when a key or a touch of a header
-// selects. Between deleteSelectionModel() and the next model there is none, and such an event
-// brings one; the request for a click sound selects nothing.
-bool SpTableList::Private::eventFilter(QObject *object, QEvent *event)
+// A touch of a header selects.
+bool SpTableList::Private::eventFilter(QObject *, QEvent *event)
 {
-    const QEvent::Type type = event->type();
-    const bool selects = object == q
-        ? type == QEvent::KeyPress && !isKeyRequest(static_cast<QKeyEvent *>(event), kBeepRequest)
-        : type == QEvent::MouseButtonPress || type == QEvent::MouseMove;
-    if (selects && q->model() && !q->selectionModel())
-        q->setSelectionModel(new QItemSelectionModel(q->model(), q));
+    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseMove)
+        provideSelectionModel();
     return false;
+}
+
+// QTableView takes for granted that there is one when something selects. Between
+// deleteSelectionModel() and the next model there is none.
+void SpTableList::Private::provideSelectionModel() const
+{
+    if (q->model() && !q->selectionModel())
+        q->setSelectionModel(new QItemSelectionModel(q->model(), q));
 }
 
 void SpTableList::Private::PlainIndex::set(const QModelIndex &newIndex)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "spverstrbutton.h"
 
+#include "detail/accessible.h"
 #include "detail/arithmetic.h"
 #include "detail/fonts.h"
 #include "detail/geometry.h"
@@ -60,6 +61,7 @@ struct SpVerStrButton::Private::Look {
 SpVerStrButton::SpVerStrButton(QWidget *parent)
     : QWidget(parent), d(std::make_unique<Private>(this))
 {
+    installAccessibility();
 }
 
 SpVerStrButton::~SpVerStrButton() = default;

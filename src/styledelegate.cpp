@@ -6,6 +6,7 @@
 #include "detail/fonts.h"
 #include "detail/geometry.h"
 #include "detail/imagelook.h"
+#include "detail/listroles.h"
 #include "detail/listtextcache.h"
 #include "sptablelist.h"
 
@@ -18,28 +19,6 @@ using namespace panelkit;
 
 namespace
 {
-
-// The model's roles.
-enum Role : int {
-    ContentRole = Qt::UserRole + 2, // int: which parts the row has
-    HeaderIconRole, // QPixmap
-    PressedHeaderIconRole, // QPixmap
-    HeaderNumberRole, // QString
-    CentreTextRole, // QString
-    TailTextRole, // QString
-    TailIconRole, // QPixmap
-    PressedTailIconRole, // QPixmap
-    SelectedRole, // bool: the model marks the row
-    HeaderPressedRole, // bool
-    TailPressedRole // bool
-};
-
-// The bits of ContentRole; any bit of a part says that the row has it.
-constexpr int kHasHeaderIcon = 0x0000000F;
-constexpr int kHasHeaderNumber = 0x000000F0;
-constexpr int kHasCentreText = 0x0000F000;
-constexpr int kHasTailIcon = 0x000F0000;
-constexpr int kHasTailText = 0x00F00000;
 
 constexpr int kLineStart = 20; // px, from the left of the row to the separator
 constexpr int kNumberLeft = 20; // px
@@ -140,8 +119,8 @@ struct styleDelegate::Private::Row {
     {
     }
 
-    QVariant data(Role role) const { return index.data(role); }
-    QPixmap pixmap(Role role) const { return data(role).value<QPixmap>(); }
+    QVariant data(ListRole role) const { return index.data(role); }
+    QPixmap pixmap(ListRole role) const { return data(role).value<QPixmap>(); }
     bool has(int part) const { return (content & part) != 0; }
     int iconTop(const QPixmap &icon) const
     {

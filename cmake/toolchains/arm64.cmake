@@ -4,11 +4,8 @@
 set(CMAKE_SYSTEM_NAME Linux)
 set(CMAKE_SYSTEM_PROCESSOR aarch64)
 
-set(cache $ENV{XDG_CACHE_HOME})
-if(NOT cache)
-    set(cache $ENV{HOME}/.cache)
-endif()
-set(CMAKE_SYSROOT ${cache}/panelkit/arm64-sysroot)
+include(${CMAKE_CURRENT_LIST_DIR}/cache.cmake)
+set(CMAKE_SYSROOT ${PANELKIT_CACHE}/arm64-sysroot)
 if(NOT EXISTS ${CMAKE_SYSROOT})
     message(FATAL_ERROR "tools/arm64-sysroot makes ${CMAKE_SYSROOT}, which is missing")
 endif()

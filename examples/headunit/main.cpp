@@ -83,7 +83,8 @@ int run(const Options &options)
     contacts.load(options.contactsFile);
     player->setModel(music.tracks());
     music.open(options.musicFolder);
-    return isOnTour ? Tour(screen, context, options.tourFolder).play()
+    const Tour::By by = options.isTourByNames ? Tour::By::Name : Tour::By::Object;
+    return isOnTour ? Tour(screen, context, options.tourFolder, by).play()
                     : showScreen(screen, options);
 }
 

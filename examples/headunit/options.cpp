@@ -68,6 +68,9 @@ Options::Options(const QStringList &arguments)
     const auto settings = takes("settings", "FILE", "Where settings are kept.");
     const auto tour =
         takes("tour", "DIR", "Drives through every page and writes pictures and signals.");
+    const QCommandLineOption byNames(
+        QStringLiteral("by-names"),
+        QStringLiteral("Finds on the tour all by the names that accessibility tells."));
     const auto log = takes("log", "FILE",
                            "Writes what Qt and the widgets log to this file, not to the console.");
     const auto grab =
@@ -78,7 +81,7 @@ Options::Options(const QStringList &arguments)
         QStringLiteral("Lets the platform vnc listen on this machine's loopback only."));
     m_parser.setApplicationDescription(QStringLiteral("A car's screen made of PanelKit."));
     m_parser.addOptions({sizeOption, night, music, contacts, stations, settings, languageOption,
-                         tour, log, grab, loopback});
+                         tour, byNames, log, grab, loopback});
     m_parser.addHelpOption();
     m_parser.process(arguments);
 
@@ -92,6 +95,7 @@ Options::Options(const QStringList &arguments)
                           QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation)
                               + QStringLiteral("/headunit.ini"));
     tourFolder = m_parser.value(tour);
+    isTourByNames = m_parser.isSet(byNames);
     logFile = m_parser.value(log);
     grabFile = m_parser.value(grab);
     isOnLoopbackOnly = m_parser.isSet(loopback);

@@ -26,6 +26,7 @@ struct Options {
     QString logFile; ///< empty: the console
     QString grabFile; ///< empty: none
     QString tourFolder; ///< empty: no tour
+    bool isTourByNames = false;
     bool isOnLoopbackOnly = false;
 
 private:

@@ -5,10 +5,12 @@
 #include "launch.h"
 #include "models/musiclibrary.h"
 #include "models/preferences.h"
+#include "tournames.h"
 #include "virtualtime.h"
 
 #include <panelkitclasses.h>
 
+#include <QAccessible>
 #include <QCoreApplication>
 #include <QSet>
 
@@ -23,6 +25,8 @@ namespace
 constexpr int kTimeOfDay = (10 * 60 + 8) * 60'000; // ms, of the first picture
 constexpr int kAfterTouch = 150; // ms until the next touch
 constexpr int kWhileDown = 350; // ms until a finger that stays down is seen to be there
+constexpr int kLongestTap = 150; // ms
+constexpr int kLongPress = 1500; // ms
 constexpr int kSettling = 700; // ms from the last touch of a step to its picture
 
 bool isOfPanelKit(const QObject *object)
@@ -87,9 +91,9 @@ void Tour::prepare(char **argv)
     virtualtime::start();
 }
 
-Tour::Tour(HeadUnit &screen, const Context &context, const QString &directory)
+Tour::Tour(HeadUnit &screen, const Context &context, const QString &directory, By by)
     : m_screen(screen), m_context(context), m_log(QDir(directory)),
-      m_finger(&screen, [this] { takePicture(); })
+      m_finger(&screen, [this] { takePicture(); }), m_by(by)
 {
     QCoreApplication::instance()->installEventFilter(this);
     const auto widgets = screen.findChildren<QWidget *>();
@@ -181,14 +185,20 @@ void Tour::openPage(const QString &name)
 void Tour::goHome()
 {
     m_log.endStep();
-    if (QWidget *key = visibleWidget(QStringLiteral("homeKey")))
-        m_finger.on(key).press().hold(kAfterTouch).release().hold(kSettling);
+    if (!visibleWidget(QStringLiteral("homeKey")))
+        return;
+    touch({QStringLiteral("homeKey"), {0.5, 0.5}, {0.5, 0.5}, kAfterTouch, false});
+    m_finger.hold(kSettling - kAfterTouch);
 }
 
 void Tour::touch(const TourTouch &touch)
 {
     if (touch.widget.isEmpty()) {
         m_finger.hold(touch.duration);
+        return;
+    }
+    if (m_by == By::Name) {
+        touchNamed(touch);
         return;
     }
     QWidget *widget = visibleWidget(touch.widget);
@@ -206,6 +216,48 @@ void Tour::touch(const TourTouch &touch)
     m_isDown = touch.isLeftDown;
     if (!m_isDown)
         m_finger.release().hold(kAfterTouch);
+}
+
+// The actions of accessibility stand for the taps, at the moment of the release; that of a row,
+// which takes its time, and a long press begin with the press. Any other touch is one between
+// places.
+void Tour::touchNamed(const TourTouch &touch)
+{
+    QAccessibleInterface *found = findNamed(m_screen, m_screen.currentPage(), touch);
+    m_log.check(found,
+                QStringLiteral("Nothing is named %1.")
+                    .arg(accessibleNames(m_screen.currentPage(), touch).join(QLatin1Char('/'))));
+    if (!found)
+        return;
+    const QPoint from = placeIn(m_screen, *found, touch.from);
+    const QPoint to = placeIn(m_screen, *found, touch.to);
+    const bool isList = found->role() == QAccessible::List;
+    if (isList && touch.duration <= kLongestTap)
+        found = found->childAt(m_screen.mapToGlobal(from).x(), m_screen.mapToGlobal(from).y());
+    QAccessibleActionInterface *actions = found ? found->actionInterface() : nullptr;
+    const QString press = QAccessibleActionInterface::pressAction();
+    if (touch.to != touch.from || touch.isLeftDown || !actions
+        || !actions->actionNames().contains(press)
+        || (touch.duration > kLongestTap && touch.duration != kLongPress)) {
+        m_finger.on(&m_screen).press(from);
+        if (from == to)
+            m_finger.hold(touch.duration);
+        else
+            m_finger.moveTo(to, touch.duration);
+        m_isDown = touch.isLeftDown;
+        if (!m_isDown)
+            m_finger.release().hold(kAfterTouch);
+    } else if (touch.duration == kLongPress) {
+        actions->doAction(QStringLiteral("LongPress"));
+        m_finger.hold(touch.duration + kAfterTouch);
+    } else if (isList) {
+        actions->doAction(press);
+        m_finger.hold(touch.duration + kAfterTouch);
+    } else {
+        m_finger.hold(touch.duration);
+        actions->doAction(press);
+        m_finger.hold(kAfterTouch);
+    }
 }
 
 QWidget *Tour::visibleWidget(const QString &name) const

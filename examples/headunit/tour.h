@@ -27,8 +27,12 @@ public:
     /// Prepares the process, or begins it again in order to; call it first of all.
     static void prepare(char **argv);
 
+    /// How it finds what it touches: as the program knows it, or as accessibility tells, whose
+    /// actions then stand for the taps.
+    enum class By { Object, Name };
+
     /// The screen is not shown yet.
-    Tour(HeadUnit &screen, const Context &context, const QString &directory);
+    Tour(HeadUnit &screen, const Context &context, const QString &directory, By by = By::Object);
 
     /// Shows the screen and plays; returns the exit code of the program.
     int play();
@@ -44,6 +48,7 @@ private:
     void openPage(const QString &name);
     void goHome();
     void touch(const TourTouch &touch);
+    void touchNamed(const TourTouch &touch);
     QWidget *visibleWidget(const QString &name) const;
     void takePicture();
 
@@ -51,6 +56,7 @@ private:
     const Context m_context;
     TourLog m_log;
     Finger m_finger;
+    const By m_by;
     bool m_isDown = false; // the finger, until the picture has been taken
 };
 

@@ -26,29 +26,6 @@ bool isWorthReading(const QString &path)
     return file.isFile() || !file.exists();
 }
 
-// A file by itself, without its name. Of a QFile, QMovie takes no more than the name, which it
-// opens anew for each round: when there is no such file any more, it complains on the log.
-class OpenFile : public QIODevice
-{
-public:
-    explicit OpenFile(const QString &path) : m_file(path)
-    {
-        if (m_file.open(ReadOnly | Unbuffered))
-            open(ReadOnly);
-    }
-
-    bool isSequential() const override { return m_file.isSequential(); }
-    qint64 size() const override { return m_file.size(); }
-    bool seek(qint64 pos) override { return QIODevice::seek(pos) && m_file.seek(pos); }
-
-protected:
-    qint64 readData(char *data, qint64 maxSize) override { return m_file.read(data, maxSize); }
-    qint64 writeData(const char *, qint64) override { return -1; }
-
-private:
-    QFile m_file;
-};
-
 } // namespace
 
 QPixmap pixmapFromFile(const QString &path)
@@ -63,12 +40,16 @@ std::unique_ptr<QMovie> movieFromFile(const QString &path)
     if (!isWorthReading(path))
         return std::make_unique<QMovie>();
     QImageReader finder(path); // which may complete the name of the file
-    if (!finder.canRead())
-        return std::make_unique<QMovie>();
-    auto file = std::make_unique<OpenFile>(finder.fileName());
-    if (!file->isOpen())
-        return std::make_unique<QMovie>();
-    auto movie = std::make_unique<QMovie>(file.get(), finder.format());
+    auto file = std::make_unique<QFile>(finder.fileName());
+    if (!finder.canRead() || !file->open(QIODevice::ReadOnly) || file->handle() < 0)
+        return std::make_unique<QMovie>(path);
+    // QMovie opens its file by name for each round, and complains on the log when it has vanished.
+    // This name lasts as long as the file is open. A damaged file may have nothing but the ending
+    // of its own name to tell what it is.
+    const QString lasting = QStringLiteral("/proc/self/fd/%1").arg(file->handle());
+    if (QImageReader::imageFormat(lasting).isEmpty())
+        return std::make_unique<QMovie>(path);
+    auto movie = std::make_unique<QMovie>(lasting, finder.format());
     file.release()->setParent(movie.get());
     return movie;
 }

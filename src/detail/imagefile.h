@@ -17,10 +17,9 @@ namespace panelkit
 /// and the decoder may say so on the log.
 QPixmap pixmapFromFile(const QString &path);
 
-/// A new movie, not started, of the animation in a file, with the frames that QMovie reads from it;
-/// one without any frame if there is none to read. The file stays open for as long as the movie
-/// lives, so that it plays on when the path vanishes; of an animation only one frame is in memory
-/// at a time.
+/// A new movie, not started, of the animation in a file, with the frames and rounds of
+/// QMovie(path). The file stays open for as long as the movie lives, so that it plays on when the
+/// path vanishes; of an animation only one frame is in memory at a time.
 std::unique_ptr<QMovie> movieFromFile(const QString &path);
 
 } // namespace panelkit

@@ -17,10 +17,14 @@ namespace
 constexpr qint64 kLargestScaledCopy = qint64(4096) * 1024;
 
 // The nearest-neighbour scaling of drawPixmap, done once: the same pixels, ready to be copied. They
-// are the same in this composition mode alone, for which Qt has scaling of its own.
+// are the same in this composition mode and without opacity alone, for which Qt has scaling of its
+// own. What is opaque stays so whatever its unused bits say: of damaged animations they say
+// something.
 QImage scaledImage(const QPixmap &pixmap, const QSize &area)
 {
-    QImage image(area, QImage::Format_ARGB32_Premultiplied);
+    QImage image(area,
+                 pixmap.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
+                                          : QImage::Format_RGB32);
     if (image.isNull())
         return image;
     image.fill(Qt::transparent);
@@ -70,15 +74,19 @@ void ImageLook::drawScaled(QPainter &painter, const QRect &target, const QPixmap
     const QSize area = target.size();
     const bool isWorthKeeping = kScalesAlikeUnderAnyClip && area != pixmap.size() && !area.isEmpty()
         && !pixmap.isQBitmap() && qint64(area.width()) * area.height() <= kLargestScaledCopy
-        && isOnPixels(painter);
+        && isOnPixels(painter) && painter.opacity() >= 1
+        && painter.compositionMode() == QPainter::CompositionMode_SourceOver;
     if (!isWorthKeeping) {
         painter.drawPixmap(target, pixmap);
         return;
     }
     const Key key{Kind::Scaled, pixmap.cacheKey(), area, 0};
-    painter.drawImage(target.topLeft(), m_image.value(key, [&](QImage &image) {
-        image = scaledImage(pixmap, area);
-    }));
+    const QImage &copy =
+        m_image.value(key, [&](QImage &image) { image = scaledImage(pixmap, area); });
+    if (copy.isNull()) // for want of memory
+        painter.drawPixmap(target, pixmap);
+    else
+        painter.drawImage(target.topLeft(), copy);
 }
 
 void ImageLook::drawVeiled(QPainter &painter, const QRect &target, const QPixmap &pixmap, int alpha)

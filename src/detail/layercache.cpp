@@ -102,9 +102,10 @@ void LayerPixels::drawContent(QPainter &painter, const QTransform &world, const 
     }
     if (!m_isShown)
         return;
-    if (!m_isComposed)
-        compose(paint);
-    copy(painter);
+    if (m_isComposed || compose(paint))
+        copy(painter);
+    else
+        paintDirectly(painter, paint);
 }
 
 void LayerPixels::paintDirectly(QPainter &painter, const Paint &paint) const
@@ -128,25 +129,27 @@ void LayerPixels::copy(QPainter &painter) const
 }
 
 // It is composed at its place on a canvas as large as the device, because how edges are rounded
-// depends on where they lie; then it is cut to what there is to see.
-void LayerPixels::compose(const Paint &paint)
+// depends on where they lie; then it is cut to what there is to see. False if there is no memory.
+bool LayerPixels::compose(const Paint &paint)
 {
     const QPoint origin = m_key->visible.topLeft();
     QImage image(m_key->visible.size(), QImage::Format_ARGB32_Premultiplied);
+    if (image.isNull())
+        return false;
     image.fill(Qt::transparent);
-    if (!image.isNull()) {
-        QPainter painter(&image);
-        painter.setRenderHints(m_key->hints);
-        painter.setPen(m_key->pen);
-        painter.setTransform(m_key->transform
-                             * QTransform::fromTranslate(-qreal(origin.x()), -qreal(origin.y())));
-        paint(painter);
-    }
+    QPainter painter(&image);
+    painter.setRenderHints(m_key->hints);
+    painter.setPen(m_key->pen);
+    painter.setTransform(m_key->transform
+                         * QTransform::fromTranslate(-qreal(origin.x()), -qreal(origin.y())));
+    paint(painter);
+    painter.end();
     const QRect ink = inkRect(image);
     m_image = ink.isEmpty() ? QImage() : image.copy(ink);
     m_topLeft = origin + ink.topLeft();
-    m_isComposed = true;
+    m_isComposed = ink.isEmpty() || !m_image.isNull();
     ++m_compositions;
+    return m_isComposed;
 }
 
 } // namespace panelkit

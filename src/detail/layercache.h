@@ -43,7 +43,7 @@ private:
 
     void paintDirectly(QPainter &painter, const Paint &paint) const;
     void copy(QPainter &painter) const;
-    void compose(const Paint &paint);
+    bool compose(const Paint &paint);
 
     LastKey<Key> m_key;
     bool m_isShown = false;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// What Qt 5 and Qt 6 call by different names: the only place that asks which of them it is.
+// What Qt 5 and Qt 6 call by different names, and do otherwise: the only place that asks which of
+// them it is.
 #ifndef PANELKIT_DETAIL_QTVERSION_H
 #define PANELKIT_DETAIL_QTVERSION_H
 
@@ -16,8 +17,9 @@ using Hash = size_t;
 #endif
 
 /// Whether drawPixmap() takes the same pixels of a picture that it scales wherever the clip begins.
-/// Qt 6 begins anew at the first column and row that show, with a place that it has rounded less.
-#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+/// Qt 5 does where it has code for the processor, which is x86. Elsewhere, and in Qt 6, it begins
+/// anew at the first column and row that show, with a place that it has rounded less.
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0) && defined(Q_PROCESSOR_X86_64)
 constexpr bool kScalesAlikeUnderAnyClip = true;
 #else
 constexpr bool kScalesAlikeUnderAnyClip = false;

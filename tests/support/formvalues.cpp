@@ -72,7 +72,7 @@ QVariant sample(const QMetaProperty &property, int number)
     case QMetaType::QPoint:
         return QPoint(5 + number, 9);
     case QMetaType::QPointF:
-        return QPointF(5.25 + number, 9.5);
+        return QPointF(qreal(5.25 + number), qreal(9.5));
     case QMetaType::QSize:
         return QSize(20 + number, 24);
     case QMetaType::QRect:

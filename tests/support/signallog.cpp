@@ -26,15 +26,26 @@ int firstOwnMethod(const QMetaObject *type)
     return first;
 }
 
-QString described(int type, const void *value)
+QString described(const QVariant &value)
 {
     QString text;
-    QDebug(&text).nospace() << panelkit::variantOf(type, value);
+    QDebug(&text).nospace() << value;
     const int open = text.indexOf(QStringLiteral(", "));
     return text.mid(open + 2).chopped(1); // of "QVariant(type, value)"
 }
 
 } // namespace
+
+QString allDigits(const QVariant &number)
+{
+    constexpr int kFloatDigits = 9;
+    constexpr int kDoubleDigits = 17;
+    if (number.userType() == QMetaType::Float)
+        return QString::number(double(number.toFloat()), 'g', kFloatDigits);
+    if (number.userType() == QMetaType::Double)
+        return QString::number(number.toDouble(), 'g', kDoubleDigits);
+    return described(number);
+}
 
 SignalLog::SignalLog(QObject *subject) : m_subject(subject)
 {
@@ -77,8 +88,10 @@ int SignalLog::qt_metacall(QMetaObject::Call call, int id, void **arguments)
         return id;
     const QMetaMethod &method = m_signals[id];
     QStringList values;
-    for (int i = 0; i < method.parameterCount(); ++i)
-        values += described(method.parameterType(i), arguments[i + 1]);
+    for (int i = 0; i < method.parameterCount(); ++i) {
+        const QVariant value = panelkit::variantOf(method.parameterType(i), arguments[i + 1]);
+        values += m_hasAllDigits ? allDigits(value) : described(value);
+    }
     add(QStringLiteral("%1(%2)").arg(QString::fromLatin1(method.name()),
                                      values.join(QStringLiteral(", "))));
     return -1;

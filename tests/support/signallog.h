@@ -5,6 +5,7 @@
 #include <QMetaMethod>
 #include <QObject>
 #include <QStringList>
+#include <QVariant>
 #include <QVector>
 
 #include <functional>
@@ -23,6 +24,9 @@ public:
     /// Called after each line, with it; for tests that act in the middle of a sequence.
     void onLine(std::function<void(const QString &)> reaction);
 
+    /// From now on floating-point numbers have all their digits, instead of the first six.
+    void writeAllDigits() { m_hasAllDigits = true; }
+
     bool eventFilter(QObject *receiver, QEvent *event) override;
     int qt_metacall(QMetaObject::Call call, int id, void **arguments) override;
 
@@ -32,6 +36,7 @@ private:
     QObject *const m_subject;
     QVector<QMetaMethod> m_signals;
     QStringList m_lines;
+    bool m_hasAllDigits = false;
     std::function<void(const QString &)> m_reaction;
 };
 
@@ -40,5 +45,8 @@ inline QString at(const char *signal, int x, int y)
 {
     return QStringLiteral("%1(QPoint(%2,%3))").arg(QLatin1String(signal)).arg(x).arg(y);
 }
+
+/// A number so that another one reads otherwise.
+QString allDigits(const QVariant &number);
 
 #endif // SIGNALLOG_H

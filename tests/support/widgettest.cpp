@@ -181,7 +181,7 @@ bool isSamePicture(const PicturePair &pictures, const char *file, int line)
     return false;
 }
 
-int runWidgetTest(int argc, char **argv, const std::function<QObject *()> &makeTest)
+int runPinned(int argc, char **argv, const std::function<int()> &run)
 {
     virtualtime::start();
     qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -192,6 +192,13 @@ int runWidgetTest(int argc, char **argv, const std::function<QObject *()> &makeT
     qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtimeDir.path()));
     QApplication app(argc, argv);
     pinAppearance();
-    const std::unique_ptr<QObject> test(makeTest());
-    return QTest::qExec(test.get(), argc, argv);
+    return run();
+}
+
+int runWidgetTest(int argc, char **argv, const std::function<QObject *()> &makeTest)
+{
+    return runPinned(argc, argv, [&] {
+        const std::unique_ptr<QObject> test(makeTest());
+        return QTest::qExec(test.get(), argc, argv);
+    });
 }

@@ -60,8 +60,11 @@ bool isSamePicture(const PicturePair &pictures, const char *file, int line);
     QVERIFY2(isSamePicture(PicturePair{actual, expected}, __FILE__, __LINE__), \
              "the pictures differ")
 
-/// Prepares the program (offscreen, plain event dispatcher, pinned style, palette and font), then
-/// runs the test class.
+/// Prepares the program (offscreen, virtual time, plain event dispatcher, pinned style, palette and
+/// font), then runs what it does.
+int runPinned(int argc, char **argv, const std::function<int()> &run);
+
+/// The same, and runs the test class.
 int runWidgetTest(int argc, char **argv, const std::function<QObject *()> &makeTest);
 
 #define WIDGET_TEST_MAIN(Class)                                     \

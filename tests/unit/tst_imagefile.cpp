@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "detail/imagefile.h"
 
+#include "checksum.h"
 #include "files.h"
 #include "gifs.h"
 #include "virtualtime.h"
@@ -33,17 +34,6 @@ QImage picture()
             image.setPixel(x, y, qRgb(x * 6, y * 8, (x * y) % 256));
     }
     return image;
-}
-
-quint32 crc32(const QByteArray &bytes)
-{
-    quint32 crc = ~0U;
-    for (const char byte : bytes) {
-        crc ^= uchar(byte);
-        for (int bit = 0; bit < 8; ++bit)
-            crc = (crc >> 1) ^ (crc & 1 ? 0xEDB88320U : 0U);
-    }
-    return ~crc;
 }
 
 // The bytes that gzip would write: its own head and tail around what zlib makes, without zlib's.

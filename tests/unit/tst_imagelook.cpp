@@ -204,6 +204,23 @@ private slots:
         COMPARE_PICTURES(kept, clipped([&](QPainter &p) { p.drawPixmap(target, picture); }));
     }
 
+    // As a damaged animation leaves them: the pixels of a picture without alpha need not say
+    // "opaque".
+    void anOpaquePictureCoversWhateverItsUnusedBitsSay()
+    {
+        QImage image(20, 10, QImage::Format_RGB32);
+        image.fill(0x00ffffffU);
+        const QPixmap picture = QPixmap::fromImage(image);
+        const QRect target(5, 6, 61, 33);
+        QImage screen(120, 100, QImage::Format_RGB32);
+        screen.fill(Qt::blue);
+        QPainter painter(&screen);
+        ImageLook().drawScaled(painter, target, picture);
+        QCOMPARE(screen.pixelColor(target.center()), QColor(Qt::white));
+        COMPARE_PICTURES(onCanvas([&](QPainter &p) { ImageLook().drawScaled(p, target, picture); }),
+                         onCanvas([&](QPainter &p) { p.drawPixmap(target, picture); }));
+    }
+
     void scaledLooksOfAnySizeAndPlaceHaveThePixelsOfDrawPixmap()
     {
         QRandomGenerator random(4711);
@@ -214,8 +231,20 @@ private slots:
                                       random.bounded(100) - random.bounded(size.height())),
                                size);
             ImageLook look;
-            COMPARE_PICTURES(onCanvas([&](QPainter &p) { look.drawScaled(p, target, picture); }),
-                             onCanvas([&](QPainter &p) { p.drawPixmap(target, picture); }));
+            const Paint prepares[] = {
+                [](QPainter &) {}, [](QPainter &p) { p.setOpacity(qreal(0.5)); },
+                [](QPainter &p) { p.setCompositionMode(QPainter::CompositionMode_Multiply); }};
+            for (const Paint &prepare : prepares) {
+                const auto prepared = [&](const Paint &paint) {
+                    return onCanvas([&](QPainter &p) {
+                        prepare(p);
+                        paint(p);
+                    });
+                };
+                COMPARE_PICTURES(
+                    prepared([&](QPainter &p) { look.drawScaled(p, target, picture); }),
+                    prepared([&](QPainter &p) { p.drawPixmap(target, picture); }));
+            }
         }
     }
 

@@ -117,6 +117,24 @@ void moveKnobTo(MOnOffButton &button, int x)
     button.setBtnDisable(isDisabled);
 }
 
+// A widget of which nothing is known but its picture: millions of pixels away from the corner, what
+// single precision loses depends on whether a widget is painted or not.
+class Canvas : public QWidget
+{
+public:
+    explicit Canvas(Paint content) : paint(std::move(content)) { }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        paint(painter);
+    }
+
+private:
+    Paint paint;
+};
+
 // --- What is painted, in plain painter calls
 // ------------------------------------------------------
 
@@ -1370,23 +1388,25 @@ private slots:
             s.size = size;
             s.knob = x < 0 ? radius : size.width() - radius;
             const QPoint origin(x < 0 ? 0 : size.width() - 60, 0);
-            const auto seen = [&](const Paint &paint) {
+            const auto seen = [&](QWidget &widget) {
                 QImage image(60, 50, QImage::Format_ARGB32_Premultiplied);
                 image.fill(QColor(13, 70, 101));
                 QPainter painter(&image);
                 painter.setClipRect(QRect(QPoint(0, 0), size));
                 painter.translate(-origin);
-                paint(painter);
+                widget.render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
                 return image;
             };
-            touch(&button).press(0, 0).moveTo(x, 0);
-            const auto own = [&](QPainter &p) {
-                button.render(&p, QPoint(), QRegion(), QWidget::DrawChildren);
+            const auto expected = [&](const Paint &paint) {
+                Canvas canvas(paint);
+                canvas.resize(size);
+                return seen(canvas);
             };
+            touch(&button).press(0, 0).moveTo(x, 0);
             button.setUIStyle(MOnOffButton::ONOFF_STYLE_0);
-            COMPARE_PICTURES(seen(own), seen(style0(s)));
+            COMPARE_PICTURES(seen(button), expected(style0(s)));
             button.setUIStyle(MOnOffButton::ONOFF_STYLE_1);
-            COMPARE_PICTURES(seen(own), seen(style1(s)));
+            COMPARE_PICTURES(seen(button), expected(style1(s)));
         }
     }
 

@@ -10,6 +10,7 @@
 
 #include <QDataStream>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QPainter>
 #include <QRegularExpression>
 #include <QScreen>
@@ -2142,6 +2143,21 @@ private slots:
             list->deleteSelectionModel();
             touch(header->viewport()).press(5, 5).moveTo(6, 6).release();
         }
+    }
+
+    // Qt gives the focus of what it hides away, with the key that does so.
+    void aListWithFocusWithoutSelectionModelCanBeHidden()
+    {
+        Rows rows(100);
+        QWidget page;
+        QLineEdit other(&page);
+        const auto list = makeList(&rows, &page);
+        show(page);
+        list->setFocus();
+        QVERIFY(list->hasFocus());
+        list->deleteSelectionModel();
+        list->hide();
+        QVERIFY(list->selectionModel());
     }
 
     // --- Hard to break --------------------------------------------------------------------------

@@ -34,6 +34,7 @@ signals:
     void first(int number);
     void second(QString text, bool flag);
     void list(QList<int> values);
+    void reals(float single, double exact);
 
 protected:
     void mousePressEvent(QMouseEvent *e) override { note("press", e); }
@@ -114,6 +115,19 @@ private slots:
         talker.setObjectName(QStringLiteral("renamed"));
         talker.setWindowTitle(QStringLiteral("titled"));
         QCOMPARE(log.take(), QStringList());
+    }
+
+    void aLogWithAllDigitsTellsNeighboursApart()
+    {
+        Talker talker;
+        SignalLog log(&talker);
+        emit talker.reals(98.1F, 1.0 / 3);
+        QCOMPARE(log.take(), QStringList{QStringLiteral("reals(98.1, 0.333333)")});
+        log.writeAllDigits();
+        emit talker.reals(98.1F, 1.0 / 3);
+        QCOMPARE(log.take(), QStringList{QStringLiteral("reals(98.0999985, 0.33333333333333331)")});
+        emit talker.first(7);
+        QCOMPARE(log.take(), QStringList{QStringLiteral("first(7)")});
     }
 
     void aTouchGivesPressMoveAndRelease()
