@@ -520,9 +520,9 @@ void SpTableList::mouseMoveEvent(QMouseEvent *e)
 }
 
 /**
- * A key moves through the rows, as in QTableView, which also sends one to the list when it is hidden
- * while it has the focus. It makes a new selection model if there is none; the request for a click
- * sound does not.
+ * A key moves through the rows, as in QTableView, which also sends one to the list when it is
+ * hidden while it has the focus. It makes a new selection model if there is none; the request for a
+ * click sound does not.
  */
 void SpTableList::keyPressEvent(QKeyEvent *e)
 {
