@@ -72,10 +72,11 @@ int virtualPoll(pollfd *fds, nfds_t count, const timespec *timeout, const sigset
 {
     if (!isStarted || !isMainThread() || standstills > 0)
         return waitFor(fds, count, timeout, mask);
-    // With no timer to come only another thread can end the wait, or a loop outside this one that
-    // has been told to end meanwhile: Qt looks for that when it wakes up, for whatever reason.
+    // With no timer to come only another thread can end the wait; or, while the clock is made to
+    // advance, a loop outside this one that has been told to end meanwhile: Qt looks for that when
+    // it wakes up, for whatever reason.
     if (!timeout)
-        return waitFor(fds, count, &kShortWait, mask);
+        return waitFor(fds, count, isAdvancing ? &kShortWait : nullptr, mask);
     const timespec atOnce = {};
     const int ready = waitFor(fds, count, &atOnce, mask);
     if (timeout->tv_sec == 0 && timeout->tv_nsec == 0)
