@@ -41,7 +41,9 @@ std::unique_ptr<QMovie> movieFromFile(const QString &path)
         return std::make_unique<QMovie>();
     QImageReader finder(path); // which may complete the name of the file
     auto file = std::make_unique<QFile>(finder.fileName());
-    if (!finder.canRead() || !file->open(QIODevice::ReadOnly) || file->handle() < 0)
+    if (!finder.canRead())
+        return std::make_unique<QMovie>();
+    if (!file->open(QIODevice::ReadOnly) || file->handle() < 0)
         return std::make_unique<QMovie>(path);
     // QMovie opens its file by name for each round, and complains on the log when it has vanished.
     // This name lasts as long as the file is open. A damaged file may have nothing but the ending
