@@ -4,6 +4,7 @@
 #include "detail/accessible.h"
 #include "detail/arithmetic.h"
 #include "detail/geometry.h"
+#include "detail/keptlook.h"
 #include "detail/keyrequest.h"
 #include "detail/memo.h"
 
@@ -69,12 +70,31 @@ public:
 
         auto tied() const { return std::tie(picture, target); }
     };
+    // What a painted look depends on.
+    struct Look {
+        int knobPos; // px
+        bool isOn;
+        bool isDisabled;
+        OnOff_STYLE style;
+        QSize size; // px
+        QColor onColor;
+        QColor offColor;
+
+        auto tied() const
+        {
+            return std::tie(knobPos, isOn, isDisabled, style, size, onColor, offColor);
+        }
+    };
     struct Surface;
 
     int knobRadius() const { return q->height() / 2; }
     int farthestKnob() const { return q->width() - knobRadius(); }
     bool isMoving() const { return knobPos != 0; }
     QColor statusColor() const { return onoffStatus ? onColor : offColor; }
+    Look shownLook() const
+    {
+        return {knobPos, onoffStatus, btnDisable, style, q->size(), onColor, offColor};
+    }
     void endGlide();
     void releaseDrag(const QPoint &pos);
     void releaseTap(const QPoint &pos);
@@ -84,6 +104,7 @@ public:
     void drawPictures(QPainter &painter);
     void drawSplitBkg(QPainter &painter) const;
     void drawMovingChunk(QPainter &painter) const;
+    void drawPainted(QPainter &painter);
     void drawStyle0(QPainter &painter);
     void drawSlimTrack(QPainter &painter, int left, int right, const Surface &surface);
     void drawRoundKnob(QPainter &painter, int left, const QColor &pen, const QColor &brush) const;
@@ -111,6 +132,7 @@ public:
     QVector<int> overtakenTimers; // of glides that another one took over from
     Memo<Dimmed, QImage> dimmedBkg;
     Memo<Dimmed, QImage> dimmedChunk;
+    KeptLook<Look> paintedLook;
 };
 
 // What a painted shape is covered with.
@@ -258,13 +280,14 @@ void MOnOffButton::paintEvent(QPaintEvent *)
     if (height() >= width())
         return;
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    if (d->hasPictures())
+    if (d->hasPictures()) {
+        d->paintedLook.forget();
         d->drawPictures(painter);
-    else if (d->style == ONOFF_STYLE_1)
-        d->drawStyle1(painter);
-    else
-        d->drawStyle0(painter);
+    } else {
+        const QRect withOutline = rect().adjusted(-1, -1, 1, 1);
+        d->paintedLook.draw(painter, withOutline, d->shownLook(),
+                            [this](QPainter &p) { d->drawPainted(p); });
+    }
 }
 
 /**
@@ -418,6 +441,7 @@ QRect MOnOffButton::Private::restingChunkRect() const
 
 void MOnOffButton::Private::drawPictures(QPainter &painter)
 {
+    painter.setRenderHint(QPainter::Antialiasing);
     const QPixmap &bkg = onoffStatus ? normalBkgPix : pressBkgPix;
     if (btnDisable) {
         q->drawDisableImage(bkgRect(), bkg, painter);
@@ -450,6 +474,15 @@ void MOnOffButton::Private::drawMovingChunk(QPainter &painter) const
 {
     const QRect chunk = centredTowardZero(pressChunkPix.size(), q->rect());
     painter.drawPixmap(knobPos - chunk.width() / 2, chunk.top(), pressChunkPix);
+}
+
+void MOnOffButton::Private::drawPainted(QPainter &painter)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (style == ONOFF_STYLE_1)
+        drawStyle1(painter);
+    else
+        drawStyle0(painter);
 }
 
 void MOnOffButton::Private::drawStyle0(QPainter &painter)
