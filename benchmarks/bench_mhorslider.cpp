@@ -23,14 +23,14 @@ const SliderArtwork &artwork()
 
 PaintingMaker slider(bool isNormal, int value)
 {
-    return widgetOf<MHorSlider>(kSize, [=](MHorSlider &slider) {
+    return onGround(widgetOf<MHorSlider>(kSize, [=](MHorSlider &slider) {
         slider.setIsNormal(isNormal);
         slider.setSliderNormalImage(artwork().groove);
         slider.setSliderPressImage(artwork().fill);
         slider.setPointNormalImage(artwork().knob);
         slider.setPointPressImage(artwork().knob);
         slider.setCurrentValue(value);
-    });
+    }));
 }
 
 // The groove with the columns from `left` to `right` filled.

@@ -37,7 +37,21 @@ const Artwork &artwork()
 // Ours, in the state into which the function brings it.
 template <class Enter> PaintingMaker button(Enter enter)
 {
-    return widgetOf<MOnOffButton>(kSize, enter);
+    return onGround(widgetOf<MOnOffButton>(kSize, enter));
+}
+
+// The knob in motion: it goes a pixel back or forth, and is painted.
+template <class Enter> PaintingMaker movingButton(Enter enter)
+{
+    return onGround([enter]() -> Painting {
+        const auto canvas = makeCanvas(kSize);
+        const auto button = shownOn<MOnOffButton>(canvas, kSize, enter);
+        return {canvas, [button, x = kKnob]() mutable {
+                    x = x == kKnob ? kKnob + 1 : kKnob;
+                    sendMouse(*button, QEvent::MouseMove, {x, 10});
+                    button->paint();
+                }};
+    });
 }
 
 void setPictures(MOnOffButton &button)
@@ -125,11 +139,6 @@ QVector<Shape> plates(int knobLeft, const QColor &innerPen, const QColor &innerB
 }
 
 // Of a look at rest.
-OwnLimits shapesLimit(double blit)
-{
-    return {"its track and knob are filled and stroked with soft edges in each paint", blit};
-}
-
 PaintingMaker picturesFloor(const QImage &track, const QImage &knob, const QPoint &at)
 {
     return bareWidget(kSize, [=](QPainter &painter) {
@@ -168,33 +177,31 @@ void addPaintedLooks(Rows &rows)
     const QColor line(70, 70, 70);
     rows.paint("MOnOffButton", "style 0", button([](MOnOffButton &b) { b.setOnoffStatus(true); }),
                {floorOf({slimTrack(1, 118, line, part(kOn, 2, 3), kOn), roundKnob(71, line, kOn)})},
-               {{"QCheckBox", checkBox(true)}}, shapesLimit(27.1));
-    rows.motion("MOnOffButton", "style 0 in motion", button(moveKnob),
-                {floorOf({slimTrack(1, kKnob - 1, line, part(kOff, 2, 3), kOff),
-                          slimTrack(kKnob, 118, line, part(kOn, 2, 3), kOn),
-                          roundKnob(kKnob - 24, line, kOff)}),
-                 kMovingLimit},
-                {{"QCheckBox", checkBox(true)}});
+               {{"QCheckBox", checkBox(true)}});
+    rows.move("MOnOffButton", "style 0 in motion", movingButton(AsItIs()),
+              {floorOf({slimTrack(1, kKnob - 1, line, part(kOff, 2, 3), kOff),
+                        slimTrack(kKnob, 118, line, part(kOn, 2, 3), kOn),
+                        roundKnob(kKnob - 24, line, kOff)}),
+               kMovingLimit},
+              {{"QCheckBox", checkBox(true)}});
     rows.paint("MOnOffButton", "style 0 disabled", button([](MOnOffButton &b) {
                    b.setOnoffStatus(true);
                    b.setBtnDisable(true);
                }),
                {floorOf({slimTrack(1, 118, part(kOn, 2, 5), part(kOn, 2, 5), part(kOn, 2, 3)),
                          roundKnob(71, part(kOn, 2, 3), part(kOn, 2, 3))})},
-               {{"QCheckBox", checkBox(false)}}, shapesLimit(27.1));
+               {{"QCheckBox", checkBox(false)}});
     rows.paint("MOnOffButton", "style 1", button([](MOnOffButton &b) {
                    b.setOnoffStatus(true);
                    b.setUIStyle(MOnOffButton::ONOFF_STYLE_1);
                }),
-               {floorOf(plates(76, kOn, part(kOn, 1, 2, 155)))}, {{"QCheckBox", checkBox(true)}},
-               shapesLimit(34.5));
-    rows.motion("MOnOffButton", "style 1 in motion", button([](MOnOffButton &b) {
-                    b.setOnoffStatus(true);
-                    b.setUIStyle(MOnOffButton::ONOFF_STYLE_1);
-                    moveKnob(b);
-                }),
-                {floorOf(plates(39, part(kOn, 1, 2), part(kOn, 1, 2))), kMovingLimit},
-                {{"QCheckBox", checkBox(true)}});
+               {floorOf(plates(76, kOn, part(kOn, 1, 2, 155)))}, {{"QCheckBox", checkBox(true)}});
+    rows.move("MOnOffButton", "style 1 in motion", movingButton([](MOnOffButton &b) {
+                  b.setOnoffStatus(true);
+                  b.setUIStyle(MOnOffButton::ONOFF_STYLE_1);
+              }),
+              {floorOf(plates(39, part(kOn, 1, 2), part(kOn, 1, 2))), kMovingLimit},
+              {{"QCheckBox", checkBox(true)}});
 }
 
 void addPicturedLooks(Rows &rows)

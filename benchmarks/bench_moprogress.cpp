@@ -11,6 +11,8 @@ namespace
 {
 
 constexpr QSize kSize(220, 220);
+constexpr double kMovingLimit = 0.7; // of the floor, which has its paths and keeps nothing
+constexpr double kPeerLimit = 0.5;
 
 // The paths and layouts of a ring of 100 px at 50 %, made once.
 struct Prepared {
@@ -36,7 +38,7 @@ struct Prepared {
 
 PaintingMaker floorRing()
 {
-    return bareWidget(kSize, [prepared = Prepared()](QPainter &painter) {
+    return onGround(bareWidget(kSize, [prepared = Prepared()](QPainter &painter) {
         painter.translate(110, 110);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setBrush(QColor(0, 0, 0, 100));
@@ -47,15 +49,35 @@ PaintingMaker floorRing()
         painter.setBrush(QColor(255, 125, 0));
         painter.drawPath(prepared.done);
         painter.drawStaticText(prepared.percentage.at, prepared.percentage.layout);
+    }));
+}
+
+// Another value, and its paint.
+PaintingMaker moved()
+{
+    return onGround([]() -> Painting {
+        const auto canvas = makeCanvas(kSize);
+        const auto ring = shownOn<MOProgress>(canvas, kSize, AsItIs());
+        return {canvas, [ring] {
+                    ring->setCurrentValue(ring->currentValue() == 50 ? 51 : 50);
+                    ring->paint();
+                }};
     });
+}
+
+PaintingMaker peer()
+{
+    return widgetOf<QProgressBar>(kSize, [](QProgressBar &bar) { bar.setValue(50); });
 }
 
 } // namespace
 
 void defineRows(Rows &rows, Tag<MOProgress>)
 {
-    rows.paint("MOProgress", "half done", widgetOf<MOProgress>(kSize), {floorRing()},
-               {{"QProgressBar",
-                 widgetOf<QProgressBar>(kSize, [](QProgressBar &bar) { bar.setValue(50); })}},
-               {"its disc and rings are filled and stroked with soft edges in each paint", 27.3});
+    rows.paint("MOProgress", "half done", onGround(widgetOf<MOProgress>(kSize)), {floorRing()},
+               {{"QProgressBar", peer(), kPeerLimit}});
+    rows.move("MOProgress", "value moved", moved(), {floorRing(), kMovingLimit},
+              {{"QProgressBar", peer()}},
+              {"a half of it cuts the part that is done out of its circle, for which there is no "
+               "shorter way to the same pixels, and a third fills and strokes it"});
 }

@@ -21,6 +21,29 @@ const SliderArtwork &artwork()
     return instance;
 }
 
+void givePictures(MProgressBar &bar)
+{
+    bar.setSliderNormalImage(artwork().fill);
+    bar.setSliderPressImage(artwork().groove);
+    bar.setPointNormalImage(artwork().knob);
+    bar.setPointPressImage(artwork().knob);
+}
+
+void giveKnob(MProgressBar &bar) { bar.setPonitRadius(20); }
+
+// Another value, and its paint.
+template <class Prepare> PaintingMaker moved(Prepare prepare)
+{
+    return onGround([prepare]() -> Painting {
+        const auto canvas = makeCanvas(kSize);
+        const auto bar = shownOn<MProgressBar>(canvas, kSize, prepare);
+        return {canvas, [bar] {
+                    bar->setCurrentValue(bar->currentValue() == 50 ? 51 : 50);
+                    bar->paint();
+                }};
+    });
+}
+
 PaintingMaker picturesFloor()
 {
     return bareWidget(kSize, [](QPainter &painter) {
@@ -61,17 +84,10 @@ PaintingMaker peer()
 
 void defineRows(Rows &rows, Tag<MProgressBar>)
 {
-    rows.paint("MProgressBar", "pictures",
-               widgetOf<MProgressBar>(kSize,
-                                      [](MProgressBar &bar) {
-                                          bar.setSliderNormalImage(artwork().fill);
-                                          bar.setSliderPressImage(artwork().groove);
-                                          bar.setPointNormalImage(artwork().knob);
-                                          bar.setPointPressImage(artwork().knob);
-                                      }),
+    rows.paint("MProgressBar", "pictures", onGround(widgetOf<MProgressBar>(kSize, givePictures)),
                {picturesFloor()}, {{"QSlider style sheet", peer()}});
-    rows.paint("MProgressBar", "plain colours",
-               widgetOf<MProgressBar>(kSize, [](MProgressBar &bar) { bar.setPonitRadius(20); }),
-               {plainFloor()}, {{"QSlider style sheet", peer()}},
-               {"its knob is a circle that is filled with soft edges in each paint", 4.05});
+    rows.paint("MProgressBar", "plain colours", onGround(widgetOf<MProgressBar>(kSize, giveKnob)),
+               {plainFloor()}, {{"QSlider style sheet", peer()}});
+    rows.move("MProgressBar", "pictures moved", moved(givePictures), {picturesFloor()}, {});
+    rows.move("MProgressBar", "plain colours moved", moved(giveKnob), {plainFloor()}, {});
 }

@@ -29,15 +29,24 @@ QColor faded(int i) { return {255, 255, 255, i < 6 ? 120 : 20 * i + 15}; }
 
 PaintingMaker ring(SpLoadingRound::DrawStyle style)
 {
-    return widgetOf<SpLoadingRound>(kSize, [style](SpLoadingRound &ring) {
+    return onGround(widgetOf<SpLoadingRound>(kSize, [style](SpLoadingRound &ring) {
         ring.setRadius(kRadius);
         ring.setDrawStyle(style);
-    });
+    }));
 }
 
-OwnLimits spokesLimit(double blit)
+// A step of the rotation, and its paint.
+PaintingMaker turned()
 {
-    return {"its twelve spokes are turned and filled with soft edges in each paint", blit};
+    return onGround([]() -> Painting {
+        const auto canvas = makeCanvas(kSize);
+        const auto ring = shownOn<SpLoadingRound>(
+            canvas, kSize, [](SpLoadingRound &shown) { shown.setRadius(kRadius); });
+        return {canvas, [ring] {
+                    ring->setIndex(ring->index() + 1);
+                    ring->paint();
+                }};
+    });
 }
 
 // Qt has no busy ring; its busy bar stands for it.
@@ -55,18 +64,23 @@ void defineRows(Rows &rows, Tag<SpLoadingRound>)
                    painter.setBrush(faded(i));
                    painter.drawEllipse(27, -3, 18, 6);
                })},
-               {{"QProgressBar", busyBar()}}, spokesLimit(19.3));
+               {{"QProgressBar", busyBar()}});
     rows.paint("SpLoadingRound", "rectangles", ring(SpLoadingRound::RectStyle),
                {floorOf([](QPainter &painter, int i) {
                    painter.setBrush(faded(i));
                    painter.drawRect(27, 0, 18, 7);
                })},
-               {{"QProgressBar", busyBar()}}, spokesLimit(9.1));
+               {{"QProgressBar", busyBar()}});
     rows.paint("SpLoadingRound", "greys", ring(SpLoadingRound::GrayStyle),
                {floorOf([](QPainter &painter, int i) {
                    const int grey = 252 - 21 * i;
                    painter.setBrush(QColor(grey, grey, grey));
                    painter.drawRoundedRect(19, 0, 22, 7, 25, 25, Qt::RelativeSize);
                })},
-               {{"QProgressBar", busyBar()}}, spokesLimit(19.3));
+               {{"QProgressBar", busyBar()}});
+    rows.move("SpLoadingRound", "turned", turned(), {floorOf([](QPainter &painter, int i) {
+                  painter.setBrush(faded(i));
+                  painter.drawEllipse(27, -3, 18, 6);
+              })},
+              {{"QProgressBar", busyBar(), 1.0}});
 }

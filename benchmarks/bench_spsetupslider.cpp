@@ -35,7 +35,7 @@ void prepare(SpSetupSlider &slider)
 void defineRows(Rows &rows, Tag<SpSetupSlider>)
 {
     const int rowsBelow = kBand + kTrack.height() - 1 - kMiddle;
-    rows.paint("SpSetupSlider", "track and fill", widgetOf<SpSetupSlider>(kSize, prepare),
+    rows.paint("SpSetupSlider", "track and fill", onGround(widgetOf<SpSetupSlider>(kSize, prepare)),
                {bareWidget(kSize,
                            [=](QPainter &painter) {
                                painter.drawPixmap(kLeft, kBand, artwork().groove);

@@ -8,7 +8,7 @@
 namespace
 {
 
-constexpr double kFloorLimit = 2.5; // two lists of their own
+constexpr double kFloorLimit = 1.25;
 
 } // namespace
 
@@ -16,5 +16,5 @@ void defineRows(Rows &rows, Tag<SpSetupSliderContainer>)
 {
     // The page paints nothing; what it costs is its making.
     rows.work("SpSetupSliderContainer", "made and deleted", makeAndDelete<SpSetupSliderContainer>(),
-              {makeAndDelete<QWidget>(), kFloorLimit}, {{"QFrame", makeAndDelete<QFrame>()}});
+              {makeAndDelete<QWidget>(), kFloorLimit}, {{"QFrame", makeAndDelete<QFrame>(), 1.0}});
 }

@@ -21,9 +21,16 @@ using StepMaker = std::function<Step()>;
 struct Painting {
     std::shared_ptr<QImage> canvas;
     Step step;
+    bool isOnGround = false; ///< onGround()
 };
 
 using PaintingMaker = std::function<Painting()>;
+
+/// Paintings of which each begins on a fresh ground, as those in a window do: a look may be kept
+/// for the ground on which it stands, and one with soft edges that is painted over itself again and
+/// again never stands on the same. Laying the ground is no part of instruction counts, but of all
+/// times in such a row.
+PaintingMaker onGround(const PaintingMaker &make);
 
 /// The steps of the paintings. The canvas stays as long as the step: whoever paints may only point
 /// into it.

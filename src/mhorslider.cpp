@@ -3,6 +3,7 @@
 
 #include "detail/accessible.h"
 #include "detail/arithmetic.h"
+#include "detail/filledtrack.h"
 #include "detail/geometry.h"
 #include "detail/keyrequest.h"
 
@@ -62,6 +63,8 @@ public:
     QPixmap pointNormalImage;
     QPixmap pointPressImage;
     QPixmap pointDisableImage;
+
+    FilledTrack filledGroove;
 };
 
 /** A slider for -5 to 5 at 0 that shows nothing before it has its pictures. */
@@ -241,12 +244,9 @@ void MHorSlider::paintEvent(QPaintEvent *)
 {
     const bool isDisabled = d->isDrawnDisabled();
     const QPixmap &fill = isDisabled ? d->sliderPressDisableImage : d->sliderPressImage;
+    const QPixmap &groove = isDisabled ? d->sliderNormalDisableImage : d->sliderNormalImage;
     QPainter painter(this);
-    painter.drawPixmap(d->grooveRect,
-                       isDisabled ? d->sliderNormalDisableImage : d->sliderNormalImage);
-    // To drawPixmap an empty part means the rest of the picture; here it means nothing.
-    if (!fill.isNull() && !d->fillTarget.isEmpty())
-        painter.drawPixmap(d->fillTarget, fill, d->fillSource);
+    d->filledGroove.draw(painter, {groove, d->grooveRect}, {fill, d->fillTarget}, d->fillSource);
 }
 
 /**

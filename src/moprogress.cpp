@@ -4,6 +4,7 @@
 #include "detail/accessible.h"
 #include "detail/fonts.h"
 #include "detail/geometry.h"
+#include "detail/keptlook.h"
 #include "detail/memo.h"
 #include "detail/textcache.h"
 
@@ -33,24 +34,56 @@ public:
     explicit Private(MOProgress *widget) : q(widget) { }
 
     // To cut one path out of another costs more than to fill both.
-    struct Paths {
+    struct TrackPaths {
         QPainterPath disc; // a circle alone, without a line to it from the middle
         QPainterPath ring;
-        QPainterPath done;
     };
     // What they depend on.
     struct Shape {
         int radius; // px
         int arcHeight; // px
-        int value; // percent
 
-        auto tied() const { return std::tie(radius, arcHeight, value); }
+        auto tied() const { return std::tie(radius, arcHeight); }
+    };
+    // What the path of the done part depends on.
+    struct DoneShape {
+        int sweep; // degrees
+        Shape shape;
+
+        auto tied() const { return std::tuple_cat(std::tie(sweep), shape.tied()); }
+    };
+    // What the ring depends on, but for its part that is done.
+    struct Track {
+        int radius; // px
+        int arcHeight; // px
+        bool boundary;
+        QColor insideColor;
+        QColor normalColor;
+        QColor boundaryColor;
+
+        auto tied() const
+        {
+            return std::tie(radius, arcHeight, boundary, insideColor, normalColor, boundaryColor);
+        }
+    };
+    // What the whole ring depends on.
+    struct Ring {
+        int value; // percent
+        QColor pressColor;
+        Track track;
+
+        auto tied() const { return std::tuple_cat(std::tie(value, pressColor), track.tied()); }
     };
 
     template <typename T> void change(T &member, const T &value);
     QRectF square() const;
-    Paths laidOut() const;
+    QPainterPath insidePath() const;
+    TrackPaths trackPaths() const;
+    QPainterPath donePath(int sweep) const;
+    void setOutline(QPainter &painter) const;
     void drawRing(QPainter &painter) const;
+    void drawTrack(QPainter &painter) const;
+    void drawDone(QPainter &painter) const;
     void drawTexts(QPainter &painter) const;
 
     MOProgress *const q;
@@ -67,7 +100,10 @@ public:
     QString dispalyText;
     QColor displayTextColor{255, 255, 255, 255};
 
-    mutable Memo<Shape, Paths> paths;
+    mutable Memo<Shape, TrackPaths> track;
+    mutable Memo<DoneShape, QPainterPath> done;
+    mutable KeptLook<Track> trackLook;
+    mutable KeptLook<Ring> ringLook;
     mutable TextCache percentage;
     mutable TextCache caption;
 };
@@ -193,40 +229,73 @@ QRectF MOProgress::Private::square() const
     return {-rim, -rim, 2 * rim, 2 * rim};
 }
 
-MOProgress::Private::Paths MOProgress::Private::laidOut() const
+QPainterPath MOProgress::Private::insidePath() const
 {
-    Paths laid;
     const auto thickness = qreal(boundedPixel(arcHeight));
     QPainterPath inside;
     inside.addEllipse(square().adjusted(thickness, thickness, -thickness, -thickness));
-    laid.disc.arcMoveTo(square(), 0);
-    laid.disc.arcTo(square(), 0, 360);
-    const int sweep = currentValue * 360 / -100; // whole degrees, clockwise
-    QPainterPath done; // a sector: it starts and ends in the middle
-    done.arcTo(square(), kTop, qreal(sweep));
-
-    laid.ring = laid.disc - inside;
-    laid.done = done - inside;
-    return laid;
+    return inside;
 }
 
-// The middle is a whole disc with the pen that every painter starts with.
+MOProgress::Private::TrackPaths MOProgress::Private::trackPaths() const
+{
+    TrackPaths paths;
+    paths.disc.arcMoveTo(square(), 0);
+    paths.disc.arcTo(square(), 0, 360);
+    paths.ring = paths.disc - insidePath();
+    return paths;
+}
+
+QPainterPath MOProgress::Private::donePath(int sweep) const
+{
+    QPainterPath sector; // it starts and ends in the middle
+    sector.arcTo(square(), kTop, qreal(sweep));
+    return sector - insidePath();
+}
+
+// While the value moves, what lies below the done part is kept; when it rests, all of the ring is,
+// and no more than that.
 void MOProgress::Private::drawRing(QPainter &painter) const
 {
-    const Paths &drawn =
-        paths.value({radius, arcHeight, currentValue}, [this](Paths &stale) { stale = laidOut(); });
-    painter.setBrush(insideColor);
-    painter.drawPath(drawn.disc);
-    painter.setBrush(normalColor);
+    const Track shown{radius, arcHeight, boundary, insideColor, normalColor, boundaryColor};
+    const QRect withOutline = square().toAlignedRect().adjusted(-1, -1, 1, 1);
+    ringLook.draw(painter, withOutline, {currentValue, pressColor, shown}, [&](QPainter &p) {
+        trackLook.draw(p, withOutline, shown, [this](QPainter &below) { drawTrack(below); });
+        drawDone(p);
+    });
+    if (ringLook.size() > 0)
+        trackLook.forget();
+}
+
+void MOProgress::Private::setOutline(QPainter &painter) const
+{
     if (boundary)
         painter.setPen(QPen(boundaryColor, 1));
     else
         painter.setPen(Qt::NoPen);
+}
+
+// The middle is a whole disc with the pen that every painter starts with.
+void MOProgress::Private::drawTrack(QPainter &painter) const
+{
+    const TrackPaths &drawn =
+        track.value({radius, arcHeight}, [this](TrackPaths &stale) { stale = trackPaths(); });
+    painter.setBrush(insideColor);
+    painter.drawPath(drawn.disc);
+    painter.setBrush(normalColor);
+    setOutline(painter);
     painter.drawPath(drawn.ring);
+}
+
+void MOProgress::Private::drawDone(QPainter &painter) const
+{
     if (currentValue == 0)
         return;
+    const int sweep = currentValue * 360 / -100; // whole degrees, clockwise
     painter.setBrush(pressColor);
-    painter.drawPath(drawn.done);
+    setOutline(painter);
+    painter.drawPath(done.value({sweep, {radius, arcHeight}},
+                                [&](QPainterPath &stale) { stale = donePath(sweep); }));
 }
 
 void MOProgress::Private::drawTexts(QPainter &painter) const

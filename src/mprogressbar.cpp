@@ -4,6 +4,7 @@
 #include "detail/accessible.h"
 #include "detail/arithmetic.h"
 #include "detail/geometry.h"
+#include "detail/keptlook.h"
 #include "detail/keyrequest.h"
 #include "detail/textcache.h"
 
@@ -13,6 +14,7 @@
 #include <QRect>
 
 #include <algorithm>
+#include <array>
 
 using namespace panelkit;
 
@@ -41,6 +43,28 @@ class Q_DECL_HIDDEN MProgressBar::Private
 public:
     explicit Private(MProgressBar *widget) : q(widget) { }
 
+    // What groove and knob depend on.
+    struct Look {
+        int currentValue;
+        int maxValue;
+        int minValue;
+        int ponitRadius; // px
+        bool pressed;
+        bool isEnabled;
+        bool boundary;
+        QSize size; // px
+        std::array<qint64, 6> pictures; // QPixmap::cacheKey()
+        std::array<QColor, 5> colors;
+
+        auto tied() const
+        {
+            return std::tie(currentValue, maxValue, minValue, ponitRadius, pressed, isEnabled,
+                            boundary, size, pictures, colors);
+        }
+    };
+
+    Look shownLook() const;
+    QRect paintedRect() const;
     bool hasPictures() const;
     bool isScaled(const QPainter &painter) const;
     int bounded(int value) const;
@@ -50,6 +74,8 @@ public:
     QRect grooveRect() const;
     QRect knobRect() const;
     const QPixmap &currentKnob() const;
+    QRect plainBarRect() const;
+    QRect plainKnobRect() const;
     void drawGroove(QPainter &painter) const;
     void drawKnob(QPainter &painter) const;
     void drawTime(QPainter &painter) const;
@@ -77,6 +103,7 @@ public:
     bool boundary = false;
     QColor boundaryColor{210, 210, 210};
 
+    KeptLook<Look> look;
     mutable TextCache time;
 };
 
@@ -267,13 +294,16 @@ void MProgressBar::paintEvent(QPaintEvent *)
     QPainter painter(this);
     if (!d->hasPictures() || d->isScaled(painter))
         painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    if (!d->hasPictures()) {
-        d->drawPlain(painter);
-        return;
-    }
-    d->drawGroove(painter);
-    d->drawKnob(painter);
-    d->drawTime(painter);
+    d->look.draw(painter, d->paintedRect(), d->shownLook(), [this](QPainter &p) {
+        if (d->hasPictures()) {
+            d->drawGroove(p);
+            d->drawKnob(p);
+        } else {
+            d->drawPlain(p);
+        }
+    });
+    if (d->hasPictures())
+        d->drawTime(painter);
 }
 
 /** A press asks for the click sound and takes the knob; it goes on to the parent. */
@@ -313,6 +343,30 @@ void MProgressBar::mouseReleaseEvent(QMouseEvent *e)
     }
     if (guard)
         QWidget::mouseReleaseEvent(e);
+}
+
+MProgressBar::Private::Look MProgressBar::Private::shownLook() const
+{
+    return {currentValue,
+            maxValue,
+            minValue,
+            ponitRadius,
+            pressed,
+            q->isEnabled(),
+            boundary,
+            q->size(),
+            {sliderNormalImage.cacheKey(), sliderPressImage.cacheKey(),
+             sliderDisableImage.cacheKey(), pointNormalImage.cacheKey(), pointPressImage.cacheKey(),
+             pointDisableImage.cacheKey()},
+            {normalColor, pressColor, pointNormalColor, pointPressColor, boundaryColor}};
+}
+
+// Of the widget's whole width: a value left outside of a range that has shrunk goes there.
+QRect MProgressBar::Private::paintedRect() const
+{
+    const QRect parts =
+        hasPictures() ? grooveRect() | knobRect() : plainBarRect() | plainKnobRect();
+    return QRect(0, parts.top(), q->width(), parts.height()).adjusted(-1, -1, 1, 1);
 }
 
 bool MProgressBar::Private::hasPictures() const
@@ -381,6 +435,17 @@ const QPixmap &MProgressBar::Private::currentKnob() const
     return pressed ? pointPressImage : pointNormalImage;
 }
 
+QRect MProgressBar::Private::plainBarRect() const
+{
+    return {0, q->height() * 2 / 5, q->width(), q->height() / 5};
+}
+
+QRect MProgressBar::Private::plainKnobRect() const
+{
+    const int knob = boundedPixel(ponitRadius);
+    return {partOf(q->width() - knob), (q->height() - knob) / 2, knob, knob};
+}
+
 void MProgressBar::Private::drawGroove(QPainter &painter) const
 {
     const QRect groove = grooveRect();
@@ -411,22 +476,21 @@ void MProgressBar::Private::drawTime(QPainter &painter) const
 
 void MProgressBar::Private::drawPlain(QPainter &painter) const
 {
-    const int knob = boundedPixel(ponitRadius);
-    const int left = partOf(q->width() - knob);
-    QRect bar(0, q->height() * 2 / 5, q->width(), q->height() / 5);
+    const QRect knob = plainKnobRect();
+    QRect bar = plainBarRect();
     if (boundary)
         painter.setPen(QPen(boundaryColor));
     else
         painter.setPen(Qt::NoPen);
     painter.setBrush(normalColor);
     painter.drawRects(&bar, 1);
-    bar.setRight(left + knob / 2 - 1);
+    bar.setRight(knob.left() + knob.width() / 2 - 1);
     painter.setBrush(pressColor);
     painter.drawRects(&bar, 1);
-    if (knob <= 0)
+    if (knob.width() <= 0)
         return;
     painter.setBrush(pressed ? pointPressColor : pointNormalColor);
-    painter.drawEllipse(QRect(left, (q->height() - knob) / 2, knob, knob));
+    painter.drawEllipse(knob);
 }
 
 // To accessibility.

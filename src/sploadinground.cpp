@@ -4,6 +4,7 @@
 #include "detail/accessible.h"
 #include "detail/arithmetic.h"
 #include "detail/geometry.h"
+#include "detail/keptlook.h"
 
 #include <QBasicTimer>
 #include <QMouseEvent>
@@ -22,6 +23,7 @@ namespace
 constexpr int kSpokes = 12;
 constexpr int kStep = 30; // degrees
 constexpr int kLeastAlpha = 120;
+constexpr int kOverhang = 32; // the part of the radius by which a rectangle's corner lies beyond it
 constexpr int kRoundness = 25; // percent
 constexpr double kCircle = 6.28; // the circumference for a radius of 1
 
@@ -32,6 +34,17 @@ class Q_DECL_HIDDEN SpLoadingRound::Private
 public:
     explicit Private(SpLoadingRound *widget) : q(widget) { }
 
+    // What the ring depends on.
+    struct Look {
+        int index;
+        int radius; // px
+        DrawStyle drawStyle;
+        QColor painterColor;
+
+        auto tied() const { return std::tie(index, radius, drawStyle, painterColor); }
+    };
+
+    void drawRing(QPainter &painter);
     void drawSpoke(QPainter &painter, int number);
 
     SpLoadingRound *const q;
@@ -42,6 +55,8 @@ public:
     bool holdMouseEvent = false;
     bool moved = false; // since the press
     QBasicTimer timer;
+
+    KeptLook<Look> look;
 };
 
 /** A ring that stands still until setTimer(). */
@@ -110,12 +125,11 @@ void SpLoadingRound::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     painter.translate(QPoint(width() / 2, height() / 2));
-    painter.setPen(Qt::NoPen);
-    painter.rotate(qreal(d->index * kStep));
-    for (int number = kSpokes; number > 0; --number) {
-        d->drawSpoke(painter, number);
-        painter.rotate(-kStep);
-    }
+    const int r = boundedPixel(d->radius);
+    const int rim = r + r / kOverhang + 2; // of the spokes' corners
+    d->look.draw(painter, {-rim, -rim, 2 * rim, 2 * rim},
+                 {d->index, d->radius, d->drawStyle, d->painterColor},
+                 [this](QPainter &p) { d->drawRing(p); });
 }
 
 /** A tick of the own timer goes on by a step; those of any other are dropped. */
@@ -158,6 +172,16 @@ void SpLoadingRound::mouseReleaseEvent(QMouseEvent *e)
         emit clicked();
     if (!guard)
         e->accept();
+}
+
+void SpLoadingRound::Private::drawRing(QPainter &painter)
+{
+    painter.setPen(Qt::NoPen);
+    painter.rotate(qreal(index * kStep));
+    for (int number = kSpokes; number > 0; --number) {
+        drawSpoke(painter, number);
+        painter.rotate(-kStep);
+    }
 }
 
 // In GrayStyle the colour itself becomes that of the spoke, so that painterColor reads (231, 231,

@@ -2,6 +2,7 @@
 #include "spmaskbackground.h"
 
 #include "detail/accessible.h"
+#include "detail/deviceview.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -63,6 +64,10 @@ void SpMaskBackground::setholdMouseEvent(const bool &hold) { d->holdMouseEvent =
 void SpMaskBackground::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
+    if ((d->roundX <= 0 || d->roundY <= 0) && isOnPixels(painter)) {
+        painter.fillRect(rect(), d->painterColor);
+        return;
+    }
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(d->painterColor);

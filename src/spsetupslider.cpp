@@ -3,6 +3,7 @@
 
 #include "detail/accessible.h"
 #include "detail/arithmetic.h"
+#include "detail/filledtrack.h"
 #include "detail/fonts.h"
 #include "detail/keyrequest.h"
 #include "spiconbutton.h"
@@ -47,8 +48,6 @@ public:
     int knobTopAt(int y) const;
     std::optional<int> valueAt(int y) const;
     static double tell(const QWidget *widget, AccessibleFact fact, const QPoint &at);
-    void drawTrack(QPainter &painter) const;
-    void drawFill(QPainter &painter) const;
 
     SpSetupSlider *const q;
     int topValue = 0;
@@ -76,6 +75,8 @@ public:
     QPixmap addBtnPressImage;
     QPixmap decBtnNormalImage;
     QPixmap decBtnPressImage;
+
+    FilledTrack filledTrack;
 };
 
 /** A slider for -5 to 5 at 0 that shows nothing before it has its pictures. */
@@ -279,8 +280,8 @@ void SpSetupSlider::setFontSize(int px)
 void SpSetupSlider::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    d->drawTrack(painter);
-    d->drawFill(painter);
+    d->filledTrack.draw(painter, {d->sliderNormalImage, d->trackRect},
+                        {d->sliderPressImage, d->fillTarget}, d->fillSource);
 }
 
 /**
@@ -412,18 +413,6 @@ int SpSetupSlider::Private::knobTopAt(int y) const
     if (y > end - half)
         return end - knob->height();
     return y - half;
-}
-
-void SpSetupSlider::Private::drawTrack(QPainter &painter) const
-{
-    painter.drawPixmap(trackRect, sliderNormalImage);
-}
-
-void SpSetupSlider::Private::drawFill(QPainter &painter) const
-{
-    // To drawPixmap an empty part means the rest of the picture; here it means nothing.
-    if (!sliderPressImage.isNull() && !fillTarget.isEmpty())
-        painter.drawPixmap(fillTarget, sliderPressImage, fillSource);
 }
 
 std::optional<int> SpSetupSlider::Private::valueAt(int y) const

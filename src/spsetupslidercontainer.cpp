@@ -20,8 +20,21 @@ constexpr int kMostSliders = 1000000; // more than any page holds
 class Q_DECL_HIDDEN SpSetupSliderContainer::Private
 {
 public:
-    QList<QPointF> pointList{{0, 0}, {1, 1}}; // one for each slider
-    QList<int> valueList{0, 0}; // one for each slider
+    // The lists of a new page, which all share.
+    struct NewLists {
+        NewLists() { qRegisterMetaType<QList<int>>("QList<int>"); }
+
+        QList<QPointF> points{{0, 0}, {1, 1}};
+        QList<int> values{0, 0};
+    };
+    static const NewLists &newLists()
+    {
+        static const NewLists lists;
+        return lists;
+    }
+
+    QList<QPointF> pointList = newLists().points; // one for each slider
+    QList<int> valueList = newLists().values; // one for each slider
     QPoint pressPos; // px
     int totalNumber = 2;
 };
@@ -31,7 +44,6 @@ SpSetupSliderContainer::SpSetupSliderContainer(QWidget *parent)
     : QWidget(parent), d(std::make_unique<Private>())
 {
     installAccessibility();
-    qRegisterMetaType<QList<int>>("QList<int>");
 }
 
 SpSetupSliderContainer::~SpSetupSliderContainer() = default;

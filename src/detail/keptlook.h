@@ -4,6 +4,7 @@
 
 #include "memo.h"
 
+#include <QColor>
 #include <QImage>
 #include <QPainter>
 #include <QRect>
@@ -32,9 +33,11 @@ private:
     struct Place {
         QRect rect; // px, in the device
         QTransform toDevice;
+        QColor pen; // of a bitmap
+        int dpi = 0; // of the device: a font may have its size in points
         QImage::Format format = QImage::Format_Invalid;
 
-        auto tied() const { return std::tie(rect, format, toDevice); }
+        auto tied() const { return std::tie(rect, format, dpi, pen, toDevice); }
     };
 
     void copy(QPainter &painter) const;
@@ -52,7 +55,8 @@ private:
 /// when the same is wanted again its pixels are kept. On what holds no pixels, and where a painter
 /// is translucent, composes in another way or is clipped to more than a rectangle, it is painted.
 ///
-/// `Content` is the key, as in memo.h, of all that the look depends on but for the device.
+/// `Content` is the key, as in memo.h, of all that the look depends on but for the device and the
+/// colour of the painter's pen.
 template <typename Content> class KeptLook : public KeptPixels
 {
 public:

@@ -134,6 +134,10 @@ private slots:
         QTest::newRow("color") << Star{Qt::red, 30} << Paint(toMiddle);
         QTest::newRow("radius") << Star{Star().color, 29} << Paint(toMiddle);
         QTest::newRow("place") << Star() << Paint([](QPainter &p) { p.translate(61, 50); });
+        QTest::newRow("pen") << Star() << Paint([](QPainter &p) {
+            toMiddle(p);
+            p.setPen(Qt::red);
+        });
         QTest::newRow("between pixels")
             << Star() << Paint([](QPainter &p) { p.translate(qreal(60.5), 50); });
         QTest::newRow("size") << Star() << Paint([](QPainter &p) {
@@ -204,6 +208,17 @@ private slots:
         for (int paint = 0; paint < 4; ++paint)
             COMPARE_BOTH(subject, toMiddle, canvas(QImage::Format(format)));
         QTEST(subject.look.takings(), "takings");
+    }
+
+    void theDensityOfADeviceCounts()
+    {
+        QImage fine = canvas();
+        fine.setDotsPerMeterY(2 * fine.dotsPerMeterY());
+        Subject subject;
+        COMPARE_BOTH(subject);
+        COMPARE_BOTH(subject);
+        COMPARE_BOTH(subject, toMiddle, fine);
+        QCOMPARE(subject.paints, 3);
     }
 
     void aTranslucentGroundStaysSo()

@@ -3,6 +3,7 @@
 
 #include "baseorder.h"
 #include "deletion.h"
+#include "keptlooks.h"
 #include "pictures.h"
 #include "setters.h"
 #include "signallog.h"
@@ -655,6 +656,28 @@ private slots:
         checkMayBeDeletedByAnyReport(
             [] { return makeSlider(); }, 3,
             [](QWidget *s) { touch(s).press(5, 5).moveTo(250, 5).release(); });
+    }
+
+    void aGrooveThatIsKeptFollowsItsInputs()
+    {
+        const auto make = [] { return makeSlider(); };
+        checkKeptLook<MHorSlider>(make,
+                                  {{"value", [](MHorSlider &s) { s.setCurrentValue(3); }},
+                                   {"fill",
+                                    [](MHorSlider &s) {
+                                        s.setSliderPressImage(filled(Qt::darkRed, {200, 20}));
+                                    }},
+                                   {"groove",
+                                    [](MHorSlider &s) {
+                                        s.setSliderNormalImage(filled(Qt::darkCyan, {200, 20}));
+                                    }},
+                                   {"disabled", [](MHorSlider &s) {
+                                        s.setSliderNormalDisablePix(filled(Qt::white, {200, 20}));
+                                        s.setSliderPressDisablePix(filled(Qt::black, {200, 20}));
+                                        s.setPointDisableImage(filled(Qt::red, {30, 40}));
+                                        s.setEnabled(false);
+                                    }}});
+        checkKeptLookElsewhere<MHorSlider>(make);
     }
 };
 

@@ -2,6 +2,7 @@
 #include <MOnOffButton>
 
 #include "baseorder.h"
+#include "keptlooks.h"
 #include "parent.h"
 #include "setters.h"
 #include "signallog.h"
@@ -289,16 +290,8 @@ void drawDimmed(QPainter &p, const QRect &target, const QPixmap &pixmap)
     p.drawImage(QRectF(target), image, QRectF(image.rect()));
 }
 
-// Whatever is painted in the whole widget, over an opaque ground as in a window.
-QImage onGround(QWidget &widget)
-{
-    QImage image(widget.size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(QColor(13, 70, 101));
-    widget.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
-    return image;
-}
-
-QImage onGround(const QWidget &widget, const Paint &paint)
+// The same of what is expected there.
+QImage expectedOnGround(const QWidget &widget, const Paint &paint)
 {
     QImage image(widget.size(), QImage::Format_ARGB32_Premultiplied);
     image.fill(QColor(13, 70, 101));
@@ -449,10 +442,10 @@ private slots:
         s.size = size;
         s.on = on;
         COMPARE_PICTURES(painted(button), reference(button, style0(s)));
-        COMPARE_PICTURES(onGround(button), onGround(button, style0(s)));
+        COMPARE_PICTURES(onGround(button), expectedOnGround(button, style0(s)));
         button.setUIStyle(MOnOffButton::ONOFF_STYLE_1);
         COMPARE_PICTURES(painted(button), reference(button, style1(s)));
-        COMPARE_PICTURES(onGround(button), onGround(button, style1(s)));
+        COMPARE_PICTURES(onGround(button), expectedOnGround(button, style1(s)));
 
         button.setBtnDisable(true);
         COMPARE_PICTURES(painted(button), reference(button, style1Disabled(s)));
@@ -526,6 +519,25 @@ private slots:
                 COMPARE_PICTURES(painted(*button), reference(*button, style1Disabled(s)));
             }
         }
+    }
+
+    void aPaintedLookThatIsKeptFollowsItsInputs()
+    {
+        const auto setStyle1 = [](Switch &b) { b.setUIStyle(MOnOffButton::ONOFF_STYLE_1); };
+        const std::vector<Change<Switch>> changes{
+            {"offColor", [](Switch &b) { b.setOffColor(Qt::blue); }},
+            {"onoffStatus", [](Switch &b) { b.setOnoffStatus(true); }},
+            {"onColor", [](Switch &b) { b.setOnColor(QColor(90, 200, 30)); }},
+            {"knob", [](Switch &b) { moveKnobTo(b, 40); }},
+            {"knob again", [](Switch &b) { moveKnobTo(b, 41); }},
+            {"UIStyle", setStyle1},
+            {"btnDisable", [](Switch &b) { b.setBtnDisable(true); }},
+            {"size", [](Switch &b) { b.resize(120, 50); }},
+            {"pictures", [](Switch &b) { setPictures(b); }},
+            {"no pictures", [](Switch &b) { b.setNormalBkgPix(QPixmap()); }},
+        };
+        checkKeptLook<Switch>([] { return makeSwitch(); }, changes);
+        checkKeptLookElsewhere<Switch>([] { return makeSwitch(); });
     }
 
     void aStyleOutOfRangeIsStyle0()
@@ -639,11 +651,12 @@ private slots:
             drawDimmed(p, chunk, artwork().resting);
         };
         COMPARE_PICTURES(painted(button), reference(button, resting));
-        COMPARE_PICTURES(onGround(button), onGround(button, resting));
+        COMPARE_PICTURES(onGround(button), expectedOnGround(button, resting));
         button.setBtnDisable(true);
         COMPARE_PICTURES(painted(button), reference(button, disabled));
-        COMPARE_PICTURES(onGround(button), onGround(button, disabled));
-        COMPARE_PICTURES(onGround(button), onGround(button, disabled)); // from what was kept
+        COMPARE_PICTURES(onGround(button), expectedOnGround(button, disabled));
+        COMPARE_PICTURES(onGround(button),
+                         expectedOnGround(button, disabled)); // from what was kept
         moveKnobTo(button, size.width() / 2);
         COMPARE_PICTURES(painted(button), reference(button, disabled));
     }

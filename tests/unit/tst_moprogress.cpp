@@ -2,6 +2,7 @@
 #include <MOProgress>
 
 #include "baseorder.h"
+#include "keptlooks.h"
 #include "setters.h"
 #include "signallog.h"
 #include "tablerows.h"
@@ -192,6 +193,49 @@ private slots:
               Action([](auto &r) { r.resize(240, 300); })}) {
             action(*ring);
             COMPARE_PICTURES(painted(*ring), documented(*ring));
+        }
+    }
+
+    void aRingThatIsKeptFollowsItsInputs()
+    {
+        const std::vector<Change<MOProgress>> changes{
+            {"currentValue", [](MOProgress &r) { r.setCurrentValue(70); }},
+            {"radius", [](MOProgress &r) { r.setRadius(90); }},
+            {"normalColor", [](MOProgress &r) { r.setNormalColor(QColor(0, 90, 200, 90)); }},
+            {"pressColor", [](MOProgress &r) { r.setPressColor(QColor(0, 200, 0, 128)); }},
+            {"boundaryColor", [](MOProgress &r) { r.setBoundaryColor(Qt::red); }},
+            {"boundary", [](MOProgress &r) { r.setBoundary(false); }},
+            {"arcHeight", [](MOProgress &r) { r.setArcHeight(33); }},
+            {"insideColor", [](MOProgress &r) { r.setInsideColor(QColor(90, 90, 0, 50)); }},
+            {"rim", [](MOProgress &r) { r.setPalette(QPalette(Qt::cyan)); }},
+            {"size", [](MOProgress &r) { r.resize(240, 230); }},
+            {"nothing done", [](MOProgress &r) { r.setCurrentValue(0); }},
+        };
+        checkKeptLook<MOProgress>(makeRing, changes);
+        checkKeptLookElsewhere<MOProgress>(makeRing);
+    }
+
+    // While the value moves, the track below it is kept, and follows its own inputs.
+    void aTrackThatIsKeptFollowsItsInputs()
+    {
+        const auto ring = makeRing();
+        const std::vector<std::function<void()>> changes{
+            [] {},
+            [&] { ring->setRadius(90); },
+            [&] { ring->setNormalColor(QColor(0, 90, 200, 90)); },
+            [&] { ring->setBoundaryColor(Qt::red); },
+            [&] { ring->setBoundary(false); },
+            [&] { ring->setArcHeight(33); },
+            [&] { ring->setInsideColor(QColor(90, 90, 0, 50)); },
+            [&] { ring->setPalette(QPalette(Qt::cyan)); },
+        };
+        int value = 1;
+        for (const auto &change : changes) {
+            change();
+            for (int paint = 0; paint < 4; ++paint) {
+                ring->setCurrentValue(++value);
+                COMPARE_PICTURES(painted(*ring), documented(*ring));
+            }
         }
     }
 

@@ -3,6 +3,7 @@
 
 #include "baseorder.h"
 #include "deletion.h"
+#include "keptlooks.h"
 #include "pictures.h"
 #include "setters.h"
 #include "signallog.h"
@@ -618,6 +619,59 @@ private slots:
         checkMayBeDeletedByAnyReport(
             [] { return makeBar(); }, 4,
             [](QWidget *s) { touch(s).press(5, 5).moveTo(250, 5).release(); });
+    }
+
+    // --- Kept looks -----------------------------------------------------------------------------
+
+    void aPlainBarThatIsKeptFollowsItsInputs()
+    {
+        checkKeptLook<MProgressBar>(
+            makePlain,
+            {{"ponitRadius", [](MProgressBar &b) { b.setPonitRadius(41); }},
+             {"currentValue", [](MProgressBar &b) { b.setCurrentValue(30); }},
+             {"minValue", [](MProgressBar &b) { b.setMinValue(10); }},
+             {"maxValue", [](MProgressBar &b) { b.setMaxValue(200); }},
+             {"normalColor", [](MProgressBar &b) { b.setNormalColor(QColor(9, 90, 9, 99)); }},
+             {"pressColor", [](MProgressBar &b) { b.setPressColor(Qt::blue); }},
+             {"pointNormalColor", [](MProgressBar &b) { b.setPointNormalColor(Qt::red); }},
+             {"pressed", [](MProgressBar &b) { touch(&b).press(50, 9); }},
+             {"pointPressColor", [](MProgressBar &b) { b.setPointPressColor(Qt::green); }},
+             {"boundary", [](MProgressBar &b) { b.setBoundary(true); }},
+             {"boundaryColor", [](MProgressBar &b) { b.setBoundaryColor(Qt::cyan); }},
+             {"out of the range", [](MProgressBar &b) { b.setMaxValue(12); }},
+             {"size", [](MProgressBar &b) { b.resize(300, 80); }}});
+        checkKeptLookElsewhere<MProgressBar>([] {
+            auto bar = makePlain();
+            bar->setPonitRadius(30);
+            return bar;
+        });
+    }
+
+    void aPicturedBarThatIsKeptFollowsItsInputs()
+    {
+        checkKeptLook<MProgressBar>(
+            makeBar,
+            {{"currentValue", [](MProgressBar &b) { b.setCurrentValue(30); }},
+             {"played", [](MProgressBar &b) { b.setSliderNormalImage(pictures().disabled); }},
+             {"groove",
+              [](MProgressBar &b) {
+                  b.setSliderPressImage(filled(Qt::red, {190, 30}));
+              }},
+             {"knob", [](MProgressBar &b) { b.setPointNormalImage(pictures().knobDisabled); }},
+             {"ponitRadius", [](MProgressBar &b) { b.setPonitRadius(12); }},
+             {"time", [](MProgressBar &b) { b.setShowValue(true); }},
+             {"realValue", [](MProgressBar &b) { b.setRealValue(31); }},
+             {"pressed", [](MProgressBar &b) { touch(&b).press(90, 9); }},
+             {"knob pressed", [](MProgressBar &b) { b.setPointPressImage(pictures().knob); }},
+             {"played disabled",
+              [](MProgressBar &b) {
+                  b.setEnabled(false);
+                  b.setSliderDisableImage(pictures().disabled);
+              }},
+             {"knob disabled",
+              [](MProgressBar &b) { b.setPointDisableImage(pictures().knobDisabled); }},
+             {"enabled", [](MProgressBar &b) { b.setEnabled(true); }}});
+        checkKeptLookElsewhere<MProgressBar>(makeBar);
     }
 };
 

@@ -2,6 +2,7 @@
 #include <SpLoadingRound>
 
 #include "deletion.h"
+#include "keptlooks.h"
 #include "paintwork.h"
 #include "setters.h"
 #include "signallog.h"
@@ -369,6 +370,34 @@ private slots:
     {
         checkMayBeDeletedByAnyReport([] { return makeRing(); }, 3,
                                      [](QWidget *s) { touch(s).tap(5, 5); });
+    }
+
+    void aRingThatIsKeptFollowsItsInputs()
+    {
+        checkKeptLook<SpLoadingRound>(
+            makeRing,
+            {{"index", [](SpLoadingRound &r) { r.setIndex(1); }},
+             {"painterColor", [](SpLoadingRound &r) { r.setPainterColor(Qt::red); }},
+             {"radius", [](SpLoadingRound &r) { r.setRadius(41); }},
+             {"rectangles", [](SpLoadingRound &r) { r.setDrawStyle(SpLoadingRound::RectStyle); }},
+             {"size", [](SpLoadingRound &r) { r.resize(r.width() + 4, r.height() + 9); }},
+             {"greys", [](SpLoadingRound &r) { r.setDrawStyle(SpLoadingRound::GrayStyle); }},
+             {"too large", [](SpLoadingRound &r) { r.setRadius(90); }}});
+        checkKeptLookElsewhere<SpLoadingRound>(makeRing);
+    }
+
+    // The colour that such a paint leaves is left by copies, too.
+    void greyRingsThatAreKeptLeaveTheirColour()
+    {
+        const auto ring = makeRing();
+        ring->setDrawStyle(SpLoadingRound::GrayStyle);
+        for (int round = 0; round < 2; ++round) {
+            ring->setPainterColor(Qt::red);
+            for (int paint = 0; paint < 4; ++paint) {
+                painted(*ring);
+                QCOMPARE(ring->painterColor(), QColor(231, 231, 231));
+            }
+        }
     }
 };
 

@@ -3,6 +3,7 @@
 
 #include "baseorder.h"
 #include "deletion.h"
+#include "keptlooks.h"
 #include "parent.h"
 #include "pictures.h"
 #include "setters.h"
@@ -821,6 +822,29 @@ private slots:
         qDeleteAll(slider->findChildren<SpIconButton *>());
         slider->setEnabled(false);
         QVERIFY(!valueOf(*slider)->isEnabled());
+    }
+
+    void aTrackThatIsKeptFollowsItsInputs()
+    {
+        const auto make = [] { return makeSlider(); };
+        checkKeptLook<SpSetupSlider>(
+            make,
+            {{"value", [](SpSetupSlider &s) { s.setCurrentValue(3); }},
+             {"fill",
+              [](SpSetupSlider &s) {
+                  s.setSliderPressImage(filled(Qt::darkRed, {20, 200}));
+              }},
+             {"track",
+              [](SpSetupSlider &s) {
+                  s.setSliderNormalImage(filled(Qt::darkCyan, {20, 200}));
+              }},
+             {"place",
+              [](SpSetupSlider &s) {
+                  s.setSliderNormalImage(filled(Qt::darkCyan, {30, 220}));
+                  s.initWidget();
+              }},
+             {"no fill", [](SpSetupSlider &s) { s.setSliderPressImage(QPixmap()); }}});
+        checkKeptLookElsewhere<SpSetupSlider>(make);
     }
 };
 

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: Apache-2.0
+#ifndef KEPTLOOKS_H
+#define KEPTLOOKS_H
+
+#include "widgettest.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+#include <utility>
+#include <vector>
+
+/// What a widget paints over an opaque ground, as in a window, through a painter that was prepared.
+inline QImage onGround(QWidget &widget, const std::function<void(QPainter &)> &prepare = {})
+{
+    QImage image(widget.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(QColor(13, 70, 101));
+    QPainter painter(&image);
+    if (prepare)
+        prepare(painter);
+    widget.render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
+    return image;
+}
+
+/// A change that shows, with the name of what it changes.
+template <class Widget> using Change = std::pair<const char *, std::function<void(Widget &)>>;
+
+/// A look that is kept is the one that a new widget paints for the first time, after each of these
+/// changes in turn. One that a change does not show in would prove nothing, and fails.
+template <class Widget>
+void checkKeptLook(const std::function<std::unique_ptr<Widget>()> &make,
+                   const std::vector<Change<Widget>> &changes)
+{
+    const auto kept = make();
+    QImage before;
+    for (std::size_t count = 0; count <= changes.size(); ++count) {
+        const char *name = count == 0 ? "made" : changes[count - 1].first;
+        const auto fresh = make();
+        for (std::size_t i = 0; i < count; ++i)
+            changes[i].second(*fresh);
+        if (count > 0)
+            changes[count - 1].second(*kept);
+        const QImage expected = onGround(*fresh);
+        QVERIFY2(expected != before, name);
+        for (int paint = 0; paint < 4; ++paint)
+            QVERIFY2(isSamePicture({onGround(*kept), expected}, name, paint), name);
+        before = expected;
+    }
+}
+
+/// A widget that keeps a look paints as a new one does where no copy would do.
+template <class Widget>
+void checkKeptLookElsewhere(const std::function<std::unique_ptr<Widget>()> &make)
+{
+    const std::vector<Change<QPainter>> places{
+        {"scaled", [](QPainter &p) { p.scale(qreal(0.8), qreal(0.7)); }},
+        {"translucent", [](QPainter &p) { p.setOpacity(0.5); }},
+        {"between pixels", [](QPainter &p) { p.translate(qreal(0.5), qreal(0.5)); }},
+        {"clipped",
+         [](QPainter &p) { p.setClipRegion(QRegion(3, 4, 20, 90) + QRect(9, 9, 40, 3)); }},
+        {"turned", [](QPainter &p) { p.rotate(10); }},
+    };
+    for (const Change<QPainter> &place : places) {
+        const auto kept = make();
+        const QImage plain = onGround(*kept);
+        onGround(*kept);
+        const QImage expected = onGround(*make(), place.second);
+        QVERIFY2(expected != plain, place.first);
+        for (int paint = 0; paint < 3; ++paint)
+            QVERIFY2(isSamePicture({onGround(*kept, place.second), expected}, place.first, paint),
+                     place.first);
+        QVERIFY2(isSamePicture({onGround(*kept), plain}, place.first, 3), place.first);
+    }
+}
+
+#endif // KEPTLOOKS_H
