@@ -89,10 +89,10 @@ PaintingMaker flatButton(const QString &text, const QColor &color, int radius)
 }
 
 void addString(Rows &rows, const char *state, const PaintingMaker &ours, const PaintingMaker &floor,
-               const PaintingMaker &peer, double blitLimit)
+               const PaintingMaker &peer, const OwnLimits &own = {})
 {
     rows.paint("SpDisLabel", state, ours, {floor}, {{"QPushButton style sheet", peer, kPeerLimit}},
-               textLimit(blitLimit));
+               own);
 }
 
 // What the label makes of a text that is too long: the same as a first paint of it shows.
@@ -113,23 +113,23 @@ QString shortened()
 void defineRows(Rows &rows, Tag<SpDisLabel>)
 {
     addString(rows, "square", label([](SpDisLabel &l) { l.setNormalBackgroundColor(kGround); }),
-              squareFloor(kGround), flatButton(shortText(), kGround, 0), 3.4);
-    addString(rows, "rounded", label([](SpDisLabel &l) {
+              squareFloor(kGround), flatButton(shortText(), kGround, 0), textLimit(3.4));
+    addString(rows, "rounded", onGround(label([](SpDisLabel &l) {
                   l.setNormalBackgroundColor(kGround);
                   l.setRoundXY(kRadius);
-              }),
-              roundedFloor(kGround), flatButton(shortText(), kGround, kRadius), 2.4);
-    addString(rows, "rounded translucent pressed", label([](SpDisLabel &l) {
+              })),
+              roundedFloor(kGround), flatButton(shortText(), kGround, kRadius));
+    addString(rows, "rounded translucent pressed", onGround(label([](SpDisLabel &l) {
                   l.setPressBackgroundColor(kTranslucent);
                   l.setRoundXY(kRadius);
                   l.setIsDown(true);
-              }),
-              roundedFloor(kTranslucent), flatButton(shortText(), kTranslucent, kRadius), 1.7);
+              })),
+              roundedFloor(kTranslucent), flatButton(shortText(), kTranslucent, kRadius));
     addString(rows, "no ground", label(AsItIs()), floorOf([](QPainter &) {}),
-              flatButton(shortText(), Qt::transparent, 0), 4.55);
+              flatButton(shortText(), Qt::transparent, 0), textLimit(4.55));
     addString(rows, "shortened", label([](SpDisLabel &l) { l.setText(longText()); }),
               floorOf([](QPainter &) {}, shortened()), flatButton(shortened(), Qt::transparent, 0),
-              6.1);
+              textLimit(6.1));
 
     rows.paint("SpDisLabel", "picture", label([](SpDisLabel &l) {
                    l.setDisplayMode(SpDisLabel::Picture);

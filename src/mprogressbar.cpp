@@ -43,7 +43,8 @@ class Q_DECL_HIDDEN MProgressBar::Private
 public:
     explicit Private(MProgressBar *widget) : q(widget) { }
 
-    // What groove and knob depend on.
+    // What the part that is kept depends on: the groove, in plain colours with the knob. A pictured
+    // knob is drawn over it: it is one copy, and mostly higher than the groove.
     struct Look {
         int currentValue;
         int maxValue;
@@ -53,7 +54,7 @@ public:
         bool isEnabled;
         bool boundary;
         QSize size; // px
-        std::array<qint64, 6> pictures; // QPixmap::cacheKey()
+        std::array<qint64, 3> pictures; // QPixmap::cacheKey()
         std::array<QColor, 5> colors;
 
         auto tied() const
@@ -295,15 +296,15 @@ void MProgressBar::paintEvent(QPaintEvent *)
     if (!d->hasPictures() || d->isScaled(painter))
         painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     d->look.draw(painter, d->paintedRect(), d->shownLook(), [this](QPainter &p) {
-        if (d->hasPictures()) {
+        if (d->hasPictures())
             d->drawGroove(p);
-            d->drawKnob(p);
-        } else {
+        else
             d->drawPlain(p);
-        }
     });
-    if (d->hasPictures())
-        d->drawTime(painter);
+    if (!d->hasPictures())
+        return;
+    d->drawKnob(painter);
+    d->drawTime(painter);
 }
 
 /** A press asks for the click sound and takes the knob; it goes on to the parent. */
@@ -347,25 +348,23 @@ void MProgressBar::mouseReleaseEvent(QMouseEvent *e)
 
 MProgressBar::Private::Look MProgressBar::Private::shownLook() const
 {
-    return {currentValue,
-            maxValue,
-            minValue,
-            ponitRadius,
-            pressed,
-            q->isEnabled(),
-            boundary,
-            q->size(),
-            {sliderNormalImage.cacheKey(), sliderPressImage.cacheKey(),
-             sliderDisableImage.cacheKey(), pointNormalImage.cacheKey(), pointPressImage.cacheKey(),
-             pointDisableImage.cacheKey()},
-            {normalColor, pressColor, pointNormalColor, pointPressColor, boundaryColor}};
+    return {
+        currentValue,
+        maxValue,
+        minValue,
+        ponitRadius,
+        pressed,
+        q->isEnabled(),
+        boundary,
+        q->size(),
+        {sliderNormalImage.cacheKey(), sliderPressImage.cacheKey(), sliderDisableImage.cacheKey()},
+        {normalColor, pressColor, pointNormalColor, pointPressColor, boundaryColor}};
 }
 
 // Of the widget's whole width: a value left outside of a range that has shrunk goes there.
 QRect MProgressBar::Private::paintedRect() const
 {
-    const QRect parts =
-        hasPictures() ? grooveRect() | knobRect() : plainBarRect() | plainKnobRect();
+    const QRect parts = hasPictures() ? grooveRect() : plainBarRect() | plainKnobRect();
     return QRect(0, parts.top(), q->width(), parts.height()).adjusted(-1, -1, 1, 1);
 }
 

@@ -4,8 +4,8 @@
 #include "detail/accessible.h"
 #include "detail/fonts.h"
 #include "detail/geometry.h"
+#include "detail/keptlook.h"
 #include "detail/keyrequest.h"
-#include "detail/layercache.h"
 #include "detail/search.h"
 #include "detail/textcache.h"
 
@@ -32,16 +32,30 @@ class Q_DECL_HIDDEN SpDisLabel::Private
 public:
     explicit Private(SpDisLabel *widget) : q(widget) { }
 
-    // What the picture of a rounded ground depends on.
-    struct Ground {
+    // What a string on a rounded ground depends on.
+    struct Look {
         int roundXY; // px
-        QRgba64 color;
+        QSize size; // px
+        QColor groundColor;
+        QColor textColor;
+        Qt::Alignment alignment;
+        Qt::LayoutDirection direction;
+        QString text;
+        QFont font;
 
-        auto tied() const { return std::tie(roundXY, color); }
+        auto tied() const
+        {
+            return std::tie(roundXY, size, groundColor, textColor, alignment, direction, text,
+                            font);
+        }
     };
 
+    Look roundedLook(const QPainter &painter) const;
+    void drawString(QPainter &painter);
+    QColor groundColor() const { return isDown ? pressBackgroundColor : normalBackgroundColor; }
+    QColor textColor() const { return isDown ? pressFontColor : fontColor; }
     QString shortened(const QString &full) const;
-    void drawGround(QPainter &painter) const;
+    void drawRoundedGround(QPainter &painter) const;
     void drawText(QPainter &painter) const;
     void drawIcon(QPainter &painter) const;
 
@@ -64,7 +78,7 @@ public:
     int btnID = 0;
     int roundXY = 0; // px, 0: square
 
-    mutable LayerCache<Ground> ground;
+    KeptLook<Look> look;
     mutable TextCache caption;
 };
 
@@ -222,10 +236,10 @@ void SpDisLabel::paintEvent(QPaintEvent *)
     QPainter painter(this);
     switch (d->displayMode) {
     case String:
-        d->drawGround(painter);
-        d->drawText(painter);
+        d->drawString(painter);
         break;
     case Picture:
+        d->look.forget();
         d->drawIcon(painter);
         break;
     }
@@ -292,28 +306,41 @@ QString SpDisLabel::Private::shortened(const QString &full) const
     return full.left(most - dropped) + kEllipsis;
 }
 
-// A rounded ground is kept as pixels; its corners cost more than all the rest.
-void SpDisLabel::Private::drawGround(QPainter &painter) const
+SpDisLabel::Private::Look SpDisLabel::Private::roundedLook(const QPainter &painter) const
 {
-    const QColor color = isDown ? pressBackgroundColor : normalBackgroundColor;
+    return {roundXY,     q->size(),     groundColor(),
+            textColor(), alignment,     painter.layoutDirection(),
+            shownText,   painter.font()};
+}
+
+// Soft corners cost more than all the rest, so that they are kept, and the text with them. A square
+// ground is filled as fast as it is copied.
+void SpDisLabel::Private::drawString(QPainter &painter)
+{
     if (roundXY == 0) {
-        painter.fillRect(q->rect(), color);
-        return;
+        look.forget();
+        painter.fillRect(q->rect(), groundColor());
+        drawText(painter);
+    } else {
+        look.draw(painter, q->rect(), roundedLook(painter), [this](QPainter &p) {
+            drawRoundedGround(p);
+            drawText(p);
+        });
     }
+}
+
+void SpDisLabel::Private::drawRoundedGround(QPainter &painter) const
+{
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    const QRectF area(q->rect());
-    ground.draw(painter, painter.worldTransform(), area, {roundXY, color.rgba64()},
-                [&](QPainter &p) {
-                    p.setBrush(color);
-                    p.drawRoundedRect(area, qreal(roundXY), qreal(roundXY), Qt::AbsoluteSize);
-                    p.setBrush(Qt::NoBrush);
-                });
+    painter.setBrush(groundColor());
+    painter.drawRoundedRect(QRectF(q->rect()), qreal(roundXY), qreal(roundXY), Qt::AbsoluteSize);
+    painter.setBrush(Qt::NoBrush);
 }
 
 void SpDisLabel::Private::drawText(QPainter &painter) const
 {
-    painter.setPen(isDown ? pressFontColor : fontColor);
+    painter.setPen(textColor());
     caption.draw(painter, q->rect(), int(alignment), shownText);
 }
 

@@ -89,8 +89,9 @@ bool KeptPixels::copyTo(QPainter &painter, const QRect &area, bool isNew)
         m_place.forget();
         return false;
     }
-    const bool isMoved = m_place.changesTo({rect, painter.deviceTransform(), painter.pen().color(),
-                                            image->logicalDpiY(), image->format()});
+    const bool isMoved =
+        m_place.changesTo({rect, painter.deviceTransform(), painter.renderHints(),
+                           painter.pen().color(), image->logicalDpiY(), image->format()});
     if (isMoved || isNew) {
         forget();
         return false;

@@ -33,11 +33,12 @@ private:
     struct Place {
         QRect rect; // px, in the device
         QTransform toDevice;
+        QPainter::RenderHints hints;
         QColor pen; // of a bitmap
         int dpi = 0; // of the device: a font may have its size in points
         QImage::Format format = QImage::Format_Invalid;
 
-        auto tied() const { return std::tie(rect, format, dpi, pen, toDevice); }
+        auto tied() const { return std::tie(rect, format, dpi, hints, pen, toDevice); }
     };
 
     void copy(QPainter &painter) const;
@@ -56,7 +57,7 @@ private:
 /// is translucent, composes in another way or is clipped to more than a rectangle, it is painted.
 ///
 /// `Content` is the key, as in memo.h, of all that the look depends on but for the device and the
-/// colour of the painter's pen.
+/// hints and the pen's colour of the painter.
 template <typename Content> class KeptLook : public KeptPixels
 {
 public:

@@ -57,10 +57,10 @@ void TextCache::draw(QPainter &painter, const QRectF &rect, int flags, const QSt
     } else if (line->isClipped) {
         painter.save();
         painter.setClipRect(rect, Qt::IntersectClip);
-        painter.drawStaticText(lineStart(rect.topLeft() + line->offset), line->text);
+        painter.drawStaticText(lineStart(rect.topLeft() + line->offset), *line->text);
         painter.restore();
     } else {
-        painter.drawStaticText(lineStart(rect.topLeft() + line->offset), line->text);
+        painter.drawStaticText(lineStart(rect.topLeft() + line->offset), *line->text);
     }
 }
 
@@ -82,10 +82,10 @@ TextCache::Line TextCache::laidOut(QPainter &painter, const TextSetting &setting
     line.isClipped = !atOrigin.contains(bounds);
     line.offset = {leftShare(setting.direction, setting.flags, spare), bounds.top()};
     line.fraction = fractionOf(lineStart(topLeft + line.offset));
-    line.text = QStaticText(setting.text);
-    line.text.setTextFormat(Qt::PlainText);
-    line.text.setTextOption(option);
-    line.text.prepare(QTransform(), setting.font);
+    line.text.emplace(setting.text);
+    line.text->setTextFormat(Qt::PlainText);
+    line.text->setTextOption(option);
+    line.text->prepare(QTransform(), setting.font);
     return line;
 }
 

@@ -10,6 +10,8 @@
 #include <QStaticText>
 #include <QString>
 
+#include <optional>
+
 class QPainter;
 
 namespace panelkit
@@ -34,7 +36,7 @@ private:
         bool isClipped = false;
         QPointF offset; // of the text in the rectangle
         QPointF fraction; // of a pixel where the text stands: it moves well by whole ones only
-        QStaticText text;
+        std::optional<QStaticText> text; // of a plain line
     };
 
     static Line laidOut(QPainter &painter, const TextSetting &setting, const QPointF &topLeft);

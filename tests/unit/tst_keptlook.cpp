@@ -138,6 +138,10 @@ private slots:
             toMiddle(p);
             p.setPen(Qt::red);
         });
+        QTest::newRow("hints") << Star() << Paint([](QPainter &p) {
+            toMiddle(p);
+            p.setRenderHint(QPainter::SmoothPixmapTransform);
+        });
         QTest::newRow("between pixels")
             << Star() << Paint([](QPainter &p) { p.translate(qreal(60.5), 50); });
         QTest::newRow("size") << Star() << Paint([](QPainter &p) {

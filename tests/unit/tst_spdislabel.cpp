@@ -2,6 +2,7 @@
 #include <SpDisLabel>
 
 #include "deletion.h"
+#include "keptlooks.h"
 #include "measuredtext.h"
 #include "newwidget.h"
 #include "parent.h"
@@ -836,6 +837,38 @@ private slots:
         }
         label->resize(50, 50);
         QVERIFY(painted(window) != reference(window, nothing()));
+    }
+
+    void aRoundedLabelThatIsKeptFollowsItsInputs()
+    {
+        const auto make = [] {
+            auto label = makeLabel();
+            label->setRoundXY(12);
+            return label;
+        };
+        checkKeptLook<SpDisLabel>(
+            make,
+            {{"roundXY", [](SpDisLabel &l) { l.setRoundXY(9); }},
+             {"text", [](SpDisLabel &l) { l.setText(QStringLiteral("Tuner")); }},
+             {"fontColor", [](SpDisLabel &l) { l.setFontColor(Qt::red); }},
+             {"normalBackgroundColor",
+              [](SpDisLabel &l) { l.setNormalBackgroundColor(QColor(90, 90, 200, 77)); }},
+             {"alignment", [](SpDisLabel &l) { l.setAlignment(Qt::AlignLeft | Qt::AlignTop); }},
+             {"fontsize", [](SpDisLabel &l) { l.setFontSize(23); }},
+             {"isDown", [](SpDisLabel &l) { l.setIsDown(true); }},
+             {"pressFontColor", [](SpDisLabel &l) { l.setPressFontColor(Qt::cyan); }},
+             {"pressBackgroundColor", [](SpDisLabel &l) { l.setPressBackgroundColor(Qt::blue); }},
+             {"size", [](SpDisLabel &l) { l.resize(140, 50); }},
+             {"picture",
+              [](SpDisLabel &l) {
+                  l.setIcon(picture(Qt::green));
+                  l.setDisplayMode(SpDisLabel::Picture);
+              }},
+             {"square", [](SpDisLabel &l) {
+                  l.setDisplayMode(SpDisLabel::String);
+                  l.setRoundXY(0);
+              }}});
+        checkKeptLookElsewhere<SpDisLabel>(make);
     }
 };
 
