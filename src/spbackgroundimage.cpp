@@ -92,8 +92,9 @@ void SpBackgroundImage::paintEvent(QPaintEvent *)
         return;
     }
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    d->layer.draw(painter, d->turn(), QRectF(rect()), {d->pixmap.cacheKey()},
-                  [this](QPainter &p) { p.drawPixmap(rect(), d->pixmap); });
+    d->layer.draw(
+        painter, d->turn(), QRectF(rect()), {d->pixmap.cacheKey()},
+        [this](QPainter &p) { p.drawPixmap(rect(), d->pixmap); }, rect());
 }
 
 void SpBackgroundImage::mousePressEvent(QMouseEvent *e)

@@ -87,15 +87,18 @@ QRect inkRect(const QImage &image)
 
 } // namespace
 
-void LayerPixels::drawContent(QPainter &painter, const QTransform &world, const QRectF &area,
+void LayerPixels::drawContent(QPainter &painter, const QTransform &world, const Extent &extent,
                               int content, const Paint &paint)
 {
     const bool canCopy = canCopyPixels(painter);
-    const bool isNew = m_key.changesTo({world, area, content, painter.renderHints(), painter.pen(),
-                                        canCopy ? visibleRect(painter) : QRect()});
+    QRect visible = canCopy ? visibleRect(painter) : QRect();
+    if (!extent.inSight.isNull())
+        visible &= extent.inSight;
+    const bool isNew = m_key.changesTo(
+        {world, extent.area, content, painter.renderHints(), painter.pen(), visible});
     if (isNew || !canCopy) {
         m_isComposed = false;
-        m_isShown = DeviceView(painter).shows(world, area);
+        m_isShown = DeviceView(painter).shows(world, extent.area);
         if (m_isShown)
             paintDirectly(painter, paint);
         return;

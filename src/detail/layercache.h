@@ -25,8 +25,13 @@ public:
     int compositions() const { return m_compositions; }
 
 protected:
+    struct Extent {
+        QRectF area; // in the coordinates of the layer
+        QRect inSight; // px
+    };
+
     /// Draws a content that was given this number when it came.
-    void drawContent(QPainter &painter, const QTransform &world, const QRectF &area, int content,
+    void drawContent(QPainter &painter, const QTransform &world, const Extent &extent, int content,
                      const Paint &paint);
 
 private:
@@ -64,12 +69,14 @@ template <typename Content> class LayerCache : public LayerPixels
 {
 public:
     /// Draws the layer under this world transform. Nothing is painted outside the area, which is in
-    /// the layer's coordinates. `paint` leaves the painter as it was, but for the transform.
+    /// the layer's coordinates. `paint` leaves the painter as it was, but for the transform. Pixels
+    /// are kept for the part of the device in `inSight` (px, as the painter sees it), if there is
+    /// one.
     void draw(QPainter &painter, const QTransform &world, const QRectF &area,
-              const Content &content, const Paint &paint)
+              const Content &content, const Paint &paint, const QRect &inSight = QRect())
     {
         m_content.changesTo(content);
-        drawContent(painter, world, area, m_content.changes(), paint);
+        drawContent(painter, world, {area, inSight}, m_content.changes(), paint);
     }
 
 private:
