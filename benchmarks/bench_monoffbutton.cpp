@@ -16,6 +16,7 @@ constexpr QSize kSize(120, 48);
 constexpr QRect kWhole(QPoint(), kSize);
 constexpr int kKnob = 52; // px, in motion
 constexpr double kMovingLimit = 1.15; // of the floor
+constexpr double kKeptPlatesLimit = 0.25; // of the floor, which keeps nothing
 constexpr double kPeerLimit = 0.6; // of what paints pictures only
 constexpr double kStartUpLimit = 2;
 constexpr QColor kOn(255, 145, 20);
@@ -178,12 +179,15 @@ void addPaintedLooks(Rows &rows)
     rows.paint("MOnOffButton", "style 0", button([](MOnOffButton &b) { b.setOnoffStatus(true); }),
                {floorOf({slimTrack(1, 118, line, part(kOn, 2, 3), kOn), roundKnob(71, line, kOn)})},
                {{"QCheckBox", checkBox(true)}});
-    rows.move("MOnOffButton", "style 0 in motion", movingButton(AsItIs()),
-              {floorOf({slimTrack(1, kKnob - 1, line, part(kOff, 2, 3), kOff),
-                        slimTrack(kKnob, 118, line, part(kOn, 2, 3), kOn),
-                        roundKnob(kKnob - 24, line, kOff)}),
-               kMovingLimit},
-              {{"QCheckBox", checkBox(true)}});
+    rows.move(
+        "MOnOffButton", "style 0 in motion", movingButton(AsItIs()),
+        {floorOf({slimTrack(1, kKnob - 1, line, part(kOff, 2, 3), kOff),
+                  slimTrack(kKnob, 118, line, part(kOn, 2, 3), kOn),
+                  roundKnob(kKnob - 24, line, kOff)}),
+         kMovingLimit},
+        {{"QCheckBox", checkBox(true)}},
+        {"both parts of its track change their length with each step, so that seven shapes are "
+         "filled and stroked anew; a check box does not move"});
     rows.paint("MOnOffButton", "style 0 disabled", button([](MOnOffButton &b) {
                    b.setOnoffStatus(true);
                    b.setBtnDisable(true);
@@ -200,8 +204,10 @@ void addPaintedLooks(Rows &rows)
                   b.setOnoffStatus(true);
                   b.setUIStyle(MOnOffButton::ONOFF_STYLE_1);
               }),
-              {floorOf(plates(39, part(kOn, 1, 2), part(kOn, 1, 2))), kMovingLimit},
-              {{"QCheckBox", checkBox(true)}});
+              {floorOf(plates(39, part(kOn, 1, 2), part(kOn, 1, 2))), kKeptPlatesLimit},
+              {{"QCheckBox", checkBox(true)}},
+              {"its knob is filled and stroked with each step over plates that are kept; a check "
+               "box does not move"});
 }
 
 void addPicturedLooks(Rows &rows)

@@ -85,8 +85,17 @@ public:
             return std::tie(knobPos, isOn, isDisabled, style, size, onColor, offColor);
         }
     };
+    // What the plates below a flat knob depend on while it moves.
+    struct Plates {
+        bool isDisabled;
+        QSize size; // px
+        QColor color;
+
+        auto tied() const { return std::tie(isDisabled, size, color); }
+    };
     struct Surface;
 
+    QRect paintedRect() const { return q->rect().adjusted(-1, -1, 1, 1); } // with the outline
     int knobRadius() const { return q->height() / 2; }
     int farthestKnob() const { return q->width() - knobRadius(); }
     bool isMoving() const { return knobPos != 0; }
@@ -109,6 +118,7 @@ public:
     void drawSlimTrack(QPainter &painter, int left, int right, const Surface &surface);
     void drawRoundKnob(QPainter &painter, int left, const QColor &pen, const QColor &brush) const;
     void drawStyle1(QPainter &painter);
+    void drawPlates(QPainter &painter);
     int flatKnobLeft() const;
     void drawPlate(QPainter &painter, const QRect &rect, const Surface &surface);
 
@@ -133,6 +143,7 @@ public:
     Memo<Dimmed, QImage> dimmedBkg;
     Memo<Dimmed, QImage> dimmedChunk;
     KeptLook<Look> paintedLook;
+    KeptLook<Plates> plates;
 };
 
 // What a painted shape is covered with.
@@ -284,10 +295,11 @@ void MOnOffButton::paintEvent(QPaintEvent *)
         d->paintedLook.forget();
         d->drawPictures(painter);
     } else {
-        const QRect withOutline = rect().adjusted(-1, -1, 1, 1);
-        d->paintedLook.draw(painter, withOutline, d->shownLook(),
+        d->paintedLook.draw(painter, d->paintedRect(), d->shownLook(),
                             [this](QPainter &p) { d->drawPainted(p); });
     }
+    if (!d->isMoving() || d->paintedLook.size() > 0)
+        d->plates.forget();
 }
 
 /**
@@ -527,28 +539,37 @@ void MOnOffButton::Private::drawRoundKnob(QPainter &painter, int left, const QCo
     painter.drawEllipse(left, 0, q->height(), q->height());
 }
 
+// Only the knob moves: what lies below it is kept meanwhile.
 void MOnOffButton::Private::drawStyle1(QPainter &painter)
+{
+    const QColor color = statusColor();
+    if (isMoving())
+        plates.draw(painter, paintedRect(), {btnDisable, q->size(), color},
+                    [this](QPainter &p) { drawPlates(p); });
+    else
+        drawPlates(painter);
+    const QColor knob = btnDisable ? fraction(color, 1, 3) : color;
+    const int third = q->height() / 3;
+    drawPlate(painter,
+              QRect(flatKnobLeft(), third, q->width() / 2 - 2 * third, q->height() - 2 * third),
+              {knob, knob});
+}
+
+void MOnOffButton::Private::drawPlates(QPainter &painter)
 {
     const QColor color = statusColor();
     Surface outer{color, fraction(color, 1, 1)};
     Surface inner{color, fraction(color, 1, 2, 155)};
-    Surface knob{color, color};
     if (btnDisable) {
         outer = {fraction(color, 2, 3), fraction(color, 2, 3)};
         inner = {fraction(color, 1, 3), fraction(color, 1, 3)};
-        knob = inner;
     } else if (isMoving()) {
         outer = {color, color};
         inner = {fraction(color, 1, 2), fraction(color, 1, 2)};
     }
-
     const int inset = q->height() - 1 > 14 ? q->height() / 8 : 2;
-    const int third = q->height() / 3;
     drawPlate(painter, q->rect().adjusted(1, 1, -1, -1), outer);
     drawPlate(painter, q->rect().adjusted(inset, inset, -inset, -inset), inner);
-    drawPlate(painter,
-              QRect(flatKnobLeft(), third, q->width() / 2 - 2 * third, q->height() - 2 * third),
-              knob);
 }
 
 // In motion the left of the knob goes from that of the left half to that of the right half.

@@ -540,6 +540,34 @@ private slots:
         checkKeptLookElsewhere<Switch>([] { return makeSwitch(); });
     }
 
+    // While a flat knob moves, the plates below it are kept, and follow their own inputs.
+    void platesThatAreKeptFollowTheirInputs()
+    {
+        const auto button = makeSwitch();
+        button->setUIStyle(MOnOffButton::ONOFF_STYLE_1);
+        Switching s;
+        int x = 22;
+        const auto checkMoves = [&](const std::function<Paint(const Switching &)> &expected) {
+            for (int paint = 0; paint < 4; ++paint) {
+                moveKnobTo(*button, ++x);
+                s.knob = x;
+                COMPARE_PICTURES(onGround(*button), expectedOnGround(*button, expected(s)));
+            }
+        };
+        checkMoves(style1);
+        button->setOffColor(s.offColor = Qt::blue);
+        checkMoves(style1);
+        button->setOnoffStatus(s.on = true);
+        checkMoves(style1);
+        button->setBtnDisable(true);
+        checkMoves(style1Disabled);
+        button->setBtnDisable(false);
+        checkMoves(style1);
+        button->resize(s.size = QSize(110, 48));
+        x = 30;
+        checkMoves(style1);
+    }
+
     void aStyleOutOfRangeIsStyle0()
     {
         const auto button = makeSwitch();
