@@ -76,4 +76,31 @@ void checkKeptLookElsewhere(const std::function<std::unique_ptr<Widget>()> &make
     }
 }
 
+/// The size of a widget counts, too, where only its middle is damaged: it is the same rectangle of
+/// the screen before and after.
+template <class Widget>
+void checkKeptLookFollowsItsSize(const std::function<std::unique_ptr<Widget>()> &make)
+{
+    const auto kept = make();
+    const QSize larger = kept->size() + QSize(26, 18);
+    const QRegion damaged(kept->rect().adjusted(1, 1, -1, -1));
+    const auto rendered = [&](QWidget &widget) {
+        QImage image(larger, QImage::Format_ARGB32_Premultiplied);
+        image.fill(QColor(13, 70, 101));
+        widget.render(&image, QPoint(), damaged, QWidget::DrawChildren);
+        return image;
+    };
+    const auto fresh = make();
+    const QImage before = rendered(*fresh);
+    for (int paint = 0; paint < 3; ++paint)
+        QVERIFY(isSamePicture({rendered(*kept), before}, "before", paint));
+    kept->resize(larger);
+    const auto grown = make();
+    grown->resize(larger);
+    const QImage after = rendered(*grown);
+    QVERIFY(after != before);
+    for (int paint = 0; paint < 3; ++paint)
+        QVERIFY(isSamePicture({rendered(*kept), after}, "after", paint));
+}
+
 #endif // KEPTLOOKS_H

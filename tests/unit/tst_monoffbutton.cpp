@@ -538,6 +538,7 @@ private slots:
         };
         checkKeptLook<Switch>([] { return makeSwitch(); }, changes);
         checkKeptLookElsewhere<Switch>([] { return makeSwitch(); });
+        checkKeptLookFollowsItsSize<Switch>([] { return makeSwitch(); });
     }
 
     // While a flat knob moves, the plates below it are kept, and follow their own inputs.

@@ -640,11 +640,13 @@ private slots:
              {"boundaryColor", [](MProgressBar &b) { b.setBoundaryColor(Qt::cyan); }},
              {"out of the range", [](MProgressBar &b) { b.setMaxValue(12); }},
              {"size", [](MProgressBar &b) { b.resize(300, 80); }}});
-        checkKeptLookElsewhere<MProgressBar>([] {
+        const auto make = [] {
             auto bar = makePlain();
             bar->setPonitRadius(30);
             return bar;
-        });
+        };
+        checkKeptLookElsewhere<MProgressBar>(make);
+        checkKeptLookFollowsItsSize<MProgressBar>(make);
     }
 
     void aPicturedBarThatIsKeptFollowsItsInputs()
@@ -672,6 +674,7 @@ private slots:
               [](MProgressBar &b) { b.setPointDisableImage(pictures().knobDisabled); }},
              {"enabled", [](MProgressBar &b) { b.setEnabled(true); }}});
         checkKeptLookElsewhere<MProgressBar>(makeBar);
+        checkKeptLookFollowsItsSize<MProgressBar>(makeBar);
     }
 };
 

@@ -869,6 +869,7 @@ private slots:
                   l.setRoundXY(0);
               }}});
         checkKeptLookElsewhere<SpDisLabel>(make);
+        checkKeptLookFollowsItsSize<SpDisLabel>(make);
     }
 };
 
