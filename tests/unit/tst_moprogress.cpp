@@ -210,6 +210,8 @@ private slots:
             {"rim", [](MOProgress &r) { r.setPalette(QPalette(Qt::cyan)); }},
             {"size", [](MOProgress &r) { r.resize(240, 230); }},
             {"nothing done", [](MOProgress &r) { r.setCurrentValue(0); }},
+            {"too large", [](MOProgress &r) { r.setRadius(150); }},
+            {"larger", [](MOProgress &r) { r.setRadius(160); }},
         };
         checkKeptLook<MOProgress>(makeRing, changes);
         checkKeptLookElsewhere<MOProgress>(makeRing);
@@ -228,6 +230,8 @@ private slots:
             [&] { ring->setArcHeight(33); },
             [&] { ring->setInsideColor(QColor(90, 90, 0, 50)); },
             [&] { ring->setPalette(QPalette(Qt::cyan)); },
+            [&] { ring->setRadius(150); },
+            [&] { ring->setRadius(160); },
         };
         int value = 1;
         for (const auto &change : changes) {

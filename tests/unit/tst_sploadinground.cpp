@@ -382,7 +382,8 @@ private slots:
              {"rectangles", [](SpLoadingRound &r) { r.setDrawStyle(SpLoadingRound::RectStyle); }},
              {"size", [](SpLoadingRound &r) { r.resize(r.width() + 4, r.height() + 9); }},
              {"greys", [](SpLoadingRound &r) { r.setDrawStyle(SpLoadingRound::GrayStyle); }},
-             {"too large", [](SpLoadingRound &r) { r.setRadius(90); }}});
+             {"too large", [](SpLoadingRound &r) { r.setRadius(90); }},
+             {"larger", [](SpLoadingRound &r) { r.setRadius(100); }}});
         checkKeptLookElsewhere<SpLoadingRound>(makeRing);
     }
 
