@@ -627,7 +627,9 @@ private slots:
     {
         checkKeptLook<MProgressBar>(
             makePlain,
-            {{"ponitRadius", [](MProgressBar &b) { b.setPonitRadius(41); }},
+            {{"a knob within the bar", [](MProgressBar &b) { b.setPonitRadius(5); }},
+             {"ponitRadius", [](MProgressBar &b) { b.setPonitRadius(8); }},
+             {"a knob beyond the bar", [](MProgressBar &b) { b.setPonitRadius(41); }},
              {"currentValue", [](MProgressBar &b) { b.setCurrentValue(30); }},
              {"minValue", [](MProgressBar &b) { b.setMinValue(10); }},
              {"maxValue", [](MProgressBar &b) { b.setMaxValue(200); }},
@@ -636,6 +638,7 @@ private slots:
              {"pointNormalColor", [](MProgressBar &b) { b.setPointNormalColor(Qt::red); }},
              {"pressed", [](MProgressBar &b) { touch(&b).press(50, 9); }},
              {"pointPressColor", [](MProgressBar &b) { b.setPointPressColor(Qt::green); }},
+             {"released", [](MProgressBar &b) { touch(&b).press(50, 9).release(); }},
              {"boundary", [](MProgressBar &b) { b.setBoundary(true); }},
              {"boundaryColor", [](MProgressBar &b) { b.setBoundaryColor(Qt::cyan); }},
              {"out of the range", [](MProgressBar &b) { b.setMaxValue(12); }},
