@@ -48,10 +48,12 @@ QRect changedRect(const QPainter &painter, const QRect &area, const QImage &imag
 
 bool isSame(const QImage &image, const QRect &rect, const QImage &part)
 {
-    const int pixel = image.depth() / 8;
+    const auto pixel = std::size_t(image.depth() / 8);
+    const std::size_t start = std::size_t(rect.left()) * pixel;
+    const std::size_t length = std::size_t(rect.width()) * pixel;
     for (int y = 0; y < rect.height(); ++y) {
-        const uchar *line = image.constScanLine(rect.top() + y) + rect.left() * pixel;
-        if (std::memcmp(line, part.constScanLine(y), std::size_t(rect.width() * pixel)) != 0)
+        const uchar *line = image.constScanLine(rect.top() + y) + start;
+        if (std::memcmp(line, part.constScanLine(y), length) != 0)
             return false;
     }
     return true;

@@ -21,7 +21,7 @@
 #include <memory>
 
 #if defined(__SANITIZE_ADDRESS__)
-#include <sanitizer/allocator_interface.h>
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #endif
 
 // What a widget keeps of its looks has a bound: twice the pixels of its own area.

@@ -47,11 +47,12 @@ void toMiddle(QPainter &p) { p.translate(60, 50); }
 struct Subject {
     KeptLook<Star> look;
     Star star;
+    QRect area = kArea;
     int paints = 0;
 
     void paint(QPainter &p)
     {
-        look.draw(p, kArea, star, [this](QPainter &painter) {
+        look.draw(p, area, star, [this](QPainter &painter) {
             ++paints;
             paintStar(painter, star);
         });
@@ -162,6 +163,42 @@ private slots:
             COMPARE_BOTH(subject, prepare);
             QCOMPARE(subject.look.takings(), paint == 0 ? 1 : 2);
         }
+    }
+
+    // Two places between the same pixels.
+    void theFractionOfAPixelCounts()
+    {
+        Subject subject;
+        for (const qreal fraction : {qreal(0.25), qreal(0.5)}) {
+            for (int paint = 0; paint < 3; ++paint) {
+                COMPARE_BOTH(subject, [fraction](QPainter &p) {
+                    p.translate(60 + fraction, 50 + fraction);
+                });
+            }
+        }
+        QCOMPARE(subject.look.takings(), 2);
+    }
+
+    void theAreaCounts()
+    {
+        Subject subject;
+        COMPARE_BOTH(subject);
+        COMPARE_BOTH(subject);
+        subject.area.adjust(-5, -4, 0, 2);
+        for (int paint = 0; paint < 3; ++paint)
+            COMPARE_BOTH(subject);
+        QCOMPARE(subject.look.size(), qint64(2 * subject.area.width() * subject.area.height()));
+    }
+
+    void theFormatOfADeviceCounts()
+    {
+        Subject subject;
+        for (const QImage::Format format :
+             {QImage::Format_RGB16, QImage::Format_ARGB32_Premultiplied, QImage::Format_RGB16}) {
+            for (int paint = 0; paint < 3; ++paint)
+                COMPARE_BOTH(subject, toMiddle, canvas(format));
+        }
+        QCOMPARE(subject.look.takings(), 3);
     }
 
     void thePixelsAreThoseForTheGround()
