@@ -3,6 +3,7 @@
 
 #include "widgettest.h"
 
+#include <QBackingStore>
 #include <QPainter>
 #include <QPicture>
 #include <QPixmap>
@@ -374,6 +375,29 @@ private slots:
         star.move(31, 22);
         for (int paint = 0; paint < 3; ++paint)
             COMPARE_PICTURES(painted(window), expected());
+    }
+
+    void aShownWindowIsKept()
+    {
+        QWidget window;
+        window.resize(160, 130);
+        StarWidget star(&window);
+        star.setGeometry(30, 20, 120, 100);
+        show(window);
+        const auto inSight = [&] {
+            return static_cast<const QImage *>(window.backingStore()->paintDevice())->copy();
+        };
+        const int paints = star.subject.paints;
+        const QImage first = inSight();
+        for (int paint = 0; paint < 4; ++paint) {
+            window.repaint();
+            COMPARE_PICTURES(inSight(), first);
+        }
+        QCOMPARE(star.subject.paints, paints + 1);
+        QCOMPARE(star.subject.look.takings(), 1);
+        star.move(33, 21);
+        window.repaint();
+        QVERIFY(inSight() != first);
     }
 
     // What of a widget is damaged may be a part of it, or several.
