@@ -12,6 +12,7 @@
 
 #include "pictures.h"
 #include "sliderpictures.h"
+#include "touch.h"
 #include "widgettest.h"
 
 #include <QPainter>
@@ -74,6 +75,14 @@ template <class Class> Make made(const QSize &size, const std::function<void(Cla
     };
 }
 
+// A finger goes on by a pixel.
+void dragByOne(QWidget &widget)
+{
+    const int x = widget.property("finger").toInt() + 1;
+    widget.setProperty("finger", x);
+    touch(&widget).press(200, 10).moveTo(200 + x, 10);
+}
+
 Move nothing()
 {
     return [](QWidget &) {};
@@ -120,6 +129,10 @@ private slots:
             made<MOnOffButton>({600, 240},
                                [](auto &b) { b.setUIStyle(MOnOffButton::ONOFF_STYLE_1); }),
             1.9);
+        row("flat switch in motion",
+            made<MOnOffButton>({600, 240},
+                               [](auto &b) { b.setUIStyle(MOnOffButton::ONOFF_STYLE_1); }),
+            1.9, [](QWidget &w) { dragByOne(w); });
         row("progress ring", made<MOProgress>({440, 440}, [](auto &r) { r.setRadius(200); }), 1.5,
             moveValue);
         row("ring larger than its widget",

@@ -79,10 +79,11 @@ void checkKeptLookElsewhere(const std::function<std::unique_ptr<Widget>()> &make
 /// The size of a widget counts, too, where only its middle is damaged: it is the same rectangle of
 /// the screen before and after.
 template <class Widget>
-void checkKeptLookFollowsItsSize(const std::function<std::unique_ptr<Widget>()> &make)
+void checkKeptLookFollowsItsSize(const std::function<std::unique_ptr<Widget>()> &make,
+                                 const QSize &growth = QSize(26, 18))
 {
     const auto kept = make();
-    const QSize larger = kept->size() + QSize(26, 18);
+    const QSize larger = kept->size() + growth;
     const QRegion damaged(kept->rect().adjusted(1, 1, -1, -1));
     const auto rendered = [&](QWidget &widget) {
         QImage image(larger, QImage::Format_ARGB32_Premultiplied);

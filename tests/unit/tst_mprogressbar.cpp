@@ -649,7 +649,7 @@ private slots:
             return bar;
         };
         checkKeptLookElsewhere<MProgressBar>(make);
-        checkKeptLookFollowsItsSize<MProgressBar>(make);
+        checkKeptLookFollowsItsSize<MProgressBar>(make, {26, 0});
     }
 
     void aPicturedBarThatIsKeptFollowsItsInputs()
@@ -677,7 +677,7 @@ private slots:
               [](MProgressBar &b) { b.setPointDisableImage(pictures().knobDisabled); }},
              {"enabled", [](MProgressBar &b) { b.setEnabled(true); }}});
         checkKeptLookElsewhere<MProgressBar>(makeBar);
-        checkKeptLookFollowsItsSize<MProgressBar>(makeBar);
+        checkKeptLookFollowsItsSize<MProgressBar>(makeBar, {26, 0});
     }
 };
 

@@ -207,6 +207,44 @@ private slots:
             QCOMPARE(count, number + 1);
         }
     }
+
+    // Only on whole pixels are the edges of a square mask hard.
+    void aSquareMaskBetweenPixelsHasSoftEdges()
+    {
+        class Square : public QWidget
+        {
+        protected:
+            void paintEvent(QPaintEvent *) override
+            {
+                QPainter painter(this);
+                painter.setRenderHint(QPainter::Antialiasing);
+                painter.setPen(Qt::NoPen);
+                painter.setBrush(QColor(0, 0, 0, 128));
+                painter.drawRect(QRectF(rect()));
+            }
+        };
+        SpMaskBackground mask;
+        mask.setPainterColor(QColor(0, 0, 0, 128));
+        Square square;
+        const std::function<void(QPainter &)> places[] = {
+            [](QPainter &p) { p.translate(3, 4); },
+            [](QPainter &p) { p.translate(qreal(0.5), qreal(0.3)); },
+            [](QPainter &p) { p.scale(qreal(0.73), qreal(0.77)); },
+            [](QPainter &p) { p.rotate(20); },
+        };
+        for (const auto &place : places) {
+            const auto rendered = [&](QWidget &widget) {
+                QImage image(140, 100, QImage::Format_ARGB32_Premultiplied);
+                image.fill(QColor(13, 70, 101));
+                QPainter painter(&image);
+                place(painter);
+                widget.resize(101, 61);
+                widget.render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
+                return image;
+            };
+            COMPARE_PICTURES(rendered(mask), rendered(square));
+        }
+    }
 };
 
 WIDGET_TEST_MAIN(tst_SpMaskBackground)
