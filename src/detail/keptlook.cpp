@@ -69,6 +69,10 @@ QImage partOf(const QImage &image, const QRect &rect)
 
 } // namespace
 
+// Here, so that not each widget has its own.
+KeptPixels::KeptPixels() = default;
+KeptPixels::~KeptPixels() = default;
+
 void KeptPixels::forget()
 {
     m_ground = {};

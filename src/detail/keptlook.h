@@ -17,6 +17,7 @@ namespace panelkit
 /// the look covers, how it was before the look was painted there and how it was afterwards.
 class KeptPixels
 {
+    Q_DISABLE_COPY(KeptPixels)
 public:
     /// Lets go of the pixels.
     void forget();
@@ -26,6 +27,8 @@ public:
     qint64 size() const;
 
 protected:
+    KeptPixels();
+    ~KeptPixels();
     bool copyTo(QPainter &painter, const QRect &area, bool isNew);
     void take(const QPainter &painter);
 
