@@ -186,7 +186,7 @@ void addPaintedLooks(Rows &rows)
                   roundKnob(kKnob - 24, line, kOff)}),
          kMovingLimit},
         {{"QCheckBox", checkBox(true)}},
-        {"both parts of its track change their length with each step, so that seven shapes are "
+        {"both parts of its track change their length with each step, so that three shapes are "
          "filled and stroked anew; a check box does not move"});
     rows.paint("MOnOffButton", "style 0 disabled", button([](MOnOffButton &b) {
                    b.setOnoffStatus(true);
