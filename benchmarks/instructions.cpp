@@ -8,7 +8,9 @@
 #include <QJsonObject>
 #include <QRegularExpression>
 #include <QString>
+#include <QSysInfo>
 
+#include <gnu/libc-version.h>
 #include <valgrind/callgrind.h>
 
 #include <cmath>
@@ -29,6 +31,19 @@ void count(const std::string &name, const StepMaker &make)
     for (int i = 0; i < kSteps; ++i)
         step();
     CALLGRIND_DUMP_STATS_AT(name.c_str());
+}
+
+// What decides how many instructions Qt takes, besides its code: counts compare with those of the
+// same alone.
+QString place()
+{
+    QString vectors;
+#ifdef __x86_64__
+    vectors = __builtin_cpu_supports("avx2") ? QStringLiteral(", AVX2") : QStringLiteral(", SSE2");
+#endif
+    return QStringLiteral("Qt %1, libc %2, %3%4")
+        .arg(QLatin1String(qVersion()), QLatin1String(gnu_get_libc_version()),
+             QSysInfo::currentCpuArchitecture(), vectors);
 }
 
 QJsonObject describe(const Row &row, const Against<StepMaker> &rival)
@@ -63,6 +78,9 @@ bool countInstructions(const std::vector<Row> &rows, const QString &names)
         }
     }
     CALLGRIND_STOP_INSTRUMENTATION;
-    std::printf("%s", QJsonDocument(comparisons).toJson().constData());
+    const QJsonObject said{{QStringLiteral("place"), place()},
+                           {QStringLiteral("steps"), kSteps},
+                           {QStringLiteral("comparisons"), comparisons}};
+    std::printf("%s", QJsonDocument(said).toJson().constData());
     return true;
 }
