@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "everyclass.h"
 #include "instructions.h"
 #include "report.h"
 #include "rows.h"
@@ -60,6 +61,8 @@ Rows allRows()
     Rows rows;
 #define PANELKIT_DEFINE_ROWS(Class, ...) defineRows(rows, Tag<Class>());
     PANELKIT_FOR_EACH_CLASS(PANELKIT_DEFINE_ROWS)
+    defineRowsOfEveryClass(rows);
+    defineRowsOfForms(rows);
     return rows;
 }
 
@@ -152,10 +155,18 @@ void printTable(const std::vector<Row> &rows, const Costs &costs)
         printRow(rows[i], costs, i + 1, rows.size());
 }
 
+// Some widgets say what they do, which is part of what they cost, but not of the tables.
+void leaveOutDebugOutput(QtMsgType type, const QMessageLogContext &, const QString &message)
+{
+    if (type != QtDebugMsg)
+        std::fprintf(stderr, "%s\n", qPrintable(message));
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
+    qInstallMessageHandler(leaveOutDebugOutput);
     // The same style and font on every machine.
     QApplication::setStyle(QStringLiteral("fusion"));
     const QApplication application(argc, argv);
@@ -165,6 +176,8 @@ int main(int argc, char **argv)
 
     std::vector<char *> arguments(argv, argv + argc);
     const std::optional<QString> jsonPath = take(arguments, QStringLiteral("--json="));
+    if (take(arguments, QStringLiteral("--memory")))
+        return printMemory() ? 0 : 1;
     const std::optional<QString> counted = take(arguments, QStringLiteral("--instructions="));
 
     const std::optional<QString> countsPath = take(arguments, QStringLiteral("--counts="));
