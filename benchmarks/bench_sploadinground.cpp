@@ -55,18 +55,18 @@ void defineRows(Rows &rows, Tag<SpLoadingRound>)
                    painter.setBrush(faded(i));
                    painter.drawEllipse(27, -3, 18, 6);
                })},
-               {{"QProgressBar", busyBar()}}, spokesLimit(19.7));
+               {{"QProgressBar", busyBar()}}, spokesLimit(19.3));
     rows.paint("SpLoadingRound", "rectangles", ring(SpLoadingRound::RectStyle),
                {floorOf([](QPainter &painter, int i) {
                    painter.setBrush(faded(i));
                    painter.drawRect(27, 0, 18, 7);
                })},
-               {{"QProgressBar", busyBar()}}, spokesLimit(9.3));
+               {{"QProgressBar", busyBar()}}, spokesLimit(9.1));
     rows.paint("SpLoadingRound", "greys", ring(SpLoadingRound::GrayStyle),
                {floorOf([](QPainter &painter, int i) {
                    const int grey = 252 - 21 * i;
                    painter.setBrush(QColor(grey, grey, grey));
                    painter.drawRoundedRect(19, 0, 22, 7, 25, 25, Qt::RelativeSize);
                })},
-               {{"QProgressBar", busyBar()}}, spokesLimit(19.7));
+               {{"QProgressBar", busyBar()}}, spokesLimit(19.3));
 }
