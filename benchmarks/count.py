@@ -47,13 +47,15 @@ def counted(options, environment, folder):
         [options.valgrind, "--tool=callgrind", "--quiet", "--instr-atstart=no",
          "--combine-dumps=yes", f"--callgrind-out-file={dumps}", options.program,
          f"--instructions={options.names}"], env=environment))
-    counts = {}
+    return said, {name: round(total / said["steps"]) for name, total in named_dumps(dumps)}
+
+
+def named_dumps(dumps):
+    """The name and the instructions of each dump that a program has asked for."""
     for part in re.split(r"^part: ", dumps.read_text(), flags=re.MULTILINE):
         name = re.search(r"^desc: Trigger: Client Request: (.+)$", part, re.MULTILINE)
         if name:
-            total = re.search(r"^totals: (\d+)$", part, re.MULTILINE)[1]
-            counts[name[1]] = round(int(total) / said["steps"])
-    return said, counts
+            yield name[1], int(re.search(r"^totals: (\d+)$", part, re.MULTILINE)[1])
 
 
 def above_limits(comparisons, counts):
