@@ -62,6 +62,8 @@ PaintingMaker dragged()
 void defineRows(Rows &rows, Tag<MRadioSlider>)
 {
     rows.paint("MRadioSlider", "full scale", widgetOf<MRadioSlider>(kSize, setUp), {floor()},
-               {{"QwtSlider", qwtSlider(kSize), kQwtLimit}}, textLimit(4.2));
+               {{"QwtSlider", qwtSlider(kSize), kQwtLimit},
+                {"QwtScaleWidget", qwtScaleWidget(kSize), 1.0}},
+               textLimit(4.2));
     rows.move("MRadioSlider", "drag step", dragged(), {floor()}, {});
 }
