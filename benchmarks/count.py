@@ -2,11 +2,11 @@
 """Counts the instructions of panelkit-bench's rows, and holds the rows to their limits.
 
 Prints the table of the rows, by instructions a step. Fails where a row exceeds a limit that it
-declares, or takes 5 % more than the count on record. From run to run a count differs by up to 1.4 %,
-by where memory happens to lie; a ratio to the blit by up to 2.0 %. With another vector unit, both
-differ by more than twice (a picture's copy takes 2.8 times the instructions without AVX2). So
-the counts themselves are recorded, with what they depend on besides, and are compared with nothing
-else.
+declares, or takes 5 % more than the count on record. From run to run a count differs by up to
+1.4 %, by where memory happens to lie; a ratio to the blit by up to 2.0 %. With another vector
+unit, both differ by more than twice (a picture's copy takes 2.8 times the instructions without
+AVX2). So the counts themselves are recorded, with what they depend on besides, and are compared
+with nothing else.
 """
 
 import argparse
@@ -87,8 +87,8 @@ def differing(ours, kept, is_whole):
             worse.append(f"{row} takes {ours[row]} instructions, {ours[row] / count:.3f} times the "
                          f"{count} on record")
         elif ours[row] * TOLERANCE < count:
-            better.append(f"{row} takes {ours[row]} instructions, {ours[row] / count:.3f} times the "
-                          f"{count} on record")
+            better.append(f"{row} takes {ours[row]} instructions, {ours[row] / count:.3f} times "
+                          f"the {count} on record")
     return worse, better
 
 

@@ -14,7 +14,7 @@ LINE = 22  # px, of a class
 TOP = 64
 LABELS = 200
 PANEL = 330
-GAP = 40
+GAP = 60
 WIDTH = LABELS + 2 * PANEL + GAP + 20
 AT_REST, IN_MOTION, INK, FAINT = "#1f5fa8", "#d9630a", "#202428", "#c8ccd2"
 
@@ -117,7 +117,8 @@ def span(ratios):
 
 
 def class_table(classes):
-    yield "| class | looks | at rest, blits | at rest, floors | in motion, floors | of Qt's closest | made |"
+    yield ("| class | looks | at rest, blits | at rest, floors | in motion, floors "
+           "| of Qt's closest | made |")
     yield "|---|--:|--:|--:|--:|--:|--:|"
     for name, of in classes.items():
         yield (f"| `{name}` | {len(of.rest) + len(of.motion)} "
