@@ -67,9 +67,10 @@ inline QwtScaleDiv qwtScaleDiv()
         (hundredths % 100 == 0      ? major
              : hundredths % 50 == 0 ? medium
                                     : minor) += hundredths / 100.0;
-    return {87.5, 108.0, minor, medium, major};
+    return QwtScaleDiv(87.5, 108.0, minor, medium, major);
 }
 
+/// A slider of Qwt's on such a scale.
 inline PaintingMaker qwtSlider(const QSize &size)
 {
     return widgetOf<QwtSlider>(size, [](QwtSlider &slider) {
