@@ -87,7 +87,7 @@ def plot(classes):
     left, right = Panel(LABELS, blits), Panel(LABELS + PANEL + GAP, peers)
     parts = [
         f'<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 {WIDTH} {bottom + 34}" '
-        f'width="{WIDTH}" height="{bottom + 34}" font-family="sans-serif" font-size="13">',
+        'font-family="sans-serif" font-size="13">',
         "<title>What each look costs beside its blit and beside Qt's own widget</title>",
         f'<rect width="{WIDTH}" height="{bottom + 34}" fill="white"/>',
         *left.axis("times the blit", 2, bottom), *right.axis("times Qt's closest", 1, bottom)]
