@@ -47,7 +47,7 @@ def counted(options, environment, folder):
         [options.valgrind, "--tool=callgrind", "--quiet", "--instr-atstart=no",
          "--combine-dumps=yes", f"--callgrind-out-file={dumps}", options.program,
          f"--instructions={options.names}"], env=environment))
-    return said, {name: round(total / said["steps"]) for name, total in named_dumps(dumps)}
+    return said, {name: round(total / said["steps"][name]) for name, total in named_dumps(dumps)}
 
 
 def named_dumps(dumps):
