@@ -99,6 +99,9 @@ def record(path, place, counts):
 
 def main():
     options = parsed_arguments()
+    if options.record and options.names:
+        sys.exit("only all rows are recorded: a small step takes up to a fifth less where some of "
+                 "the rows before it are left out")
     environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen", "QT_HASH_SEED": "0"}
     with tempfile.TemporaryDirectory() as name:
         said, counts = counted(options, environment, pathlib.Path(name))
@@ -113,15 +116,14 @@ def main():
     ours = {name.removesuffix("/ours"): n for name, n in counts.items() if name.endswith("/ours")}
     place, kept = read_record(options.kept)
     if options.record:
-        if place != said["place"] and options.names:
-            sys.exit(f"the others on record are of {place}: record all")
-        record(options.kept, said["place"], {**kept, **ours} if options.names else ours)
+        record(options.kept, said["place"], ours)
     elif place != said["place"]:
         print(f"Not compared with the counts on record: they are of {place}, not {said['place']}.")
     else:
         worse, better = differing(ours, kept, not options.names)
         wrong += worse
-        print("".join(f"{line}: ./bench count --record\n" for line in better), end="")
+        if not options.names:
+            print("".join(f"{line}: ./bench count --record\n" for line in better), end="")
     if wrong:
         sys.exit("\n".join(wrong))
 
