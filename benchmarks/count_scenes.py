@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: Apache-2.0
-"""Counts the instructions of panelkit-scenes: the median frame of each scene, and the copies of the
-screen that would take as many.
+"""Counts the instructions of panelkit-scenes: the median frame of each scene. They are no multiple
+of a copy of the screen, which takes few instructions and waits for the memory.
 
 usage: count_scenes.py VALGRIND PANELKIT_SCENES
 """
@@ -24,13 +24,11 @@ def main():
         counts = {}
         for name, total in named_dumps(dumps):
             counts.setdefault(name, []).append(total)
-    print("| scene | frames | instructions a frame | copies |\n|---|--:|--:|--:|")
+    print("| scene | frames | instructions a frame |\n|---|--:|--:|")
     for name, frames in counts.items():
         scene, _, what = name.rpartition("/")
         if what == "frame" and scene:
-            frame = statistics.median(frames)
-            copies = frame / statistics.median(counts[f"{scene}/copy"])
-            print(f"| {scene} | {len(frames)} | {frame:.0f} | {copies:.2f} |")
+            print(f"| {scene} | {len(frames)} | {statistics.median(frames):.0f} |")
 
 
 if __name__ == "__main__":
