@@ -3,7 +3,6 @@
 #include "mouse.h"
 #include "pictures.h"
 #include "rows.h"
-#include "startup.h"
 
 #include <monoffbutton.h>
 #include <QCheckBox>
@@ -17,7 +16,6 @@ constexpr QRect kWhole(QPoint(), kSize);
 constexpr int kKnob = 52; // px, in motion
 constexpr double kMovingLimit = 1.15; // of the floor
 constexpr double kPeerLimit = 0.6; // of what paints pictures only
-constexpr double kStartUpLimit = 2;
 constexpr QColor kOn(255, 145, 20);
 constexpr QColor kOff(155, 155, 155);
 
@@ -235,7 +233,4 @@ void defineRows(Rows &rows, Tag<MOnOffButton>)
 {
     addPaintedLooks(rows);
     addPicturedLooks(rows);
-    rows.work("MOnOffButton", "made and deleted", makeAndDelete<MOnOffButton>(),
-              {makeAndDelete<QWidget>(), kStartUpLimit},
-              {{"QCheckBox", makeAndDelete<QCheckBox>(), 1.0}});
 }
