@@ -231,7 +231,11 @@ void defineRows(Rows &rows, Tag<MArcList>)
     rows.paint("MArcList", "column", column(), {columnFloor()},
                {{"QListWidget", peer(), kPeerLimit}});
     rows.move("MArcList", "column dragged", drag(MArcList::ARCLIST_STYLE_1), {columnFloor()},
-              {{"QListWidget", peerDrag(), kPeerLimit}});
+              {{"QListWidget", peerDrag(), kPeerLimit}},
+              {"besides the paint, which takes 1.10 floors, a step has the finger's move and the "
+               "letters' new places",
+               {},
+               1.28});
     rows.move("MArcList", "arc dragged", drag(MArcList::ARCLIST_STYLE_0), {arcFloor()},
               {{"QListWidget", peerDrag()}},
               {"the letters of its floor stand still; those in motion are drawn from their "

@@ -50,5 +50,7 @@ PaintingMaker floor()
 void defineRows(Rows &rows, Tag<MKARVOSlider>)
 {
     rows.paint("MKARVOSlider", "full scale", widgetOf<MKARVOSlider>(kSize, setUp), {floor()},
-               {{"QwtSlider", qwtSlider(kSize), kQwtLimit}}, textLimit(2.4));
+               {{"QwtSlider", qwtSlider(kSize), kQwtLimit},
+                {"QwtScaleWidget", qwtScaleWidget(kSize), 1.0}},
+               textLimit(2.4));
 }

@@ -3,7 +3,6 @@
 #include "mouse.h"
 #include "pictures.h"
 #include "rows.h"
-#include "startup.h"
 
 #include <monoffbutton.h>
 #include <QCheckBox>
@@ -18,7 +17,6 @@ constexpr int kKnob = 52; // px, in motion
 constexpr double kMovingLimit = 1.15; // of the floor
 constexpr double kKeptPlatesLimit = 0.25; // of the floor, which keeps nothing
 constexpr double kPeerLimit = 0.6; // of what paints pictures only
-constexpr double kStartUpLimit = 2;
 constexpr QColor kOn(255, 145, 20);
 constexpr QColor kOff(155, 155, 155);
 
@@ -248,7 +246,4 @@ void defineRows(Rows &rows, Tag<MOnOffButton>)
 {
     addPaintedLooks(rows);
     addPicturedLooks(rows);
-    rows.work("MOnOffButton", "made and deleted", makeAndDelete<MOnOffButton>(),
-              {makeAndDelete<QWidget>(), kStartUpLimit},
-              {{"QCheckBox", makeAndDelete<QCheckBox>(), 1.0}});
 }

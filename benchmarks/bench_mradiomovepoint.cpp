@@ -53,5 +53,7 @@ PaintingMaker floor()
 void defineRows(Rows &rows, Tag<MRadioMovePoint>)
 {
     rows.paint("MRadioMovePoint", "full scale", widgetOf<Scale>(kSize), {floor()},
-               {{"QwtSlider", qwtSlider(kSize), kQwtLimit}}, textLimit(4.6));
+               {{"QwtSlider", qwtSlider(kSize), kQwtLimit},
+                {"QwtScaleWidget", qwtScaleWidget(kSize), 1.0}},
+               textLimit(4.6));
 }

@@ -2,10 +2,8 @@
 #include "mouse.h"
 #include "rows.h"
 #include "scalefloor.h"
-#include "startup.h"
 
 #include <mradioslider.h>
-#include <QPushButton>
 
 namespace
 {
@@ -14,7 +12,6 @@ constexpr QSize kSize(800, 100);
 constexpr int kGap = 3; // px; the whole band on the screen
 constexpr int kFoot = 99 - 25; // px
 constexpr int kUnit = 8; // px
-constexpr double kStartUpLimit = 4;
 
 void setUp(MRadioSlider &slider)
 {
@@ -52,7 +49,6 @@ PaintingMaker dragged()
         const auto canvas = makeCanvas(kSize);
         const auto slider = std::make_shared<OnCanvas<MRadioSlider>>(canvas);
         setUp(*slider);
-        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
         return {canvas, [slider, x = 400]() mutable {
                     x = x == 400 ? 401 : 400;
                     sendMouse(*slider, QEvent::MouseMove, {x, 50});
@@ -66,9 +62,8 @@ PaintingMaker dragged()
 void defineRows(Rows &rows, Tag<MRadioSlider>)
 {
     rows.paint("MRadioSlider", "full scale", widgetOf<MRadioSlider>(kSize, setUp), {floor()},
-               {{"QwtSlider", qwtSlider(kSize), kQwtLimit}}, textLimit(4.2));
+               {{"QwtSlider", qwtSlider(kSize), kQwtLimit},
+                {"QwtScaleWidget", qwtScaleWidget(kSize), 1.0}},
+               textLimit(4.2));
     rows.move("MRadioSlider", "drag step", dragged(), {floor()}, {});
-    rows.work("MRadioSlider", "made and deleted", makeAndDelete<MRadioSlider>(),
-              {makeAndDelete<QWidget>(), kStartUpLimit},
-              {{"QPushButton", makeAndDelete<QPushButton>()}});
 }

@@ -2,15 +2,11 @@
 #include "imagebuttonrows.h"
 #include "mouse.h"
 #include "rows.h"
-#include "startup.h"
 
 #include <mselectbutton.h>
-#include <QPushButton>
 
 namespace
 {
-
-constexpr double kStartUpLimit = 2;
 
 void press(MSelectButton &button) { sendMouse(button, QEvent::MouseButtonPress, {20, 20}); }
 
@@ -37,7 +33,4 @@ void defineRows(Rows &rows, Tag<MSelectButton>)
     looks.addLook("disabled", art.disabled, disable, PeerState::Disabled);
     looks.addCaptionedLook("captioned", art.normal, Qt::white, AsItIs());
     looks.addCaptionedLook("captioned selected", art.highlighted, Qt::cyan, select);
-    rows.work("MSelectButton", "made and deleted", makeAndDelete<MSelectButton>(),
-              {makeAndDelete<QWidget>(), kStartUpLimit},
-              {{"QPushButton", makeAndDelete<QPushButton>()}});
 }

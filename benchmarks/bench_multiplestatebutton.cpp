@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "canvas.h"
+#include "mouse.h"
 #include "peers.h"
 #include "pictures.h"
 #include "rows.h"
@@ -26,24 +27,43 @@ const QPixmap &icon()
     return picture;
 }
 
+const QPixmap &pressedIcon()
+{
+    static const QPixmap picture = keyPicture(QColor(255, 200, 60), kIcon);
+    return picture;
+}
+
 struct Button : MultipleStateButton {
     Button()
         : MultipleStateButton(0, 0, 1, {fileOf(icon()), fileOf(icon())},
-                              {fileOf(icon()), fileOf(icon())}, fileOf(background()))
+                              {fileOf(pressedIcon()), fileOf(pressedIcon())}, fileOf(background()))
     {
     }
 };
+
+template <class Enter>
+void addLook(Rows &rows, const char *state, Enter enter, const QPixmap &picture, PeerState peer)
+{
+    rows.paint("MultipleStateButton", state, widgetOf<Button>(kSize, enter),
+               {bareWidget(kSize,
+                           [picture](QPainter &painter) {
+                               painter.drawPixmap(0, 0, background());
+                               painter.drawPixmap(kInset, kInset, picture);
+                           })},
+               {{"QPushButton icon", iconButton<QPushButton>(kSize, {picture, kIcon, peer})}});
+}
 
 } // namespace
 
 void defineRows(Rows &rows, Tag<MultipleStateButton>)
 {
-    rows.paint("MultipleStateButton", "second state",
-               widgetOf<Button>(kSize, [](Button &button) { button.setButtonValue(1); }),
-               {bareWidget(kSize,
-                           [](QPainter &painter) {
-                               painter.drawPixmap(0, 0, background());
-                               painter.drawPixmap(kInset, kInset, icon());
-                           })},
-               {{"QPushButton icon", iconButton<QPushButton>(kSize, {icon(), kIcon})}});
+    addLook(
+        rows, "second state", [](Button &button) { button.setButtonValue(1); }, icon(),
+        PeerState::Normal);
+    addLook(
+        rows, "pressed",
+        [](Button &button) {
+            sendMouse(button, QEvent::MouseButtonPress, {5, 5});
+        },
+        pressedIcon(), PeerState::Pressed);
 }

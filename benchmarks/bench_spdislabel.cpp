@@ -4,7 +4,6 @@
 #include "peers.h"
 #include "pictures.h"
 #include "rows.h"
-#include "startup.h"
 
 #include <QApplication>
 #include <QFontMetrics>
@@ -20,7 +19,6 @@ constexpr QSize kIcon(64, 64);
 constexpr QPoint kIconPos(68, 0);
 constexpr int kRadius = 20; // px
 constexpr double kPeerLimit = 0.8;
-constexpr double kStartUpLimit = 2;
 
 const QColor kGround(40, 60, 90);
 const QColor kTranslucent(90, 160, 255, 70);
@@ -140,7 +138,4 @@ void defineRows(Rows &rows, Tag<SpDisLabel>)
                      label.setAlignment(Qt::AlignCenter);
                      label.setPixmap(icon());
                  })}});
-    rows.work("SpDisLabel", "made and deleted", makeAndDelete<SpDisLabel>(),
-              {makeAndDelete<QWidget>(), kStartUpLimit},
-              {{"QPushButton", makeAndDelete<QPushButton>(), 1.0}});
 }

@@ -4,7 +4,6 @@
 #include "peers.h"
 #include "pictures.h"
 #include "rows.h"
-#include "startup.h"
 
 #include <QPushButton>
 #include <QStyle>
@@ -19,7 +18,6 @@ constexpr QSize kIcon(96, 96);
 constexpr int kGap = 10; // px
 constexpr int kVeil = 154; // alpha
 constexpr double kPeerLimit = 0.8;
-constexpr double kStartUpLimit = 2;
 
 const QColor kDisabledText(150, 150, 150, 150);
 
@@ -138,10 +136,4 @@ void addLooks(Rows &rows)
 
 } // namespace
 
-void defineRows(Rows &rows, Tag<SpHorStrButton>)
-{
-    addLooks(rows);
-    rows.work("SpHorStrButton", "made and deleted", makeAndDelete<SpHorStrButton>(),
-              {makeAndDelete<QWidget>(), kStartUpLimit},
-              {{"QPushButton", makeAndDelete<QPushButton>(), 1.0}});
-}
+void defineRows(Rows &rows, Tag<SpHorStrButton>) { addLooks(rows); }

@@ -5,7 +5,6 @@
 #include "peers.h"
 #include "pictures.h"
 #include "rows.h"
-#include "startup.h"
 
 #include <QPushButton>
 #include <QToolButton>
@@ -17,7 +16,6 @@ namespace
 constexpr QSize kSize(96, 96);
 constexpr int kVeil = 154; // alpha
 constexpr double kStyleSheetLimit = 0.6;
-constexpr double kStartUpLimit = 2;
 
 QString caption() { return QStringLiteral("Radio"); }
 
@@ -150,7 +148,4 @@ void defineRows(Rows &rows, Tag<SpIconButton>)
     addEnabledLooks(rows);
     addDisabledLooks(rows);
     addCaptionedLooks(rows);
-    rows.work("SpIconButton", "made and deleted", makeAndDelete<SpIconButton>(),
-              {makeAndDelete<QWidget>(), kStartUpLimit},
-              {{"QPushButton", makeAndDelete<QPushButton>(), 1.0}});
 }

@@ -4,9 +4,7 @@
 #include "peers.h"
 #include "pictures.h"
 #include "rows.h"
-#include "startup.h"
 
-#include <QPushButton>
 #include <QToolButton>
 #include <spverstrbutton.h>
 
@@ -21,7 +19,6 @@ constexpr int kTextFlags = Qt::AlignHCenter | Qt::AlignTop;
 constexpr int kStringHeight = 23; // px
 constexpr int kFontSize = 18; // px
 constexpr double kPeerLimit = 0.8;
-constexpr double kStartUpLimit = 2;
 
 QString text() { return QStringLiteral("Phone"); }
 
@@ -98,7 +95,4 @@ void defineRows(Rows &rows, Tag<SpVerStrButton>)
         rows, "overlap", [](SpVerStrButton &b) { b.setWidgetGain(-40); },
         floorOf(art.normal, {kIconPos.x(), 22}, {0, 56, kSize.width(), kStringHeight}, Qt::black),
         art.normal);
-    rows.work("SpVerStrButton", "made and deleted", makeAndDelete<SpVerStrButton>(),
-              {makeAndDelete<QWidget>(), kStartUpLimit},
-              {{"QPushButton", makeAndDelete<QPushButton>(), 1.0}});
 }

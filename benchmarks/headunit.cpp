@@ -4,55 +4,34 @@
 // cost. Fails where a frame takes longer than a screen of 60 Hz has, or many files make a slow
 // start.
 
-#include "headunit.h"
-#include "context.h"
+#include "car.h"
 #include "finger.h"
-#include "models/contacts.h"
-#include "models/musiclibrary.h"
-#include "models/player.h"
-#include "models/preferences.h"
-#include "models/stations.h"
-#include "models/trackmodel.h"
-#include "models/tuner.h"
-#include "musicfiles.h"
 #include "sidekeys.h"
 
 #include <sptablelist.h>
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QListView>
 #include <QLoggingCategory>
 #include <QPainter>
 #include <QScrollBar>
-#include <QSettings>
 #include <QStringListModel>
 #include <QTemporaryDir>
 
 #include <algorithm>
 #include <cstdio>
-#include <ctime>
 
 using namespace headunit;
 
 namespace
 {
 
-constexpr QSize kScreen(1024, 600);
 constexpr int kFew = 3; // files
 constexpr int kTitles = 2'000;
 constexpr int kMany = 20'000;
 constexpr double kMostFrame = 16; // ms
 constexpr double kMostLonger = 1000; // ms that many files may add to the start
-
-// What this thread has used of the processor, in ms.
-double used()
-{
-    timespec time = {};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
-}
 
 /// Notes what each frame of a window costs.
 class Application : public QApplication
@@ -77,43 +56,6 @@ private:
 };
 
 Application &application() { return *static_cast<Application *>(QApplication::instance()); }
-
-/// The head unit on a folder of music, as its program makes it.
-struct Car {
-    explicit Car(const QString &folder)
-    {
-        player.setModel(music.tracks());
-        music.open(folder);
-        screen.show();
-    }
-    void waitForMusic()
-    {
-        while (!music.isFinished())
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    }
-
-    QTemporaryDir scratch;
-    QSettings settings{scratch.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat};
-    MusicLibrary music;
-    Player player{std::make_unique<SilentBackend>()};
-    Stations stations;
-    Tuner tuner{&stations, &settings};
-    Contacts contacts;
-    Preferences preferences{&settings};
-    Context context{settings, music, player, tuner, contacts, preferences};
-    HeadUnit screen{context, kScreen, Theme::Night};
-};
-
-void writeMusic(const QTemporaryDir &folder, int count)
-{
-    for (int i = 0; i < count; ++i) {
-        const QByteArray title = QByteArray(1, char('A' + i * 26 / count))
-            + "ir for the road, number " + QByteArray::number(i);
-        QFile file(folder.filePath(QStringLiteral("%1.wav").arg(i)));
-        if (!file.open(QIODevice::WriteOnly) || file.write(musicfiles::wave(title)) < 0)
-            qFatal("cannot write %s", qPrintable(file.fileName()));
-    }
-}
 
 struct Start {
     double firstPicture; // ms of true time

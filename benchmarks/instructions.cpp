@@ -8,7 +8,9 @@
 #include <QJsonObject>
 #include <QRegularExpression>
 #include <QString>
+#include <QSysInfo>
 
+#include <gnu/libc-version.h>
 #include <valgrind/callgrind.h>
 
 #include <cmath>
@@ -19,16 +21,36 @@ namespace
 
 constexpr int kWarmUp = 3; // steps; the first computes what is kept for the others
 constexpr int kSteps = 20;
+constexpr int kPeerSteps = 6; // they are what takes the time
 
-void count(const std::string &name, const StepMaker &make)
+int stepsOf(const std::string &subject)
+{
+    const bool isPeer = subject != "ours" && subject != "blit" && subject != "floor";
+    return isPeer ? kPeerSteps : kSteps;
+}
+
+void count(const std::string &name, int steps, const StepMaker &make)
 {
     const Step step = make();
     for (int i = 0; i < kWarmUp; ++i)
         step();
     CALLGRIND_ZERO_STATS;
-    for (int i = 0; i < kSteps; ++i)
+    for (int i = 0; i < steps; ++i)
         step();
     CALLGRIND_DUMP_STATS_AT(name.c_str());
+}
+
+// What decides how many instructions Qt takes, besides its code: counts compare with those of the
+// same alone.
+QString place()
+{
+    QString vectors;
+#ifdef __x86_64__
+    vectors = __builtin_cpu_supports("avx2") ? QStringLiteral(", AVX2") : QStringLiteral(", SSE2");
+#endif
+    return QStringLiteral("Qt %1, libc %2, %3%4")
+        .arg(QLatin1String(qVersion()), QLatin1String(gnu_get_libc_version()),
+             QSysInfo::currentCpuArchitecture(), vectors);
 }
 
 QJsonObject describe(const Row &row, const Against<StepMaker> &rival)
@@ -51,18 +73,27 @@ bool countInstructions(const std::vector<Row> &rows, const QString &names)
         return false;
     }
     QJsonArray comparisons;
+    QJsonObject steps;
     CALLGRIND_START_INSTRUMENTATION;
     const QRegularExpression wanted(names);
     for (const Row &row : rows) {
         if (!wanted.match(QString::fromStdString(row.className + '/' + row.state)).hasMatch())
             continue;
-        count(row.nameOf("ours"), row.ours);
+        const auto countOne = [&](const std::string &subject, const StepMaker &make) {
+            const std::string name = row.nameOf(subject);
+            steps.insert(QString::fromStdString(name), stepsOf(subject));
+            count(name, stepsOf(subject), make);
+        };
+        countOne("ours", row.ours);
         for (const Against<StepMaker> &rival : row.rivals) {
-            count(row.nameOf(rival.name), rival.make);
+            countOne(rival.name, rival.make);
             comparisons.append(describe(row, rival));
         }
     }
     CALLGRIND_STOP_INSTRUMENTATION;
-    std::printf("%s", QJsonDocument(comparisons).toJson().constData());
+    const QJsonObject said{{QStringLiteral("place"), place()},
+                           {QStringLiteral("steps"), steps},
+                           {QStringLiteral("comparisons"), comparisons}};
+    std::printf("%s", QJsonDocument(said).toJson().constData());
     return true;
 }

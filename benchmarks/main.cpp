@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "everyclass.h"
 #include "instructions.h"
 #include "report.h"
 #include "rows.h"
@@ -6,7 +7,10 @@
 #include <benchmark/benchmark.h>
 #include <panelkitclasses.h>
 #include <QApplication>
+#include <QFile>
 #include <QFont>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QString>
 
 #include <algorithm>
@@ -24,6 +28,9 @@ PANELKIT_FOR_EACH_CLASS(PANELKIT_DECLARE_ROWS)
 
 namespace
 {
+
+constexpr char kNanoseconds[] = "ns";
+constexpr char kInstructions[] = "instructions";
 
 // Keeps the fastest repetition of each benchmark: whatever else the machine does only makes one
 // slower, so that the fastest is the one nearest to what the code costs.
@@ -54,6 +61,8 @@ Rows allRows()
     Rows rows;
 #define PANELKIT_DEFINE_ROWS(Class, ...) defineRows(rows, Tag<Class>());
     PANELKIT_FOR_EACH_CLASS(PANELKIT_DEFINE_ROWS)
+    defineRowsOfEveryClass(rows);
+    defineRowsOfForms(rows);
     return rows;
 }
 
@@ -119,7 +128,7 @@ Costs measuredCosts(const std::vector<Row> &rows)
         const bool isFirst = reporter.costs().empty();
         matching += benchmark::RunSpecifiedBenchmarks(&reporter);
         if (isFirst && !reporter.costs().empty())
-            printHeader();
+            printHeader(kNanoseconds);
         printRow(rows[i], reporter.costs(), i + 1, rows.size());
     }
     if (matching == 0) {
@@ -129,10 +138,38 @@ Costs measuredCosts(const std::vector<Row> &rows)
     return reporter.costs();
 }
 
+// What was counted before, as a JSON object.
+Costs readCosts(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("cannot read %s", qPrintable(path));
+    Costs costs;
+    const QJsonObject counts = QJsonDocument::fromJson(file.readAll()).object();
+    for (auto count = counts.begin(); count != counts.end(); ++count)
+        costs[count.key().toStdString()] = count->toDouble();
+    return costs;
+}
+
+void printTable(const std::vector<Row> &rows, const Costs &costs)
+{
+    printHeader(kInstructions);
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        printRow(rows[i], costs, i + 1, rows.size());
+}
+
+// Some widgets say what they do, which is part of what they cost, but not of the tables.
+void leaveOutDebugOutput(QtMsgType type, const QMessageLogContext &, const QString &message)
+{
+    if (type != QtDebugMsg)
+        std::fprintf(stderr, "%s\n", qPrintable(message));
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
+    qInstallMessageHandler(leaveOutDebugOutput);
     // The same style and font on every machine.
     QApplication::setStyle(QStringLiteral("fusion"));
     const QApplication application(argc, argv);
@@ -142,16 +179,27 @@ int main(int argc, char **argv)
 
     std::vector<char *> arguments(argv, argv + argc);
     const std::optional<QString> jsonPath = take(arguments, QStringLiteral("--json="));
+    if (take(arguments, QStringLiteral("--memory")))
+        return printMemory() ? 0 : 1;
     const std::optional<QString> counted = take(arguments, QStringLiteral("--instructions="));
+
+    const std::optional<QString> countsPath = take(arguments, QStringLiteral("--counts="));
 
     const Rows rows = allRows();
     if (counted)
         return countInstructions(rows.all(), *counted) && !rows.hasRefused() ? 0 : 1;
 
-    initialize(std::move(arguments));
-    const Costs costs = measuredCosts(rows.all());
+    Costs costs;
+    if (countsPath) {
+        costs = readCosts(*countsPath);
+        printTable(rows.all(), costs);
+    } else {
+        initialize(std::move(arguments));
+        costs = measuredCosts(rows.all());
+    }
     printNotes(rows.all(), costs);
-    if (jsonPath && !writeJson(*jsonPath, rows.all(), costs)) {
+    if (jsonPath
+        && !writeJson(*jsonPath, countsPath ? kInstructions : kNanoseconds, rows.all(), costs)) {
         std::fprintf(stderr, "cannot write %s\n", qPrintable(*jsonPath));
         return 1;
     }

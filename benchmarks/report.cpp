@@ -24,7 +24,7 @@ double costOf(const Costs &costs, const std::string &name)
     return cost == costs.end() ? kNotMeasured : cost->second;
 }
 
-// One line of the table: a row beside one of its peers. In ns.
+// One line of the table: a row beside one of its peers.
 struct Line {
     double ours = kNotMeasured;
     double blit = kNotMeasured;
@@ -70,12 +70,13 @@ QJsonValue json(const std::string &string)
 
 } // namespace
 
-void printHeader()
+void printHeader(const char *unit)
 {
+    std::printf("In %s a step:\n\n", unit);
     const auto dashes = [](int count) { return std::string(std::size_t(count), '-'); };
     std::printf("| %-9s | %-22s | %-32s | %8s | %8s | %6s | %8s | %7s | %-32s | %8s | %6s |\n",
-                "row", "class", "state", "ours ns", "blit ns", "/ blit", "floor ns", "/ floor",
-                "peer", "peer ns", "/ peer");
+                "row", "class", "state", "ours", "blit", "/ blit", "floor", "/ floor", "peer",
+                "of peer", "/ peer");
     std::printf("|%s|%s|%s|%s:|%s:|%s:|%s:|%s:|%s|%s:|%s:|\n", dashes(11).c_str(),
                 dashes(24).c_str(), dashes(34).c_str(), dashes(9).c_str(), dashes(9).c_str(),
                 dashes(7).c_str(), dashes(9).c_str(), dashes(8).c_str(), dashes(34).c_str(),
@@ -110,7 +111,8 @@ void printNotes(const std::vector<Row> &rows, const Costs &costs)
         std::printf("- %s (%s)\n", reason.c_str(), states.c_str());
 }
 
-bool writeJson(const QString &path, const std::vector<Row> &rows, const Costs &costs)
+bool writeJson(const QString &path, const char *unit, const std::vector<Row> &rows,
+               const Costs &costs)
 {
     QJsonArray records;
     for (const Row &row : rows) {
@@ -119,20 +121,22 @@ bool writeJson(const QString &path, const std::vector<Row> &rows, const Costs &c
                 {QStringLiteral("class"), json(row.className)},
                 {QStringLiteral("state"), json(row.state)},
                 {QStringLiteral("kind"), json(row.kind)},
-                {QStringLiteral("ns"), json(line.ours)},
-                {QStringLiteral("blit_ns"), json(line.blit)},
+                {QStringLiteral("cost"), json(line.ours)},
+                {QStringLiteral("blit_cost"), json(line.blit)},
                 {QStringLiteral("ratio_blit"), json(line.ours / line.blit)},
-                {QStringLiteral("floor_ns"), json(line.floor)},
+                {QStringLiteral("floor_cost"), json(line.floor)},
                 {QStringLiteral("ratio_floor"), json(line.ours / line.floor)},
                 {QStringLiteral("peer"), json(line.peer)},
-                {QStringLiteral("peer_ns"), json(line.peerCost)},
+                {QStringLiteral("peer_cost"), json(line.peerCost)},
                 {QStringLiteral("ratio_peer"), json(line.ours / line.peerCost)},
                 {QStringLiteral("why"), json(row.why)},
             });
         }
     }
     QFile file(path);
-    const QByteArray contents = QJsonDocument(records).toJson();
+    const QByteArray contents = QJsonDocument({{QStringLiteral("unit"), QLatin1String(unit)},
+                                               {QStringLiteral("rows"), records}})
+                                    .toJson();
     return file.open(QIODevice::WriteOnly | QIODevice::Truncate)
         && file.write(contents) == contents.size();
 }

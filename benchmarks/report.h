@@ -10,11 +10,12 @@
 class QString;
 struct Row;
 
-/// What each full name (Row::nameOf) cost, in ns a step; a name that was not measured is missing.
+/// What each full name (Row::nameOf) cost a step, in ns or instructions; a name that was not
+/// measured is missing.
 using Costs = std::map<std::string, double>;
 
-/// Prints the head of the Markdown table that printRow() goes on with.
-void printHeader();
+/// Prints the head of the Markdown table that printRow() goes on with: "ns" or "instructions".
+void printHeader(const char *unit);
 
 /// Prints what was measured of a row, one line for each peer. It is so manieth of so many.
 void printRow(const Row &row, const Costs &costs, std::size_t number, std::size_t count);
@@ -23,6 +24,7 @@ void printRow(const Row &row, const Costs &costs, std::size_t number, std::size_
 void printNotes(const std::vector<Row> &rows, const Costs &costs);
 
 /// Writes the same as JSON; false if the file cannot be written.
-bool writeJson(const QString &path, const std::vector<Row> &rows, const Costs &costs);
+bool writeJson(const QString &path, const char *unit, const std::vector<Row> &rows,
+               const Costs &costs);
 
 #endif // PANELKIT_BENCHMARKS_REPORT_H

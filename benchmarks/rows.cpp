@@ -149,9 +149,10 @@ void Rows::move(const std::string &className, const std::string &state, const Pa
 }
 
 void Rows::work(const std::string &className, const std::string &state, const StepMaker &ours,
-                const Floor<StepMaker> &floor, const std::vector<Against<StepMaker>> &peers)
+                const Floor<StepMaker> &floor, const std::vector<Against<StepMaker>> &peers,
+                const std::string &why)
 {
-    Row row{className, state, "work", ours, {{"floor", floor.make, floor.limit}}};
+    Row row{className, state, "work", ours, {{"floor", floor.make, floor.limit}}, why};
     row.rivals.insert(row.rivals.end(), peers.begin(), peers.end());
     m_rows.push_back(row);
 }

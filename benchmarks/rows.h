@@ -100,9 +100,10 @@ public:
               const Floor<PaintingMaker> &floor, const std::vector<Against<PaintingMaker>> &peers,
               const OwnLimits &own = {});
 
-    /// Adds the row of anything else.
+    /// Adds the row of anything else, and why it has the limits that it has.
     void work(const std::string &className, const std::string &state, const StepMaker &ours,
-              const Floor<StepMaker> &floor, const std::vector<Against<StepMaker>> &peers);
+              const Floor<StepMaker> &floor, const std::vector<Against<StepMaker>> &peers,
+              const std::string &why = {});
 
     const std::vector<Row> &all() const { return m_rows; }
     bool hasRefused() const { return m_hasRefused; }

@@ -11,6 +11,7 @@
 #include <QRectF>
 #include <QVector>
 #include <qwt_scale_div.h>
+#include <qwt_scale_widget.h>
 #include <qwt_slider.h>
 
 constexpr double kQwtLimit = 1.0 / 3;
@@ -56,21 +57,36 @@ inline QPixmap indicatorPicture()
     return picture;
 }
 
-/// A slider of Qwt's with as many ticks and labels.
+/// As many ticks and labels, as Qwt has them.
+inline QwtScaleDiv qwtScaleDiv()
+{
+    QList<double> minor;
+    QList<double> medium;
+    QList<double> major;
+    for (int hundredths = 8750; hundredths <= 10800; hundredths += 10)
+        (hundredths % 100 == 0      ? major
+             : hundredths % 50 == 0 ? medium
+                                    : minor) += hundredths / 100.0;
+    return QwtScaleDiv(87.5, 108.0, minor, medium, major);
+}
+
+/// A slider of Qwt's on such a scale.
 inline PaintingMaker qwtSlider(const QSize &size)
 {
     return widgetOf<QwtSlider>(size, [](QwtSlider &slider) {
         slider.setOrientation(Qt::Horizontal);
         slider.setScalePosition(QwtSlider::LeadingScale);
-        QList<double> minor;
-        QList<double> medium;
-        QList<double> major;
-        for (int hundredths = 8750; hundredths <= 10800; hundredths += 10)
-            (hundredths % 100 == 0      ? major
-                 : hundredths % 50 == 0 ? medium
-                                        : minor) += hundredths / 100.0;
-        slider.setScale(QwtScaleDiv(87.5, 108.0, minor, medium, major));
+        slider.setScale(qwtScaleDiv());
         slider.setValue(98.5);
+    });
+}
+
+/// The scale alone, which nobody can drag.
+inline PaintingMaker qwtScaleWidget(const QSize &size)
+{
+    return widgetOf<QwtScaleWidget>(size, [](QwtScaleWidget &scale) {
+        scale.setAlignment(QwtScaleDraw::TopScale);
+        scale.setScaleDiv(qwtScaleDiv());
     });
 }
 
