@@ -27,6 +27,9 @@ constexpr int kOverhang = 32; // the part of the radius by which a rectangle's c
 constexpr int kRoundness = 25; // percent
 constexpr double kCircle = 6.28; // the circumference for a radius of 1
 
+// Of a spoke in GrayStyle: 1 is the last one.
+constexpr int greyOf(int number) { return 252 - 21 * number; }
+
 } // namespace
 
 class Q_DECL_HIDDEN SpLoadingRound::Private
@@ -130,6 +133,10 @@ void SpLoadingRound::paintEvent(QPaintEvent *)
     d->look.draw(painter, {-rim, -rim, 2 * rim, 2 * rim},
                  {d->index, d->radius, d->drawStyle, d->painterColor},
                  [this](QPainter &p) { d->drawRing(p); });
+    // In GrayStyle the colour itself becomes that of the spokes, so that it reads as the grey of
+    // the last one after a paint, and the other styles go on with it (kept behaviour).
+    if (d->drawStyle == GrayStyle)
+        d->painterColor = QColor(greyOf(1), greyOf(1), greyOf(1));
 }
 
 /** A tick of the own timer goes on by a step; those of any other are dropped. */
@@ -184,16 +191,12 @@ void SpLoadingRound::Private::drawRing(QPainter &painter)
     }
 }
 
-// In GrayStyle the colour itself becomes that of the spoke, so that painterColor reads (231, 231,
-// 231), the grey of the last one, after a paint, and the other styles go on with it
-// (kept behaviour).
 void SpLoadingRound::Private::drawSpoke(QPainter &painter, int number)
 {
     const int r = boundedPixel(radius);
     if (drawStyle == GrayStyle) {
-        const int grey = 252 - 21 * number;
-        painterColor = QColor(grey, grey, grey);
-        painter.setBrush(painterColor);
+        const int grey = greyOf(number);
+        painter.setBrush(QColor(grey, grey, grey));
         painter.drawRoundedRect(QRect(3 * r / 7, 0, r / 2, toInt(r * kCircle / 39)), kRoundness,
                                 kRoundness, Qt::RelativeSize);
         return;

@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: Apache-2.0
 """A copy of the tree, in which changed sources are built and tested."""
 
+import functools
 import json
 import os
 import pathlib
@@ -46,7 +47,9 @@ class Workshop:
                 write_if_different(target, source.read_text(encoding="latin-1"))
                 target.chmod(source.stat().st_mode)
 
+    @functools.cache
     def source(self, path):
+        """As it was when it was first asked for."""
         return (self.root / path).read_text(encoding="latin-1")
 
     def write(self, path, text):
