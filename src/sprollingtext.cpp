@@ -5,12 +5,12 @@
 #include "detail/arithmetic.h"
 #include "detail/fonts.h"
 #include "detail/linescache.h"
+#include "detail/marquee.h"
 #include "detail/search.h"
 #include "detail/textcache.h"
 
 #include <QFontMetrics>
 #include <QGraphicsDropShadowEffect>
-#include <QLinearGradient>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTimer>
@@ -27,8 +27,6 @@ constexpr int kRollInterval = 150; // ms
 constexpr int kRollStep = 2; // px
 constexpr int kGap = 16; // spaces between the end of a rolling text and its restart
 constexpr int kSpareCharacters = 3; // beyond those that can be seen
-constexpr qreal kFadeIn = qreal(0.08); // of the diagonal
-constexpr qreal kFadeOut = qreal(0.92);
 constexpr qreal kShadowBlur = qreal(0.5); // px
 constexpr qreal kFarthestShadow = 16384; // px, either way
 
@@ -84,6 +82,7 @@ public:
     int measuredWidth = 0; // px
     TextCache resting;
     LinesCache rolling;
+    Marquee marquee;
 };
 
 /** An empty line. */
@@ -316,13 +315,21 @@ void SpRollingText::Private::drawResting(QPainter &painter)
 // window.
 void SpRollingText::Private::drawRolling(QPainter &painter)
 {
-    QLinearGradient fade(q->rect().topLeft(), q->rect().bottomRight());
-    fade.setColorAt(0, Qt::transparent);
-    fade.setColorAt(kFadeIn, textColor);
-    fade.setColorAt(kFadeOut, textColor);
-    fade.setColorAt(1, Qt::transparent);
-    painter.setPen(QPen(fade, qreal(q->width()), Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
-    const QRect place(-pixelOffset, 0, displayWidth(), q->height());
+    const QSize area = q->size();
+    const QRect place(-pixelOffset, 0, displayWidth(), area.height());
+    const Marquee::Look look{
+        textColor.rgba(),
+        area,
+        rolling.beginning(painter, place, int(textAlignment), displayText),
+        {displayText, place.size(), int(textAlignment), painter.font(), painter.layoutDirection()}};
+    const auto drawApart = [&](QPainter &p, int first) {
+        return rolling.drawEverySecond(p, place, int(textAlignment), displayText, first);
+    };
+    const bool isCut = isInFirstColumn(painter)
+        && rolling.mayBeginAt(0, painter, place, int(textAlignment), displayText);
+    if (!isCut && marquee.draw(painter, look, pixelOffset, firstWidth, drawApart))
+        return;
+    painter.setPen(Marquee::pen(area, textColor));
     rolling.draw(painter, place, int(textAlignment), displayText, q->rect());
 }
 

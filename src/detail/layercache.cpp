@@ -19,26 +19,6 @@ namespace
 
 constexpr double kFarthest = 1 << 24; // px, no widget is larger
 
-// Whether the device's coordinates are those of the painter, moved by whole pixels. They are where
-// a widget stands in a window, but not where it is rendered through a painter that scales it.
-bool isMovedByPixels(const QPainter &painter)
-{
-    const QTransform &own = painter.worldTransform();
-    const QTransform &device = painter.deviceTransform();
-    return device.m11() == own.m11() && device.m12() == own.m12() && device.m21() == own.m21()
-        && device.m22() == own.m22() && isWholePixels(device.dx() - own.dx())
-        && isWholePixels(device.dy() - own.dy());
-}
-
-// Pixels kept for one device are right where they are copied one to one.
-bool canCopyPixels(const QPainter &painter)
-{
-    return painter.paintEngine()->type() == QPaintEngine::Raster && painter.opacity() >= 1
-        && painter.compositionMode() == QPainter::CompositionMode_SourceOver
-        && !painter.viewTransformEnabled() && isMovedByPixels(painter)
-        && qFuzzyCompare(painter.paintEngine()->paintDevice()->devicePixelRatioF(), qreal(1));
-}
-
 // The device in the coordinates of a painter without transform of its own; they differ by where in
 // its window a widget stands.
 QRect visibleRect(const QPainter &painter)
@@ -90,7 +70,7 @@ QRect inkRect(const QImage &image)
 void LayerPixels::drawContent(QPainter &painter, const QTransform &world, const QRectF &area,
                               int content, const Paint &paint)
 {
-    const bool canCopy = canCopyPixels(painter);
+    const bool canCopy = copiesPixels(painter);
     const bool isNew = m_key.changesTo({world, area, content, painter.renderHints(), painter.pen(),
                                         canCopy ? visibleRect(painter) : QRect()});
     if (isNew || !canCopy) {
