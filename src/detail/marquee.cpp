@@ -20,7 +20,7 @@ constexpr int kWidestEnd = 254; // px, what a byte counts
 constexpr int kSpare = 2; // px, that rounding may move the end of a fade
 constexpr int kFarthest = 255; // px, likewise
 constexpr int kSixteenthsOfText = 20; // of a pixel's memory, its stretch included
-constexpr int kPicturesOfEnds = 7; // three of each end, and their turns
+constexpr int kPicturesOfEnds = 6; // two of each end, their turns, and one for both
 
 // A premultiplied colour for a coverage, as the raster engine rounds it.
 QRgb covered(QRgb color, uint coverage)
@@ -90,7 +90,7 @@ bool Marquee::draw(QPainter &painter, const Look &look, int offset, int reach, c
     const int from = offset - m_stretch.left() + m_endWidth;
     painter.drawImage(QPoint(m_endWidth, m_top), m_strip,
                       QRect(from, 0, m_ends[1].left - m_endWidth, m_strip.height()));
-    for (End &end : m_ends)
+    for (const End &end : m_ends)
         drawEnd(painter, end, offset);
     return true;
 }
@@ -99,9 +99,9 @@ int Marquee::pixels() const
 {
     const auto count = [](const QImage &image) { return image.width() * image.height(); };
     std::size_t bytes = m_since.size() + m_meetings.size() * sizeof(Meeting);
-    int sum = count(m_strip);
+    int sum = count(m_strip) + count(m_shown);
     for (const End &end : m_ends) {
-        sum += count(end.colors) + count(end.laterColors) + count(end.shown);
+        sum += count(end.colors) + count(end.laterColors);
         bytes += end.turns.size();
     }
     return sum + int(bytes / sizeof(QRgb));
@@ -119,7 +119,9 @@ bool Marquee::composeEnds()
     m_endWidth = endWidthIn(m_fade->area);
     m_ends[0].left = 0;
     m_ends[1].left = width - m_endWidth;
-    return m_endWidth > 0 && mostWidth() >= width && composeEnd(m_ends[0]) && composeEnd(m_ends[1]);
+    m_shown = QImage(m_endWidth, m_fade->area.height(), QImage::Format_ARGB32_Premultiplied);
+    return !m_shown.isNull() && mostWidth() >= width && composeEnd(m_ends[0])
+        && composeEnd(m_ends[1]);
 }
 
 // The place in the area counts, too. From the right to the left: what begins at each pixel, and how
@@ -128,9 +130,9 @@ bool Marquee::composeEnd(End &end) const
 {
     const QSize size(m_endWidth, m_fade->area.height());
     QImage filled(m_fade->area, QImage::Format_ARGB32_Premultiplied);
-    for (QImage *image : {&end.colors, &end.laterColors, &end.shown})
-        *image = QImage(size, filled.format());
-    if (filled.isNull() || end.shown.isNull() || end.laterColors.isNull() || end.colors.isNull())
+    end.colors = QImage(size, filled.format());
+    end.laterColors = QImage(size, filled.format());
+    if (filled.isNull() || end.colors.isNull() || end.laterColors.isNull())
         return false;
     end.turns.assign(std::size_t(size.width()) * std::size_t(size.height()), 0);
 
@@ -232,13 +234,13 @@ QRgb Marquee::faded(const End &end, int x, int y, const Ink &ink) const
     return covered(row(isLater ? end.laterColors : end.colors, y)[x], ink.coverage);
 }
 
-void Marquee::drawEnd(QPainter &painter, End &end, int offset) const
+void Marquee::drawEnd(QPainter &painter, const End &end, int offset)
 {
     const int from = offset + end.left - m_stretch.left();
     for (int i = 0; i < m_strip.height(); ++i) {
         const QRgb *text = row(m_strip, i) + from;
         const uchar *since = m_since.data() + i * m_strip.width() + from;
-        QRgb *shown = row(end.shown, m_top + i);
+        QRgb *shown = row(m_shown, m_top + i);
         for (int x = 0; x < m_endWidth; ++x)
             shown[x] =
                 text[x] == 0 ? 0 : faded(end, x, m_top + i, {uchar(qAlpha(text[x])), since[x]});
@@ -247,10 +249,10 @@ void Marquee::drawEnd(QPainter &painter, End &end, int offset) const
         const int x = meeting.at.x() - from;
         const int y = m_top + meeting.at.y();
         if (x >= 0 && x < m_endWidth)
-            row(end.shown, y)[x] =
+            row(m_shown, y)[x] =
                 over(faded(end, x, y, meeting.ink[1]), faded(end, x, y, meeting.ink[0]));
     }
-    painter.drawImage(QPoint(end.left, m_top), end.shown,
+    painter.drawImage(QPoint(end.left, m_top), m_shown,
                       QRect(0, m_top, m_endWidth, m_strip.height()));
 }
 

@@ -62,7 +62,6 @@ private:
         QImage colors;
         QImage laterColors;
         std::vector<uchar> turns; // px from the beginning of a stretch on; 0: never
-        QImage shown;
     };
     struct Fade {
         QRgb color;
@@ -87,11 +86,12 @@ private:
     bool take(const QImage &odd);
     int mostWidth() const;
     QRgb faded(const End &end, int x, int y, const Ink &ink) const;
-    void drawEnd(QPainter &painter, End &end, int offset) const;
+    void drawEnd(QPainter &painter, const End &end, int offset);
 
     TextSmoothing m_smoothing;
     LastKey<Fade> m_fade;
     std::array<End, 2> m_ends;
+    QImage m_shown; // of an end, while it is drawn
     int m_endWidth = 0; // px, 0: there is no room for ends
     LastKey<Look> m_look;
     QRect m_stretch; // of the text that is kept

@@ -15,6 +15,8 @@ namespace panelkit
 namespace
 {
 
+constexpr qint64 kMostPixels = 4 << 20; // twice a large screen; more is drawn directly
+
 // Whether letters on an opaque ground are those that were drawn without one and copied there.
 bool isSmoothedInGrey(const QFont &font, const QColor &color)
 {
@@ -64,6 +66,8 @@ bool isInFirstColumn(const QPainter &painter)
 QImage drawnText(const QPainter &like, const QColor &color, const QSize &size, int column,
                  const std::function<bool(QPainter &)> &paint)
 {
+    if (qint64(size.width()) * size.height() > kMostPixels)
+        return {};
     QImage image(size + QSize(column, 0), QImage::Format_ARGB32_Premultiplied);
     if (image.isNull() || image.logicalDpiY() != like.device()->logicalDpiY())
         return {};
