@@ -24,7 +24,6 @@ constexpr int kRowHeight = 40; // px
 constexpr double kAngle = -20; // degrees
 constexpr double kRadius = 470; // px
 constexpr double kPitch = 8; // degrees
-constexpr double kFloorLimit = 1.2;
 constexpr double kPeerLimit = 1;
 
 QFont letterFont() { return fontOf(24); }
@@ -189,10 +188,11 @@ private:
 };
 
 // One step of a drag, and the paint that it asks for.
-StepMaker drag(MArcList::ARCLIST_STYLE style)
+PaintingMaker drag(MArcList::ARCLIST_STYLE style)
 {
-    return [style]() -> Step {
-        const auto list = shownOn<MArcList>(makeCanvas(kSize), kSize, [style](MArcList &fresh) {
+    return [style]() -> Painting {
+        const auto canvas = makeCanvas(kSize);
+        const auto list = shownOn<MArcList>(canvas, kSize, [style](MArcList &fresh) {
             fresh.setAcrListStyle(style);
             if (style == MArcList::ARCLIST_STYLE_1)
                 fresh.setItemHight(kRowHeight);
@@ -200,26 +200,26 @@ StepMaker drag(MArcList::ARCLIST_STYLE style)
         });
         Finger finger;
         sendMouse(*list, QEvent::MouseButtonPress, {460, finger.y()});
-        return [list, finger]() mutable {
-            finger.move();
-            sendMouse(*list, QEvent::MouseMove, {460, finger.y()});
-            list->paint();
-        };
+        return {canvas, [list, finger]() mutable {
+                    finger.move();
+                    sendMouse(*list, QEvent::MouseMove, {460, finger.y()});
+                    list->paint();
+                }};
     };
 }
 
 // The same with a list view that is scrolled.
-StepMaker peerDrag()
+PaintingMaker peerDrag()
 {
-    return []() -> Step {
+    return []() -> Painting {
         const auto canvas = makeCanvas(kSize);
         const auto list = makePeer();
         list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-        return [list, canvas, finger = Finger()]() mutable {
-            finger.move();
-            list->verticalScrollBar()->setValue(finger.y());
-            paintPeer(*list, *canvas);
-        };
+        return {canvas, [list, canvas, finger = Finger()]() mutable {
+                    finger.move();
+                    list->verticalScrollBar()->setValue(finger.y());
+                    paintPeer(*list, *canvas);
+                }};
     };
 }
 
@@ -227,12 +227,15 @@ StepMaker peerDrag()
 
 void defineRows(Rows &rows, Tag<MArcList>)
 {
-    rows.paint("MArcList", "arc", arc(), {arcFloor(), kFloorLimit},
+    rows.paint("MArcList", "arc", arc(), {arcFloor()}, {{"QListWidget", peer(), kPeerLimit}});
+    rows.paint("MArcList", "column", column(), {columnFloor()},
                {{"QListWidget", peer(), kPeerLimit}});
-    rows.paint("MArcList", "column", column(), {columnFloor(), kFloorLimit},
-               {{"QListWidget", peer(), kPeerLimit}});
-    rows.work("MArcList", "column dragged", drag(MArcList::ARCLIST_STYLE_1),
-              {stepOf(columnFloor()), kNoLimit}, {{"QListWidget", peerDrag(), kPeerLimit}});
-    rows.work("MArcList", "arc dragged", drag(MArcList::ARCLIST_STYLE_0),
-              {stepOf(arcFloor()), kNoLimit}, {{"QListWidget", peerDrag(), kNoLimit}});
+    rows.move("MArcList", "column dragged", drag(MArcList::ARCLIST_STYLE_1), {columnFloor()},
+              {{"QListWidget", peerDrag(), kPeerLimit}});
+    rows.move("MArcList", "arc dragged", drag(MArcList::ARCLIST_STYLE_0), {arcFloor()},
+              {{"QListWidget", peerDrag()}},
+              {"the letters of its floor stand still; those in motion are drawn from their "
+               "outlines, each in its new turn",
+               {},
+               5.15});
 }

@@ -17,7 +17,6 @@ namespace
 {
 
 constexpr QSize kSize(200, 160);
-constexpr double kFloorLimit = 1.15;
 constexpr double kPlayingLimit = 1.05;
 
 // A GIF without end, of two frames that look alike: whoever is a frame behind paints the same.
@@ -106,9 +105,9 @@ void prepareLabel(WithMovie<QLabel> &label, int speed)
 void defineRows(Rows &rows, Tag<MGifPlay>)
 {
     rows.paint("MGifPlay", "standing", standing<MGifPlay>(preparePlayer),
-               {pictureFloor(firstFrame()), kFloorLimit},
+               {pictureFloor(firstFrame())},
                {{"QLabel movie", standing<WithMovie<QLabel>>(prepareLabel), 0.5}});
-    rows.paint("MGifPlay", "playing", playing<MGifPlay>(preparePlayer),
-               {playing<BarePlayer>(prepareBare), kPlayingLimit},
-               {{"QLabel movie", playing<WithMovie<QLabel>>(prepareLabel), 1.0}});
+    rows.motion("MGifPlay", "playing", playing<MGifPlay>(preparePlayer),
+                {playing<BarePlayer>(prepareBare), kPlayingLimit},
+                {{"QLabel movie", playing<WithMovie<QLabel>>(prepareLabel), 1.0}});
 }

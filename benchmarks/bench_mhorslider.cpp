@@ -14,7 +14,6 @@ constexpr QSize kKnob(40, 40);
 constexpr int kTop = (kKnob.height() - kGroove.height()) / 2;
 constexpr int kMiddle = kGroove.width() / 2; // px, of the knob at 0
 constexpr QSize kSize(kGroove.width(), kKnob.height());
-constexpr double kFloorLimit = 1.15;
 
 const SliderArtwork &artwork()
 {
@@ -57,9 +56,9 @@ PaintingMaker peer()
 void defineRows(Rows &rows, Tag<MHorSlider>)
 {
     const int knobAtEnd = kSize.width() - kKnob.width();
-    rows.paint("MHorSlider", "from the left", slider(true, 0),
-               {floorOf(0, kMiddle - 1), kFloorLimit}, {{"QSlider style sheet", peer()}});
+    rows.paint("MHorSlider", "from the left", slider(true, 0), {floorOf(0, kMiddle - 1)},
+               {{"QSlider style sheet", peer()}});
     rows.paint("MHorSlider", "from the middle", slider(false, 5),
-               {floorOf(kMiddle + 2, knobAtEnd + kKnob.width() / 2 - 1), kFloorLimit},
+               {floorOf(kMiddle + 2, knobAtEnd + kKnob.width() / 2 - 1)},
                {{"QSlider style sheet", peer()}});
 }

@@ -15,7 +15,7 @@ namespace
 constexpr QSize kSize(120, 48);
 constexpr QRect kWhole(QPoint(), kSize);
 constexpr int kKnob = 52; // px, in motion
-constexpr double kFloorLimit = 1.15;
+constexpr double kMovingLimit = 1.15; // of the floor
 constexpr double kPeerLimit = 0.6; // of what paints pictures only
 constexpr double kStartUpLimit = 2;
 constexpr QColor kOn(255, 145, 20);
@@ -124,6 +124,12 @@ QVector<Shape> plates(int knobLeft, const QColor &innerPen, const QColor &innerB
             plate(QRect(knobLeft, 16, 28, 16), kOn, kOn)};
 }
 
+// Of a look at rest.
+OwnLimits shapesLimit(double blit)
+{
+    return {"its track and knob are filled and stroked with soft edges in each paint", blit};
+}
+
 PaintingMaker picturesFloor(const QImage &track, const QImage &knob, const QPoint &at)
 {
     return bareWidget(kSize, [=](QPainter &painter) {
@@ -161,36 +167,34 @@ void addPaintedLooks(Rows &rows)
 {
     const QColor line(70, 70, 70);
     rows.paint("MOnOffButton", "style 0", button([](MOnOffButton &b) { b.setOnoffStatus(true); }),
-               {floorOf({slimTrack(1, 118, line, part(kOn, 2, 3), kOn), roundKnob(71, line, kOn)}),
-                kFloorLimit},
-               {{"QCheckBox", checkBox(true)}});
-    rows.paint("MOnOffButton", "style 0 in motion", button(moveKnob),
-               {floorOf({slimTrack(1, kKnob - 1, line, part(kOff, 2, 3), kOff),
-                         slimTrack(kKnob, 118, line, part(kOn, 2, 3), kOn),
-                         roundKnob(kKnob - 24, line, kOff)}),
-                kFloorLimit},
-               {{"QCheckBox", checkBox(true)}});
+               {floorOf({slimTrack(1, 118, line, part(kOn, 2, 3), kOn), roundKnob(71, line, kOn)})},
+               {{"QCheckBox", checkBox(true)}}, shapesLimit(27.1));
+    rows.motion("MOnOffButton", "style 0 in motion", button(moveKnob),
+                {floorOf({slimTrack(1, kKnob - 1, line, part(kOff, 2, 3), kOff),
+                          slimTrack(kKnob, 118, line, part(kOn, 2, 3), kOn),
+                          roundKnob(kKnob - 24, line, kOff)}),
+                 kMovingLimit},
+                {{"QCheckBox", checkBox(true)}});
     rows.paint("MOnOffButton", "style 0 disabled", button([](MOnOffButton &b) {
                    b.setOnoffStatus(true);
                    b.setBtnDisable(true);
                }),
                {floorOf({slimTrack(1, 118, part(kOn, 2, 5), part(kOn, 2, 5), part(kOn, 2, 3)),
-                         roundKnob(71, part(kOn, 2, 3), part(kOn, 2, 3))}),
-                kFloorLimit},
-               {{"QCheckBox", checkBox(false)}});
+                         roundKnob(71, part(kOn, 2, 3), part(kOn, 2, 3))})},
+               {{"QCheckBox", checkBox(false)}}, shapesLimit(27.1));
     rows.paint("MOnOffButton", "style 1", button([](MOnOffButton &b) {
                    b.setOnoffStatus(true);
                    b.setUIStyle(MOnOffButton::ONOFF_STYLE_1);
                }),
-               {floorOf(plates(76, kOn, part(kOn, 1, 2, 155))), kFloorLimit},
-               {{"QCheckBox", checkBox(true)}});
-    rows.paint("MOnOffButton", "style 1 in motion", button([](MOnOffButton &b) {
-                   b.setOnoffStatus(true);
-                   b.setUIStyle(MOnOffButton::ONOFF_STYLE_1);
-                   moveKnob(b);
-               }),
-               {floorOf(plates(39, part(kOn, 1, 2), part(kOn, 1, 2))), kFloorLimit},
-               {{"QCheckBox", checkBox(true)}});
+               {floorOf(plates(76, kOn, part(kOn, 1, 2, 155)))}, {{"QCheckBox", checkBox(true)}},
+               shapesLimit(34.5));
+    rows.motion("MOnOffButton", "style 1 in motion", button([](MOnOffButton &b) {
+                    b.setOnoffStatus(true);
+                    b.setUIStyle(MOnOffButton::ONOFF_STYLE_1);
+                    moveKnob(b);
+                }),
+                {floorOf(plates(39, part(kOn, 1, 2), part(kOn, 1, 2))), kMovingLimit},
+                {{"QCheckBox", checkBox(true)}});
 }
 
 void addPicturedLooks(Rows &rows)
@@ -200,30 +204,29 @@ void addPicturedLooks(Rows &rows)
                    setPictures(b);
                    b.setOnoffStatus(true);
                }),
-               {picturesFloor(art.on.toImage(), art.knob.toImage(), {71, 0}), kFloorLimit},
+               {picturesFloor(art.on.toImage(), art.knob.toImage(), {71, 0})},
                {{"QCheckBox", checkBox(true), kPeerLimit}});
-    rows.paint(
-        "MOnOffButton", "pictures disabled", button([](MOnOffButton &b) {
-            setPictures(b);
-            b.setOnoffStatus(true);
-            b.setBtnDisable(true);
-        }),
-        {picturesFloor(dimmed(art.on, {0, 0}), dimmed(art.knob, {71, 0}), {71, 0}), kFloorLimit},
-        {{"QCheckBox", checkBox(false), kPeerLimit}});
-    // A knob in motion never stands in one place twice: squeezing the tracks is part of the floor.
-    rows.paint("MOnOffButton", "pictures in motion", button([](MOnOffButton &b) {
+    rows.paint("MOnOffButton", "pictures disabled", button([](MOnOffButton &b) {
                    setPictures(b);
-                   moveKnob(b);
+                   b.setOnoffStatus(true);
+                   b.setBtnDisable(true);
                }),
-               {bareWidget(kSize,
-                           [&art](QPainter &painter) {
-                               painter.setRenderHint(QPainter::Antialiasing);
-                               painter.drawPixmap(0, 0, kKnob, 48, art.on);
-                               painter.drawPixmap(kKnob, 0, 120 - kKnob, 48, art.off);
-                               painter.drawPixmap(kKnob - 24, 0, art.moving);
-                           }),
-                kFloorLimit},
-               {{"QCheckBox", checkBox(true)}});
+               {picturesFloor(dimmed(art.on, {0, 0}), dimmed(art.knob, {71, 0}), {71, 0})},
+               {{"QCheckBox", checkBox(false), kPeerLimit}});
+    // A knob in motion never stands in one place twice: squeezing the tracks is part of the floor.
+    rows.motion("MOnOffButton", "pictures in motion", button([](MOnOffButton &b) {
+                    setPictures(b);
+                    moveKnob(b);
+                }),
+                {bareWidget(kSize,
+                            [&art](QPainter &painter) {
+                                painter.setRenderHint(QPainter::Antialiasing);
+                                painter.drawPixmap(0, 0, kKnob, 48, art.on);
+                                painter.drawPixmap(kKnob, 0, 120 - kKnob, 48, art.off);
+                                painter.drawPixmap(kKnob - 24, 0, art.moving);
+                            }),
+                 kMovingLimit},
+                {{"QCheckBox", checkBox(true)}});
 }
 
 } // namespace

@@ -15,7 +15,6 @@ namespace
 {
 
 constexpr QSize kSize(120, 80);
-constexpr double kFloorLimit = 1.15;
 constexpr double kStyleSheetLimit = 1; // though it shows one line and no icon
 constexpr double kStartUpLimit = 1.5;
 
@@ -75,10 +74,10 @@ template <class Enter>
 void addLook(Rows &rows, const char *state, Enter enter, const PaintingMaker &floor,
              const QPixmap &picture, PeerState peer = PeerState::Normal)
 {
-    rows.paint("MPresetButton", state, widgetOf<MPresetButton>(kSize, setUp, enter),
-               {floor, kFloorLimit},
+    rows.paint("MPresetButton", state, widgetOf<MPresetButton>(kSize, setUp, enter), {floor},
                {{"QPushButton style sheet",
-                 styledButton(kSize, pictureSheet(picture), frequency(), peer), kStyleSheetLimit}});
+                 styledButton(kSize, pictureSheet(picture), frequency(), peer), kStyleSheetLimit}},
+               textLimit(3));
 }
 
 } // namespace

@@ -46,17 +46,18 @@ PaintingMaker floor()
 }
 
 // Half of a drag step each: the scale moves by a pixel, and is painted.
-StepMaker dragged()
+PaintingMaker dragged()
 {
-    return [] {
-        const auto slider = std::make_shared<OnCanvas<MRadioSlider>>(makeCanvas(kSize));
+    return []() -> Painting {
+        const auto canvas = makeCanvas(kSize);
+        const auto slider = std::make_shared<OnCanvas<MRadioSlider>>(canvas);
         setUp(*slider);
         qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
-        return [slider, x = 400]() mutable {
-            x = x == 400 ? 401 : 400;
-            sendMouse(*slider, QEvent::MouseMove, {x, 50});
-            slider->paint();
-        };
+        return {canvas, [slider, x = 400]() mutable {
+                    x = x == 400 ? 401 : 400;
+                    sendMouse(*slider, QEvent::MouseMove, {x, 50});
+                    slider->paint();
+                }};
     };
 }
 
@@ -64,9 +65,9 @@ StepMaker dragged()
 
 void defineRows(Rows &rows, Tag<MRadioSlider>)
 {
-    rows.paint("MRadioSlider", "full scale", widgetOf<MRadioSlider>(kSize, setUp),
-               {floor(), kScaleFloorLimit}, {{"QwtSlider", qwtSlider(kSize), kQwtLimit}});
-    rows.work("MRadioSlider", "drag step", dragged(), {stepOf(floor()), 1.5}, {});
+    rows.paint("MRadioSlider", "full scale", widgetOf<MRadioSlider>(kSize, setUp), {floor()},
+               {{"QwtSlider", qwtSlider(kSize), kQwtLimit}}, textLimit(4.2));
+    rows.move("MRadioSlider", "drag step", dragged(), {floor()}, {});
     rows.work("MRadioSlider", "made and deleted", makeAndDelete<MRadioSlider>(),
               {makeAndDelete<QWidget>(), kStartUpLimit},
               {{"QPushButton", makeAndDelete<QPushButton>()}});

@@ -13,7 +13,6 @@ namespace
 constexpr QSize kSize(96, 96);
 constexpr QSize kIcon(64, 64);
 constexpr int kInset = 16; // px, of the icon in the background
-constexpr double kFloorLimit = 1.15;
 
 const QPixmap &background()
 {
@@ -45,7 +44,6 @@ void defineRows(Rows &rows, Tag<MultipleStateButton>)
                            [](QPainter &painter) {
                                painter.drawPixmap(0, 0, background());
                                painter.drawPixmap(kInset, kInset, icon());
-                           }),
-                kFloorLimit},
+                           })},
                {{"QPushButton icon", iconButton<QPushButton>(kSize, {icon(), kIcon})}});
 }

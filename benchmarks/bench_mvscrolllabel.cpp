@@ -21,7 +21,7 @@ namespace
 
 constexpr QSize kSize(300, 160);
 constexpr int kNever = 1000000; // ms, no tick comes by itself
-constexpr double kFloorLimit = 1.2;
+constexpr double kMovingLimit = 1.2; // of the floor
 constexpr double kPeerLimit = 1;
 
 QString notice()
@@ -135,8 +135,8 @@ PaintingMaker label()
 
 void defineRows(Rows &rows, Tag<MVScrollLabel>)
 {
-    rows.paint("MVScrollLabel", "at rest", widgetOf<MVScrollLabel>(kSize, prepare),
-               {floor(0, 0), kFloorLimit}, {{"QLabel", label(), kPeerLimit}});
-    rows.paint("MVScrollLabel", "scrolling step", scrolling(), {floor(1, 1), kFloorLimit},
-               {{"QScrollArea with QLabel", scrollArea(), kPeerLimit}});
+    rows.paint("MVScrollLabel", "at rest", widgetOf<MVScrollLabel>(kSize, prepare), {floor(0, 0)},
+               {{"QLabel", label(), kPeerLimit}}, textLimit(9.8));
+    rows.motion("MVScrollLabel", "scrolling step", scrolling(), {floor(1, 1), kMovingLimit},
+                {{"QScrollArea with QLabel", scrollArea(), kPeerLimit}});
 }

@@ -12,7 +12,6 @@ namespace
 {
 
 constexpr QSize kSize(96, 96);
-constexpr double kFloorLimit = 1.15;
 constexpr double kPeerLimit = 0.6;
 
 const QPixmap &normal()
@@ -30,6 +29,6 @@ struct Button : PlayButton {
 void defineRows(Rows &rows, Tag<PlayButton>)
 {
     rows.paint(
-        "PlayButton", "normal", widgetOf<Button>(kSize), {pictureFloor(normal()), kFloorLimit},
+        "PlayButton", "normal", widgetOf<Button>(kSize), {pictureFloor(normal())},
         {{"QPushButton icon", iconButton<QPushButton>(kSize, {normal(), kSize}), kPeerLimit}});
 }

@@ -13,7 +13,6 @@ namespace
 constexpr QSize kSize(800, 480);
 constexpr QSize kSmall(400, 300);
 constexpr int kAngle = 30; // degrees
-constexpr double kFloorLimit = 1.15;
 constexpr double kPeerLimit = 1.15;
 
 const QPixmap &whole()
@@ -57,8 +56,7 @@ void addLook(Rows &rows, const char *state, const QPixmap &picture, int angle)
                                                backdrop.setPixmap(picture);
                                                backdrop.setRotateAngle(angle);
                                            }),
-               {pictureFloor(prepared(picture, angle)), kFloorLimit},
-               {{"QLabel", label(picture), kPeerLimit}});
+               {pictureFloor(prepared(picture, angle))}, {{"QLabel", label(picture), kPeerLimit}});
 }
 
 } // namespace

@@ -19,7 +19,6 @@ constexpr QSize kSize(200, 64);
 constexpr QSize kIcon(64, 64);
 constexpr QPoint kIconPos(68, 0);
 constexpr int kRadius = 20; // px
-constexpr double kFloorLimit = 1.15;
 constexpr double kPeerLimit = 0.8;
 constexpr double kStartUpLimit = 2;
 
@@ -90,10 +89,10 @@ PaintingMaker flatButton(const QString &text, const QColor &color, int radius)
 }
 
 void addString(Rows &rows, const char *state, const PaintingMaker &ours, const PaintingMaker &floor,
-               const PaintingMaker &peer)
+               const PaintingMaker &peer, double blitLimit)
 {
-    rows.paint("SpDisLabel", state, ours, {floor, kFloorLimit},
-               {{"QPushButton style sheet", peer, kPeerLimit}});
+    rows.paint("SpDisLabel", state, ours, {floor}, {{"QPushButton style sheet", peer, kPeerLimit}},
+               textLimit(blitLimit));
 }
 
 // What the label makes of a text that is too long: the same as a first paint of it shows.
@@ -114,29 +113,29 @@ QString shortened()
 void defineRows(Rows &rows, Tag<SpDisLabel>)
 {
     addString(rows, "square", label([](SpDisLabel &l) { l.setNormalBackgroundColor(kGround); }),
-              squareFloor(kGround), flatButton(shortText(), kGround, 0));
+              squareFloor(kGround), flatButton(shortText(), kGround, 0), 3.4);
     addString(rows, "rounded", label([](SpDisLabel &l) {
                   l.setNormalBackgroundColor(kGround);
                   l.setRoundXY(kRadius);
               }),
-              roundedFloor(kGround), flatButton(shortText(), kGround, kRadius));
+              roundedFloor(kGround), flatButton(shortText(), kGround, kRadius), 2.4);
     addString(rows, "rounded translucent pressed", label([](SpDisLabel &l) {
                   l.setPressBackgroundColor(kTranslucent);
                   l.setRoundXY(kRadius);
                   l.setIsDown(true);
               }),
-              roundedFloor(kTranslucent), flatButton(shortText(), kTranslucent, kRadius));
+              roundedFloor(kTranslucent), flatButton(shortText(), kTranslucent, kRadius), 1.7);
     addString(rows, "no ground", label(AsItIs()), floorOf([](QPainter &) {}),
-              flatButton(shortText(), Qt::transparent, 0));
+              flatButton(shortText(), Qt::transparent, 0), 4.55);
     addString(rows, "shortened", label([](SpDisLabel &l) { l.setText(longText()); }),
-              floorOf([](QPainter &) {}, shortened()), flatButton(shortened(), Qt::transparent, 0));
+              floorOf([](QPainter &) {}, shortened()), flatButton(shortened(), Qt::transparent, 0),
+              6.1);
 
     rows.paint("SpDisLabel", "picture", label([](SpDisLabel &l) {
                    l.setDisplayMode(SpDisLabel::Picture);
                    l.setIcon(icon());
                }),
-               {bareWidget(kSize, [](QPainter &painter) { painter.drawPixmap(kIconPos, icon()); }),
-                kFloorLimit},
+               {bareWidget(kSize, [](QPainter &painter) { painter.drawPixmap(kIconPos, icon()); })},
                {{"QLabel", widgetOf<QLabel>(kSize, [](QLabel &label) {
                      label.setAlignment(Qt::AlignCenter);
                      label.setPixmap(icon());

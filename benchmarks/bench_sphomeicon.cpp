@@ -22,7 +22,6 @@ constexpr QRect kCaption(0, 112, 118, 42); // in a tile
 constexpr int kFontSize = 22; // px
 constexpr int kVeil = 154; // alpha
 constexpr int kDimming = 100; // alpha
-constexpr double kFloorLimit = 1.15;
 constexpr double kPeerLimit = 0.6;
 constexpr double kPageLimit = 0.25; // of style sheets
 
@@ -133,14 +132,24 @@ template <class Draw> PaintingMaker pageFloor(const Draw &draw)
     return pageOf<BareWidget<Draw>>([draw](BareWidget<Draw> &widget) { widget.setDraw(draw); });
 }
 
+// Of pictures that lie over each other.
+OwnLimits layersLimit(double blit)
+{
+    return {
+        "its translucent pictures are blended over each other, each as large as the blit, and its "
+        "text is drawn from kept glyphs",
+        blit};
+}
+
 // A peer shows one picture, so that only looks of one are held to a limit against it.
 void addLook(Rows &rows, const char *state, const PaintingMaker &ours,
-             const QVector<QPixmap> &pictures)
+             const QVector<QPixmap> &pictures, const OwnLimits &own = {})
 {
     const double limit = pictures.size() == 1 ? kPeerLimit : kNoLimit;
-    rows.paint("SpHomeIcon", state, ours, {bareWidget(kTile, tileDrawing(pictures)), kFloorLimit},
+    rows.paint("SpHomeIcon", state, ours, {bareWidget(kTile, tileDrawing(pictures))},
                {{"QToolButton icon", toolButton(pictures.last()), limit},
-                {"QToolButton style sheet", widgetOf<QToolButton>(kTile, setUpStyled), limit}});
+                {"QToolButton style sheet", widgetOf<QToolButton>(kTile, setUpStyled), limit}},
+               own);
 }
 
 void addStates(Rows &rows)
@@ -160,14 +169,14 @@ void addStates(Rows &rows)
                 t.setRunningImage(artwork().highlighted);
                 t.setIsRunning(true);
             }),
-            {normal, artwork().highlighted});
+            {normal, artwork().highlighted}, layersLimit(2.4));
     addLook(rows, "current, pressed", tileOfPictures([](SpHomeIcon &t) {
                 t.setRunningImage(artwork().highlighted);
                 t.setSwitchImage(artwork().current);
                 t.setIsSwitchSrc(true);
                 press(t);
             }),
-            {normal, artwork().current, artwork().pressed});
+            {normal, artwork().current, artwork().pressed}, layersLimit(3.2));
     addLook(rows, "frame of an animation",
             tile([](SpHomeIcon &t) { t.setGifImage(fileOf(artwork().highlighted)); }),
             {artwork().highlighted});
@@ -188,7 +197,7 @@ void addScaledLooks(Rows &rows)
                 t.setPressImage(artwork().large);
                 press(t);
             }),
-            {artwork().normal, large, large});
+            {artwork().normal, large, large}, layersLimit(3.3));
 }
 
 } // namespace
@@ -198,6 +207,6 @@ void defineRows(Rows &rows, Tag<SpHomeIcon>)
     addStates(rows);
     addScaledLooks(rows);
     rows.paint("SpHomeIcon", "page of twelve", pageOf<SpHomeIcon>(setUp),
-               {pageFloor(tileDrawing({artwork().normal})), kFloorLimit},
+               {pageFloor(tileDrawing({artwork().normal}))},
                {{"QToolButtons style sheet", pageOf<QToolButton>(setUpStyled), kPageLimit}});
 }

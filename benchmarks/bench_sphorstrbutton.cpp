@@ -18,7 +18,6 @@ constexpr QSize kSize(240, 96);
 constexpr QSize kIcon(96, 96);
 constexpr int kGap = 10; // px
 constexpr int kVeil = 154; // alpha
-constexpr double kFloorLimit = 1.15;
 constexpr double kPeerLimit = 0.8;
 constexpr double kStartUpLimit = 2;
 
@@ -89,13 +88,14 @@ Parts leftParts(const QPixmap &icon, const QColor &color)
 // Qt's own buttons with an icon beside a text.
 template <class Enter>
 void addLook(Rows &rows, const char *state, Enter enter, const Parts &floor,
-             PeerState peer = PeerState::Normal)
+             PeerState peer = PeerState::Normal, const OwnLimits &own = {})
 {
     const IconLook look{floor.icon, kIcon, peer, text(), Qt::ToolButtonTextBesideIcon};
     rows.paint("SpHorStrButton", state, widgetOf<SpHorStrButton>(kSize, setUp, enter),
-               {floorOf(floor), kFloorLimit},
+               {floorOf(floor)},
                {{"QPushButton icon", iconButton<QPushButton>(kSize, look), kPeerLimit},
-                {"QToolButton icon", iconButton<QToolButton>(kSize, look), kPeerLimit}});
+                {"QToolButton icon", iconButton<QToolButton>(kSize, look), kPeerLimit}},
+               own);
 }
 
 void addLooks(Rows &rows)
@@ -129,9 +129,11 @@ void addLooks(Rows &rows)
              {0, 0, kSize.width() - kIcon.width() - kGap, kSize.height()},
              Qt::AlignRight | Qt::AlignVCenter,
              Qt::white});
-    addLook(rows, "string over the icon",
-            [](SpHorStrButton &b) { b.setStringPosition(SpHorStrButton::StrCenter); },
-            {art.normal, {0, 0}, QRect(QPoint(), kIcon), Qt::AlignCenter, Qt::white});
+    addLook(
+        rows, "string over the icon",
+        [](SpHorStrButton &b) { b.setStringPosition(SpHorStrButton::StrCenter); },
+        {art.normal, {0, 0}, QRect(QPoint(), kIcon), Qt::AlignCenter, Qt::white}, PeerState::Normal,
+        textLimit(2.45));
 }
 
 } // namespace

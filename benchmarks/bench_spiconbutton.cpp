@@ -16,7 +16,6 @@ namespace
 
 constexpr QSize kSize(96, 96);
 constexpr int kVeil = 154; // alpha
-constexpr double kFloorLimit = 1.15;
 constexpr double kStyleSheetLimit = 0.6;
 constexpr double kStartUpLimit = 2;
 
@@ -59,8 +58,7 @@ void addLook(Rows &rows, const char *state, Enter enter, const PaintingMaker &fl
              const QPixmap &picture, PeerState peer = PeerState::Normal, const QString &text = {})
 {
     const IconLook look{picture, text.isEmpty() ? kSize : kSize / 2, peer, text};
-    rows.paint("SpIconButton", state, widgetOf<SpIconButton>(kSize, setUp, enter),
-               {floor, kFloorLimit},
+    rows.paint("SpIconButton", state, widgetOf<SpIconButton>(kSize, setUp, enter), {floor},
                {{"QPushButton style sheet", styledButton(kSize, sheetOf(picture), text, peer),
                  kStyleSheetLimit},
                 {"QPushButton icon", iconButton<QPushButton>(kSize, look)},

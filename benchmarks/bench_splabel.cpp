@@ -12,7 +12,6 @@ namespace
 
 constexpr QSize kSize(200, 160);
 constexpr int kVeil = 154; // alpha
-constexpr double kFloorLimit = 1.15;
 
 QPixmap picture(const QSize &size) { return keyPicture(QColor(40, 90, 160), size); }
 
@@ -28,7 +27,7 @@ void addLook(Rows &rows, const char *state, const QPixmap &image)
     });
     rows.paint("SpLabel", state,
                widgetOf<SpLabel>(kSize, [image](SpLabel &label) { label.setImage(image); }),
-               {pictureFloor(shown), kFloorLimit}, {{"QLabel pixmap", peer, 1.0}});
+               {pictureFloor(shown)}, {{"QLabel pixmap", peer, 1.0}});
 }
 
 } // namespace

@@ -10,7 +10,6 @@ namespace
 
 constexpr QSize kSize(100, 100);
 constexpr int kRadius = 45; // px
-constexpr double kFloorLimit = 1.15;
 
 // The twelve spokes, the last of them where the ring begins.
 template <class Draw> PaintingMaker floorOf(Draw draw)
@@ -36,6 +35,11 @@ PaintingMaker ring(SpLoadingRound::DrawStyle style)
     });
 }
 
+OwnLimits spokesLimit(double blit)
+{
+    return {"its twelve spokes are turned and filled with soft edges in each paint", blit};
+}
+
 // Qt has no busy ring; its busy bar stands for it.
 PaintingMaker busyBar()
 {
@@ -48,24 +52,21 @@ void defineRows(Rows &rows, Tag<SpLoadingRound>)
 {
     rows.paint("SpLoadingRound", "ellipses", ring(SpLoadingRound::EllipseStyle),
                {floorOf([](QPainter &painter, int i) {
-                    painter.setBrush(faded(i));
-                    painter.drawEllipse(27, -3, 18, 6);
-                }),
-                kFloorLimit},
-               {{"QProgressBar", busyBar()}});
+                   painter.setBrush(faded(i));
+                   painter.drawEllipse(27, -3, 18, 6);
+               })},
+               {{"QProgressBar", busyBar()}}, spokesLimit(19.3));
     rows.paint("SpLoadingRound", "rectangles", ring(SpLoadingRound::RectStyle),
                {floorOf([](QPainter &painter, int i) {
-                    painter.setBrush(faded(i));
-                    painter.drawRect(27, 0, 18, 7);
-                }),
-                kFloorLimit},
-               {{"QProgressBar", busyBar()}});
+                   painter.setBrush(faded(i));
+                   painter.drawRect(27, 0, 18, 7);
+               })},
+               {{"QProgressBar", busyBar()}}, spokesLimit(9.1));
     rows.paint("SpLoadingRound", "greys", ring(SpLoadingRound::GrayStyle),
                {floorOf([](QPainter &painter, int i) {
-                    const int grey = 252 - 21 * i;
-                    painter.setBrush(QColor(grey, grey, grey));
-                    painter.drawRoundedRect(19, 0, 22, 7, 25, 25, Qt::RelativeSize);
-                }),
-                kFloorLimit},
-               {{"QProgressBar", busyBar()}});
+                   const int grey = 252 - 21 * i;
+                   painter.setBrush(QColor(grey, grey, grey));
+                   painter.drawRoundedRect(19, 0, 22, 7, 25, 25, Qt::RelativeSize);
+               })},
+               {{"QProgressBar", busyBar()}}, spokesLimit(19.3));
 }

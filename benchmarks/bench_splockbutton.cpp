@@ -14,7 +14,6 @@ namespace
 
 constexpr QSize kSize(96, 96);
 constexpr int kFade = 154; // alpha
-constexpr double kFloorLimit = 1.15;
 
 const QPixmap &normal()
 {
@@ -30,7 +29,7 @@ void addLook(Rows &rows, const char *state, Enter enter, const QPixmap &picture,
 {
     const IconLook look{picture, kSize, peer};
     rows.paint("SpLockButton", state, widgetOf<SpLockButton>(kSize, setUp, enter),
-               {pictureFloor(picture), kFloorLimit},
+               {pictureFloor(picture)},
                {{"QPushButton icon", iconButton<QPushButton>(kSize, look), 0.6},
                 {"QToolButton icon", iconButton<QToolButton>(kSize, look), 0.6}});
 }

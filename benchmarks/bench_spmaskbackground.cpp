@@ -10,7 +10,6 @@ namespace
 
 constexpr QSize kSize(800, 480);
 constexpr int kRadius = 40; // px
-constexpr double kFloorLimit = 1.15;
 
 const QColor &dark()
 {
@@ -42,8 +41,7 @@ void defineRows(Rows &rows, Tag<SpMaskBackground>)
     rows.paint(
         "SpMaskBackground", "square", mask(0),
         {bareWidget(kSize,
-                    [](QPainter &painter) { painter.fillRect(QRect(QPoint(), kSize), dark()); }),
-         kFloorLimit},
+                    [](QPainter &painter) { painter.fillRect(QRect(QPoint(), kSize), dark()); })},
         {{"QPushButton style sheet", peer(0)}});
     rows.paint("SpMaskBackground", "rounded", mask(kRadius),
                {bareWidget(kSize,
@@ -52,7 +50,6 @@ void defineRows(Rows &rows, Tag<SpMaskBackground>)
                                painter.setPen(Qt::NoPen);
                                painter.setBrush(dark());
                                painter.drawRoundedRect(QRectF(QPointF(), kSize), kRadius, kRadius);
-                           }),
-                kFloorLimit},
+                           })},
                {{"QPushButton style sheet", peer(kRadius)}});
 }

@@ -16,7 +16,6 @@ namespace
 constexpr QSize kSize(120, 120);
 constexpr QSize kPicture(72, 72);
 constexpr QPoint kPicturePos(24, 24);
-constexpr double kFloorLimit = 1.15;
 constexpr double kPeerLimit = 1;
 constexpr double kStartUpLimit = 2;
 
@@ -63,8 +62,7 @@ void addLook(Rows &rows, const char *state, Enter enter, const PaintingMaker &fl
              const QPixmap &picture, PeerState peer = PeerState::Normal)
 {
     const IconLook look{picture, kPicture, peer};
-    rows.paint("SpMultipleButton", state, widgetOf<SpMultipleButton>(kSize, setUp, enter),
-               {floor, kFloorLimit},
+    rows.paint("SpMultipleButton", state, widgetOf<SpMultipleButton>(kSize, setUp, enter), {floor},
                {{"QPushButton icon", iconButton<QPushButton>(kSize, look), kPeerLimit},
                 {"QToolButton icon", iconButton<QToolButton>(kSize, look), kPeerLimit}});
 }

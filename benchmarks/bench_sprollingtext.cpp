@@ -17,7 +17,7 @@ namespace
 constexpr QSize kSize(300, 48);
 constexpr int kFontSize = 24; // px
 constexpr int kRollStep = 2; // px
-constexpr double kFloorLimit = 1.2;
+constexpr double kMovingLimit = 1.2; // of the floor
 constexpr double kPeerLimit = 1;
 
 QString shortText() { return QStringLiteral("Radio One"); }
@@ -149,15 +149,15 @@ void defineRows(Rows &rows, Tag<SpRollingText>)
     rows.paint(
         "SpRollingText", "fits",
         widgetOf<SpRollingText>(kSize, [](SpRollingText &text) { prepare(text, shortText()); }),
-        {restingFloor(shortText()), kFloorLimit}, {{"QLabel", label(shortText()), kPeerLimit}});
+        {restingFloor(shortText())}, {{"QLabel", label(shortText()), kPeerLimit}}, textLimit(4.6));
     rows.paint("SpRollingText", "shortened",
                widgetOf<SpRollingText>(kSize,
                                        [](SpRollingText &text) {
                                            text.setAutoRoll(false);
                                            prepare(text, longText());
                                        }),
-               {restingFloor(shortened()), kFloorLimit},
-               {{"QLabel, elided", label(longText()), kPeerLimit}});
-    rows.paint("SpRollingText", "rolling step", rolling(), {rollingFloor(), kFloorLimit},
-               {{"QLabel, elided", label(longText())}});
+               {restingFloor(shortened())}, {{"QLabel, elided", label(longText()), kPeerLimit}},
+               textLimit(5.55));
+    rows.motion("SpRollingText", "rolling step", rolling(), {rollingFloor(), kMovingLimit},
+                {{"QLabel, elided", label(longText())}});
 }

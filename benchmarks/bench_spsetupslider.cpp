@@ -15,7 +15,6 @@ constexpr int kBand = 30; // px above the track
 constexpr QSize kSize(50, kTrack.height() + kBand);
 constexpr int kLeft = (kSize.width() - kTrack.width()) / 2;
 constexpr int kMiddle = kBand + kTrack.height() / 2; // px, of the knob at 0
-constexpr double kFloorLimit = 1.15;
 
 const SliderArtwork &artwork()
 {
@@ -42,8 +41,7 @@ void defineRows(Rows &rows, Tag<SpSetupSlider>)
                                painter.drawPixmap(kLeft, kBand, artwork().groove);
                                painter.drawPixmap(kLeft, kMiddle, artwork().fill, 0,
                                                   kMiddle - kBand, kTrack.width(), rowsBelow);
-                           }),
-                kFloorLimit},
+                           })},
                {{"QSlider style sheet",
                  styledSlider(
                      kSize, Qt::Vertical,

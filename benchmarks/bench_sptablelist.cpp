@@ -16,7 +16,6 @@ namespace
 {
 
 constexpr QSize kSize(kRowWidth, 480);
-constexpr double kFloorLimit = 1.2;
 constexpr double kPeerLimit = 1.0 / 3;
 constexpr double kGrowthLimit = 1.05; // of a million rows against a hundred
 constexpr double kStartUpLimit = 1.5;
@@ -187,10 +186,10 @@ StepMaker tenOf(const StepMaker &make)
 void defineRows(Rows &rows, Tag<SpTableList>)
 {
     const auto floor = std::make_shared<ListFloor>(kSize.height() / kRowHeight);
-    rows.paint(
-        "SpTableList", "frame", listOf(kFew),
-        {bareWidget(kSize, [floor](QPainter &painter) { floor->draw(painter); }), kFloorLimit},
-        {{"QListView with QStyledItemDelegate", listViewOf(kFew), kPeerLimit}});
+    rows.paint("SpTableList", "frame", listOf(kFew),
+               {bareWidget(kSize, [floor](QPainter &painter) { floor->draw(painter); })},
+               {{"QListView with QStyledItemDelegate", listViewOf(kFew), kPeerLimit}},
+               textLimit(2.9));
     // These have the same with a hundred rows for their floor. Making a million rows leaves a trace
     // of a million instructions in the counts, which ten at a time make small.
     rows.work("SpTableList", "ten frames of a million rows", tenOf(stepOf(listOf(kMany))),

@@ -20,7 +20,6 @@ constexpr QRect kText(0, 109, 120, 31);
 constexpr int kTextFlags = Qt::AlignHCenter | Qt::AlignTop;
 constexpr int kStringHeight = 23; // px
 constexpr int kFontSize = 18; // px
-constexpr double kFloorLimit = 1.15;
 constexpr double kPeerLimit = 0.8;
 constexpr double kStartUpLimit = 2;
 
@@ -66,8 +65,7 @@ void addLook(Rows &rows, const char *state, Enter enter, const PaintingMaker &fl
 {
     const auto setFont = [](QToolButton &button) { button.setFont(captionFont()); };
     rows.paint(
-        "SpVerStrButton", state, widgetOf<SpVerStrButton>(kSize, setUp, enter),
-        {floor, kFloorLimit},
+        "SpVerStrButton", state, widgetOf<SpVerStrButton>(kSize, setUp, enter), {floor},
         {{"QToolButton icon", iconButton<QToolButton>(kSize, {icon, kIcon, peer, text()}, setFont),
           kPeerLimit}});
 }

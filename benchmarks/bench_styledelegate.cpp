@@ -10,7 +10,6 @@
 namespace
 {
 
-constexpr double kFloorLimit = 1.2;
 constexpr double kPeerLimit = 0.7; // the peer has one icon and one line less to paint
 
 PaintingMaker delegateRow(const std::shared_ptr<QAbstractItemDelegate> &delegate)
@@ -37,8 +36,8 @@ void defineRows(Rows &rows, Tag<styleDelegate>)
     const auto floor = std::make_shared<ListFloor>(1);
     rows.paint(
         "styleDelegate", "two icons and two lines", delegateRow(ours),
-        {bareWidget({kRowWidth, kRowHeight}, [floor](QPainter &painter) { floor->draw(painter); }),
-         kFloorLimit},
+        {bareWidget({kRowWidth, kRowHeight}, [floor](QPainter &painter) { floor->draw(painter); })},
         {{"QStyledItemDelegate, one icon and one line",
-          delegateRow(std::make_shared<QStyledItemDelegate>()), kPeerLimit}});
+          delegateRow(std::make_shared<QStyledItemDelegate>()), kPeerLimit}},
+        textLimit(3));
 }

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: Apache-2.0
 """Holds the rows of panelkit-bench to their limits by counting instructions.
 
-usage: check_instructions.py VALGRIND PANELKIT_BENCH
+usage: check_instructions.py VALGRIND PANELKIT_BENCH [REGEX]
 
 Prints every comparison and fails when one exceeds the limit that its row declares.
 """
@@ -15,12 +15,13 @@ import sys
 import tempfile
 
 
-def run_counted(valgrind, program, folder):
-    """Runs the program under Callgrind; its comparisons, and the instructions of each dump."""
+def run_counted(valgrind, program, names, folder):
+    """Runs the rows of these names under Callgrind; their comparisons, and the instructions of each
+    dump."""
     dumps = pathlib.Path(folder) / "dumps"
     run = subprocess.run(
         [valgrind, "--tool=callgrind", "--quiet", "--instr-atstart=no", "--combine-dumps=yes",
-         f"--callgrind-out-file={dumps}", program, "--instructions"],
+         f"--callgrind-out-file={dumps}", program, f"--instructions={names}"],
         env={**os.environ, "QT_QPA_PLATFORM": "offscreen", "QT_HASH_SEED": "0"},
         stdout=subprocess.PIPE, check=False)
     if run.returncode != 0:
@@ -55,9 +56,9 @@ def report(comparisons, counts):
 
 
 def main():
-    valgrind, program = sys.argv[1:]
+    valgrind, program, names = (sys.argv[1:] + [""])[:3]
     with tempfile.TemporaryDirectory() as folder:
-        comparisons, counts = run_counted(valgrind, program, folder)
+        comparisons, counts = run_counted(valgrind, program, names, folder)
     if not comparisons:
         sys.exit("nothing was compared")
     exceeded = report(comparisons, counts)

@@ -35,6 +35,14 @@ LaidOutText laidOut(const QString &text, const QFont &font, const QRectF &rect, 
             QFontMetricsF(font).boundingRect(rect, flags, text).topLeft()};
 }
 
+OwnLimits textLimit(double blit)
+{
+    return {
+        "its text is drawn from kept glyphs and never copied, because how its edges are smoothed "
+        "depends on what lies below",
+        blit};
+}
+
 PaintingMaker pictureFloor(const QPixmap &picture)
 {
     return bareWidget(picture.size(),

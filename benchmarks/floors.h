@@ -40,6 +40,9 @@ struct LaidOutText {
 LaidOutText laidOut(const QString &text, const QFont &font, const QRectF &rect,
                     int flags = Qt::AlignCenter);
 
+/// The limit of a look at rest that draws a text.
+OwnLimits textLimit(double blit);
+
 /// The floor of a look that is one picture.
 PaintingMaker pictureFloor(const QPixmap &picture);
 

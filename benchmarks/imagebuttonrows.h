@@ -53,7 +53,6 @@ public:
 
 private:
     static constexpr QSize kSize{120, 80};
-    static constexpr double kFloorLimit = 1.15;
     static constexpr double kStyleSheetLimit = 0.65;
 
     template <class... Enter> PaintingMaker buttonOf(Enter... enter) const
@@ -69,7 +68,7 @@ private:
     void add(const char *state, const PaintingMaker &ours, const PaintingMaker &floor,
              const PaintingMaker &peer)
     {
-        m_rows.paint(m_className, state, ours, {floor, kFloorLimit},
+        m_rows.paint(m_className, state, ours, {floor},
                      {{"QPushButton style sheet", peer, kStyleSheetLimit}});
     }
 

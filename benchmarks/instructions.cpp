@@ -6,6 +6,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 #include <QString>
 
 #include <valgrind/callgrind.h>
@@ -43,7 +44,7 @@ QJsonObject describe(const Row &row, const Against<StepMaker> &rival)
 
 } // namespace
 
-bool countInstructions(const std::vector<Row> &rows)
+bool countInstructions(const std::vector<Row> &rows, const QString &names)
 {
     if (RUNNING_ON_VALGRIND == 0) {
         std::fprintf(stderr, "instructions are only counted under valgrind --tool=callgrind\n");
@@ -51,13 +52,14 @@ bool countInstructions(const std::vector<Row> &rows)
     }
     QJsonArray comparisons;
     CALLGRIND_START_INSTRUMENTATION;
+    const QRegularExpression wanted(names);
     for (const Row &row : rows) {
+        if (!wanted.match(QString::fromStdString(row.className + '/' + row.state)).hasMatch())
+            continue;
         count(row.nameOf("ours"), row.ours);
-        count(row.nameOf(row.floor.name), row.floor.make);
-        comparisons.append(describe(row, row.floor));
-        for (const Against<StepMaker> &peer : row.peers) {
-            count(row.nameOf(peer.name), peer.make);
-            comparisons.append(describe(row, peer));
+        for (const Against<StepMaker> &rival : row.rivals) {
+            count(row.nameOf(rival.name), rival.make);
+            comparisons.append(describe(row, rival));
         }
     }
     CALLGRIND_STOP_INSTRUMENTATION;

@@ -71,9 +71,8 @@ void measure(const std::string &name, const StepMaker &make)
 void registerAll(const Row &row)
 {
     measure(row.nameOf("ours"), row.ours);
-    measure(row.nameOf(row.floor.name), row.floor.make);
-    for (const Against<StepMaker> &peer : row.peers)
-        measure(row.nameOf(peer.name), peer.make);
+    for (const Against<StepMaker> &rival : row.rivals)
+        measure(row.nameOf(rival.name), rival.make);
 }
 
 // Takes the argument that starts like this out of the arguments; the rest of it, if there is one.
@@ -140,14 +139,15 @@ int main(int argc, char **argv)
 
     std::vector<char *> arguments(argv, argv + argc);
     const std::optional<QString> jsonPath = take(arguments, QStringLiteral("--json="));
-    const bool isCounting = take(arguments, QStringLiteral("--instructions")).has_value();
+    const std::optional<QString> counted = take(arguments, QStringLiteral("--instructions="));
 
     const Rows rows = allRows();
-    if (isCounting)
-        return countInstructions(rows.all()) && !rows.hasRefused() ? 0 : 1;
+    if (counted)
+        return countInstructions(rows.all(), *counted) && !rows.hasRefused() ? 0 : 1;
 
     initialize(std::move(arguments));
     const Costs costs = measuredCosts(rows.all());
+    printNotes(rows.all(), costs);
     if (jsonPath && !writeJson(*jsonPath, rows.all(), costs)) {
         std::fprintf(stderr, "cannot write %s\n", qPrintable(*jsonPath));
         return 1;

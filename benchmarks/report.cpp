@@ -24,29 +24,33 @@ double costOf(const Costs &costs, const std::string &name)
     return cost == costs.end() ? kNotMeasured : cost->second;
 }
 
-// One line of the table: a row beside one of its peers.
+// One line of the table: a row beside one of its peers. In ns.
 struct Line {
+    double ours = kNotMeasured;
+    double blit = kNotMeasured;
+    double floor = kNotMeasured;
     std::string peer; // empty for a row without peers
-    double ours = kNotMeasured; // ns
-    double floor = kNotMeasured; // ns
-    double peerCost = kNotMeasured; // ns
+    double peerCost = kNotMeasured;
 };
 
 std::vector<Line> linesOf(const Row &row, const Costs &costs)
 {
-    std::vector<Line> lines;
     Line line;
     line.ours = costOf(costs, row.nameOf("ours"));
+    line.blit = costOf(costs, row.nameOf("blit"));
     line.floor = costOf(costs, row.nameOf("floor"));
     if (std::isnan(line.ours))
-        return lines;
-    if (row.peers.empty())
-        lines.push_back(line);
-    for (const Against<StepMaker> &peer : row.peers) {
-        line.peer = peer.name;
-        line.peerCost = costOf(costs, row.nameOf(peer.name));
+        return {};
+    std::vector<Line> lines;
+    for (const Against<StepMaker> &rival : row.rivals) {
+        if (rival.name == "blit" || rival.name == "floor")
+            continue;
+        line.peer = rival.name;
+        line.peerCost = costOf(costs, row.nameOf(rival.name));
         lines.push_back(line);
     }
+    if (lines.empty())
+        lines.push_back(line);
     return lines;
 }
 
@@ -68,26 +72,42 @@ QJsonValue json(const std::string &string)
 
 void printHeader()
 {
-    std::printf("| %-9s | %-14s | %-30s | %8s | %8s | %7s | %-24s | %8s | %6s |\n", "row", "class",
-                "state", "ours ns", "floor ns", "/ floor", "peer", "peer ns", "/ peer");
-    std::printf("|%s|%s|%s|%s:|%s:|%s:|%s|%s:|%s:|\n", std::string(11, '-').c_str(),
-                std::string(16, '-').c_str(), std::string(32, '-').c_str(),
-                std::string(9, '-').c_str(), std::string(9, '-').c_str(),
-                std::string(8, '-').c_str(), std::string(26, '-').c_str(),
-                std::string(9, '-').c_str(), std::string(7, '-').c_str());
+    const auto dashes = [](int count) { return std::string(std::size_t(count), '-'); };
+    std::printf("| %-9s | %-22s | %-32s | %8s | %8s | %6s | %8s | %7s | %-32s | %8s | %6s |\n",
+                "row", "class", "state", "ours ns", "blit ns", "/ blit", "floor ns", "/ floor",
+                "peer", "peer ns", "/ peer");
+    std::printf("|%s|%s|%s|%s:|%s:|%s:|%s:|%s:|%s|%s:|%s:|\n", dashes(11).c_str(),
+                dashes(24).c_str(), dashes(34).c_str(), dashes(9).c_str(), dashes(9).c_str(),
+                dashes(7).c_str(), dashes(9).c_str(), dashes(8).c_str(), dashes(34).c_str(),
+                dashes(9).c_str(), dashes(7).c_str());
 }
 
 void printRow(const Row &row, const Costs &costs, std::size_t number, std::size_t count)
 {
     const std::string progress = '[' + std::to_string(number) + '/' + std::to_string(count) + ']';
     for (const Line &line : linesOf(row, costs)) {
-        std::printf("| %-9s | %-14s | %-30s | %8s | %8s | %7s | %-24s | %8s | %6s |\n",
+        std::printf("| %-9s | %-22s | %-32s | %8s | %8s | %6s | %8s | %7s | %-32s | %8s | %6s |\n",
                     progress.c_str(), row.className.c_str(), row.state.c_str(),
-                    text(line.ours, 0).c_str(), text(line.floor, 0).c_str(),
+                    text(line.ours, 0).c_str(), text(line.blit, 0).c_str(),
+                    text(line.ours / line.blit, 2).c_str(), text(line.floor, 0).c_str(),
                     text(line.ours / line.floor, 2).c_str(), line.peer.c_str(),
                     text(line.peerCost, 0).c_str(), text(line.ours / line.peerCost, 2).c_str());
     }
     std::fflush(stdout);
+}
+
+void printNotes(const std::vector<Row> &rows, const Costs &costs)
+{
+    std::map<std::string, std::string> notes; // the states of each class and reason
+    for (const Row &row : rows) {
+        if (row.why.empty() || linesOf(row, costs).empty())
+            continue;
+        std::string &states = notes[row.className + ": " + row.why];
+        states += states.empty() ? row.state : ", " + row.state;
+    }
+    std::printf("%s", notes.empty() ? "" : "\nOther limits than the usual ones:\n");
+    for (const auto &[reason, states] : notes)
+        std::printf("- %s (%s)\n", reason.c_str(), states.c_str());
 }
 
 bool writeJson(const QString &path, const std::vector<Row> &rows, const Costs &costs)
@@ -98,12 +118,16 @@ bool writeJson(const QString &path, const std::vector<Row> &rows, const Costs &c
             records.append(QJsonObject{
                 {QStringLiteral("class"), json(row.className)},
                 {QStringLiteral("state"), json(row.state)},
+                {QStringLiteral("kind"), json(row.kind)},
                 {QStringLiteral("ns"), json(line.ours)},
+                {QStringLiteral("blit_ns"), json(line.blit)},
+                {QStringLiteral("ratio_blit"), json(line.ours / line.blit)},
                 {QStringLiteral("floor_ns"), json(line.floor)},
                 {QStringLiteral("ratio_floor"), json(line.ours / line.floor)},
                 {QStringLiteral("peer"), json(line.peer)},
                 {QStringLiteral("peer_ns"), json(line.peerCost)},
                 {QStringLiteral("ratio_peer"), json(line.ours / line.peerCost)},
+                {QStringLiteral("why"), json(row.why)},
             });
         }
     }

@@ -19,6 +19,9 @@ void printHeader();
 /// Prints what was measured of a row, one line for each peer. It is so manieth of so many.
 void printRow(const Row &row, const Costs &costs, std::size_t number, std::size_t count);
 
+/// Prints which of the rows that were measured have other limits than the usual ones, and why.
+void printNotes(const std::vector<Row> &rows, const Costs &costs);
+
 /// Writes the same as JSON; false if the file cannot be written.
 bool writeJson(const QString &path, const std::vector<Row> &rows, const Costs &costs);
 

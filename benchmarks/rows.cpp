@@ -3,10 +3,23 @@
 
 #include "canvas.h"
 
+#include <QPixmap>
+#include <QRect>
+#include <QRgb>
+
+#include <algorithm>
 #include <iostream>
+#include <utility>
 
 namespace
 {
+
+constexpr char kAtRest[] = "at rest";
+constexpr char kInMotion[] = "in motion";
+
+constexpr double kBlitLimit = 2.0; // at rest
+constexpr double kRestingFloorLimit = 1.10;
+constexpr double kMovingFloorLimit = 1.25;
 
 // What differs between two canvases of one size; empty if they are the same picture.
 std::string difference(const QImage &ours, const QImage &floor)
@@ -50,6 +63,35 @@ std::string complaint(const PaintingMaker &makeOurs, const PaintingMaker &makeFl
     return {};
 }
 
+QRect touchedRect(const QImage &canvas)
+{
+    QRect touched;
+    for (int y = 0; y < canvas.height(); ++y) {
+        const auto *line = reinterpret_cast<const QRgb *>(canvas.constScanLine(y));
+        for (int x = 0; x < canvas.width(); ++x) {
+            if (line[x] != 0)
+                touched |= QRect(x, y, 1, 1);
+        }
+    }
+    return touched;
+}
+
+// The picture that a paint of ours leaves, as one pixmap. Ours has painted before: what it keeps,
+// it has made.
+PaintingMaker blitOf(const PaintingMaker &make)
+{
+    const Painting ours = make();
+    ours.step();
+    ours.canvas->fill(Qt::transparent);
+    ours.step();
+    const QRect touched = touchedRect(*ours.canvas);
+    // fromImage() makes it opaque where it can.
+    const QPixmap picture = QPixmap::fromImage(ours.canvas->copy(touched));
+    return bareWidget(ours.canvas->size(), [picture, at = touched.topLeft()](QPainter &painter) {
+        painter.drawPixmap(at, picture);
+    });
+}
+
 } // namespace
 
 StepMaker stepOf(const PaintingMaker &make)
@@ -64,23 +106,57 @@ std::string Row::nameOf(const std::string &subject) const
 
 void Rows::paint(const std::string &className, const std::string &state, const PaintingMaker &ours,
                  const Floor<PaintingMaker> &floor,
-                 const std::vector<Against<PaintingMaker>> &peers)
+                 const std::vector<Against<PaintingMaker>> &peers, const OwnLimits &own)
 {
-    const std::string wrong = complaint(ours, floor.make);
-    if (!wrong.empty()) {
-        std::cerr << className << '/' << state << " is not measured: " << wrong << '\n';
-        m_hasRefused = true;
-        return;
-    }
-    std::vector<Against<StepMaker>> peerSteps;
-    peerSteps.reserve(peers.size());
-    for (const Against<PaintingMaker> &peer : peers)
-        peerSteps.push_back({peer.name, stepOf(peer.make), peer.limit});
-    work(className, state, stepOf(ours), {stepOf(floor.make), floor.limit}, peerSteps);
+    if (accepts(className, state, ours, floor.make))
+        addPainted({className, state, kAtRest, stepOf(ours), {}}, ours, floor, peers, own);
+}
+
+void Rows::motion(const std::string &className, const std::string &state, const PaintingMaker &ours,
+                  const Floor<PaintingMaker> &floor,
+                  const std::vector<Against<PaintingMaker>> &peers, const OwnLimits &own)
+{
+    if (accepts(className, state, ours, floor.make))
+        move(className, state, ours, floor, peers, own);
+}
+
+void Rows::move(const std::string &className, const std::string &state, const PaintingMaker &ours,
+                const Floor<PaintingMaker> &floor, const std::vector<Against<PaintingMaker>> &peers,
+                const OwnLimits &own)
+{
+    addPainted({className, state, kInMotion, stepOf(ours), {}}, ours, floor, peers, own);
 }
 
 void Rows::work(const std::string &className, const std::string &state, const StepMaker &ours,
                 const Floor<StepMaker> &floor, const std::vector<Against<StepMaker>> &peers)
 {
-    m_rows.push_back({className, state, ours, {"floor", floor.make, floor.limit}, peers});
+    Row row{className, state, "work", ours, {{"floor", floor.make, floor.limit}}};
+    row.rivals.insert(row.rivals.end(), peers.begin(), peers.end());
+    m_rows.push_back(row);
+}
+
+bool Rows::accepts(const std::string &className, const std::string &state,
+                   const PaintingMaker &ours, const PaintingMaker &floor)
+{
+    const std::string wrong = complaint(ours, floor);
+    if (wrong.empty())
+        return true;
+    std::cerr << className << '/' << state << " is not measured: " << wrong << '\n';
+    m_hasRefused = true;
+    return false;
+}
+
+void Rows::addPainted(Row row, const PaintingMaker &ours, const Floor<PaintingMaker> &floor,
+                      const std::vector<Against<PaintingMaker>> &peers, const OwnLimits &own)
+{
+    const bool isAtRest = row.kind == kAtRest;
+    const double usualBlit = isAtRest ? kBlitLimit : kNoLimit;
+    const double usualFloor = isAtRest ? kRestingFloorLimit : kMovingFloorLimit;
+    row.why = own.why;
+    row.rivals = {
+        {"blit", stepOf(blitOf(ours)), own.blit.value_or(usualBlit)},
+        {"floor", stepOf(floor.make), own.floor.value_or(std::min(floor.limit, usualFloor))}};
+    for (const Against<PaintingMaker> &peer : peers)
+        row.rivals.push_back({peer.name, stepOf(peer.make), peer.limit});
+    m_rows.push_back(std::move(row));
 }

@@ -7,6 +7,7 @@
 #include <functional>
 #include <limits>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -44,26 +45,53 @@ template <class Maker> struct Floor {
     double limit = kNoLimit;
 };
 
-/// One class in one state, beside its floor and its peers.
+/// The limits of a row that cannot keep the usual ones, and a sentence that says why. The usual one
+/// counts where there is no other.
+struct OwnLimits {
+    std::string why;
+    std::optional<double> blit = {};
+    std::optional<double> floor = {};
+};
+
+/// One class in one state, beside what it is measured against.
 struct Row {
     std::string className;
     std::string state;
+    std::string kind; ///< "at rest", "in motion", or "work" that is not a picture
     StepMaker ours;
-    Against<StepMaker> floor;
-    std::vector<Against<StepMaker>> peers;
+    std::vector<Against<StepMaker>> rivals; ///< the blit, where there is one, the floor, the peers
+    std::string why = {}; ///< what OwnLimits say
 
     /// The full name of one of the things measured, as in "SpIconButton/pressed/floor".
     std::string nameOf(const std::string &subject) const;
 };
 
 /// Everything that is measured, in the order of its definition.
+///
+/// What paints stands beside its blit, too, the limit of any renderer in software: a paint event
+/// that draws one picture, the one that ours leaves, where ours leaves it. The picture is opaque if
+/// all of its pixels are. The usual limits are 2.0 times the blit and 1.10 times the floor for a
+/// look at rest, and 1.25 times the floor for one in motion, or the floor's own limit where it is
+/// stricter.
 class Rows
 {
 public:
-    /// Adds the row of a look. The floor has to paint the very pixels of ours, in the first paint
-    /// and in the next: a row whose floor does not is refused, and why is printed.
+    /// Adds the row of a look at rest. The floor has to paint the very pixels of ours, in the first
+    /// paint and in the next: a row whose floor does not is refused, and why is printed.
     void paint(const std::string &className, const std::string &state, const PaintingMaker &ours,
-               const Floor<PaintingMaker> &floor, const std::vector<Against<PaintingMaker>> &peers);
+               const Floor<PaintingMaker> &floor, const std::vector<Against<PaintingMaker>> &peers,
+               const OwnLimits &own = {});
+
+    /// The same of a look in motion: each of its paints may leave another picture.
+    void motion(const std::string &className, const std::string &state, const PaintingMaker &ours,
+                const Floor<PaintingMaker> &floor, const std::vector<Against<PaintingMaker>> &peers,
+                const OwnLimits &own = {});
+
+    /// Adds the row of a move and the paint that it asks for. The floor paints what such a paint
+    /// shows, but stands still.
+    void move(const std::string &className, const std::string &state, const PaintingMaker &ours,
+              const Floor<PaintingMaker> &floor, const std::vector<Against<PaintingMaker>> &peers,
+              const OwnLimits &own = {});
 
     /// Adds the row of anything else.
     void work(const std::string &className, const std::string &state, const StepMaker &ours,
@@ -73,6 +101,11 @@ public:
     bool hasRefused() const { return m_hasRefused; }
 
 private:
+    bool accepts(const std::string &className, const std::string &state, const PaintingMaker &ours,
+                 const PaintingMaker &floor);
+    void addPainted(Row row, const PaintingMaker &ours, const Floor<PaintingMaker> &floor,
+                    const std::vector<Against<PaintingMaker>> &peers, const OwnLimits &own);
+
     std::vector<Row> m_rows;
     bool m_hasRefused = false;
 };

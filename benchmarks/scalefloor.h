@@ -13,7 +13,6 @@
 #include <qwt_scale_div.h>
 #include <qwt_slider.h>
 
-constexpr double kScaleFloorLimit = 1.15;
 constexpr double kQwtLimit = 1.0 / 3;
 
 /// The picture of a scale with all of its work done: rectangles and layouts where they belong.

@@ -211,7 +211,7 @@ void Drive::paint(QWidget &widget)
     QImage image(64, 64,
                  m_values.oneOf({QImage::Format_ARGB32_Premultiplied, QImage::Format_RGB16,
                                  QImage::Format_RGB32}));
-    image.setDevicePixelRatio(m_values.oneOf({1, 2}));
+    image.setDevicePixelRatio(qreal(m_values.oneOf({1, 2})));
     m_values.track.add("paint", image);
     widget.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
 }

@@ -1,0 +1,157 @@
+# SPDX-License-Identifier: Apache-2.0
+"""Changes the library's sources in one small way after another, and looks whether a test notices.
+
+usage: tools/mutants [--count N] [--seed N] [class or file...]
+
+Takes N changes (1000) at random of those of the named classes and files of src/, or of all, and runs
+the unit tests that belong to the changed file. What no test notices is printed and stands with all
+others in build/mutants/report.txt.
+"""
+
+import argparse
+import collections
+import concurrent.futures
+import os
+import pathlib
+import random
+import re
+import sys
+
+import render
+import sites
+import workshop
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+FOLDER = ROOT / "build" / "mutants"
+NOT_NOTICED, NOTICED, IMPOSSIBLE = "SURVIVED", "noticed", "does not compile"
+
+
+def chosen_sites(shop, names, count, seed):
+    """The sites to try, numbered from 1."""
+    wanted = {name.lower() for name in names}
+    sources = [str(path.relative_to(ROOT)) for path in sorted((ROOT / "src").rglob("*.cpp"))]
+    if wanted:
+        known = {path.stem for path in (ROOT / "src").rglob("*.*")}
+        if wanted - known:
+            sys.exit(f"nothing in src/ is called {', '.join(sorted(wanted - known))}")
+    found = [site for site in sites.find(sources, shop.tree, shop.arguments)
+             if not wanted or pathlib.Path(site.path).stem in wanted]
+    sample = sorted(random.Random(seed).sample(found, min(count, len(found))))
+    print(f"{len(sample)} of {len(found)} possible changes")
+    return list(enumerate(sample, 1))
+
+
+def by_file(numbered):
+    files = collections.defaultdict(list)
+    for number, site in numbered:
+        files[site.path].append((number, site))
+    return files
+
+
+def write_choices(shop, numbered):
+    """Builds with all changes to choose from; those that need to be compiled alone."""
+    shop.write("mutant.h", render.CHOICE)
+    include = f'#include "{shop.tree / "mutant.h"}"\n'
+    alone, kept = [], {}
+    for path, pairs in by_file(numbered).items():
+        kept[path], crossing = render.without_crossings(pairs)
+        alone += crossing
+    while True:
+        for path, pairs in kept.items():
+            shop.write(path, include + render.with_choices(shop.source(path), pairs))
+        errors = shop.compile("tests/all")
+        if errors is None:
+            return alone
+        refused = refused_numbers(shop, errors)
+        if not refused:
+            sys.exit(f"does not build: {sorted(errors)[:5]}")
+        for path, pairs in kept.items():
+            alone += [pair for pair in pairs if pair[0] in refused]
+            kept[path] = [pair for pair in pairs if pair[0] not in refused]
+
+
+def refused_numbers(shop, errors):
+    """The changes that stand in a line with an error, or in the nearest line above."""
+    numbers = set()
+    for path, line in errors:
+        lines = (shop.tree / path).read_text(encoding="latin-1").split("\n")
+        for index in range(line - 1, max(-1, line - 8), -1):
+            found = re.findall(r"panelkitMutant\((\d+)\)", lines[index])
+            if found:
+                numbers.update(map(int, found))
+                break
+    return numbers
+
+
+def is_noticed(shop, number, path):
+    return any(not shop.passes(test, number) for test in shop.tests_of(path))
+
+
+def try_alone(shop, number, site):
+    """Builds with this change alone."""
+    shop.write(site.path, render.with_one(shop.source(site.path), site))
+    try:
+        if shop.compile("panelkit", *shop.tests_of(site.path)) is not None:
+            return IMPOSSIBLE
+        return NOTICED if is_noticed(shop, number, site.path) else NOT_NOTICED
+    finally:
+        shop.write(site.path, shop.source(site.path))
+
+
+def check_unchanged(shop, numbered):
+    """Measures the tests, which have to pass without a change."""
+    for test in sorted({test for path in by_file(numbered) for test in shop.tests_of(path)}):
+        if not shop.passes(test, 0):
+            sys.exit(f"{test} fails without a change")
+
+
+def try_all(shop, numbered):
+    """What became of each change, by its number."""
+    alone = write_choices(shop, numbered)
+    check_unchanged(shop, numbered)
+    results = {}
+    together = [pair for pair in numbered if pair not in alone]
+
+    def attempt(pair):
+        return pair[0], NOTICED if is_noticed(shop, pair[0], pair[1].path) else NOT_NOTICED
+
+    with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
+        for done, (number, result) in enumerate(pool.map(attempt, together), 1):
+            results[number] = result
+            if done % 100 == 0:
+                print(f"{done} of {len(numbered)}", flush=True)
+    for path in by_file(numbered):
+        shop.write(path, shop.source(path))
+    for number, site in alone:
+        results[number] = try_alone(shop, number, site)
+    return results
+
+
+def report(shop, numbered, results):
+    """Prints and writes what became of them; whether as many as there should be were noticed."""
+    lines = [f"{results[number]:16} {site.describe(shop.source(site.path))}"
+             for number, site in numbered]
+    counts = collections.Counter(results.values())
+    tried = counts[NOTICED] + counts[NOT_NOTICED]
+    share = f"{100 * counts[NOTICED] / max(tried, 1):.1f} %"
+    summary = (f"{counts[NOTICED]} of {tried} changes noticed ({share}), "
+               f"{counts[IMPOSSIBLE]} others do not compile")
+    (FOLDER / "report.txt").write_text("\n".join([*lines, summary, ""]), encoding="utf-8")
+    print("\n".join(line for line in lines if line.startswith(NOT_NOTICED)))
+    print(summary)
+
+
+def main():
+    parser = argparse.ArgumentParser(prog="tools/mutants")
+    parser.add_argument("names", nargs="*")
+    parser.add_argument("--count", type=int, default=1000)
+    parser.add_argument("--seed", type=int, default=1)
+    arguments = parser.parse_args()
+    FOLDER.mkdir(parents=True, exist_ok=True)
+    shop = workshop.Workshop(ROOT, FOLDER)
+    numbered = chosen_sites(shop, arguments.names, arguments.count, arguments.seed)
+    report(shop, numbered, try_all(shop, numbered))
+
+
+if __name__ == "__main__":
+    main()
