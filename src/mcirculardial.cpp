@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <functional>
 #include <limits>
 #include <optional>
 
@@ -98,7 +99,15 @@ struct FaceInputs {
     }
 };
 
-// Everything that the text of the value depends on, but for the transform.
+// What the text of the value says.
+struct ValueText {
+    double value = 0;
+    QString unit;
+
+    auto tied() const { return std::tie(value, unit); }
+};
+
+// Everything that the picture of it depends on, but for the transform.
 struct ValueInputs {
     double radius = 0;
     QString text;
@@ -149,6 +158,7 @@ public:
     double startAngle = 120.0; // degrees
 
     mutable LayerCache<FaceInputs> faceLayer;
+    mutable Memo<ValueText, QString> valueText;
     mutable LayerCache<ValueInputs> valueLayer;
 };
 
@@ -498,17 +508,19 @@ void MCircularDial::Private::drawPointer(QPainter &painter) const
 void MCircularDial::Private::drawValue(QPainter &painter) const
 {
     const double rim = paintedRadius();
-    const QString text = QString::number(value, 'g', 6) + unit;
+    const QString &text = valueText.value(
+        {value, unit}, [this](QString &said) { said = QString::number(value, 'g', 6) + unit; });
     const QRectF area(QPointF(-kValueSize.width() / 2, qreal(kValueAt * rim)), kValueSize);
     const ValueInputs inputs{rim, text, Lettering(painter, textColor)};
-    valueLayer.draw(painter, painter.worldTransform(), area, inputs, [&](QPainter &p) {
+    const auto paint = [&](QPainter &p) {
         p.save();
         p.setFont(painter.font());
         p.setLayoutDirection(painter.layoutDirection());
         p.setPen(textColor);
         p.drawText(area, Qt::AlignCenter, text);
         p.restore();
-    });
+    };
+    valueLayer.draw(painter, painter.worldTransform(), area, inputs, std::cref(paint));
 }
 
 // The value for a point, if it is near the rim. The angle is used as it is where the dial does not

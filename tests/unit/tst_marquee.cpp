@@ -128,6 +128,19 @@ private slots:
         QCOMPARE(shown.marquee.fades(), 1);
     }
 
+    void aTextIsCutAtTheEndOfItsPlace()
+    {
+        Subject subject;
+        subject.flags = Qt::AlignLeft | Qt::AlignVCenter;
+        Shown shown;
+        for (const int width : {640, 120, 640, 121}) {
+            subject.width = width;
+            const QImage actual = shown.at(subject, 8);
+            QVERIFY(shown.isDrawn);
+            QVERIFY(distance(actual, expected(subject, 8)) <= 1);
+        }
+    }
+
     void theSamePaintComposesNothing()
     {
         const Subject subject;
@@ -153,6 +166,7 @@ private slots:
         row("text", [](Subject &s) { s.text[1] = QLatin1Char('W'); });
         row("font", [](Subject &s) { s.font.setBold(true); });
         row("alignment", [](Subject &s) { s.flags = Qt::AlignLeft | Qt::AlignTop; });
+        row("height of the text", [](Subject &s) { s.flags = Qt::AlignHCenter | Qt::AlignTop; });
         row("place", [](Subject &s) { s.width = 666; });
         row("direction", [](Subject &s) {
             s.direction = Qt::RightToLeft;
@@ -171,19 +185,25 @@ private slots:
         QCOMPARE(shown.marquee.compositions(), 2);
     }
 
+    // Where it begins is cut toward zero, so that the letters lie a trace farther to the right once
+    // that is to the left of the area.
     void aTextThatBeginsToMoveMayBeRoundedTheOtherWay()
     {
         Subject subject;
-        subject.text += QStringLiteral(", ij");
-        Shown shown;
-        for (const int width : {640, 641, 642, 643, 660, 661}) {
-            subject.width = width;
-            for (const int offset : {0, 100, 0, 101}) {
-                const QImage actual = shown.at(subject, offset, 140);
+        int differing = 0;
+        for (const char *more : {"", "i", "l", "ij", "w", "e", "ea", "t"}) {
+            subject.text = Subject().text + QLatin1String(more);
+            subject.width = QFontMetrics(subject.font).horizontalAdvance(subject.text) + 1;
+            Shown shown;
+            for (const int offset : {0, 10}) {
+                const QImage actual = shown.at(subject, offset);
                 QVERIFY(shown.isDrawn);
                 QVERIFY(distance(actual, expected(subject, offset)) <= 1);
             }
+            differing += shown.marquee.compositions() == 2;
         }
+        QVERIFY(differing > 0);
+        QVERIFY(differing < 8);
     }
 
     void whatCannotBeCopiedIsLeftToThePainter_data()
