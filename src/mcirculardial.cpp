@@ -99,6 +99,13 @@ struct FaceInputs {
     }
 };
 
+// What the pointer and its hub depend on, but for where they lie.
+struct PointerInputs {
+    QRgb color = 0;
+
+    auto tied() const { return std::tie(color); }
+};
+
 // What the text of the value says.
 struct ValueText {
     double value = 0;
@@ -158,6 +165,8 @@ public:
     double startAngle = 120.0; // degrees
 
     mutable LayerCache<FaceInputs> faceLayer;
+    mutable LayerCache<PointerInputs> pointerLayer;
+    mutable LayerCache<PointerInputs> hubLayer;
     mutable Memo<ValueText, QString> valueText;
     mutable LayerCache<ValueInputs> valueLayer;
 };
@@ -485,24 +494,36 @@ void MCircularDial::Private::drawLabel(QPainter &painter, const DeviceView &view
     painter.restore();
 }
 
+// The triangle and the hub are kept apart: they share pixels.
 void MCircularDial::Private::drawPointer(QPainter &painter) const
 {
+    const auto tip = qreal(toInt(-paintedRadius()));
     const std::array<QPointF, 3> triangle{QPointF(-kPointerHalfBase, 0),
-                                          QPointF(kPointerHalfBase, 0),
-                                          QPointF(0, qreal(toInt(-paintedRadius())))};
-    painter.save();
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(centerColor);
-    painter.rotate(qreal(startAngle - 180));
-    painter.rotate(qreal(pointerAngle()));
-    painter.drawConvexPolygon(triangle.data(), int(triangle.size()));
-    painter.restore();
-
-    painter.save();
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(centerColor);
-    painter.drawEllipse(kHub);
-    painter.restore();
+                                          QPointF(kPointerHalfBase, 0), QPointF(0, tip)};
+    const auto prepare = [this](QPainter &p) {
+        p.setPen(Qt::NoPen);
+        p.setBrush(centerColor);
+    };
+    const auto paintTriangle = [&](QPainter &p) {
+        p.save();
+        prepare(p);
+        p.drawConvexPolygon(triangle.data(), int(triangle.size()));
+        p.restore();
+    };
+    const auto paintHub = [&](QPainter &p) {
+        p.save();
+        prepare(p);
+        p.drawEllipse(kHub);
+        p.restore();
+    };
+    QTransform turned = painter.worldTransform();
+    turned.rotate(qreal(startAngle - 180));
+    turned.rotate(qreal(pointerAngle()));
+    const QRectF reach = QRectF(triangle[0], triangle[2]).normalized();
+    pointerLayer.draw(painter, turned, reach.adjusted(-1, -1, kPointerHalfBase + 1, 1),
+                      {centerColor.rgba()}, std::cref(paintTriangle));
+    hubLayer.draw(painter, painter.worldTransform(), QRectF(kHub).adjusted(-1, -1, 1, 1),
+                  {centerColor.rgba()}, std::cref(paintHub));
 }
 
 void MCircularDial::Private::drawValue(QPainter &painter) const

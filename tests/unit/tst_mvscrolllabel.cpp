@@ -704,6 +704,20 @@ private slots:
         QCOMPARE(cycleOf(*label), cycle);
     }
 
+    void aKeptTextIsLaidOutAnewForAnotherHeight()
+    {
+        const auto label = makeLabel();
+        label->setText(tall());
+        show(*label);
+        label->resize(160, 90);
+        for (int paint = 0; paint < 3; ++paint)
+            COMPARE_PICTURES(painted(*label), documented(*label, 0, 60));
+        label->hide();
+        show(*label);
+        for (int paint = 0; paint < 3; ++paint)
+            COMPARE_PICTURES(painted(*label), documented(*label, 0));
+    }
+
     void aKeptTextFollowsTheFingerBackAndForth()
     {
         const auto label = makeLabel();
