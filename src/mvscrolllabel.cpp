@@ -16,6 +16,7 @@
 #include <QTimerEvent>
 
 #include <algorithm>
+#include <functional>
 
 using namespace panelkit;
 
@@ -296,10 +297,11 @@ bool MVScrollLabel::Private::copyText(QPainter &painter, const QRect &inSight, c
         return false;
     if (!strip.holds(painter, part)) {
         const QRect stretch = stretchFor(part);
-        const bool isComposed = strip.compose(painter, color, stretch, [&](QPainter &p) {
+        const auto drawStretch = [&](QPainter &p) {
             p.translate(stretch.topLeft());
             drawDirectly(p, stretch.top(), QRect(QPoint(), stretch.size()), wanted.text);
-        });
+        };
+        const bool isComposed = strip.compose(painter, color, stretch, std::cref(drawStretch));
         if (!isComposed)
             return false;
     }

@@ -4,6 +4,7 @@
 #include "detail/accessible.h"
 #include "detail/arithmetic.h"
 #include "detail/fonts.h"
+#include "detail/layercache.h"
 #include "detail/linescache.h"
 #include "detail/marquee.h"
 #include "detail/search.h"
@@ -17,6 +18,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 
 using namespace panelkit;
 
@@ -81,6 +83,8 @@ public:
     QFont measuredFont;
     int measuredWidth = 0; // px
     TextCache resting;
+    TextSmoothing smoothing;
+    LayerCache<TextSetting> layer; // of a text at rest
     LinesCache rolling;
     Marquee marquee;
 };
@@ -108,6 +112,8 @@ void SpRollingText::setText(QString text)
 {
     d->rollTimer->stop();
     d->isRolling = false;
+    d->layer = {};
+    d->marquee.clear();
     d->rollSource = text;
     d->text = std::move(text);
     d->nextIndex = 0;
@@ -308,7 +314,18 @@ void SpRollingText::Private::startRolling()
 void SpRollingText::Private::drawResting(QPainter &painter)
 {
     painter.setPen(textColor);
-    resting.draw(painter, QRectF(q->rect()), int(textAlignment), displayText);
+    const QRectF place(q->rect());
+    const TextSetting setting{displayText, place.size(), int(textAlignment), painter.font(),
+                              painter.layoutDirection()};
+    const auto draw = [&](QPainter &p) {
+        p.setFont(setting.font);
+        p.setLayoutDirection(setting.direction);
+        resting.draw(p, place, setting.flags, setting.text);
+    };
+    if (smoothing.canCopy(painter, textColor))
+        layer.draw(painter, painter.worldTransform(), place, setting, std::cref(draw));
+    else
+        draw(painter);
 }
 
 // Both ends fade along the diagonal of the widget. A TextCache would place such a pen by the
@@ -327,7 +344,7 @@ void SpRollingText::Private::drawRolling(QPainter &painter)
     };
     const bool isCut = isInFirstColumn(painter)
         && rolling.mayBeginAt(0, painter, place, int(textAlignment), displayText);
-    if (!isCut && marquee.draw(painter, look, pixelOffset, firstWidth, drawApart))
+    if (!isCut && marquee.draw(painter, look, pixelOffset, firstWidth, std::cref(drawApart)))
         return;
     painter.setPen(Marquee::pen(area, textColor));
     rolling.draw(painter, place, int(textAlignment), displayText, q->rect());

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 
 namespace panelkit
 {
@@ -115,7 +116,7 @@ bool ScalePicture::copy(QPainter &painter, const QRect &part, const QColor &soli
         || !m_smoothing.canCopy(painter, solid))
         return false;
     const auto drawAll = [&](QPainter &p) { drawDirectly(p, all, solid, faint); };
-    if (!m_strip.holds(painter, part) && !m_strip.compose(painter, solid, all, drawAll))
+    if (!m_strip.holds(painter, part) && !m_strip.compose(painter, solid, all, std::cref(drawAll)))
         return false;
     m_strip.copy(painter, part.topLeft(), part);
     return true;

@@ -17,22 +17,23 @@ namespace
 
 constexpr qint64 kMostPixels = 4 << 20; // twice a large screen; more is drawn directly
 
-// Whether letters on an opaque ground are those that were drawn without one and copied there.
-bool isSmoothedInGrey(const QFont &font, const QColor &color)
+// Whether letters on an opaque ground are those that were drawn without one and copied there. Fonts
+// in points have to have the same size on an image.
+bool isSmoothedInGrey(const QPainter &like, const QColor &color)
 {
     constexpr int kSide = 64; // px
     const QString sample = QStringLiteral("Rgw8");
     const QColor ground(90, 130, 170);
     QImage kept(kSide, kSide, QImage::Format_ARGB32_Premultiplied);
     QImage copied(kSide, kSide, QImage::Format_RGB32);
-    if (kept.isNull() || copied.isNull())
+    if (kept.isNull() || copied.isNull() || kept.logicalDpiY() != like.device()->logicalDpiY())
         return false;
     kept.fill(Qt::transparent);
     copied.fill(ground);
     QImage drawn = copied.copy();
     const auto draw = [&](QImage &image) {
         QPainter painter(&image);
-        painter.setFont(font);
+        painter.setFont(like.font());
         painter.setPen(color);
         painter.drawText(image.rect(), Qt::AlignCenter, sample);
     };
@@ -54,8 +55,8 @@ bool TextSmoothing::canCopy(const QPainter &painter, const QColor &color)
 {
     return color.alpha() == 255 && copiesPixels(painter) && isOnPixels(painter)
         && hasWholeColors(painter)
-        && m_isGrey.value({color.rgba(), painter.font()},
-                          [&](bool &isGrey) { isGrey = isSmoothedInGrey(painter.font(), color); });
+        && m_isGrey.value({color.rgba(), painter.device()->logicalDpiY(), painter.font()},
+                          [&](bool &isGrey) { isGrey = isSmoothedInGrey(painter, color); });
 }
 
 bool isInFirstColumn(const QPainter &painter)
@@ -69,7 +70,7 @@ QImage drawnText(const QPainter &like, const QColor &color, const QSize &size, i
     if (qint64(size.width()) * size.height() > kMostPixels)
         return {};
     QImage image(size + QSize(column, 0), QImage::Format_ARGB32_Premultiplied);
-    if (image.isNull() || image.logicalDpiY() != like.device()->logicalDpiY())
+    if (image.isNull())
         return {};
     image.fill(Qt::transparent);
     QPainter painter(&image);
@@ -89,12 +90,13 @@ bool TextStrip::compose(const QPainter &like, const QColor &color, const QRect &
 {
     clear();
     m_isInFirstColumn = isInFirstColumn(like);
+    const auto paintStretch = [&](QPainter &painter) {
+        painter.translate(-stretch.topLeft());
+        paint(painter);
+        return true;
+    };
     m_image = drawnText(like, color, stretch.size(), m_isInFirstColumn ? 0 : kFarLeft,
-                        [&](QPainter &painter) {
-                            painter.translate(-stretch.topLeft());
-                            paint(painter);
-                            return true;
-                        });
+                        std::cref(paintStretch));
     if (m_image.isNull())
         return false;
     m_stretch = stretch;

@@ -28,9 +28,10 @@ public:
 private:
     struct Key {
         QRgb color;
+        int dpi;
         QFont font;
 
-        auto tied() const { return std::tie(color, font); }
+        auto tied() const { return std::tie(color, dpi, font); }
     };
 
     Memo<Key, bool> m_isGrey;
