@@ -57,12 +57,15 @@ Rows allRows()
     return rows;
 }
 
+constexpr int kWarmUp = 3; // steps; a look that is wanted again is only then composed to be kept
+
 // Each repetition measures a fresh subject: where its memory happens to lie is part of the noise.
 void measure(const std::string &name, const StepMaker &make)
 {
     benchmark::RegisterBenchmark(name.c_str(), [make](benchmark::State &state) {
         const Step step = make();
-        step();
+        for (int i = 0; i < kWarmUp; ++i)
+            step();
         for (auto _ : state)
             step();
     });
