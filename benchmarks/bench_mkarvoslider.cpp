@@ -49,6 +49,6 @@ PaintingMaker floor()
 
 void defineRows(Rows &rows, Tag<MKARVOSlider>)
 {
-    rows.paint("MKARVOSlider", "full scale", widgetOf<MKARVOSlider>(kSize, setUp), {floor()},
-               {{"QwtSlider", qwtSlider(kSize), kQwtLimit}}, textLimit(2.4));
+    rows.paint("MKARVOSlider", "full scale", widgetOf<MKARVOSlider>(kSize, setUp),
+               {floor(), kScaleLimit}, {{"QwtSlider", qwtSlider(kSize), kQwtLimit}});
 }

@@ -52,6 +52,6 @@ PaintingMaker floor()
 
 void defineRows(Rows &rows, Tag<MRadioMovePoint>)
 {
-    rows.paint("MRadioMovePoint", "full scale", widgetOf<Scale>(kSize), {floor()},
-               {{"QwtSlider", qwtSlider(kSize), kQwtLimit}}, textLimit(4.6));
+    rows.paint("MRadioMovePoint", "full scale", widgetOf<Scale>(kSize), {floor(), kScaleLimit},
+               {{"QwtSlider", qwtSlider(kSize), kQwtLimit}});
 }

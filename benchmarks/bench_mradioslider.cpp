@@ -65,8 +65,8 @@ PaintingMaker dragged()
 
 void defineRows(Rows &rows, Tag<MRadioSlider>)
 {
-    rows.paint("MRadioSlider", "full scale", widgetOf<MRadioSlider>(kSize, setUp), {floor()},
-               {{"QwtSlider", qwtSlider(kSize), kQwtLimit}}, textLimit(4.2));
+    rows.paint("MRadioSlider", "full scale", widgetOf<MRadioSlider>(kSize, setUp),
+               {floor(), kScaleLimit}, {{"QwtSlider", qwtSlider(kSize), kQwtLimit}});
     rows.move("MRadioSlider", "drag step", dragged(), {floor()}, {});
     rows.work("MRadioSlider", "made and deleted", makeAndDelete<MRadioSlider>(),
               {makeAndDelete<QWidget>(), kStartUpLimit},
