@@ -384,6 +384,24 @@ private slots:
         }
     }
 
+    // Sixteen bits of colour round a copy in another way.
+    void onADeviceOfFewColoursATextIsDrawn()
+    {
+        for (const QString &content : {QStringLiteral("Radio (98.5)"), kLong}) {
+            const auto text = makeText();
+            text->setText(content);
+            QImage first;
+            for (int paint = 0; paint < 3; ++paint) {
+                QImage image(160, 30, QImage::Format_RGB16);
+                image.fill(QColor(20, 60, 90));
+                text->render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
+                if (paint == 0)
+                    first = image;
+                COMPARE_PICTURES(image, first);
+            }
+        }
+    }
+
     void aTextAsWideAsTheWidgetIsShownWhole()
     {
         const auto text = makeText();
