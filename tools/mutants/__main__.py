@@ -71,15 +71,15 @@ def write_choices(shop, numbered):
 
 
 def refused_numbers(shop, errors):
-    """The changes that stand in a line with an error, or in the nearest line above."""
+    """The changes that stand nearest to the places of the errors, in the same file."""
     numbers = set()
     for path, line in errors:
         lines = (shop.tree / path).read_text(encoding="latin-1").split("\n")
-        for index in range(line - 1, max(-1, line - 8), -1):
-            found = re.findall(r"panelkitMutant\((\d+)\)", lines[index])
-            if found:
-                numbers.update(map(int, found))
-                break
+        found = {index: re.findall(r"panelkitMutant\((\d+)\)", text)
+                 for index, text in enumerate(lines, 1) if "panelkitMutant(" in text}
+        if found:
+            nearest = min(found, key=lambda index: (abs(index - line), index > line))
+            numbers.update(map(int, found[nearest]))
     return numbers
 
 

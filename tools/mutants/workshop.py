@@ -65,8 +65,8 @@ class Workshop:
         if run.returncode == 0:
             return None
         found = re.findall(r"^(\S+?):(\d+):\d+: (?:fatal )?error:", run.stdout, re.MULTILINE)
-        tree = str(self.tree) + "/"
-        return {(path[len(tree):], int(line)) for path, line in found if path.startswith(tree)}
+        return {(os.path.relpath(os.path.realpath(self.build / path), self.tree), int(line))
+                for path, line in found}
 
     def tests_of(self, path):
         """The unit tests of a source, its own first, else those of whoever includes it."""
