@@ -97,14 +97,19 @@ bool Marquee::draw(QPainter &painter, const Look &look, int offset, int reach, c
 
 int Marquee::pixels() const
 {
-    const auto count = [](const QImage &image) { return image.width() * image.height(); };
-    std::size_t bytes = m_since.size() + m_meetings.size() * sizeof(Meeting);
-    int sum = count(m_strip) + count(m_shown);
-    for (const End &end : m_ends) {
-        sum += count(end.colors) + count(end.laterColors);
-        bytes += end.turns.size();
-    }
-    return sum + int(bytes / sizeof(QRgb));
+    const QImage *const images[] = {&m_strip,
+                                    &m_since,
+                                    &m_shown,
+                                    &m_ends[0].colors,
+                                    &m_ends[0].laterColors,
+                                    &m_ends[0].turns,
+                                    &m_ends[1].colors,
+                                    &m_ends[1].laterColors,
+                                    &m_ends[1].turns};
+    qsizetype bytes = qsizetype(m_meetings.size() * sizeof(Meeting));
+    for (const QImage *image : images)
+        bytes += image->sizeInBytes();
+    return int(bytes / qsizetype(sizeof(QRgb)));
 }
 
 // Of the text, so that all that is kept is no more than twice the area.
@@ -132,9 +137,10 @@ bool Marquee::composeEnd(End &end) const
     QImage filled(m_fade->area, QImage::Format_ARGB32_Premultiplied);
     end.colors = QImage(size, filled.format());
     end.laterColors = QImage(size, filled.format());
-    if (filled.isNull() || end.colors.isNull() || end.laterColors.isNull())
+    end.turns = QImage(size, QImage::Format_Alpha8);
+    if (filled.isNull() || end.colors.isNull() || end.laterColors.isNull() || end.turns.isNull())
         return false;
-    end.turns.assign(std::size_t(size.width()) * std::size_t(size.height()), 0);
+    end.turns.fill(0);
 
     const QBrush brush = pen(m_fade->area, QColor(m_fade->color)).brush();
     QPainter painter(&filled);
@@ -144,7 +150,7 @@ bool Marquee::composeEnd(End &end) const
         for (int y = 0; y < size.height(); ++y) {
             const QRgb *pixels = row(qAsConst(filled), y) + end.left;
             QRgb *colors = row(end.colors, y);
-            uchar *turns = end.turns.data() + y * size.width();
+            uchar *turns = end.turns.scanLine(y);
             colors[begin] = pixels[begin];
             for (int x = begin + 1; x < size.width(); ++x) {
                 if (turns[x] == 0 && pixels[x] != colors[x]) {
@@ -195,12 +201,12 @@ bool Marquee::take(const QImage &odd)
         colors[coverage] = covered(m_look->color, coverage);
     const int width = m_strip.width();
     m_meetings.clear();
-    m_since.resize(std::size_t(width) * std::size_t(m_strip.height()));
-    bool isPlain = true;
-    for (int y = 0; y < odd.height(); ++y) {
+    m_since = QImage(m_strip.size(), QImage::Format_Alpha8);
+    bool isPlain = !m_since.isNull();
+    for (int y = 0; isPlain && y < odd.height(); ++y) {
         QRgb *pixels = row(m_strip, y);
         const QRgb *others = row(odd, y);
-        uchar *since = m_since.data() + y * width;
+        uchar *since = m_since.scanLine(y);
         int begins[2] = {0, 0}; // of the stretches
         for (int x = 0; x < width; ++x) {
             const QRgb even = pixels[x];
@@ -229,7 +235,7 @@ bool Marquee::take(const QImage &odd)
 // Before the left edge of the widget nothing begins.
 QRgb Marquee::faded(const End &end, int x, int y, const Ink &ink) const
 {
-    const int turn = end.turns[std::size_t(y * m_endWidth + x)];
+    const int turn = end.turns.constScanLine(y)[x];
     const bool isLater = turn != 0 && std::min(int(ink.since), end.left + x) >= turn;
     return covered(row(isLater ? end.laterColors : end.colors, y)[x], ink.coverage);
 }
@@ -239,7 +245,7 @@ void Marquee::drawEnd(QPainter &painter, const End &end, int offset)
     const int from = offset + end.left - m_stretch.left();
     for (int i = 0; i < m_strip.height(); ++i) {
         const QRgb *text = row(m_strip, i) + from;
-        const uchar *since = m_since.data() + i * m_strip.width() + from;
+        const uchar *since = m_since.constScanLine(i) + from;
         QRgb *shown = row(m_shown, m_top + i);
         for (int x = 0; x < m_endWidth; ++x)
             shown[x] =

@@ -64,7 +64,7 @@ private:
         int left = 0; // px
         QImage colors;
         QImage laterColors;
-        std::vector<uchar> turns; // px from the beginning of a stretch on; 0: never
+        QImage turns; // a byte each: px from the beginning of a stretch on; 0: never
     };
     struct Fade {
         QRgb color;
@@ -101,7 +101,7 @@ private:
     bool m_isKept = false;
     QImage m_strip; // its rows that are not empty
     int m_top = 0; // px
-    std::vector<uchar> m_since; // of each pixel
+    QImage m_since; // a byte of each pixel
     std::vector<Meeting> m_meetings;
     int m_compositions = 0;
 };
