@@ -20,7 +20,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <functional>
 #include <limits>
 #include <optional>
 #include <vector>
@@ -316,7 +315,7 @@ void MArcList::drawTicks(QPainter *painter)
                      {d->radius, d->startAngle, d->itemHight, d->showItem, d->pressedIndex,
                       d->pressColor.rgba(), painter->layoutDirection(), d->characters,
                       painter->font()},
-                     std::cref(draw));
+                     draw);
 }
 
 /** Draws the marker of the arc at the pressed character, and at the current one if it is another.

@@ -14,7 +14,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <functional>
 #include <limits>
 #include <optional>
 
@@ -254,7 +253,7 @@ void MArcScrollBar::drawPointer(QPainter *painter)
     turned.rotate(qreal(d->startAngle - 180));
     turned.rotate(qreal(d->pointerAngle()));
     d->pointer.draw(*painter, turned, area, {d->pointColor.rgba(), d->pointPixmap.cacheKey()},
-                    std::cref(draw));
+                    draw);
 }
 
 /**

@@ -16,7 +16,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <functional>
 #include <limits>
 #include <optional>
 
@@ -521,9 +520,9 @@ void MCircularDial::Private::drawPointer(QPainter &painter) const
     turned.rotate(qreal(pointerAngle()));
     const QRectF reach = QRectF(triangle[0], triangle[2]).normalized();
     pointerLayer.draw(painter, turned, reach.adjusted(-1, -1, kPointerHalfBase + 1, 1),
-                      {centerColor.rgba()}, std::cref(paintTriangle));
+                      {centerColor.rgba()}, paintTriangle);
     hubLayer.draw(painter, painter.worldTransform(), QRectF(kHub).adjusted(-1, -1, 1, 1),
-                  {centerColor.rgba()}, std::cref(paintHub));
+                  {centerColor.rgba()}, paintHub);
 }
 
 void MCircularDial::Private::drawValue(QPainter &painter) const
@@ -541,7 +540,7 @@ void MCircularDial::Private::drawValue(QPainter &painter) const
         p.drawText(area, Qt::AlignCenter, text);
         p.restore();
     };
-    valueLayer.draw(painter, painter.worldTransform(), area, inputs, std::cref(paint));
+    valueLayer.draw(painter, painter.worldTransform(), area, inputs, paint);
 }
 
 // The value for a point, if it is near the rim. The angle is used as it is where the dial does not

@@ -16,7 +16,6 @@
 #include <QTimerEvent>
 
 #include <algorithm>
-#include <functional>
 
 using namespace panelkit;
 
@@ -301,7 +300,7 @@ bool MVScrollLabel::Private::copyText(QPainter &painter, const QRect &inSight, c
             p.translate(stretch.topLeft());
             drawDirectly(p, stretch.top(), QRect(QPoint(), stretch.size()), wanted.text);
         };
-        const bool isComposed = strip.compose(painter, color, stretch, std::cref(drawStretch));
+        const bool isComposed = strip.compose(painter, color, stretch, drawStretch);
         if (!isComposed)
             return false;
     }

@@ -18,7 +18,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <functional>
 
 using namespace panelkit;
 
@@ -323,7 +322,7 @@ void SpRollingText::Private::drawResting(QPainter &painter)
         resting.draw(p, place, setting.flags, setting.text);
     };
     if (smoothing.canCopy(painter, textColor))
-        layer.draw(painter, painter.worldTransform(), place, setting, std::cref(draw));
+        layer.draw(painter, painter.worldTransform(), place, setting, draw);
     else
         draw(painter);
 }
@@ -344,7 +343,7 @@ void SpRollingText::Private::drawRolling(QPainter &painter)
     };
     const bool isCut = isInFirstColumn(painter)
         && rolling.mayBeginAt(0, painter, place, int(textAlignment), displayText);
-    if (!isCut && marquee.draw(painter, look, pixelOffset, firstWidth, std::cref(drawApart)))
+    if (!isCut && marquee.draw(painter, look, pixelOffset, firstWidth, drawApart))
         return;
     painter.setPen(Marquee::pen(area, textColor));
     rolling.draw(painter, place, int(textAlignment), displayText, q->rect());

@@ -11,7 +11,6 @@
 #include <QSize>
 
 #include <array>
-#include <functional>
 #include <vector>
 
 namespace panelkit
@@ -38,7 +37,7 @@ public:
     };
     /// Draws every second letter at its place in the area, from the first or the second one on, or
     /// cannot.
-    using Paint = std::function<bool(QPainter &, int first)>;
+    using Paint = FunctionRef<bool(QPainter &, int first)>;
 
     /// A pen that fades in an area: along its diagonal, at both ends.
     static QPen pen(const QSize &area, const QColor &color);

@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <functional>
 
 namespace panelkit
 {
@@ -116,7 +115,7 @@ bool ScalePicture::copy(QPainter &painter, const QRect &part, const QColor &soli
         || !m_smoothing.canCopy(painter, solid))
         return false;
     const auto drawAll = [&](QPainter &p) { drawDirectly(p, all, solid, faint); };
-    if (!m_strip.holds(painter, part) && !m_strip.compose(painter, solid, all, std::cref(drawAll)))
+    if (!m_strip.holds(painter, part) && !m_strip.compose(painter, solid, all, drawAll))
         return false;
     m_strip.copy(painter, part.topLeft(), part);
     return true;

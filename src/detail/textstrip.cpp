@@ -65,7 +65,7 @@ bool isInFirstColumn(const QPainter &painter)
 }
 
 QImage drawnText(const QPainter &like, const QColor &color, const QSize &size, int column,
-                 const std::function<bool(QPainter &)> &paint)
+                 const FunctionRef<bool(QPainter &)> &paint)
 {
     if (qint64(size.width()) * size.height() > kMostPixels)
         return {};
@@ -95,8 +95,8 @@ bool TextStrip::compose(const QPainter &like, const QColor &color, const QRect &
         paint(painter);
         return true;
     };
-    m_image = drawnText(like, color, stretch.size(), m_isInFirstColumn ? 0 : kFarLeft,
-                        std::cref(paintStretch));
+    m_image =
+        drawnText(like, color, stretch.size(), m_isInFirstColumn ? 0 : kFarLeft, paintStretch);
     if (m_image.isNull())
         return false;
     m_stretch = stretch;

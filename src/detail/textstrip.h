@@ -2,6 +2,7 @@
 #ifndef PANELKIT_DETAIL_TEXTSTRIP_H
 #define PANELKIT_DETAIL_TEXTSTRIP_H
 
+#include "functionref.h"
 #include "memo.h"
 
 #include <QColor>
@@ -9,8 +10,6 @@
 #include <QImage>
 #include <QPoint>
 #include <QRect>
-
-#include <functional>
 
 class QPainter;
 
@@ -48,7 +47,7 @@ constexpr int kFarLeft = 64; // px
 /// painter and a pen of this colour; its origin is the area's, which lies so far from the first
 /// column. Null if it cannot be had.
 QImage drawnText(const QPainter &like, const QColor &color, const QSize &size, int column,
-                 const std::function<bool(QPainter &)> &paint);
+                 const FunctionRef<bool(QPainter &)> &paint);
 
 /// A stretch of a text as pixels, of which a widget that scrolls copies another part with each
 /// step. They are those of drawing the text, but where two letters touch each other's pixels: there
@@ -56,7 +55,7 @@ QImage drawnText(const QPainter &like, const QColor &color, const QSize &size, i
 class TextStrip
 {
 public:
-    using Paint = std::function<void(QPainter &)>;
+    using Paint = FunctionRef<void(QPainter &)>;
 
     /// Whether a stretch is kept, for where this painter stands.
     bool holds(const QPainter &painter, const QRect &stretch) const

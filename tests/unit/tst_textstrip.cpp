@@ -15,12 +15,11 @@ namespace
 constexpr QSize kSize(180, 60);
 const QRect kStretch(0, 30, 180, 120);
 
-void write(QPainter &p)
-{
+const auto write = [](QPainter &p) {
     for (int line = 0; line < 8; ++line)
         p.drawText(QRect(3, line * 22, 170, 22), Qt::AlignVCenter,
                    QStringLiteral("Line %1, after yonder").arg(line));
-}
+};
 
 // The part of the text that begins at 47 px, on a ground of this format.
 QImage part(QImage::Format format, const QColor &color, const QFont &font,
