@@ -15,8 +15,10 @@ namespace
 {
 
 constexpr QSize kSize(500, 500);
-constexpr double kQwtLimit = 1;
-constexpr double kDialLimit = 0.5;
+constexpr double kFloorLimit = 0.5; // the floor draws its pointer in each paint
+constexpr double kQwtLimit = 0.3;
+constexpr double kQwtTurnedLimit = 0.75;
+constexpr double kDialLimit = 0.15;
 constexpr double kValue = 98.5;
 
 void place(QPainter &painter)
@@ -161,10 +163,10 @@ PaintingMaker turned()
 
 void defineRows(Rows &rows, Tag<MCircularDial>)
 {
-    rows.paint(
-        "MCircularDial", "FM tuner",
-        widgetOf<MCircularDial>(kSize, [](MCircularDial &dial) { dial.setValue(kValue); }),
-        {floor()}, {{"QwtDial", qwtDial(), kQwtLimit}, {"QDial", qDial(), kDialLimit}},
-        {"its pointer, its hub and its value are drawn over the kept face in each paint", 2.4});
-    rows.move("MCircularDial", "turned", turned(), {floor()}, {{"QwtDial", qwtDial(), kQwtLimit}});
+    rows.paint("MCircularDial", "FM tuner",
+               widgetOf<MCircularDial>(kSize, [](MCircularDial &dial) { dial.setValue(kValue); }),
+               {floor(), kFloorLimit},
+               {{"QwtDial", qwtDial(), kQwtLimit}, {"QDial", qDial(), kDialLimit}});
+    rows.move("MCircularDial", "turned", turned(), {floor()},
+              {{"QwtDial", qwtDial(), kQwtTurnedLimit}});
 }

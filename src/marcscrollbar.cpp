@@ -14,7 +14,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <functional>
 #include <limits>
 #include <optional>
 
@@ -33,6 +32,7 @@ constexpr double kMargin = 50.0; // px above and below the ticks of the straight
 constexpr double kFinestAngle = 0.01; // degrees; a smaller change of an angle is none
 constexpr double kFullTurn = 360.0; // degrees
 constexpr qint64 kMostTicks = 100000; // a range of more values has no tick for each
+constexpr int kRowsAtOnce = 64; // ticks that are filled together
 constexpr double kRadian = 0.017453292519943295; // radians a degree
 
 bool differs(double a, double b) { return std::abs(a - b) >= kFinestAngle; }
@@ -253,7 +253,7 @@ void MArcScrollBar::drawPointer(QPainter *painter)
     turned.rotate(qreal(d->startAngle - 180));
     turned.rotate(qreal(d->pointerAngle()));
     d->pointer.draw(*painter, turned, area, {d->pointColor.rgba(), d->pointPixmap.cacheKey()},
-                    std::cref(draw));
+                    draw);
 }
 
 /**
@@ -270,19 +270,23 @@ void MArcScrollBar::drawTicksVert(QPainter *painter)
     // Without distance all ticks are one line over and over.
     const bool isOneLine = pitch == 0 && coversRows(*painter);
     const qint64 last = isOneLine ? 0 : std::min(d->range(), kMostTicks);
-    QVector<QRect> rows;
-    rows.reserve(int(last) + 1);
-    for (qint64 i = 0; i <= last; ++i)
-        rows += QRect(0, int(i * pitch + qint64(kMargin)), width() + 1, 1);
+    const auto rowAt = [&](qint64 i) {
+        return QRect(0, int(i * pitch + qint64(kMargin)), width() + 1, 1);
+    };
     if (drawsRows(*painter)) {
         const QPen pen = painter->pen();
         painter->setPen(Qt::NoPen);
         painter->setBrush(pen.brush());
-        painter->drawRects(rows);
+        std::array<QRect, kRowsAtOnce> rows;
+        for (qint64 i = 0; i <= last;) {
+            const qint64 count = std::min<qint64>(kRowsAtOnce, last + 1 - i);
+            std::generate_n(rows.begin(), count, [&] { return rowAt(i++); });
+            painter->drawRects(rows.data(), int(count));
+        }
         painter->setPen(pen);
     } else {
-        for (const QRect &row : qAsConst(rows))
-            painter->drawLine(row.topLeft(), row.topRight());
+        for (qint64 i = 0; i <= last; ++i)
+            painter->drawLine(rowAt(i).topLeft(), rowAt(i).topRight());
     }
     painter->setBrush(d->lineColor);
 }

@@ -98,7 +98,22 @@ struct FaceInputs {
     }
 };
 
-// Everything that the text of the value depends on, but for the transform.
+// What the pointer and its hub depend on, but for where they lie.
+struct PointerInputs {
+    QRgb color = 0;
+
+    auto tied() const { return std::tie(color); }
+};
+
+// What the text of the value says.
+struct ValueText {
+    double value = 0;
+    QString unit;
+
+    auto tied() const { return std::tie(value, unit); }
+};
+
+// Everything that the picture of it depends on, but for the transform.
 struct ValueInputs {
     double radius = 0;
     QString text;
@@ -149,6 +164,9 @@ public:
     double startAngle = 120.0; // degrees
 
     mutable LayerCache<FaceInputs> faceLayer;
+    mutable LayerCache<PointerInputs> pointerLayer;
+    mutable LayerCache<PointerInputs> hubLayer;
+    mutable Memo<ValueText, QString> valueText;
     mutable LayerCache<ValueInputs> valueLayer;
 };
 
@@ -475,40 +493,54 @@ void MCircularDial::Private::drawLabel(QPainter &painter, const DeviceView &view
     painter.restore();
 }
 
+// The triangle and the hub are kept apart: they share pixels.
 void MCircularDial::Private::drawPointer(QPainter &painter) const
 {
+    const auto tip = qreal(toInt(-paintedRadius()));
     const std::array<QPointF, 3> triangle{QPointF(-kPointerHalfBase, 0),
-                                          QPointF(kPointerHalfBase, 0),
-                                          QPointF(0, qreal(toInt(-paintedRadius())))};
-    painter.save();
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(centerColor);
-    painter.rotate(qreal(startAngle - 180));
-    painter.rotate(qreal(pointerAngle()));
-    painter.drawConvexPolygon(triangle.data(), int(triangle.size()));
-    painter.restore();
-
-    painter.save();
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(centerColor);
-    painter.drawEllipse(kHub);
-    painter.restore();
+                                          QPointF(kPointerHalfBase, 0), QPointF(0, tip)};
+    const auto prepare = [this](QPainter &p) {
+        p.setPen(Qt::NoPen);
+        p.setBrush(centerColor);
+    };
+    const auto paintTriangle = [&](QPainter &p) {
+        p.save();
+        prepare(p);
+        p.drawConvexPolygon(triangle.data(), int(triangle.size()));
+        p.restore();
+    };
+    const auto paintHub = [&](QPainter &p) {
+        p.save();
+        prepare(p);
+        p.drawEllipse(kHub);
+        p.restore();
+    };
+    QTransform turned = painter.worldTransform();
+    turned.rotate(qreal(startAngle - 180));
+    turned.rotate(qreal(pointerAngle()));
+    const QRectF reach = QRectF(triangle[0], triangle[2]).normalized();
+    pointerLayer.draw(painter, turned, reach.adjusted(-1, -1, kPointerHalfBase + 1, 1),
+                      {centerColor.rgba()}, paintTriangle);
+    hubLayer.draw(painter, painter.worldTransform(), QRectF(kHub).adjusted(-1, -1, 1, 1),
+                  {centerColor.rgba()}, paintHub);
 }
 
 void MCircularDial::Private::drawValue(QPainter &painter) const
 {
     const double rim = paintedRadius();
-    const QString text = QString::number(value, 'g', 6) + unit;
+    const QString &text = valueText.value(
+        {value, unit}, [this](QString &said) { said = QString::number(value, 'g', 6) + unit; });
     const QRectF area(QPointF(-kValueSize.width() / 2, qreal(kValueAt * rim)), kValueSize);
     const ValueInputs inputs{rim, text, Lettering(painter, textColor)};
-    valueLayer.draw(painter, painter.worldTransform(), area, inputs, [&](QPainter &p) {
+    const auto paint = [&](QPainter &p) {
         p.save();
         p.setFont(painter.font());
         p.setLayoutDirection(painter.layoutDirection());
         p.setPen(textColor);
         p.drawText(area, Qt::AlignCenter, text);
         p.restore();
-    });
+    };
+    valueLayer.draw(painter, painter.worldTransform(), area, inputs, paint);
 }
 
 // The value for a point, if it is near the rim. The angle is used as it is where the dial does not

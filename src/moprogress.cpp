@@ -86,6 +86,12 @@ public:
     void drawDone(QPainter &painter) const;
     void drawTexts(QPainter &painter) const;
 
+    struct Value {
+        int percent;
+
+        auto tied() const { return std::tie(percent); }
+    };
+
     MOProgress *const q;
     int itemID = 0;
     int currentValue = 50; // percent
@@ -104,6 +110,7 @@ public:
     mutable Memo<DoneShape, QPainterPath> done;
     mutable KeptLook<Track> trackLook;
     mutable KeptLook<Ring> ringLook;
+    mutable Memo<Value, QString> percent;
     mutable TextCache percentage;
     mutable TextCache caption;
 };
@@ -304,7 +311,10 @@ void MOProgress::Private::drawTexts(QPainter &painter) const
     const auto split = qreal(double(area.height()) * kTextShare);
     painter.setPen(displayTextColor);
     percentage.draw(painter, QRectF(area.topLeft(), QSizeF(area.width(), split)),
-                    Qt::AlignHCenter | Qt::AlignBottom, QStringLiteral("%1%").arg(currentValue));
+                    Qt::AlignHCenter | Qt::AlignBottom,
+                    percent.value({currentValue}, [this](QString &text) {
+                        text = QStringLiteral("%1%").arg(currentValue);
+                    }));
     painter.setFont(applicationFont(fontSize));
     caption.draw(painter, area.adjusted(0, split, 0, 0), Qt::AlignHCenter | Qt::AlignTop,
                  dispalyText);

@@ -50,6 +50,20 @@ bool isWholePixels(double distance)
     return std::abs(distance - std::round(distance)) <= kHardlyAny;
 }
 
+// The device's coordinates may be those of the painter, moved by whole pixels.
+bool copiesPixels(const QPainter &painter)
+{
+    const QPaintEngine *engine = painter.paintEngine();
+    const QTransform &own = painter.worldTransform();
+    const QTransform &device = painter.deviceTransform();
+    return engine->type() == QPaintEngine::Raster && painter.opacity() >= 1
+        && painter.compositionMode() == QPainter::CompositionMode_SourceOver
+        && !painter.viewTransformEnabled() && device.m11() == own.m11() && device.m12() == own.m12()
+        && device.m21() == own.m21() && device.m22() == own.m22()
+        && isWholePixels(device.dx() - own.dx()) && isWholePixels(device.dy() - own.dy())
+        && qFuzzyCompare(engine->paintDevice()->devicePixelRatioF(), qreal(1));
+}
+
 bool isOnPixels(const QPainter &painter)
 {
     const QTransform &device = painter.deviceTransform();

@@ -33,6 +33,11 @@ private:
 /// Whether a distance is a whole number of pixels, but for what rounding leaves.
 bool isWholePixels(double distance);
 
+/// Whether pixels that were composed in advance can be copied through a painter: they come out as
+/// they are. They are where a widget stands in a window, but not where it is rendered through a
+/// painter that scales, fades or mixes it.
+bool copiesPixels(const QPainter &painter);
+
 /// Whether one unit of a painter is one pixel of its device and begins where a pixel does. Only
 /// there is a picture scaled in advance the same as one that is scaled in drawing, and a filled
 /// rectangle the same as a line.

@@ -19,26 +19,6 @@ namespace
 
 constexpr double kFarthest = 1 << 24; // px, no widget is larger
 
-// Whether the device's coordinates are those of the painter, moved by whole pixels. They are where
-// a widget stands in a window, but not where it is rendered through a painter that scales it.
-bool isMovedByPixels(const QPainter &painter)
-{
-    const QTransform &own = painter.worldTransform();
-    const QTransform &device = painter.deviceTransform();
-    return device.m11() == own.m11() && device.m12() == own.m12() && device.m21() == own.m21()
-        && device.m22() == own.m22() && isWholePixels(device.dx() - own.dx())
-        && isWholePixels(device.dy() - own.dy());
-}
-
-// Pixels kept for one device are right where they are copied one to one.
-bool canCopyPixels(const QPainter &painter)
-{
-    return painter.paintEngine()->type() == QPaintEngine::Raster && painter.opacity() >= 1
-        && painter.compositionMode() == QPainter::CompositionMode_SourceOver
-        && !painter.viewTransformEnabled() && isMovedByPixels(painter)
-        && qFuzzyCompare(painter.paintEngine()->paintDevice()->devicePixelRatioF(), qreal(1));
-}
-
 // The device in the coordinates of a painter without transform of its own; they differ by where in
 // its window a widget stands.
 QRect visibleRect(const QPainter &painter)
@@ -53,26 +33,28 @@ QRect visibleRect(const QPainter &painter)
     return QRect(0, 0, pixels->width(), pixels->height()).translated(-offset);
 }
 
+constexpr qreal kOverhang = 32; // px, that a letter may lean out of the area, or more than enough
 constexpr int kAlignment = 7; // px, the bits of a vector register's worth of pixels
 
 // The rectangle of what is not wholly transparent, out to where vector registers begin: single
 // pixels at the ends of a line cost as much as eight in the middle. Most of a slanting or curved
 // stretch's bounding rectangle is empty, and copying nothing takes time too.
-QRect inkRect(const QImage &image)
+QRect inkRect(const QImage &image, const QRect &part)
 {
-    int left = image.width();
+    int left = part.right() + 1;
     int right = -1;
-    int top = image.height();
+    int top = part.bottom() + 1;
     int bottom = -1;
     const auto isInk = [](QRgb pixel) { return pixel != 0; };
-    for (int y = 0; y < image.height(); ++y) {
+    for (int y = part.top(); y <= part.bottom(); ++y) {
         const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
-        const auto *end = line + image.width();
-        const auto *first = std::find_if(line, end, isInk);
+        const auto *begin = line + part.left();
+        const auto *end = line + part.right() + 1;
+        const auto *first = std::find_if(begin, end, isInk);
         if (first == end)
             continue;
         const auto *afterLast =
-            std::find_if(std::make_reverse_iterator(end), std::make_reverse_iterator(line), isInk)
+            std::find_if(std::make_reverse_iterator(end), std::make_reverse_iterator(begin), isInk)
                 .base();
         left = std::min(left, int(first - line));
         right = std::max(right, int(afterLast - line) - 1);
@@ -81,8 +63,8 @@ QRect inkRect(const QImage &image)
     }
     if (right < left)
         return {};
-    return {QPoint(left & ~kAlignment, top),
-            QPoint(std::min(right | kAlignment, image.width() - 1), bottom)};
+    return {QPoint(std::max(left & ~kAlignment, part.left()), top),
+            QPoint(std::min(right | kAlignment, part.right()), bottom)};
 }
 
 } // namespace
@@ -90,7 +72,7 @@ QRect inkRect(const QImage &image)
 void LayerPixels::drawContent(QPainter &painter, const QTransform &world, const Extent &extent,
                               int content, const Paint &paint)
 {
-    const bool canCopy = canCopyPixels(painter);
+    const bool canCopy = copiesPixels(painter);
     QRect visible = canCopy ? visibleRect(painter) : QRect();
     if (!extent.inSight.isNull())
         visible &= extent.inSight;
@@ -132,24 +114,34 @@ void LayerPixels::copy(QPainter &painter) const
 }
 
 // It is composed at its place on a canvas as large as the device, because how edges are rounded
-// depends on where they lie; then it is cut to what there is to see. False if there is no memory.
+// depends on where they lie; then it is cut to what there is to see. Of the canvas only what the
+// area may reach is touched. False if there is no memory.
 bool LayerPixels::compose(const Paint &paint)
 {
-    const QPoint origin = m_key->visible.topLeft();
-    QImage image(m_key->visible.size(), QImage::Format_ARGB32_Premultiplied);
+    const QRect &visible = m_key->visible;
+    const QRectF mapped = m_key->transform.mapRect(m_key->area);
+    const QRect reach =
+        (mapped.adjusted(-kOverhang, -kOverhang, kOverhang, kOverhang) & QRectF(visible))
+            .toAlignedRect()
+        & visible;
+    QImage image(visible.size(), QImage::Format_ARGB32_Premultiplied);
     if (image.isNull())
         return false;
-    image.fill(Qt::transparent);
     QPainter painter(&image);
+    painter.translate(-visible.topLeft());
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.fillRect(reach, Qt::transparent);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     painter.setRenderHints(m_key->hints);
     painter.setPen(m_key->pen);
-    painter.setTransform(m_key->transform
-                         * QTransform::fromTranslate(-qreal(origin.x()), -qreal(origin.y())));
+    painter.setTransform(
+        m_key->transform
+        * QTransform::fromTranslate(-qreal(visible.left()), -qreal(visible.top())));
     paint(painter);
     painter.end();
-    const QRect ink = inkRect(image);
+    const QRect ink = inkRect(image, reach.translated(-visible.topLeft()));
     m_image = ink.isEmpty() ? QImage() : image.copy(ink);
-    m_topLeft = origin + ink.topLeft();
+    m_topLeft = visible.topLeft() + ink.topLeft();
     m_isComposed = ink.isEmpty() || !m_image.isNull();
     ++m_compositions;
     return m_isComposed;

@@ -2,6 +2,7 @@
 #ifndef PANELKIT_DETAIL_LAYERCACHE_H
 #define PANELKIT_DETAIL_LAYERCACHE_H
 
+#include "functionref.h"
 #include "memo.h"
 
 #include <QImage>
@@ -10,8 +11,6 @@
 #include <QRect>
 #include <QTransform>
 
-#include <functional>
-
 namespace panelkit
 {
 
@@ -19,7 +18,7 @@ namespace panelkit
 class LayerPixels
 {
 public:
-    using Paint = std::function<void(QPainter &)>;
+    using Paint = FunctionRef<void(QPainter &)>;
 
     /// How often the layer had to be composed.
     int compositions() const { return m_compositions; }

@@ -15,6 +15,16 @@ namespace allocations
 
 inline std::atomic<std::int64_t> bytes{0};
 
+/// Is told of each request, if there is one.
+inline std::atomic<void (*)()> watcher{nullptr};
+
+inline void count(std::size_t size)
+{
+    bytes += std::int64_t(size);
+    if (void (*const tell)() = watcher)
+        tell();
+}
+
 /// How many bytes an action asks for.
 inline std::int64_t during(const std::function<void()> &action)
 {
@@ -31,7 +41,7 @@ inline std::int64_t during(const std::function<void()> &action)
 extern "C" __attribute__((visibility("default"))) void
 __sanitizer_malloc_hook(const volatile void *, std::size_t size)
 {
-    allocations::bytes += std::int64_t(size);
+    allocations::count(size);
 }
 
 #else
@@ -44,19 +54,19 @@ void *__libc_realloc(void *old, std::size_t size);
 
 __attribute__((visibility("default"))) void *malloc(std::size_t size)
 {
-    allocations::bytes += std::int64_t(size);
+    allocations::count(size);
     return __libc_malloc(size);
 }
 
 __attribute__((visibility("default"))) void *calloc(std::size_t count, std::size_t size)
 {
-    allocations::bytes += std::int64_t(count * size);
+    allocations::count(count * size);
     return __libc_calloc(count, size);
 }
 
 __attribute__((visibility("default"))) void *realloc(void *old, std::size_t size)
 {
-    allocations::bytes += std::int64_t(size);
+    allocations::count(size);
     return __libc_realloc(old, size);
 }
 }

@@ -51,7 +51,7 @@ void turn(QPainter &p)
 
 // Paints on a canvas, after `prepare`, through a layer or directly.
 QImage onCanvas(Layer *layer, const Paint &prepare, const Content &content = kContent,
-                const Paint &paint = paintStar)
+                const Paint &paint = Paint(paintStar))
 {
     QImage image = canvas();
     QPainter painter(&image);
@@ -217,7 +217,7 @@ private slots:
                 painter.translate(50, 40);
                 if (isKept)
                     layer.draw(painter, painter.worldTransform(), kContent.area, kContent.picture,
-                               paintStar);
+                               Paint(paintStar));
                 else
                     paintStar(painter);
             }
@@ -251,7 +251,7 @@ private slots:
                 QPainter painter(this);
                 turn(painter);
                 layer.draw(painter, painter.worldTransform(), kContent.area, kContent.picture,
-                           paintStar);
+                           Paint(paintStar));
             }
         };
         QWidget window;
@@ -297,7 +297,7 @@ private slots:
             QPicture picture;
             QPainter painter(&picture);
             layer.draw(painter, painter.worldTransform(), kContent.area, kContent.picture,
-                       paintStar);
+                       Paint(paintStar));
             painter.end();
             QVERIFY(picture.size() > 0);
         }
@@ -306,7 +306,7 @@ private slots:
         for (int paint = 0; paint < 3; ++paint) {
             QPainter painter(&dense);
             layer.draw(painter, painter.worldTransform(), kContent.area, kContent.picture,
-                       paintStar);
+                       Paint(paintStar));
         }
         QCOMPARE(layer.compositions(), 0);
     }
