@@ -10,7 +10,7 @@
 namespace
 {
 
-constexpr double kStartUpLimit = 1.15; // Qt's own button of two states takes 1.12 of a plain one
+constexpr double kStartUpLimit = 1.3;
 
 } // namespace
 

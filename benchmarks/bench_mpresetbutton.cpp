@@ -16,7 +16,7 @@ namespace
 
 constexpr QSize kSize(120, 80);
 constexpr double kStyleSheetLimit = 1; // though it shows one line and no icon
-constexpr double kStartUpLimit = 1.15; // Qt's own button of two states takes 1.12 of a plain one
+constexpr double kStartUpLimit = 1.3;
 
 const QPoint kIconPos(8, 6);
 const QRect kFirst(0, 10, 120, 40);

@@ -13,6 +13,8 @@
 #include <QRandomGenerator>
 #include <QStackedWidget>
 
+#include <algorithm>
+
 using namespace headunit;
 
 namespace
@@ -151,8 +153,8 @@ QVector<Belongings> belongingsOnADrive(int minutes)
     return marks;
 }
 
-// Of each hundred at most two more.
-bool hasGrown(qint64 before, qint64 now) { return now - before > before / 50; }
+// Of each hundred at most two more, or a single one that was not needed in the first hour.
+bool hasGrown(qint64 before, qint64 now) { return now - before > std::max<qint64>(before / 50, 1); }
 
 } // namespace
 
