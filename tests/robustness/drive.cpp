@@ -244,24 +244,6 @@ int Drive::untilNextTick() const
     return next;
 }
 
-qint64 Drive::area() const
-{
-    const auto *widget = qobject_cast<const QWidget *>(m_object.data());
-    return widget ? qint64(widget->width()) * widget->height() : 0;
-}
-
-// As many pixels as can be copied while the widget is painted once. What an effect blurs reaches
-// beyond the widget.
-qint64 Drive::paintWork() const
-{
-    constexpr int kBlur = 8;
-    const auto *widget = qobject_cast<const QWidget *>(m_object.data());
-    if (!widget || !widget->graphicsEffect())
-        return area();
-    const QSizeF reach = widget->graphicsEffect()->boundingRectFor(widget->rect()).size();
-    return qint64(reach.width()) * qint64(reach.height()) * kBlur;
-}
-
 // Of a window that is empty or immense Qt makes no picture to paint on, and says so. What takes
 // long to paint goes on as a small widget.
 void Drive::check()

@@ -7,6 +7,7 @@
 
 #include <QAbstractItemView>
 #include <QCoreApplication>
+#include <QGraphicsEffect>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
@@ -214,4 +215,22 @@ void Drive::paint(QWidget &widget)
     image.setDevicePixelRatio(qreal(m_values.oneOf({1, 2})));
     m_values.track.add("paint", image);
     widget.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
+}
+
+qint64 Drive::area() const
+{
+    const auto *widget = qobject_cast<const QWidget *>(m_object.data());
+    return widget ? qint64(widget->width()) * widget->height() : 0;
+}
+
+// As many pixels as can be copied while the widget is painted once. What an effect blurs reaches
+// beyond the widget.
+qint64 Drive::paintWork() const
+{
+    constexpr int kBlur = 8;
+    const auto *widget = qobject_cast<const QWidget *>(m_object.data());
+    if (!widget || !widget->graphicsEffect())
+        return area();
+    const QSizeF reach = widget->graphicsEffect()->boundingRectFor(widget->rect()).size();
+    return qint64(reach.width()) * qint64(reach.height()) * kBlur;
 }

@@ -23,6 +23,7 @@ import workshop
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 FOLDER = ROOT / "build" / "mutants"
+LEAST_SHARE = 0.95  # of the changes that should be noticed
 NOT_NOTICED, NOTICED, IMPOSSIBLE = "SURVIVED", "noticed", "does not compile"
 
 
@@ -119,7 +120,7 @@ def try_all(shop, numbered):
         for done, (number, result) in enumerate(pool.map(attempt, together), 1):
             results[number] = result
             if done % 100 == 0:
-                print(f"{done} of {len(numbered)}", flush=True)
+                print(f"{done} of {len(numbered)} tried", flush=True)
     for path in by_file(numbered):
         shop.write(path, shop.source(path))
     for number, site in alone:
@@ -128,7 +129,7 @@ def try_all(shop, numbered):
 
 
 def report(shop, numbered, results):
-    """Prints and writes what became of them; whether as many as there should be were noticed."""
+    """Prints and writes what became of them; whether enough were noticed."""
     lines = [f"{results[number]:16} {site.describe(shop.source(site.path))}"
              for number, site in numbered]
     counts = collections.Counter(results.values())
@@ -139,6 +140,7 @@ def report(shop, numbered, results):
     (FOLDER / "report.txt").write_text("\n".join([*lines, summary, ""]), encoding="utf-8")
     print("\n".join(line for line in lines if line.startswith(NOT_NOTICED)))
     print(summary)
+    return counts[NOTICED] >= tried * LEAST_SHARE
 
 
 def main():
@@ -150,7 +152,8 @@ def main():
     FOLDER.mkdir(parents=True, exist_ok=True)
     shop = workshop.Workshop(ROOT, FOLDER)
     numbered = chosen_sites(shop, arguments.names, arguments.count, arguments.seed)
-    report(shop, numbered, try_all(shop, numbered))
+    if not report(shop, numbered, try_all(shop, numbered)):
+        sys.exit(f"fewer than {LEAST_SHARE:.0%}")
 
 
 if __name__ == "__main__":
