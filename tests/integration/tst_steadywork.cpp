@@ -26,7 +26,7 @@ constexpr int kPaints = 5;
 constexpr int kWarmUps = 3;
 
 struct Frame {
-    std::string library;
+    std::string binary;
     std::string function;
 };
 
@@ -39,9 +39,9 @@ Frame frameAt(void *address)
     return {slash ? slash + 1 : info.dli_fname, info.dli_sname ? info.dli_sname : "?"};
 }
 
-bool isIn(const Frame &frame, const char *library)
+bool isIn(const Frame &frame, const char *name)
 {
-    return frame.library.compare(0, std::strlen(library), library) == 0;
+    return frame.binary.compare(0, std::strlen(name), name) == 0;
 }
 
 bool isQtCore(const Frame &frame) { return isIn(frame, "libQt5Core") || isIn(frame, "libQt6Core"); }
@@ -97,9 +97,9 @@ private:
         int i = 0;
         Frame frame = frameAt(addresses[i]);
         const auto next = [&] { frame = ++i < count ? frameAt(addresses[i]) : Frame(); };
-        while (i < count
-               && (frame.library == program.library || isIn(frame, "libc.")
-                   || isIn(frame, "libstdc++")))
+        while (
+            i < count
+            && (frame.binary == program.binary || isIn(frame, "libc.") || isIn(frame, "libstdc++")))
             next();
         const bool isDirect = !isQtCore(frame);
         Frame called = frame;
