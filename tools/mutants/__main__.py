@@ -4,8 +4,8 @@
 usage: tools/mutants [--count N] [--seed N] [class or file...]
 
 Takes N changes (1000) at random of those of the named classes and files of src/, or of all, and runs
-the unit tests that belong to the changed file. What no test notices is printed and stands with all
-others in build/mutants/report.txt.
+the unit tests that belong to the changed file. What no test notices is printed; all of them stand in
+build/mutants/report.txt.
 """
 
 import argparse
@@ -107,24 +107,30 @@ def check_unchanged(shop, numbered):
 
 
 def try_all(shop, numbered):
-    """What became of each change, by its number."""
+    """What became of each change, by its number; prints what no test notices, as it is found."""
     alone = write_choices(shop, numbered)
     check_unchanged(shop, numbered)
     results = {}
     together = [pair for pair in numbered if pair not in alone]
 
+    def keep(number, site, result):
+        results[number] = result
+        if result == NOT_NOTICED:
+            print(result, site.describe(shop.source(site.path)), flush=True)
+        if len(results) % 100 == 0:
+            print(f"{len(results)} of {len(numbered)} tried", flush=True)
+
     def attempt(pair):
-        return pair[0], NOTICED if is_noticed(shop, pair[0], pair[1].path) else NOT_NOTICED
+        return *pair, NOTICED if is_noticed(shop, pair[0], pair[1].path) else NOT_NOTICED
 
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
-        for done, (number, result) in enumerate(pool.map(attempt, together), 1):
-            results[number] = result
-            if done % 100 == 0:
-                print(f"{done} of {len(numbered)} tried", flush=True)
+        for tried in concurrent.futures.as_completed(
+                [pool.submit(attempt, pair) for pair in together]):
+            keep(*tried.result())
     for path in by_file(numbered):
         shop.write(path, shop.source(path))
     for number, site in alone:
-        results[number] = try_alone(shop, number, site)
+        keep(number, site, try_alone(shop, number, site))
     return results
 
 
@@ -138,7 +144,6 @@ def report(shop, numbered, results):
     summary = (f"{counts[NOTICED]} of {tried} changes noticed ({share}), "
                f"{counts[IMPOSSIBLE]} others do not compile")
     (FOLDER / "report.txt").write_text("\n".join([*lines, summary, ""]), encoding="utf-8")
-    print("\n".join(line for line in lines if line.startswith(NOT_NOTICED)))
     print(summary)
     return counts[NOTICED] >= tried * LEAST_SHARE
 
