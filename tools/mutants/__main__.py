@@ -1,11 +1,11 @@
 # SPDX-License-Identifier: Apache-2.0
 """Changes the library's sources in one small way after another, and looks whether a test notices.
 
-usage: tools/mutants [--count N] [--seed N] [class or file...]
+usage: tools/mutants [--count N] [--seed N] [--again] [class or file...]
 
 Takes N changes (1000) at random of those of the named classes and files of src/, or of all, and runs
 the unit tests that belong to the changed file. What no test notices is printed; all of them stand in
-build/mutants/report.txt.
+build/mutants/report.txt. With --again, those that no test noticed the last time.
 """
 
 import argparse
@@ -23,13 +23,25 @@ import workshop
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 FOLDER = ROOT / "build" / "mutants"
+REPORT = FOLDER / "report.txt"
 LEAST_SHARE = 0.95  # of the changes that should be noticed
 NOT_NOTICED, NOTICED, IMPOSSIBLE = "SURVIVED", "noticed", "does not compile"
 
 
-def chosen_sites(shop, names, count, seed):
+def line_of(shop, site, result):
+    """What the report says of a site."""
+    return f"{result:16} {site.describe(shop.source(site.path))}"
+
+
+def unnoticed(shop, found):
+    """Those that the last report says no test noticed."""
+    lines = set(REPORT.read_text(encoding="utf-8").splitlines())
+    return sorted(site for site in found if line_of(shop, site, NOT_NOTICED) in lines)
+
+
+def chosen_sites(shop, arguments):
     """The sites to try, numbered from 1."""
-    wanted = {name.lower() for name in names}
+    wanted = {name.lower() for name in arguments.names}
     sources = [str(path.relative_to(ROOT)) for path in sorted((ROOT / "src").rglob("*.cpp"))]
     if wanted:
         known = {path.stem for path in (ROOT / "src").rglob("*.*")}
@@ -37,7 +49,11 @@ def chosen_sites(shop, names, count, seed):
             sys.exit(f"nothing in src/ is called {', '.join(sorted(wanted - known))}")
     found = [site for site in sites.find(sources, shop.tree, shop.arguments)
              if not wanted or pathlib.Path(site.path).stem in wanted]
-    sample = sorted(random.Random(seed).sample(found, min(count, len(found))))
+    if arguments.again:
+        sample = unnoticed(shop, found)
+    else:
+        sample = sorted(random.Random(arguments.seed).sample(
+            found, min(arguments.count, len(found))))
     print(f"{len(sample)} of {len(found)} possible changes")
     return list(enumerate(sample, 1))
 
@@ -116,7 +132,7 @@ def try_all(shop, numbered):
     def keep(number, site, result):
         results[number] = result
         if result == NOT_NOTICED:
-            print(result, site.describe(shop.source(site.path)), flush=True)
+            print(line_of(shop, site, result), flush=True)
         if len(results) % 100 == 0:
             print(f"{len(results)} of {len(numbered)} tried", flush=True)
 
@@ -136,14 +152,13 @@ def try_all(shop, numbered):
 
 def report(shop, numbered, results):
     """Prints and writes what became of them; whether enough were noticed."""
-    lines = [f"{results[number]:16} {site.describe(shop.source(site.path))}"
-             for number, site in numbered]
+    lines = [line_of(shop, site, results[number]) for number, site in numbered]
     counts = collections.Counter(results.values())
     tried = counts[NOTICED] + counts[NOT_NOTICED]
     share = f"{100 * counts[NOTICED] / max(tried, 1):.1f} %"
     summary = (f"{counts[NOTICED]} of {tried} changes noticed ({share}), "
                f"{counts[IMPOSSIBLE]} others do not compile")
-    (FOLDER / "report.txt").write_text("\n".join([*lines, summary, ""]), encoding="utf-8")
+    REPORT.write_text("\n".join([*lines, summary, ""]), encoding="utf-8")
     print(summary)
     return counts[NOTICED] >= tried * LEAST_SHARE
 
@@ -153,10 +168,11 @@ def main():
     parser.add_argument("names", nargs="*")
     parser.add_argument("--count", type=int, default=1000)
     parser.add_argument("--seed", type=int, default=1)
+    parser.add_argument("--again", action="store_true")
     arguments = parser.parse_args()
     FOLDER.mkdir(parents=True, exist_ok=True)
     shop = workshop.Workshop(ROOT, FOLDER)
-    numbered = chosen_sites(shop, arguments.names, arguments.count, arguments.seed)
+    numbered = chosen_sites(shop, arguments)
     if not report(shop, numbered, try_all(shop, numbered)):
         sys.exit(f"fewer than {LEAST_SHARE:.0%}")
 
