@@ -24,6 +24,7 @@ import workshop
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 FOLDER = ROOT / "build" / "mutants"
 REPORT = FOLDER / "report.txt"
+EXPLAINED = pathlib.Path(__file__).with_name("explained.txt")
 LEAST_SHARE = 0.95  # of the changes that should be noticed
 NOT_NOTICED, NOTICED, IMPOSSIBLE = "SURVIVED", "noticed", "does not compile"
 
@@ -31,6 +32,13 @@ NOT_NOTICED, NOTICED, IMPOSSIBLE = "SURVIVED", "noticed", "does not compile"
 def line_of(shop, site, result):
     """What the report says of a site."""
     return f"{result:16} {site.describe(shop.source(site.path))}"
+
+
+def explanations():
+    """Why no test can notice a change, by file and change."""
+    lines = EXPLAINED.read_text(encoding="utf-8").splitlines()
+    pairs = (line.split(" // ", 1) for line in lines if line and not line.startswith("#"))
+    return {change: why for change, why in pairs}
 
 
 def unnoticed(shop, found):
@@ -152,12 +160,20 @@ def try_all(shop, numbered):
 
 def report(shop, numbered, results):
     """Prints and writes what became of them; whether enough were noticed."""
-    lines = [line_of(shop, site, results[number]) for number, site in numbered]
+    known = explanations()
+    lines, explained = [], 0
+    for number, site in numbered:
+        line = line_of(shop, site, results[number])
+        why = known.get(f"{site.path} {site.change(shop.source(site.path))}")
+        if results[number] == NOT_NOTICED and why:
+            line += f" // {why}"
+            explained += 1
+        lines.append(line)
     counts = collections.Counter(results.values())
     tried = counts[NOTICED] + counts[NOT_NOTICED]
     share = f"{100 * counts[NOTICED] / max(tried, 1):.1f} %"
-    summary = (f"{counts[NOTICED]} of {tried} changes noticed ({share}), "
-               f"{counts[IMPOSSIBLE]} others do not compile")
+    summary = (f"{counts[NOTICED]} of {tried} changes noticed ({share}), of the others {explained} "
+               f"explained; {counts[IMPOSSIBLE]} more do not compile")
     REPORT.write_text("\n".join([*lines, summary, ""]), encoding="utf-8")
     print(summary)
     return counts[NOTICED] >= tried * LEAST_SHARE

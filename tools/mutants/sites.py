@@ -35,11 +35,15 @@ class Site:
     line: int
     is_statement: bool
 
-    def describe(self, source):
-        """One line that says what is changed."""
+    def change(self, source):
+        """What is changed, wherever in the file it stands."""
         shorten = lambda text: re.sub(r"\s+", " ", text)[:90]
         after = shorten(self.mutated) if self.mutated else "(nothing)"
-        return f"{self.path}:{self.line} {self.kind}: {shorten(source[self.start:self.end])} -> {after}"
+        return f"{self.kind}: {shorten(source[self.start:self.end])} -> {after}"
+
+    def describe(self, source):
+        """One line that says what is changed, and where."""
+        return f"{self.path}:{self.line} {self.change(source)}"
 
 
 def constant(text):
