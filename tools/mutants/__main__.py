@@ -125,9 +125,11 @@ def try_alone(shop, number, site):
 
 def check_unchanged(shop, numbered):
     """Measures the tests, which have to pass without a change."""
-    for test in sorted({test for path in by_file(numbered) for test in shop.tests_of(path)}):
-        if not shop.passes(test, 0):
-            sys.exit(f"{test} fails without a change")
+    tests = sorted({test for path in by_file(numbered) for test in shop.tests_of(path)})
+    with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
+        for test, passes in zip(tests, pool.map(lambda test: shop.passes(test, 0), tests)):
+            if not passes:
+                sys.exit(f"{test} fails without a change")
 
 
 def try_all(shop, numbered):
