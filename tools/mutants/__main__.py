@@ -35,10 +35,10 @@ def line_of(shop, site, result):
 
 
 def explanations():
-    """Why no test can notice a change, by file and change."""
-    lines = EXPLAINED.read_text(encoding="utf-8").splitlines()
-    pairs = (line.split(" // ", 1) for line in lines if line and not line.startswith("#"))
-    return {change: why for change, why in pairs}
+    """Why no test can notice a change: by the file and its line, and by what is changed there."""
+    text = re.sub(r"^#.*\n", "", EXPLAINED.read_text(encoding="utf-8"), flags=re.MULTILINE)
+    blocks = [block.split("\n") for block in text.strip().split("\n\n")]
+    return {(place, change.strip()): why.strip() for place, change, why in filter(any, blocks)}
 
 
 def unnoticed(shop, found):
@@ -165,8 +165,9 @@ def report(shop, numbered, results):
     known = explanations()
     lines, explained = [], 0
     for number, site in numbered:
+        source = shop.source(site.path)
         line = line_of(shop, site, results[number])
-        why = known.get(f"{site.path} {site.change(shop.source(site.path))}")
+        why = known.get((site.place(source), site.change(source)))
         if results[number] == NOT_NOTICED and why:
             line += f" // {why}"
             explained += 1

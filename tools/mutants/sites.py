@@ -35,6 +35,11 @@ class Site:
     line: int
     is_statement: bool
 
+    def place(self, source):
+        """The file and the line's text."""
+        text = source.split("\n")[self.line - 1].strip()
+        return f"{self.path}: {text}"
+
     def change(self, source):
         """What is changed, wherever in the file it stands."""
         shorten = lambda text: re.sub(r"\s+", " ", text)[:90]
