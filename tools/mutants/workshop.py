@@ -76,7 +76,11 @@ class Workshop:
     def tests_of(self, path):
         """The unit tests of a source: its own, those of whoever includes it, those of all classes."""
         stem = pathlib.Path(path).stem
-        name = re.compile(rf'#include [<"](detail/)?{stem}\.h[>"]')
+        header = (self.root / path).with_suffix(".h")
+        text = header.read_text() if header.exists() else ""
+        classes = re.findall(r"^class \w*EXPORT (\w+)", text, re.MULTILINE)
+        names = "|".join([rf"(detail/)?{stem}\.h", *classes])
+        name = re.compile(rf'#include [<"]({names})[>"]')
         tests = sorted((self.root / "tests" / "unit").glob("tst_*.cpp"))
         known = [test.stem for test in tests]
         users = [test.stem for test in tests if name.search(test.read_text())]
