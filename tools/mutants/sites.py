@@ -11,6 +11,7 @@ OPERATORS = {
     "+": "-", "-": "+", "*": "/", "/": "*", "%": "*", "&": "|", "|": "&", "<<": ">>", ">>": "<<",
     "+=": "-=", "-=": "+=", "*=": "/=", "/=": "*=", "|=": "&=", "&=": "|=",
 }
+EMPTY = ("hideEvent", "moveEvent", "paintEvent", "resizeEvent", "showEvent")
 BINARY = (CursorKind.BINARY_OPERATOR, CursorKind.COMPOUND_ASSIGNMENT_OPERATOR)
 BODIES = {  # the place of the body among the parts of a statement that may go without braces
     CursorKind.IF_STMT: slice(1, None),
@@ -75,7 +76,7 @@ def call(cursor):
 
 def does_nothing(cursor):
     """Whether it calls what does nothing in Qt: the handlers of a bare widget for these events."""
-    return (called := call(cursor)) and called[0] == ["QWidget", "::"] and called[1] == "paintEvent"
+    return (called := call(cursor)) and called[0] == ["QWidget", "::"] and called[1] in EMPTY
 
 
 def matters(first, second):
