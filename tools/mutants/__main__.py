@@ -84,10 +84,11 @@ def write_choices(shop, numbered):
     while True:
         for path, pairs in kept.items():
             shop.write(path, include + render.with_choices(shop.source(path), pairs))
-        errors = shop.compile("tests/all")
-        if errors is None:
+        places = shop.compile("tests/all")
+        if places is None:
             return alone
-        refused = refused_numbers(shop, errors)
+        errors, notes = places
+        refused = refused_numbers(shop, errors) or refused_numbers(shop, notes)
         if not refused:
             sys.exit(f"does not build: {sorted(errors)[:5]}")
         for path, pairs in kept.items():
@@ -95,10 +96,10 @@ def write_choices(shop, numbered):
             kept[path] = [pair for pair in pairs if pair[0] not in refused]
 
 
-def refused_numbers(shop, errors):
-    """The changes that stand nearest to the places of the errors, in the same file."""
+def refused_numbers(shop, places):
+    """The changes that stand nearest to the places of errors, in the same file."""
     numbers = set()
-    for path, line in errors:
+    for path, line in places:
         lines = (shop.tree / path).read_text(encoding="latin-1").split("\n")
         found = {index: re.findall(r"panelkitMutant\((\d+)\)", text)
                  for index, text in enumerate(lines, 1) if "panelkitMutant(" in text}
