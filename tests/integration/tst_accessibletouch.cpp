@@ -237,6 +237,7 @@ private slots:
         bool hasFocus = false;
         const QStringList lines = said(*specimen, [&](QWidget *widget) {
             QApplication::setActiveWindow(widget->window());
+            widget->clearFocus();
             actionsOf(widget)->doAction(QStringLiteral("SetFocus"));
             hasFocus = widget->hasFocus();
         });
