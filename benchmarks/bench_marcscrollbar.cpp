@@ -6,6 +6,7 @@
 #include <marcscrollbar.h>
 #include <QApplication>
 #include <QScrollBar>
+#include <qwt_wheel.h>
 
 namespace
 {
@@ -127,18 +128,23 @@ PaintingMaker peer()
 }
 
 // Another value, and its paint.
-PaintingMaker slide()
+template <class Bar, class Prepare> PaintingMaker slide(Prepare prepare)
 {
-    return []() -> Painting {
+    return [prepare]() -> Painting {
         const auto canvas = makeCanvas(kSize);
-        const auto bar = shownOn<MArcScrollBar>(
-            canvas, kSize, [](MArcScrollBar &fresh) { fresh.setRange(0, kRange); });
+        const auto bar = shownOn<Bar>(canvas, kSize, [prepare](Bar &fresh) {
+            fresh.setRange(0, kRange);
+            prepare(fresh);
+        });
         return {canvas, [bar] {
-                    bar->setValue((bar->value() + 1) % kRange);
+                    bar->setValue(int(bar->value() + 1) % kRange);
                     bar->paint();
                 }};
     };
 }
+
+// It is turned by a finger along its edge, too, and draws its ticks anew with each value.
+void standUpright(QwtWheel &wheel) { wheel.setOrientation(Qt::Vertical); }
 
 } // namespace
 
@@ -158,7 +164,8 @@ void defineRows(Rows &rows, Tag<MArcScrollBar>)
                 "its floor does not have",
                 {},
                 1.16});
-    rows.move("MArcScrollBar", "value moved", slide(), {floorOf(ticks(), triangle())}, {},
+    rows.move("MArcScrollBar", "value moved", slide<MArcScrollBar>(AsItIs()),
+              {floorOf(ticks(), triangle())}, {{"QwtWheel", slide<QwtWheel>(standUpright)}},
               {"the pointer of its floor stands still; a moved one is filled with soft edges in "
                "its new turn",
                {},

@@ -9,6 +9,7 @@
 namespace
 {
 
+constexpr double kPeerLimit = 0.5;
 constexpr QSize kGroove(320, 20);
 constexpr QSize kKnob(40, 40);
 constexpr int kTop = (kKnob.height() - kGroove.height()) / 2;
@@ -42,13 +43,9 @@ PaintingMaker floorOf(int left, int right)
     });
 }
 
-PaintingMaker peer()
+PaintingMaker peer(int value)
 {
-    return styledSlider(
-        kSize, Qt::Horizontal,
-        QStringLiteral("QSlider::groove:horizontal { height: 20px; background: #3c3c46; }"
-                       "QSlider::sub-page:horizontal { background: #285aa0; }"
-                       "QSlider::handle:horizontal { width: 40px; background: #e67814; }"));
+    return onGround(picturedSlider(kSize, Qt::Horizontal, artwork(), value));
 }
 
 } // namespace
@@ -57,8 +54,8 @@ void defineRows(Rows &rows, Tag<MHorSlider>)
 {
     const int knobAtEnd = kSize.width() - kKnob.width();
     rows.paint("MHorSlider", "from the left", slider(true, 0), {floorOf(0, kMiddle - 1)},
-               {{"QSlider style sheet", peer()}});
+               {{"QSlider pictures", peer(50), kPeerLimit}});
     rows.paint("MHorSlider", "from the middle", slider(false, 5),
                {floorOf(kMiddle + 2, knobAtEnd + kKnob.width() / 2 - 1)},
-               {{"QSlider style sheet", peer()}});
+               {{"QSlider pictures", peer(100), kPeerLimit}});
 }

@@ -5,10 +5,13 @@
 #include "rows.h"
 
 #include <mprogressbar.h>
+#include <QPalette>
+#include <qwt_thermo.h>
 
 namespace
 {
 
+constexpr double kPeerLimit = 0.5;
 constexpr QSize kGroove(320, 20);
 constexpr QSize kKnob(40, 40);
 constexpr QSize kSize(360, 40);
@@ -80,14 +83,46 @@ PaintingMaker peer()
         50);
 }
 
+// A bar of the same colours, filled as far, without scale and knob.
+void giveBar(QwtThermo &thermo)
+{
+    thermo.setOrientation(Qt::Horizontal);
+    thermo.setScalePosition(QwtThermo::NoScale);
+    thermo.setScale(0, 100);
+    thermo.setBorderWidth(0);
+    thermo.setPipeWidth(8);
+    QPalette palette = thermo.palette();
+    palette.setColor(QPalette::Base, QColor(150, 150, 150));
+    palette.setColor(QPalette::ButtonText, QColor(255, 125, 0));
+    thermo.setPalette(palette);
+    thermo.setValue(50);
+}
+
+PaintingMaker movedThermo()
+{
+    return onGround([]() -> Painting {
+        const auto canvas = makeCanvas(kSize);
+        const auto thermo = shownOn<QwtThermo>(canvas, kSize, giveBar);
+        return {canvas, [thermo] {
+                    thermo->setValue(thermo->value() == 50 ? 51 : 50);
+                    thermo->paint();
+                }};
+    });
+}
+
 } // namespace
 
 void defineRows(Rows &rows, Tag<MProgressBar>)
 {
     rows.paint("MProgressBar", "pictures", onGround(widgetOf<MProgressBar>(kSize, givePictures)),
-               {picturesFloor()}, {{"QSlider style sheet", peer()}});
+               {picturesFloor()},
+               {{"QSlider pictures", onGround(picturedSlider(kSize, Qt::Horizontal, artwork(), 50)),
+                 kPeerLimit}});
     rows.paint("MProgressBar", "plain colours", onGround(widgetOf<MProgressBar>(kSize, giveKnob)),
-               {plainFloor()}, {{"QSlider style sheet", peer()}});
+               {plainFloor()},
+               {{"QSlider style sheet", peer()},
+                {"QwtThermo", onGround(widgetOf<QwtThermo>(kSize, giveBar))}});
     rows.move("MProgressBar", "pictures moved", moved(givePictures), {picturesFloor()}, {});
-    rows.move("MProgressBar", "plain colours moved", moved(giveKnob), {plainFloor()}, {});
+    rows.move("MProgressBar", "plain colours moved", moved(giveKnob), {plainFloor()},
+              {{"QwtThermo", movedThermo()}});
 }

@@ -9,6 +9,7 @@
 namespace
 {
 
+constexpr double kPeerLimit = 0.5;
 constexpr QSize kTrack(20, 240);
 constexpr QSize kKnob(40, 30);
 constexpr int kBand = 30; // px above the track
@@ -30,6 +31,15 @@ void prepare(SpSetupSlider &slider)
     slider.setPointPressImage(artwork().knob);
 }
 
+// The knob of ours is a widget of its own.
+PaintingMaker peer()
+{
+    SliderArtwork bare = artwork();
+    bare.knob = QPixmap(1, 1);
+    bare.knob.fill(Qt::transparent);
+    return onGround(picturedSlider(kSize, Qt::Vertical, bare, 50));
+}
+
 } // namespace
 
 void defineRows(Rows &rows, Tag<SpSetupSlider>)
@@ -42,11 +52,5 @@ void defineRows(Rows &rows, Tag<SpSetupSlider>)
                                painter.drawPixmap(kLeft, kMiddle, artwork().fill, 0,
                                                   kMiddle - kBand, kTrack.width(), rowsBelow);
                            })},
-               {{"QSlider style sheet",
-                 styledSlider(
-                     kSize, Qt::Vertical,
-                     QStringLiteral("QSlider::groove:vertical { width: 20px; background: #3c3c46; }"
-                                    "QSlider::add-page:vertical { background: #285aa0; }"
-                                    "QSlider::handle:vertical { height: 30px; background: "
-                                    "#e67814; }"))}});
+               {{"QSlider pictures", peer(), kPeerLimit}});
 }

@@ -3,6 +3,7 @@
 #define PANELKIT_BENCHMARKS_PEERS_H
 
 #include "canvas.h"
+#include "pictures.h"
 #include "rows.h"
 
 #include <QAbstractButton>
@@ -55,9 +56,12 @@ PaintingMaker styledButton(const QSize &size, const QString &sheet, const QStrin
 /// The style sheet of a push button that shows a picture under its text, stretched to its size.
 QString pictureSheet(const QPixmap &picture);
 
-/// A slider from 0 to 100 in a style sheet. In plain colours: a style sheet has no picture that
-/// ends at the handle.
+/// A slider from 0 to 100 in a style sheet.
 PaintingMaker styledSlider(const QSize &size, Qt::Orientation orientation, const QString &sheet,
                            int value = 0);
+
+/// A slider whose groove, part of it up to the handle, and handle are pictures.
+PaintingMaker picturedSlider(const QSize &size, Qt::Orientation orientation,
+                             const SliderArtwork &artwork, int value = 0);
 
 #endif // PANELKIT_BENCHMARKS_PEERS_H

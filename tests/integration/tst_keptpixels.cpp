@@ -201,6 +201,21 @@ private slots:
             }
         }
     }
+
+    void aSwitchThatIsGivenPicturesKeepsNothing()
+    {
+        Screen screen;
+        MOnOffButton button;
+        button.resize(600, 240);
+        const qint64 before = bytesInUse();
+        for (int paint = 0; paint < 4; ++paint)
+            screen.paint(button);
+        QVERIFY(bytesInUse() - before > button.width() * button.height() * kPixel);
+        button.setNormalBkgPix(backdrop());
+        button.setNormalChunkPix(backdrop());
+        screen.paint(button);
+        QVERIFY(bytesInUse() - before < kBookkeeping);
+    }
 };
 
 WIDGET_TEST_MAIN(tst_KeptPixels)

@@ -107,9 +107,11 @@ inline void checkHasNoPictures(const QObject &object, std::initializer_list<cons
 template <typename Widget> void checkSetFontSize(Widget &&widget)
 {
     QFont expected = widget.font();
-    expected.setPixelSize(29);
-    widget.setFontSize(29);
-    QCOMPARE(widget.font(), expected);
+    for (int px : {1, 29}) {
+        expected.setPixelSize(px);
+        widget.setFontSize(px);
+        QCOMPARE(widget.font(), expected);
+    }
     for (int px : {0, -1, INT_MIN}) {
         widget.setFontSize(px);
         QCOMPARE(widget.font(), expected);

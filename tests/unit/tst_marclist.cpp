@@ -1329,6 +1329,7 @@ private slots:
     {
         const auto list = makeList(kArc);
         list->setPointPixmap(marker());
+        list->setCurrentIndex(QLatin1Char('B'));
         list->drawTicks(nullptr);
         list->drawPointer(nullptr);
         list->drawTicks1(nullptr);

@@ -545,6 +545,8 @@ private slots:
         QCOMPARE(paints(*slider, [&] { finger.moveTo(101, 5); }), 0);
         QCOMPARE(paints(*slider, [&] { finger.moveTo(180, 5); }), 1);
         QCOMPARE(paints(*slider, [&] { finger.release(); }), 1);
+        slider->setPointPressImage(QPixmap());
+        QCOMPARE(paints(*slider, [&] { finger.press(180, 5); }), 1); // although nothing changes
     }
 
     void touchesGoOnToTheParent()

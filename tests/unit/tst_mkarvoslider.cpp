@@ -159,6 +159,14 @@ class tst_MKARVOSlider : public WidgetTest
     Q_OBJECT
 
 private slots:
+    void thePictureIsTheOneThatWasSet()
+    {
+        MKARVOSlider slider(nullptr);
+        const QPixmap picture = indicator();
+        slider.setIndicatePix(picture);
+        QCOMPARE(slider.getIndicatePix().cacheKey(), picture.cacheKey());
+    }
+
     void defaults()
     {
         const MKARVOSlider slider(nullptr);
@@ -751,6 +759,8 @@ private slots:
         QTest::newRow("100,002 ticks") << 50000.5F << 0.5F << 100001 + 100001 / 3 + 1;
         QTest::newRow("a million steps") << 10000.0F << 0.01F << 1000001 * 2;
         QTest::newRow("five million steps") << 50000.0F << 0.01F << 1000001 + 5000000 / 77 + 1;
+        // Each 75th would miss most of the last two digits.
+        QTest::newRow("no multiple of five") << 48500.0F << 0.01F << 1000001 + 4850000 / 77 + 1;
     }
 
     void ofMoreTicksFewerAreLookedAt()

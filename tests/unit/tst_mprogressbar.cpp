@@ -20,13 +20,23 @@
 namespace
 {
 
+// That has to be smoothed where it is stretched.
+QPixmap striped(const QSize &size)
+{
+    QPixmap pixmap = filled(Qt::lightGray, size);
+    QPainter painter(&pixmap);
+    for (int x = 0; x < size.width(); x += 3)
+        painter.fillRect(x, 0, 1, size.height(), Qt::darkCyan);
+    return pixmap;
+}
+
 struct Pictures {
     QPixmap played = filled(Qt::blue, {200, 20});
     QPixmap groove = filled(Qt::gray, {200, 20});
-    QPixmap disabled = filled(Qt::lightGray, {90, 31});
+    QPixmap disabled = striped({90, 31});
     QPixmap knob = filled(Qt::green, {30, 40});
     QPixmap knobPressed = filled(Qt::yellow, {31, 41});
-    QPixmap knobDisabled = filled(Qt::white, {30, 40});
+    QPixmap knobDisabled = filled(Qt::white, {31, 41});
 };
 
 const Pictures &pictures()

@@ -126,6 +126,14 @@ class tst_MRadioSlider : public WidgetTest
     Q_OBJECT
 
 private slots:
+    void thePictureIsTheOneThatWasSet()
+    {
+        MRadioSlider slider(nullptr);
+        const QPixmap picture = indicator();
+        slider.setIndicatePix(picture);
+        QCOMPARE(slider.getIndicatePix().cacheKey(), picture.cacheKey());
+    }
+
     void defaults()
     {
         const MRadioSlider slider(nullptr);

@@ -198,9 +198,13 @@ private slots:
 
     void aMissingBackgroundIsNoFault()
     {
-        MultipleStateButton button(0, 0, 1, normalFiles(), pressFiles(),
+        const QSize first(44, 33);
+        const QStringList normal =
+            QStringList(file(QStringLiteral("first"), Qt::blue, first)) + normalFiles(2);
+        MultipleStateButton button(0, 0, 1, normal, pressFiles(),
                                    m_folder.filePath(QStringLiteral("absent.png")));
         QVERIFY(!isDisabled(button));
+        QCOMPARE(button.size(), first);
     }
 
     // --- State ----------------------------------------------------------------------------------

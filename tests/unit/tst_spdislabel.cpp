@@ -277,6 +277,8 @@ private slots:
     void setFontSizeChangesOnlyThePixelSize()
     {
         SpDisLabel label;
+        label.setFontSize(0);
+        QVERIFY(!label.testAttribute(Qt::WA_SetFont)); // it follows its parent's
         QFont expected = label.font();
         expected.setPixelSize(29);
         label.setFontSize(29);

@@ -1320,6 +1320,9 @@ private slots:
         virtualtime::advance(5000);
         QCOMPARE(scrolled(*list), end);
         QCOMPARE(taken(log).filter("currentShowIndex").size(), 2); // by the release and at the end
+        tap(*list, 100, 70); // there is nothing left to stop
+        virtualtime::advance(50);
+        QCOMPARE(taken(log).filter("itemClicked").size(), 2);
     }
 
     void aTapStopsAFlingWithoutAClick()
@@ -1377,6 +1380,9 @@ private slots:
         finger.press(100, 290).moveTo(100, 285).hold(200).moveTo(100, 190).hold(60).release();
         finger.hold(5000);
         QCOMPARE(scrolled(*list), 100); // 260 ms from a move within the slop
+        list->verticalScrollBar()->setValue(0);
+        finger.press(100, 290).moveTo(100, 190).hold(100).release().hold(5000);
+        QCOMPARE(scrolled(*list), 100 + 12 * 50); // each touch has a first move of its own
     }
 
     // At a full minute the clock shows 0, which also means that nothing has moved yet.

@@ -547,6 +547,20 @@ private slots:
                          }));
     }
 
+    void theTailLiesOverTheHeader()
+    {
+        const QPixmap header = picture(Qt::cyan, {230, 40});
+        const QPixmap tail = picture(Qt::magenta, {210, 30});
+        Subject s(allRoles(kHeaderIcon | kTailIcon));
+        s.set(HeaderIcon, header);
+        s.set(TailIcon, tail);
+        COMPARE_PICTURES(s.painted(), onCanvas([&](QPainter &p) {
+                             drawSeparator(p);
+                             drawHeaderIcon(p, header);
+                             drawTailIcon(p, tail);
+                         }));
+    }
+
     void anyBitOfAPartShowsIt_data()
     {
         QTest::addColumn<int>("content");

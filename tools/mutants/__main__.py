@@ -35,10 +35,10 @@ def line_of(shop, site, result):
 
 
 def explanations():
-    """Why no test can notice a change, by file and change."""
-    lines = EXPLAINED.read_text(encoding="utf-8").splitlines()
-    pairs = (line.split(" // ", 1) for line in lines if line and not line.startswith("#"))
-    return {change: why for change, why in pairs}
+    """Why no test can notice a change: by the file and its line, and by what is changed there."""
+    text = re.sub(r"^#.*\n", "", EXPLAINED.read_text(encoding="utf-8"), flags=re.MULTILINE)
+    blocks = [block.split("\n") for block in text.strip().split("\n\n")]
+    return {(place, change.strip()): why.strip() for place, change, why in filter(any, blocks)}
 
 
 def unnoticed(shop, found):
@@ -125,9 +125,11 @@ def try_alone(shop, number, site):
 
 def check_unchanged(shop, numbered):
     """Measures the tests, which have to pass without a change."""
-    for test in sorted({test for path in by_file(numbered) for test in shop.tests_of(path)}):
-        if not shop.passes(test, 0):
-            sys.exit(f"{test} fails without a change")
+    tests = sorted({test for path in by_file(numbered) for test in shop.tests_of(path)})
+    with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
+        for test, passes in zip(tests, pool.map(lambda test: shop.passes(test, 0), tests)):
+            if not passes:
+                sys.exit(f"{test} fails without a change")
 
 
 def try_all(shop, numbered):
@@ -163,8 +165,9 @@ def report(shop, numbered, results):
     known = explanations()
     lines, explained = [], 0
     for number, site in numbered:
+        source = shop.source(site.path)
         line = line_of(shop, site, results[number])
-        why = known.get(f"{site.path} {site.change(shop.source(site.path))}")
+        why = known.get((site.place(source), site.change(source)))
         if results[number] == NOT_NOTICED and why:
             line += f" // {why}"
             explained += 1

@@ -11,6 +11,7 @@ OPERATORS = {
     "+": "-", "-": "+", "*": "/", "/": "*", "%": "*", "&": "|", "|": "&", "<<": ">>", ">>": "<<",
     "+=": "-=", "-=": "+=", "*=": "/=", "/=": "*=", "|=": "&=", "&=": "|=",
 }
+EMPTY = ("hideEvent", "moveEvent", "paintEvent", "resizeEvent", "showEvent")
 BINARY = (CursorKind.BINARY_OPERATOR, CursorKind.COMPOUND_ASSIGNMENT_OPERATOR)
 BODIES = {  # the place of the body among the parts of a statement that may go without braces
     CursorKind.IF_STMT: slice(1, None),
@@ -34,6 +35,11 @@ class Site:
     mutated: str
     line: int
     is_statement: bool
+
+    def place(self, source):
+        """The file and the line's text."""
+        text = source.split("\n")[self.line - 1].strip()
+        return f"{self.path}: {text}"
 
     def change(self, source):
         """What is changed, wherever in the file it stands."""
@@ -68,9 +74,17 @@ def call(cursor):
     return tokens[:tokens.index("(")][:-1], cursor.spelling
 
 
+def does_nothing(cursor):
+    """Whether it calls what does nothing in Qt: the handlers of a bare widget for these events."""
+    return (called := call(cursor)) and called[0] == ["QWidget", "::"] and called[1] in EMPTY
+
+
 def matters(first, second):
-    """Whether the order of two statements may: they call, and not just two setters of one object."""
+    """Whether the order of two statements may: they call, not just two setters of one object, and
+    none only asks for a paint, which comes later."""
     if not (one := call(first)) or not (other := call(second)):
+        return False
+    if "update" in (one[1], other[1]):
         return False
     return one[0] != other[0] or not (one[1].startswith("set") and other[1].startswith("set"))
 
@@ -125,7 +139,8 @@ class Finder:
                 before = None
                 continue
             start = part.extent.start.offset
-            self.add(start, end, "deletion", "", is_statement=True)
+            if is_return or not does_nothing(part):
+                self.add(start, end, "deletion", "", is_statement=True)
             if before and not self.source[before[1]:start].strip() and matters(before[2], part):
                 swapped = f"{self.source[start:end]} {self.source[before[0]:before[1]]}"
                 self.add(before[0], end, "order", swapped, is_statement=True)

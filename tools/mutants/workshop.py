@@ -15,6 +15,7 @@ import time
 MEMORY = 4 << 30  # bytes, for a test
 SLOWER = 10  # times as long as without a change, or this many seconds: it does not end
 LEAST_SECONDS = 30
+OF_ALL_CLASSES = ["tst_accessible", "tst_accessibletouch", "tst_keptpixels", "tst_steadywork"]
 
 
 def write_if_different(path, text):
@@ -71,21 +72,25 @@ class Workshop:
         return {(os.path.relpath(os.path.realpath(self.build / path), self.tree), int(line))
                 for path, line in found}
 
+    @functools.cache
     def tests_of(self, path):
-        """The unit tests of a source, its own first, else those of whoever includes it."""
+        """The unit tests of a source: its own, those of whoever includes it, those of all classes."""
         stem = pathlib.Path(path).stem
-        name = re.compile(rf'#include [<"](detail/)?{stem}\.h[>"]')
+        header = (self.root / path).with_suffix(".h")
+        text = header.read_text() if header.exists() else ""
+        classes = re.findall(r"^class \w*EXPORT (\w+)", text, re.MULTILINE)
+        names = "|".join([rf"(detail/)?{stem}\.h", *classes])
+        name = re.compile(rf'#include [<"]({names})[>"]')
         tests = sorted((self.root / "tests" / "unit").glob("tst_*.cpp"))
-        if stem.startswith("accessible"):
-            return ["tst_accessible", "tst_accessibletouch"]
+        known = [test.stem for test in tests]
         users = [test.stem for test in tests if name.search(test.read_text())]
-        if not users:
-            sources = [source for source in (self.root / "src").rglob("*.cpp")
-                       if name.search(source.read_text())]
-            users = [test.stem for test in tests
-                     if any(test.stem == f"tst_{source.stem}" for source in sources)]
-        own = f"tst_{stem}"
-        return sorted(users, key=lambda user: (user != own, user))
+        users += [f"tst_{source.stem}" for source in sorted((self.root / "src").rglob("*.cpp"))
+                  if name.search(source.read_text())]
+        first = [f"tst_{stem}"]
+        if stem.startswith("accessible"):
+            first = ["tst_accessible", "tst_accessibletouch"]
+        wanted = [test for test in first + users if test in known + OF_ALL_CLASSES]
+        return list(dict.fromkeys(wanted + OF_ALL_CLASSES))
 
     def passes(self, test, number):
         """Whether a test passes with the change of this number; 0 is none."""
