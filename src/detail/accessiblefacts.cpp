@@ -52,7 +52,7 @@ bool hasBand(const MKARVOSlider &slider)
 
 QVariant AccessibleFacts::property(const char *name) const
 {
-    return name && m_object ? m_object->property(name) : QVariant();
+    return m_object ? m_object->property(name) : QVariant();
 }
 
 QString AccessibleFacts::text(const char *name) const { return property(name).toString(); }

@@ -44,10 +44,10 @@ private:
     enum class Kind { Scaled, Veiled };
 
     struct Key {
-        Kind kind = Kind::Scaled;
-        qint64 pixmap = 0; // QPixmap::cacheKey()
+        Kind kind;
+        qint64 pixmap; // QPixmap::cacheKey()
         QSize area; // px
-        int alpha = 0;
+        int alpha;
 
         auto tied() const { return std::tie(kind, pixmap, area, alpha); }
     };

@@ -16,13 +16,12 @@ namespace panelkit
 namespace
 {
 
-// Stands by itself, from left to right, with something to see. Anything else is interpreted by
-// drawText, which may place it differently or not draw it at all.
+// Runs from left to right and is no control character. Anything else is interpreted by drawText,
+// which may place it differently or not draw it at all.
 bool standsAlone(QChar letter)
 {
     const QChar::Direction direction = letter.direction();
-    return letter.isPrint() && !letter.isSpace() && !letter.isMark() && direction != QChar::DirR
-        && direction != QChar::DirAL;
+    return letter.isPrint() && direction != QChar::DirR && direction != QChar::DirAL;
 }
 
 } // namespace

@@ -79,7 +79,6 @@ void LinesCache::layOut(QPainter &painter)
     m_isPlain = !text.isEmpty() && (m_setting->flags & ~kPlainFlags) == 0
         && std::all_of(text.begin(), text.end(), standsInLine) && !isDecorated(m_setting->font)
         && m_bounds.height() < rect.height() && !(mayHang() && endsInSpaces(text));
-    m_layout.clearLayout();
     if (!m_isPlain)
         return;
 

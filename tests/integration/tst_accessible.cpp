@@ -51,6 +51,7 @@ QString statesOf(QWidget *widget)
     add(state.disabled, "disabled");
     add(state.focused, "focused");
     add(state.readOnly, "readOnly");
+    add(state.animated, "animated");
     add(state.invisible, "invisible");
     add(state.offscreen, "offscreen");
     return names.join(QLatin1Char(' '));
@@ -106,6 +107,9 @@ private slots:
         QCOMPARE(found->parent(), interfaceOf(&window));
         QVERIFY(found->window());
         QVERIFY(found->parent()->indexOfChild(found) >= 0);
+        QCOMPARE(found->indexOfChild(nullptr), -1);
+        QCOMPARE(found->indexOfChild(found->parent()), -1);
+        QVERIFY(!found->child(-1) && !found->child(found->childCount()));
     }
 
     void theApplicationsWordsComeFirst_data() { everyClass_data(); }
@@ -138,6 +142,7 @@ private slots:
         const bool isForReading =
             qstrlen(specimen->value) > 0 && !QByteArray(specimen->actions).contains("Increase");
         QCOMPARE(has("readOnly"), isForReading);
+        QCOMPARE(has("animated"), specimen->role == QAccessible::Animation);
         widget->setEnabled(false);
         QVERIFY(has("disabled"));
         widget->move(2000, 0);
@@ -229,6 +234,7 @@ private slots:
     void rowsOfATableList();
     void rowsAreThoseThatTheModelHasNow();
     void lettersOfAnIndex();
+    void lettersStandOnTheirArc();
     void hostileValuesAreRead_data() { everyClass_data(); }
     void hostileValuesAreRead();
     void aClientMayKeepWhatItHas_data() { everyClass_data(); }
@@ -253,7 +259,10 @@ void tst_Accessible::rowsOfATableList()
         QAccessibleInterface *row = found->child(i);
         QCOMPARE(found->indexOfChild(row), i);
         QCOMPARE(row->parent(), found);
-        rows += row->role() == QAccessible::ListItem ? 1 : 0;
+        const bool isRow = row->role() == QAccessible::ListItem;
+        QCOMPARE(bool(row->state().selectable), isRow);
+        QCOMPARE(row->actionInterface() != nullptr, isRow);
+        rows += isRow ? 1 : 0;
         if (!row->state().invisible && !row->state().offscreen)
             inSight += nameOf(*row);
     }
@@ -283,6 +292,9 @@ void tst_Accessible::rowsAreThoseThatTheModelHasNow()
     list.setUIStyle(SpTableList::LIST_STYLE_5);
     model->setData(model->index(2, 0), QStringLiteral("Title/Artist"), 262);
     QCOMPARE(nameOf(*last), QStringLiteral("Title, Artist"));
+    model->setData(model->index(2, 0), 0, 258);
+    model->setData(model->index(2, 0), QStringLiteral("of a plain model"), Qt::DisplayRole);
+    QCOMPARE(nameOf(*last), QStringLiteral("of a plain model"));
     model->setData(model->index(2, 0), QStringLiteral("said"), Qt::AccessibleTextRole);
     QCOMPARE(nameOf(*last), QStringLiteral("said"));
     model->removeRow(0);
@@ -318,10 +330,28 @@ void tst_Accessible::lettersOfAnIndex()
         QCOMPARE(nameOf(*third), QStringLiteral("C"));
         QVERIFY(found->child(1)->state().selected && !third->state().selected);
         QVERIFY(found->child(9)->state().offscreen && !third->state().offscreen);
+        QVERIFY(!found->childAt(found->rect().left() + 1, found->rect().bottom() - 1));
         QCOMPARE(found->childAt(third->rect().center().x(), third->rect().center().y()), third);
         touch(&index).press(third->rect().center() - found->rect().topLeft());
         QVERIFY(third->state().pressed && !found->child(1)->state().pressed);
     }
+}
+
+// The third one at 25 degrees below the level of the arc's middle.
+void tst_Accessible::lettersStandOnTheirArc()
+{
+    QWidget window;
+    MArcList index(&window);
+    index.setRadius(1000);
+    index.setItemHight(10);
+    index.setGeometry(0, 0, 1100, 1100);
+    for (const QChar letter : QStringLiteral("ABC"))
+        index.addAlpha(letter);
+    window.show();
+    QAccessibleInterface *found = interfaceOf(&index);
+    const QPoint place(906, 550 + 422); // the cosine of 25 degrees is 0.9063, the sine 0.4226
+    QCOMPARE(found->child(2)->rect(),
+             QRect(place - QPoint(20, 20), QSize(40, 40)).translated(found->rect().topLeft()));
 }
 
 // Whatever the properties are: what is read agrees with the widget, and a touch is one or none.

@@ -9,6 +9,7 @@
 #include "widgettest.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QScrollBar>
 
 namespace
@@ -228,6 +229,22 @@ private slots:
                      QStringList());
     }
 
+    void theFocusIsSetWithoutATouch_data() { addRows(m_buttons, "SetFocus"); }
+
+    void theFocusIsSetWithoutATouch()
+    {
+        QFETCH(const Specimen *, specimen);
+        bool hasFocus = false;
+        const QStringList lines = said(*specimen, [&](QWidget *widget) {
+            QApplication::setActiveWindow(widget->window());
+            widget->clearFocus();
+            actionsOf(widget)->doAction(QStringLiteral("SetFocus"));
+            hasFocus = widget->hasFocus();
+        });
+        QVERIFY(hasFocus);
+        QCOMPARE(lines, QStringList());
+    }
+
     void pagesTurnAsBySwipes()
     {
         const Specimen &pages = specimen("SpSetupSliderContainer");
@@ -252,6 +269,8 @@ private slots:
     void everyValueCanBeSet_data() { addRows(m_sliders, "Increase"); }
     void everyValueCanBeSet();
     void aStepMovesThoughPixelsAreFew();
+    void aVeryLongTrackIsTouchedInItsMiddle();
+    void aFingerGoesHalfTheLengthBeyondAnEnd();
     void aRowIsPressedAsByATap();
     void aRowOutOfSightIsScrolledTo();
     void aLetterIsPressedAsByATap();
@@ -331,6 +350,7 @@ void tst_AccessibleTouch::everyValueCanBeSet()
     }
     QVERIFY2(most - before < 0.2, qPrintable(QString::number(before)));
     QVERIFY(steps >= 10);
+    QCOMPARE(values->currentValue().toDouble(), before); // beyond the end there is no place
     actionsOf(widget)->doAction(QStringLiteral("Decrease"));
     QVERIFY(values->currentValue().toDouble() < before);
 }
@@ -348,6 +368,29 @@ void tst_AccessibleTouch::aStepMovesThoughPixelsAreFew()
     bar->setCurrentValue(5000);
     actionsOf(widget)->doAction(QStringLiteral("Decrease"));
     QVERIFY(bar->currentValue() < 5000 && bar->currentValue() > 4900);
+}
+
+// Of its places every second is tried.
+void tst_AccessibleTouch::aVeryLongTrackIsTouchedInItsMiddle()
+{
+    QWidget window;
+    QWidget *widget = shown(specimen("MProgressBar"), window);
+    widget->resize(5000, 40);
+    auto *bar = static_cast<MProgressBar *>(widget);
+    bar->setCurrentValue(0);
+    QAccessible::queryAccessibleInterface(widget)->valueInterface()->setCurrentValue(50);
+    QCOMPARE(bar->currentValue(), 50);
+}
+
+void tst_AccessibleTouch::aFingerGoesHalfTheLengthBeyondAnEnd()
+{
+    QWidget window;
+    QWidget *widget = shown(specimen("MRadioMovePoint"), window);
+    widget->resize(40, 120); // of a scale of 780 px
+    auto *values = QAccessible::queryAccessibleInterface(widget)->valueInterface();
+    values->setCurrentValue(10800);
+    auto *needle = widget->findChild<MovePoint *>();
+    QCOMPARE(values->currentValue().toInt(), needle->cacPosMapFreq(59));
 }
 
 void tst_AccessibleTouch::aRowIsPressedAsByATap()

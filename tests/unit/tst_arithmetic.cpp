@@ -40,6 +40,7 @@ private slots:
         const double infinity = std::numeric_limits<double>::infinity();
         QCOMPARE(ratio(7.0, 2.0), 3.5);
         QCOMPARE(ratio(-7.0, 2.0), -3.5);
+        QCOMPARE(ratio(7.0, 1.0), 7.0);
         QCOMPARE(ratio(1, 0.0), infinity);
         QCOMPARE(ratio(-1, 0.0), -infinity);
         QCOMPARE(ratio(1, -0.0), -infinity);

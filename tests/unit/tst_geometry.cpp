@@ -90,6 +90,10 @@ private slots:
         QVERIFY(touchDirection(4, 3, 0).value() == degrees(3, 4) + 90);
         QVERIFY(touchDirection(-3, 4, 0).value() == degrees(3, 4) + 180);
         QVERIFY(touchDirection(-4, -3, 0).value() == degrees(3, 4) + 270);
+        QVERIFY(touchDirection(0.3, -0.4, 0).value() == degrees(0.3, 0.4));
+        QVERIFY(touchDirection(0.4, 0.3, 0).value() == degrees(0.3, 0.4) + 90);
+        QVERIFY(touchDirection(-0.3, 0.4, 0).value() == degrees(0.3, 0.4) + 180);
+        QVERIFY(touchDirection(-0.4, -0.3, 0).value() == degrees(0.3, 0.4) + 270);
         QVERIFY(touchDirection(3, -4, -90).value() == degrees(3, 4) - 90);
         QVERIFY(touchDirection(-4, -3, -90).value() == degrees(3, 4) + 180);
     }

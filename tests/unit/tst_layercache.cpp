@@ -316,20 +316,54 @@ private slots:
         Layer layer;
         int paints = 0;
         const Paint counted = [&](QPainter &) { ++paints; };
-        for (int paint = 0; paint < 3; ++paint) {
-            onCanvas(
-                &layer, [](QPainter &p) { p.translate(151, 0); }, kContent, counted);
-            onCanvas(
-                &layer, [](QPainter &p) { p.translate(-31, 0); }, kContent, counted);
-            onCanvas(
-                &layer, [](QPainter &p) { p.translate(0, 131); }, kContent, counted);
+        for (const QPoint &place : {QPoint(151, 0), QPoint(-31, 0), QPoint(0, 131)}) {
+            for (int paint = 0; paint < 3; ++paint)
+                onCanvas(
+                    &layer, [=](QPainter &p) { p.translate(place); }, kContent, counted);
+        }
+        for (int paint = 0; paint < 3; ++paint)
             onCanvas(&layer, turn, {QRectF(std::numeric_limits<qreal>::quiet_NaN(), 0, 9, 9), {0}},
                      counted);
-        }
         QCOMPARE(paints, 0);
         onCanvas(
             &layer, [](QPainter &p) { p.translate(150, 0); }, kContent, counted);
         QCOMPARE(paints, 1);
+    }
+
+    void allInkIsCopied_data()
+    {
+        QTest::addColumn<QRect>("ink");
+        QTest::newRow("all") << QRect(0, 0, 121, 100);
+        QTest::newRow("the first column") << QRect(0, 0, 1, 100);
+        QTest::newRow("the last column") << QRect(120, 0, 1, 100);
+        QTest::newRow("the first row") << QRect(0, 0, 121, 1);
+        QTest::newRow("the last row") << QRect(0, 99, 121, 1);
+        QTest::newRow("one pixel") << QRect(55, 40, 1, 1);
+        QTest::newRow("one that registers begin with") << QRect(64, 40, 1, 1);
+        QTest::newRow("one that they end with") << QRect(63, 40, 1, 1);
+    }
+
+    // The last column is the first of a vector register.
+    void allInkIsCopied()
+    {
+        QFETCH(QRect, ink);
+        const auto drawn = [=](const Paint &paint) {
+            QImage image(121, 100, QImage::Format_ARGB32_Premultiplied);
+            image.fill(QColor(24, 28, 36));
+            QPainter painter(&image);
+            paint(painter);
+            painter.end();
+            return image;
+        };
+        const Paint fill = [=](QPainter &p) { p.fillRect(ink, QColor(240, 160, 0)); };
+        Layer layer;
+        for (int paint = 0; paint < 3; ++paint) {
+            COMPARE_PICTURES(drawn([&](QPainter &p) {
+                                 layer.draw(p, {}, {0, 0, 121, 100}, {3}, fill);
+                             }),
+                             drawn(fill));
+        }
+        QCOMPARE(layer.compositions(), 1);
     }
 
     void nothingToSeeIsKeptToo()

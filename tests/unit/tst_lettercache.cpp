@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "detail/lettercache.h"
 
+#include "allocations.h"
 #include "randomtexts.h"
 #include "widgettest.h"
 
@@ -152,6 +153,27 @@ private slots:
             });
         }
         QCOMPARE(letters.layouts(), 2);
+    }
+
+    // That takes memory, which drawText() asks for each time.
+    void aKeptLetterIsNotShapedAgain()
+    {
+        qint64 byDrawText = 0; // bytes
+        qint64 byCache = 0;
+        onCanvas(0, fontOf(20), [&](QPainter &p) {
+            LetterCache letters;
+            const auto drawAll = [&] {
+                for (const char c : {'A', '(', '7'})
+                    draw(letters, p, kBox, kFlags, QLatin1Char(c));
+            };
+            drawAll();
+            byCache = allocations::during(drawAll);
+            byDrawText = allocations::during([&] {
+                for (const char *text : {"A", "(", "7"})
+                    p.drawText(kBox, kFlags, QLatin1String(text));
+            });
+        });
+        QVERIFY(10 * byCache < byDrawText);
     }
 
     void anotherFontBoxOrAlignmentLaysOutAnew()

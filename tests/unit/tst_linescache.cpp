@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "detail/linescache.h"
 
+#include "allocations.h"
 #include "randomtexts.h"
 #include "textcanvas.h"
 #include "widgettest.h"
@@ -175,16 +176,47 @@ private slots:
         QCOMPARE(lines.layouts(), 1);
     }
 
+    void linesOutOfSightAreNotDrawn_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<Qt::LayoutDirection>("direction");
+        QTest::newRow("plain") << QStringLiteral("MMM\n") << Qt::LeftToRight;
+        QTest::newRow("with a tab") << QStringLiteral("M\tM\n") << Qt::LeftToRight;
+        QTest::newRow("with a return") << QStringLiteral("MMM\r\n") << Qt::LeftToRight;
+        QTest::newRow("ending in a space") << QStringLiteral("MMM \n") << Qt::RightToLeft;
+    }
+
     void linesOutOfSightAreNotDrawn()
     {
+        QFETCH(QString, line);
+        QFETCH(Qt::LayoutDirection, direction);
         LinesCache lines;
-        const QString text = QStringLiteral("MMM\n").repeated(5) + QStringLiteral("MMM");
-        const QImage drawn = onCanvas(
-            [&](QPainter &p) { lines.draw(p, kRect, Qt::AlignTop, text, QRect(0, 60, 180, 1)); });
+        const QString text = line.repeated(5) + QStringLiteral("MMM");
+        const QImage drawn = onCanvas([&](QPainter &p) {
+            p.setLayoutDirection(direction);
+            lines.draw(p, kRect, Qt::AlignTop, text, QRect(0, 60, 180, 1));
+        });
         const QImage blank = onCanvas([](QPainter &) {});
         QVERIFY(drawn.copy(0, 55, 180, 15) != blank.copy(0, 55, 180, 15));
         QCOMPARE(drawn.copy(0, 0, 180, 20), blank.copy(0, 0, 180, 20));
         QCOMPARE(drawn.copy(0, 110, 180, 50), blank.copy(0, 110, 180, 50));
+    }
+
+    // Once for its bounds and once for the layout that is kept; drawText() shapes it each time.
+    void aTextIsShapedTwiceAndThenNoMore()
+    {
+        const QString text = texts().at(1);
+        qint64 byDrawText = 0; // bytes
+        QVector<qint64> byCache;
+        onCanvas([&](QPainter &p) {
+            p.drawText(kRect, Qt::AlignCenter, text); // the font's memory is not the text's
+            LinesCache lines;
+            const auto draw = [&] { lines.draw(p, kRect, Qt::AlignCenter, text, kCanvas); };
+            byCache = {allocations::during(draw), allocations::during(draw)};
+            byDrawText = allocations::during([&] { p.drawText(kRect, Qt::AlignCenter, text); });
+        });
+        QVERIFY(2 * byCache[0] < 5 * byDrawText);
+        QVERIFY(10 * byCache[1] < byDrawText);
     }
 
     void underATransformThePixelsAreThoseOfDrawText()

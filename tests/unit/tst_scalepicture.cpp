@@ -104,7 +104,7 @@ private slots:
         const QRect all(QPoint(), kArea);
         for (const auto &[solid, faint] :
              {std::pair(QColor(Qt::white), QColor(255, 255, 255, 70)),
-              std::pair(QColor(200, 30, 60, 120), QColor(200, 30, 60, 70)),
+              std::pair(QColor(200, 30, 60, 120), QColor(30, 200, 60, 70)),
               std::pair(QColor(), QColor())}) {
             const QColor s = solid;
             const QColor f = faint;
@@ -265,6 +265,45 @@ private slots:
                              for (int i = 0; i < kLabels; ++i)
                                  p.drawText(boxOf(i), Qt::AlignCenter, QString::number(i));
                          }));
+    }
+
+    void aNewPictureHasNothingOfTheOneBefore()
+    {
+        const QVector<Item> items = scale(55, 9);
+        const QColor color(200, 30, 60, 120);
+        ScalePicture picture;
+        add(picture, scale(55, 7));
+        add(picture, items);
+        COMPARE_PICTURES(onCanvas([&](QPainter &p) {
+                             picture.draw(p, {QPoint(), kArea}, color, color);
+                         }),
+                         onCanvas([&](QPainter &p) { drawOneByOne(p, items, color, color); }));
+    }
+
+    // Where the painter stands aside there is more to see than the area.
+    void linesAreKeptAsFarAsTheyMayShow()
+    {
+        constexpr int kFar = ScalePicture::kOverhang;
+        ScalePicture picture;
+        const int right = kArea.width() - 1;
+        for (const int x : {-kFar - 1, -kFar, right + kFar, right + kFar + 1}) {
+            const bool isKept = x >= -kFar && x <= right + kFar;
+            add(picture, {{false, false, x, 5, 50}});
+            const auto aside = [=](const std::function<void(QPainter &)> &paint) {
+                return onCanvas([&](QPainter &p) {
+                    p.translate(20 - x, 0);
+                    paint(p);
+                });
+            };
+            COMPARE_PICTURES(aside([&](QPainter &p) {
+                                 picture.draw(p, {QPoint(), kArea}, Qt::white);
+                             }),
+                             aside([&](QPainter &p) {
+                                 p.setPen(Qt::white);
+                                 if (isKept)
+                                     p.drawLine(x, 5, x, 50);
+                             }));
+        }
     }
 
     void linesEndAtTheArea()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "detail/textcache.h"
 
+#include "allocations.h"
 #include "randomtexts.h"
 #include "textcanvas.h"
 #include "widgettest.h"
@@ -192,6 +193,22 @@ private slots:
         for (int i = 0; i < 3; ++i)
             onCanvas([&](QPainter &p) { cache.draw(p, kRect, Qt::AlignCenter, texts().first()); });
         QCOMPARE(cache.layouts(), 1);
+    }
+
+    // That takes memory, which drawText() asks for each time.
+    void aKeptTextIsNotShapedAgain()
+    {
+        const QString text = texts().first();
+        qint64 byDrawText = 0; // bytes
+        qint64 byCache = 0;
+        onCanvas([&](QPainter &p) {
+            TextCache cache;
+            const auto draw = [&] { cache.draw(p, kRect, Qt::AlignCenter, text); };
+            draw();
+            byCache = allocations::during(draw);
+            byDrawText = allocations::during([&] { p.drawText(kRect, Qt::AlignCenter, text); });
+        });
+        QVERIFY(10 * byCache < byDrawText);
     }
 
     void everyInputCounts()
