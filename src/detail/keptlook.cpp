@@ -114,15 +114,17 @@ bool KeptPixels::copyTo(QPainter &painter, const QRect &area, bool isNew)
     return true;
 }
 
-// There is nothing to take in a first paint, which has no ground. If there is no memory, the next
-// paint begins with another ground.
+// There is nothing to take in a first paint, which has no ground, nor if there is no memory.
 void KeptPixels::take(const QPainter &painter)
 {
     if (m_ground.isNull())
         return;
     const auto *image = static_cast<const QImage *>(painter.paintEngine()->paintDevice());
     m_result = partOf(*image, m_place->rect);
-    ++m_takings;
+    if (m_result.isNull())
+        forget();
+    else
+        ++m_takings;
 }
 
 // In the coordinates of the device, to which the painter's own are led.
