@@ -63,15 +63,14 @@ class Workshop:
                 if re.match(r"-(std|D|I|isystem)", argument) or argument.startswith("/usr/include")]
 
     def compile(self, *targets):
-        """Builds; None, or the places (path, line) of the errors, all at once, then of the notes that
-        say where they come from."""
+        """Builds; the places (path, line) of the errors, all at once. None if there are none."""
         run = subprocess.run(["ninja", "-k", "0", *targets], cwd=self.build, check=False,
                              stdout=subprocess.PIPE, text=True)
         if run.returncode == 0:
             return None
-        return [{(os.path.relpath(os.path.realpath(self.build / path), self.tree), int(line))
-                 for path, line in re.findall(rf"^(\S+?):(\d+):\d+: {kind}:", run.stdout, re.M)}
-                for kind in ("(?:fatal )?error", "note")]
+        found = re.findall(r"^(\S+?):(\d+):\d+: (?:fatal )?error:", run.stdout, re.MULTILINE)
+        return {(os.path.relpath(os.path.realpath(self.build / path), self.tree), int(line))
+                for path, line in found}
 
     @functools.cache
     def tests_of(self, path):
