@@ -8,6 +8,8 @@
 #include "widgettest.h"
 
 #include <QAccessible>
+#include <QCoreApplication>
+#include <QProcess>
 #include <QLabel>
 #include <QLayout>
 
@@ -111,6 +113,21 @@ private slots:
         QCOMPARE(found->indexOfChild(found->parent()), -1);
         QVERIFY(!found->child(-1) && !found->child(found->childCount()));
     }
+
+#ifndef PANELKIT_EMULATED // a program that the processor cannot start by itself
+    void aClassIsReadWhereThereIsNoOther_data() { everyClass_data(); }
+
+    void aClassIsReadWhereThereIsNoOther()
+    {
+        QFETCH(const Specimen *, specimen);
+        QProcess process;
+        process.start(QCoreApplication::applicationFilePath(),
+                      {QStringLiteral("everyClass:%1").arg(QLatin1String(specimen->name))});
+        QVERIFY(process.waitForFinished(-1));
+        QVERIFY2(process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0,
+                 process.readAllStandardOutput());
+    }
+#endif
 
     void theApplicationsWordsComeFirst_data() { everyClass_data(); }
 
