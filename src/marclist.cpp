@@ -9,6 +9,7 @@
 #include "detail/lettercache.h"
 #include "detail/memo.h"
 #include "detail/minuteclock.h"
+#include "detail/textstrip.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -31,6 +32,7 @@ namespace
 constexpr int kLetterBox = 40; // px, width and height of the box of a character
 constexpr QRect kArcBox(-kLetterBox / 2, 0, kLetterBox, kLetterBox); // of a letter on the arc
 constexpr double kColumnTop = 5.0; // px above the box of the first row
+constexpr int kFewTurns = 8; // the painter keeps the letters of ten turns; the others it fills anew
 constexpr double kReach = 100.0; // px inside and outside the arc; a touch from there on is none
 constexpr int kTapSlop = 99; // px; a release in a column up to this far from the press is a tap
 constexpr double kPixelsPerDegree = 15.0; // finger travel that turns the arc
@@ -83,6 +85,25 @@ public:
         }
     };
 
+    // What the pixels of the letters depend on.
+    struct Letters {
+        double radius; // px
+        double startAngle; // degrees
+        double itemHight; // degrees
+        int showItem;
+        int pressedIndex;
+        QRgb pressColor;
+        Qt::LayoutDirection direction;
+        QVector<QChar> characters;
+        QFont font;
+
+        auto tied() const
+        {
+            return std::tie(startAngle, radius, itemHight, showItem, pressedIndex, pressColor,
+                            direction, characters, font);
+        }
+    };
+
     static double tell(const QWidget *widget, AccessibleFact fact, const QPoint &at);
     bool isItem(qint64 index) const;
     double arcEnd() const;
@@ -93,6 +114,7 @@ public:
     void fling(double way, double low, double high);
     void startFling(const QPoint &pos);
     const std::vector<Place> &placesOnArc(const QPainter &painter);
+    void drawLetters(QPainter &painter);
     void drawMarker(QPainter &painter, int marker, int index);
 
     MArcList *const q;
@@ -118,6 +140,8 @@ public:
 
     LetterCache letters;
     Memo<Arc, std::vector<Place>> places;
+    TextSmoothing smoothing;
+    LayerCache<Letters> arcLayer;
     std::array<LayerCache<PictureKey>, 2> markers; // pressed, current
 };
 
@@ -274,18 +298,24 @@ void MArcList::drawTicks(QPainter *painter)
 {
     if (!painter)
         return;
-    d->letters.set(*painter, kArcBox.size(), Qt::AlignCenter);
-    const QTransform origin = painter->worldTransform();
-    const QPen pen = painter->pen();
-    for (const Private::Place &place : d->placesOnArc(*painter)) {
-        painter->setWorldTransform(place.transform);
-        if (place.index == d->pressedIndex)
-            painter->setPen(QPen(d->pressColor));
-        d->letters.draw(*painter, kArcBox.topLeft(), d->characters[place.index]);
-        if (place.index == d->pressedIndex)
-            painter->setPen(pen);
+    const auto draw = [&](QPainter &p) {
+        p.setFont(painter->font());
+        p.setLayoutDirection(painter->layoutDirection());
+        d->drawLetters(p);
+    };
+    const bool canCopy = d->pressColor.alpha() == 255
+        && d->smoothing.canCopy(*painter, painter->pen().color())
+        && d->placesOnArc(*painter).size() > kFewTurns;
+    if (!canCopy) {
+        draw(*painter);
+        return;
     }
-    painter->setWorldTransform(origin);
+    const auto reach = qreal(std::abs(d->radius) + 2 * kLetterBox);
+    d->arcLayer.draw(*painter, painter->worldTransform(), {-reach, -reach, 2 * reach, 2 * reach},
+                     {d->radius, d->startAngle, d->itemHight, d->showItem, d->pressedIndex,
+                      d->pressColor.rgba(), painter->layoutDirection(), d->characters,
+                      painter->font()},
+                     draw);
 }
 
 /** Draws the marker of the arc at the pressed character, and at the current one if it is another.
@@ -504,6 +534,22 @@ void MArcList::Private::startFling(const QPoint &pos)
     const qint64 steps = distance(pos.y(), pressPos.y()) * 2 / duration;
     flingSteps = int(std::min<qint64>(steps, std::numeric_limits<int>::max()));
     flingTimer.start();
+}
+
+void MArcList::Private::drawLetters(QPainter &painter)
+{
+    letters.set(painter, kArcBox.size(), Qt::AlignCenter);
+    const QTransform origin = painter.worldTransform();
+    const QPen pen = painter.pen();
+    for (const Place &place : placesOnArc(painter)) {
+        painter.setWorldTransform(place.transform);
+        if (place.index == pressedIndex)
+            painter.setPen(QPen(pressColor));
+        letters.draw(painter, kArcBox.topLeft(), characters[place.index]);
+        if (place.index == pressedIndex)
+            painter.setPen(pen);
+    }
+    painter.setWorldTransform(origin);
 }
 
 // The arc is turned on from letter to letter, drawn or not, so that rounding is the same wherever

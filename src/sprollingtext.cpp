@@ -4,13 +4,14 @@
 #include "detail/accessible.h"
 #include "detail/arithmetic.h"
 #include "detail/fonts.h"
+#include "detail/layercache.h"
 #include "detail/linescache.h"
+#include "detail/marquee.h"
 #include "detail/search.h"
 #include "detail/textcache.h"
 
 #include <QFontMetrics>
 #include <QGraphicsDropShadowEffect>
-#include <QLinearGradient>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTimer>
@@ -27,8 +28,6 @@ constexpr int kRollInterval = 150; // ms
 constexpr int kRollStep = 2; // px
 constexpr int kGap = 16; // spaces between the end of a rolling text and its restart
 constexpr int kSpareCharacters = 3; // beyond those that can be seen
-constexpr qreal kFadeIn = qreal(0.08); // of the diagonal
-constexpr qreal kFadeOut = qreal(0.92);
 constexpr qreal kShadowBlur = qreal(0.5); // px
 constexpr qreal kFarthestShadow = 16384; // px, either way
 
@@ -83,7 +82,10 @@ public:
     QFont measuredFont;
     int measuredWidth = 0; // px
     TextCache resting;
+    TextSmoothing smoothing;
+    LayerCache<TextSetting> layer; // of a text at rest
     LinesCache rolling;
+    Marquee marquee;
 };
 
 /** An empty line. */
@@ -109,6 +111,8 @@ void SpRollingText::setText(QString text)
 {
     d->rollTimer->stop();
     d->isRolling = false;
+    d->layer = {};
+    d->marquee.clear();
     d->rollSource = text;
     d->text = std::move(text);
     d->nextIndex = 0;
@@ -309,20 +313,39 @@ void SpRollingText::Private::startRolling()
 void SpRollingText::Private::drawResting(QPainter &painter)
 {
     painter.setPen(textColor);
-    resting.draw(painter, QRectF(q->rect()), int(textAlignment), displayText);
+    const QRectF place(q->rect());
+    const TextSetting setting{displayText, place.size(), int(textAlignment), painter.font(),
+                              painter.layoutDirection()};
+    const auto draw = [&](QPainter &p) {
+        p.setFont(setting.font);
+        p.setLayoutDirection(setting.direction);
+        resting.draw(p, place, setting.flags, setting.text);
+    };
+    if (smoothing.canCopy(painter, textColor))
+        layer.draw(painter, painter.worldTransform(), place, setting, draw);
+    else
+        draw(painter);
 }
 
 // Both ends fade along the diagonal of the widget. A TextCache would place such a pen by the
 // window.
 void SpRollingText::Private::drawRolling(QPainter &painter)
 {
-    QLinearGradient fade(q->rect().topLeft(), q->rect().bottomRight());
-    fade.setColorAt(0, Qt::transparent);
-    fade.setColorAt(kFadeIn, textColor);
-    fade.setColorAt(kFadeOut, textColor);
-    fade.setColorAt(1, Qt::transparent);
-    painter.setPen(QPen(fade, qreal(q->width()), Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
-    const QRect place(-pixelOffset, 0, displayWidth(), q->height());
+    const QSize area = q->size();
+    const QRect place(-pixelOffset, 0, displayWidth(), area.height());
+    const Marquee::Look look{
+        textColor.rgba(),
+        area,
+        rolling.beginning(painter, place, int(textAlignment), displayText),
+        {displayText, place.size(), int(textAlignment), painter.font(), painter.layoutDirection()}};
+    const auto drawApart = [&](QPainter &p, int first) {
+        return rolling.drawEverySecond(p, place, int(textAlignment), displayText, first);
+    };
+    const bool isCut = isInFirstColumn(painter)
+        && rolling.mayBeginAt(0, painter, place, int(textAlignment), displayText);
+    if (!isCut && marquee.draw(painter, look, pixelOffset, firstWidth, drawApart))
+        return;
+    painter.setPen(Marquee::pen(area, textColor));
     rolling.draw(painter, place, int(textAlignment), displayText, q->rect());
 }
 

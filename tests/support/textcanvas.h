@@ -19,6 +19,22 @@ inline QImage onCanvas(const QSize &size, const std::function<void(QPainter &)> 
     return image;
 }
 
+/// The largest difference of a colour between two pictures.
+inline int distance(const QImage &a, const QImage &b)
+{
+    int most = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            const QRgb p = a.pixel(x, y);
+            const QRgb q = b.pixel(x, y);
+            most = qMax(most,
+                        qMax(qAbs(qRed(p) - qRed(q)),
+                             qMax(qAbs(qGreen(p) - qGreen(q)), qAbs(qBlue(p) - qBlue(q)))));
+        }
+    }
+    return most;
+}
+
 inline QFont fontOf(int px)
 {
     QFont font(QStringLiteral("DejaVu Sans"));
