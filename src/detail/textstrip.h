@@ -17,7 +17,7 @@ namespace panelkit
 {
 
 /// Whether text may be kept as pixels. Not where its smoothing depends on what lies below it, as
-/// that for the stripes of a screen does, and where a device has fewer colours.
+/// that for the stripes of a screen does, nor where a device has fewer colours, nor very large text.
 class TextSmoothing
 {
 public:

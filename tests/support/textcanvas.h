@@ -35,6 +35,17 @@ inline int distance(const QImage &a, const QImage &b)
     return most;
 }
 
+/// Has a letter rendered, at this part of a pixel, in a size that nothing else is drawn in: very
+/// large text of the same font is drawn in another way from then on.
+inline void renderNewLetter(QFont font, int px, qreal part)
+{
+    font.setPixelSize(px);
+    onCanvas({60, 60}, [&](QPainter &painter) {
+        painter.setFont(font);
+        painter.drawText(QPointF(part, 50), QStringLiteral("g"));
+    });
+}
+
 inline QFont fontOf(int px)
 {
     QFont font(QStringLiteral("DejaVu Sans"));

@@ -5,6 +5,7 @@
 #include "setters.h"
 #include "signallog.h"
 #include "tablerows.h"
+#include "textcanvas.h"
 #include "touch.h"
 #include "virtualtime.h"
 #include "widgettest.h"
@@ -399,6 +400,27 @@ private slots:
                     first = image;
                 COMPARE_PICTURES(image, first);
             }
+        }
+    }
+
+    // Qt draws such a text in another way after each new letter of its font, of whatever size.
+    void aVeryLargeTextIsDrawnInEachPaint()
+    {
+        for (const bool isRolling : {false, true}) {
+            const auto kept = makeText();
+            const auto fresh = makeText();
+            for (SpRollingText *text : {kept.get(), fresh.get()}) {
+                text->resize(600, 110);
+                text->setFontSize(80);
+                text->setAutoRoll(isRolling);
+                text->setText(isRolling ? kLong : QStringLiteral("Radio 98.5"));
+            }
+            QImage before;
+            for (int paint = 0; paint < 3; ++paint)
+                before = painted(*kept);
+            renderNewLetter(kept->font(), isRolling ? 27 : 29, 0.75);
+            QVERIFY(painted(*fresh) != before);
+            COMPARE_PICTURES(painted(*kept), painted(*fresh));
         }
     }
 

@@ -159,6 +159,8 @@ private slots:
         QVERIFY(!yes([](QPainter &p) { p.setOpacity(qreal(0.9)); }));
         QVERIFY(!yes([](QPainter &p) { p.setWindow(0, 0, 90, 30); }));
         QVERIFY(!yes([](QPainter &p) { p.setCompositionMode(QPainter::CompositionMode_Plus); }));
+        QVERIFY(yes([](QPainter &p) { p.setFont(fontOf(63)); }));
+        QVERIFY(!yes([](QPainter &p) { p.setFont(fontOf(64)); }));
         QPicture picture;
         QPainter painter(&picture);
         QVERIFY(!TextSmoothing().canCopy(painter, Qt::white));
