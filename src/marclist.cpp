@@ -4,12 +4,13 @@
 #include "detail/accessible.h"
 #include "detail/arithmetic.h"
 #include "detail/deviceview.h"
+#include "detail/drawntext.h"
 #include "detail/geometry.h"
+#include "detail/keptlook.h"
 #include "detail/layercache.h"
 #include "detail/lettercache.h"
 #include "detail/memo.h"
 #include "detail/minuteclock.h"
-#include "detail/textstrip.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -32,7 +33,6 @@ namespace
 constexpr int kLetterBox = 40; // px, width and height of the box of a character
 constexpr QRect kArcBox(-kLetterBox / 2, 0, kLetterBox, kLetterBox); // of a letter on the arc
 constexpr double kColumnTop = 5.0; // px above the box of the first row
-constexpr int kFewTurns = 8; // the painter keeps the letters of ten turns; the others it fills anew
 constexpr double kReach = 100.0; // px inside and outside the arc; a touch from there on is none
 constexpr int kTapSlop = 99; // px; a release in a column up to this far from the press is a tap
 constexpr double kPixelsPerDegree = 15.0; // finger travel that turns the arc
@@ -92,15 +92,16 @@ public:
         double itemHight; // degrees
         int showItem;
         int pressedIndex;
-        QRgb pressColor;
+        QColor pressColor;
         Qt::LayoutDirection direction;
+        QPen pen;
         QVector<QChar> characters;
         QFont font;
 
         auto tied() const
         {
             return std::tie(startAngle, radius, itemHight, showItem, pressedIndex, pressColor,
-                            direction, characters, font);
+                            direction, pen, characters, font);
         }
     };
 
@@ -140,8 +141,8 @@ public:
 
     LetterCache letters;
     Memo<Arc, std::vector<Place>> places;
-    TextSmoothing smoothing;
-    LayerCache<Letters> arcLayer;
+    QRectF inked; // where letters may have ink
+    KeptLook<Letters> look; // of the arc
     std::array<LayerCache<PictureKey>, 2> markers; // pressed, current
 };
 
@@ -298,24 +299,17 @@ void MArcList::drawTicks(QPainter *painter)
 {
     if (!painter)
         return;
-    const auto draw = [&](QPainter &p) {
-        p.setFont(painter->font());
-        p.setLayoutDirection(painter->layoutDirection());
-        d->drawLetters(p);
-    };
-    const bool canCopy = d->pressColor.alpha() == 255
-        && d->smoothing.canCopy(*painter, painter->pen().color())
-        && d->placesOnArc(*painter).size() > kFewTurns;
-    if (!canCopy) {
-        draw(*painter);
+    if (isFilledText(*painter)) {
+        d->look.forget();
+        d->drawLetters(*painter);
         return;
     }
-    const auto reach = qreal(std::abs(d->radius) + 2 * kLetterBox);
-    d->arcLayer.draw(*painter, painter->worldTransform(), {-reach, -reach, 2 * reach, 2 * reach},
-                     {d->radius, d->startAngle, d->itemHight, d->showItem, d->pressedIndex,
-                      d->pressColor.rgba(), painter->layoutDirection(), d->characters,
-                      painter->font()},
-                     draw);
+    d->placesOnArc(*painter);
+    d->look.draw(*painter, painter->worldTransform().inverted().mapRect(d->inked).toAlignedRect(),
+                 {d->radius, d->startAngle, d->itemHight, d->showItem, d->pressedIndex,
+                  d->pressColor, painter->layoutDirection(), painter->pen(), d->characters,
+                  painter->font()},
+                 [this](QPainter &p) { d->drawLetters(p); });
 }
 
 /** Draws the marker of the arc at the pressed character, and at the current one if it is another.
@@ -349,7 +343,7 @@ void MArcList::drawTicks1(QPainter *painter)
             boundedRect(d->textXOffset, toInt(double(i - first) * d->itemHight + kColumnTop),
                         kLetterBox, kLetterBox);
         if (view.shows(painter->worldTransform(), box))
-            d->letters.draw(*painter, box.topLeft(), d->characters[i]);
+            d->letters.draw(*painter, box.topLeft(), d->characters.at(i));
     }
 }
 
@@ -545,7 +539,7 @@ void MArcList::Private::drawLetters(QPainter &painter)
         painter.setWorldTransform(place.transform);
         if (place.index == pressedIndex)
             painter.setPen(QPen(pressColor));
-        letters.draw(painter, kArcBox.topLeft(), characters[place.index]);
+        letters.draw(painter, kArcBox.topLeft(), characters.at(place.index));
         if (place.index == pressedIndex)
             painter.setPen(pen);
     }
@@ -561,9 +555,11 @@ const std::vector<MArcList::Private::Place> &MArcList::Private::placesOnArc(cons
         int(characters.size())};
     return places.value(arc, [&](std::vector<Place> &seen) {
         seen.clear();
+        inked = QRectF();
         const qint64 first = toInt(ratio(-startAngle, itemHight));
         const qint64 last = std::min<qint64>(first + showItem, characters.size() - 1);
         const QRectF boxAndOverhang = QRectF(kArcBox).adjusted(-kLetterBox, 0, kLetterBox, 0);
+        const QRectF ink = boxAndOverhang.adjusted(0, -kLetterBox, 0, kLetterBox);
         QTransform turned = arc.origin;
         turned.rotate(qreal(startAngle - 90));
         for (int i = 0; i <= last; ++i, turned.rotate(qreal(itemHight))) {
@@ -572,8 +568,10 @@ const std::vector<MArcList::Private::Place> &MArcList::Private::placesOnArc(cons
             QTransform upright = turned;
             upright.translate(0, qreal(radius));
             upright.rotate(90);
-            if (arc.view.shows(upright, boxAndOverhang))
+            if (arc.view.shows(upright, boxAndOverhang)) {
                 seen.push_back({i, upright});
+                inked |= upright.mapRect(ink);
+            }
         }
     });
 }

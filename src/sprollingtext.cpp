@@ -3,8 +3,9 @@
 
 #include "detail/accessible.h"
 #include "detail/arithmetic.h"
+#include "detail/drawntext.h"
 #include "detail/fonts.h"
-#include "detail/layercache.h"
+#include "detail/keptlook.h"
 #include "detail/linescache.h"
 #include "detail/marquee.h"
 #include "detail/search.h"
@@ -56,6 +57,7 @@ public:
     bool isTooWide(const QString &line) const;
     QString shortened() const;
     void startRolling();
+    void forgetPixels();
     void drawResting(QPainter &painter);
     void drawRolling(QPainter &painter);
     int displayWidth();
@@ -82,8 +84,7 @@ public:
     QFont measuredFont;
     int measuredWidth = 0; // px
     TextCache resting;
-    TextSmoothing smoothing;
-    LayerCache<TextSetting> layer; // of a text at rest
+    KeptLook<TextSetting> restingLook;
     LinesCache rolling;
     Marquee marquee;
 };
@@ -111,8 +112,7 @@ void SpRollingText::setText(QString text)
 {
     d->rollTimer->stop();
     d->isRolling = false;
-    d->layer = {};
-    d->marquee.clear();
+    d->forgetPixels();
     d->rollSource = text;
     d->text = std::move(text);
     d->nextIndex = 0;
@@ -191,6 +191,7 @@ void SpRollingText::setAutoRoll(bool on)
 void SpRollingText::clear()
 {
     d->rollTimer->stop();
+    d->forgetPixels();
     d->rollSource.clear();
     d->displayText.clear();
     d->nextIndex = 0;
@@ -274,6 +275,13 @@ void SpRollingText::paintFinishSlot()
         d->nextIndex = 0;
 }
 
+// What rests and what rolls are not both kept.
+void SpRollingText::Private::forgetPixels()
+{
+    restingLook.forget();
+    marquee.clear();
+}
+
 // A text as wide as the widget fits. A very long one is not laid out to its end just to see that it
 // does not.
 bool SpRollingText::Private::isTooWide(const QString &line) const
@@ -313,18 +321,18 @@ void SpRollingText::Private::startRolling()
 void SpRollingText::Private::drawResting(QPainter &painter)
 {
     painter.setPen(textColor);
-    const QRectF place(q->rect());
-    const TextSetting setting{displayText, place.size(), int(textAlignment), painter.font(),
-                              painter.layoutDirection()};
-    const auto draw = [&](QPainter &p) {
-        p.setFont(setting.font);
-        p.setLayoutDirection(setting.direction);
-        resting.draw(p, place, setting.flags, setting.text);
+    const auto draw = [this](QPainter &p) {
+        resting.draw(p, QRectF(q->rect()), int(textAlignment), displayText);
     };
-    if (smoothing.canCopy(painter, textColor))
-        layer.draw(painter, painter.worldTransform(), place, setting, draw);
-    else
+    if (isFilledText(painter)) {
+        restingLook.forget();
         draw(painter);
+        return;
+    }
+    restingLook.draw(painter, q->rect(),
+                     {displayText, QSizeF(q->size()), int(textAlignment), painter.font(),
+                      painter.layoutDirection()},
+                     draw);
 }
 
 // Both ends fade along the diagonal of the widget. A TextCache would place such a pen by the

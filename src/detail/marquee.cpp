@@ -232,12 +232,17 @@ bool Marquee::take(const QImage &odd)
     return isPlain;
 }
 
-// Before the left edge of the widget nothing begins.
-QRgb Marquee::faded(const End &end, int x, int y, const Ink &ink) const
+Marquee::EndRow Marquee::rowOf(const End &end, int y)
 {
-    const int turn = end.turns.constScanLine(y)[x];
-    const bool isLater = turn != 0 && std::min(int(ink.since), end.left + x) >= turn;
-    return covered(row(isLater ? end.laterColors : end.colors, y)[x], ink.coverage);
+    return {end.left, row(end.colors, y), row(end.laterColors, y), end.turns.constScanLine(y)};
+}
+
+// Before the left edge of the widget nothing begins.
+QRgb Marquee::EndRow::faded(int x, const Ink &ink) const
+{
+    const int turn = turns[x];
+    const bool isLater = turn != 0 && std::min(int(ink.since), left + x) >= turn;
+    return covered((isLater ? laterColors : colors)[x], ink.coverage);
 }
 
 void Marquee::drawEnd(QPainter &painter, const End &end, int offset)
@@ -247,16 +252,17 @@ void Marquee::drawEnd(QPainter &painter, const End &end, int offset)
         const QRgb *text = row(m_strip, i) + from;
         const uchar *since = m_since.constScanLine(i) + from;
         QRgb *shown = row(m_shown, m_top + i);
+        const EndRow fade = rowOf(end, m_top + i);
         for (int x = 0; x < m_endWidth; ++x)
-            shown[x] =
-                text[x] == 0 ? 0 : faded(end, x, m_top + i, {uchar(qAlpha(text[x])), since[x]});
+            shown[x] = text[x] == 0 ? 0 : fade.faded(x, {uchar(qAlpha(text[x])), since[x]});
     }
     for (const Meeting &meeting : m_meetings) {
         const int x = meeting.at.x() - from;
         const int y = m_top + meeting.at.y();
-        if (x >= 0 && x < m_endWidth)
-            row(m_shown, y)[x] =
-                over(faded(end, x, y, meeting.ink[1]), faded(end, x, y, meeting.ink[0]));
+        if (x < 0 || x >= m_endWidth)
+            continue;
+        const EndRow fade = rowOf(end, y);
+        row(m_shown, y)[x] = over(fade.faded(x, meeting.ink[1]), fade.faded(x, meeting.ink[0]));
     }
     painter.drawImage(QPoint(end.left, m_top), m_shown,
                       QRect(0, m_top, m_endWidth, m_strip.height()));

@@ -76,6 +76,14 @@ private:
         uchar coverage;
         uchar since; // px
     };
+    struct EndRow {
+        int left; // px, of the end
+        const QRgb *colors;
+        const QRgb *laterColors;
+        const uchar *turns;
+
+        QRgb faded(int x, const Ink &ink) const;
+    };
     // A pixel of two letters.
     struct Meeting {
         QPoint at; // in the strip
@@ -87,7 +95,7 @@ private:
     bool composeText(const QPainter &like, const QRect &stretch, const Paint &paint);
     bool take(const QImage &odd);
     int mostWidth() const;
-    QRgb faded(const End &end, int x, int y, const Ink &ink) const;
+    static EndRow rowOf(const End &end, int y);
     void drawEnd(QPainter &painter, const End &end, int offset);
 
     TextSmoothing m_smoothing;

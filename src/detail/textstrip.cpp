@@ -2,6 +2,7 @@
 #include "textstrip.h"
 
 #include "deviceview.h"
+#include "drawntext.h"
 
 #include <QPainter>
 #include <QString>
@@ -15,16 +16,13 @@ namespace panelkit
 namespace
 {
 
-// px; from there on the painter fills outlines. Qt has FreeType move those by the part of a pixel at
-// which the last new letter of any size was rendered, so that they change by some levels meanwhile.
-constexpr int kOutlines = 64;
 constexpr qint64 kMostPixels = 4 << 20; // twice a large screen; more is drawn directly
 
 // Whether letters on an opaque ground are those that were drawn without one and copied there, now
 // and later. Fonts in points have to have the same size on an image.
 bool isSmoothedInGrey(const QPainter &like, const QColor &color)
 {
-    if (like.fontInfo().pixelSize() >= kOutlines)
+    if (isFilledText(like))
         return false;
     constexpr int kSide = 64; // px
     const QString sample = QStringLiteral("Rgw8");

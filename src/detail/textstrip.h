@@ -17,7 +17,8 @@ namespace panelkit
 {
 
 /// Whether text may be kept as pixels. Not where its smoothing depends on what lies below it, as
-/// that for the stripes of a screen does, nor where a device has fewer colours, nor very large text.
+/// that for the stripes of a screen does, nor where a device has fewer colours, nor very large
+/// text.
 class TextSmoothing
 {
 public:
