@@ -17,8 +17,8 @@ namespace
 constexpr QSize kSize(300, 48);
 constexpr int kFontSize = 24; // px
 constexpr int kRollStep = 2; // px
-constexpr double kFloorLimit = 0.35; // the floor draws its text in each paint
-constexpr double kPeerLimit = 0.25;
+constexpr double kFloorLimit = 0.5; // the floor draws its text in each paint
+constexpr double kPeerLimit = 0.3;
 constexpr double kMovingLimit = 0.45; // of the floor
 constexpr double kMovingPeerLimit = 1.25;
 
@@ -148,16 +148,17 @@ QString shortened()
 
 void defineRows(Rows &rows, Tag<SpRollingText>)
 {
-    rows.paint(
-        "SpRollingText", "fits",
-        widgetOf<SpRollingText>(kSize, [](SpRollingText &text) { prepare(text, shortText()); }),
-        {restingFloor(shortText()), kFloorLimit}, {{"QLabel", label(shortText()), kPeerLimit}});
+    rows.paint("SpRollingText", "fits",
+               onGround(widgetOf<SpRollingText>(
+                   kSize, [](SpRollingText &text) { prepare(text, shortText()); })),
+               {restingFloor(shortText()), kFloorLimit},
+               {{"QLabel", label(shortText()), kPeerLimit}}, keptTextLimit(2.15));
     rows.paint("SpRollingText", "shortened",
-               widgetOf<SpRollingText>(kSize,
-                                       [](SpRollingText &text) {
-                                           text.setAutoRoll(false);
-                                           prepare(text, longText());
-                                       }),
+               onGround(widgetOf<SpRollingText>(kSize,
+                                                [](SpRollingText &text) {
+                                                    text.setAutoRoll(false);
+                                                    prepare(text, longText());
+                                                })),
                {restingFloor(shortened()), kFloorLimit},
                {{"QLabel, elided", label(longText()), kPeerLimit}});
     rows.motion(

@@ -33,6 +33,7 @@ namespace
 constexpr int kLetterBox = 40; // px, width and height of the box of a character
 constexpr QRect kArcBox(-kLetterBox / 2, 0, kLetterBox, kLetterBox); // of a letter on the arc
 constexpr double kColumnTop = 5.0; // px above the box of the first row
+constexpr int kFewTurns = 8; // the painter keeps the letters of ten turns; the others it fills anew
 constexpr double kReach = 100.0; // px inside and outside the arc; a touch from there on is none
 constexpr int kTapSlop = 99; // px; a release in a column up to this far from the press is a tap
 constexpr double kPixelsPerDegree = 15.0; // finger travel that turns the arc
@@ -299,12 +300,11 @@ void MArcList::drawTicks(QPainter *painter)
 {
     if (!painter)
         return;
-    if (isFilledText(*painter)) {
+    if (d->placesOnArc(*painter).size() <= kFewTurns || isFilledText(*painter)) {
         d->look.forget();
         d->drawLetters(*painter);
         return;
     }
-    d->placesOnArc(*painter);
     d->look.draw(*painter, painter->worldTransform().inverted().mapRect(d->inked).toAlignedRect(),
                  {d->radius, d->startAngle, d->itemHight, d->showItem, d->pressedIndex,
                   d->pressColor, painter->layoutDirection(), painter->pen(), d->characters,

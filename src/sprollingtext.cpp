@@ -19,6 +19,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 
 using namespace panelkit;
 
@@ -86,7 +87,7 @@ public:
     TextCache resting;
     KeptLook<TextSetting> restingLook;
     LinesCache rolling;
-    Marquee marquee;
+    std::unique_ptr<Marquee> marquee; // of a text that has rolled
 };
 
 /** An empty line. */
@@ -279,7 +280,7 @@ void SpRollingText::paintFinishSlot()
 void SpRollingText::Private::forgetPixels()
 {
     restingLook.forget();
-    marquee.clear();
+    marquee.reset();
 }
 
 // A text as wide as the widget fits. A very long one is not laid out to its end just to see that it
@@ -351,7 +352,9 @@ void SpRollingText::Private::drawRolling(QPainter &painter)
     };
     const bool isCut = isInFirstColumn(painter)
         && rolling.mayBeginAt(0, painter, place, int(textAlignment), displayText);
-    if (!isCut && marquee.draw(painter, look, pixelOffset, firstWidth, drawApart))
+    if (!marquee)
+        marquee = std::make_unique<Marquee>();
+    if (!isCut && marquee->draw(painter, look, pixelOffset, firstWidth, drawApart))
         return;
     painter.setPen(Marquee::pen(area, textColor));
     rolling.draw(painter, place, int(textAlignment), displayText, q->rect());

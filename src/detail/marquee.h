@@ -46,9 +46,6 @@ public:
     /// False, and nothing drawn, where nothing can be kept.
     bool draw(QPainter &painter, const Look &look, int offset, int reach, const Paint &paint);
 
-    /// Keeps nothing any longer.
-    void clear() { *this = Marquee(); }
-
     /// How often the text was composed, and the ends.
     int compositions() const { return m_compositions; }
     int fades() const { return m_fade.changes(); }

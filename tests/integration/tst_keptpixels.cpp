@@ -160,7 +160,7 @@ private slots:
                              }),
             1.9);
         row("square label",
-            made<SpDisLabel>({600, 180}, [](auto &l) { l.setText(QStringLiteral("Radio")); }), 0);
+            made<SpDisLabel>({600, 180}, [](auto &l) { l.setText(QStringLiteral("Radio")); }), 1.9);
         row("mask",
             made<SpMaskBackground>({600, 400},
                                    [](auto &m) {
@@ -204,7 +204,8 @@ private slots:
                            [](MArcList &l) {
                                for (char c = 'A'; c <= 'Z'; ++c)
                                    l.addAlpha(QLatin1Char(c));
-                               l.setPointPixmap(picture(Qt::red));
+                               l.setItemHight(3);
+                l.setShowItem(25);
                            }),
             0.2);
         row("scrolling text",

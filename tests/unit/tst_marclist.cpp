@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <MArcList>
 
+#include "keptlooks.h"
 #include "parent.h"
 #include "setters.h"
 #include "signallog.h"
@@ -196,6 +197,21 @@ private slots:
         palette.setColor(QPalette::WindowText, Qt::darkGreen);
         list->setPalette(palette);
         check("colour");
+    }
+
+    void veryLargeLettersAreDrawnInEachPaint()
+    {
+        const auto make = [] {
+            auto list = makeList(kArc);
+            list->setItemHight(3);
+            list->setShowItem(25);
+            list->setStartAngle(-20);
+            QFont font = list->font();
+            font.setPixelSize(80);
+            list->setFont(font);
+            return list;
+        };
+        checkVeryLargeText<MArcList>(make, 29);
     }
 
     void keptLettersAreDrawnWhereTheyCannotBeCopied()
