@@ -205,7 +205,7 @@ private slots:
                                for (char c = 'A'; c <= 'Z'; ++c)
                                    l.addAlpha(QLatin1Char(c));
                                l.setItemHight(3);
-                l.setShowItem(25);
+                               l.setShowItem(25);
                            }),
             0.2);
         row("scrolling text",
