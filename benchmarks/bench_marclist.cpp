@@ -238,8 +238,9 @@ void defineRows(Rows &rows, Tag<MArcList>)
                1.28});
     rows.move("MArcList", "arc dragged", drag(MArcList::ARCLIST_STYLE_0), {arcFloor()},
               {{"QListWidget", peerDrag()}},
-              {"the letters of its floor stand still; those in motion are drawn from their "
-               "outlines, each in its new turn",
+              {"the letters and the marker of its floor stand still; in motion each of the eight "
+               "letters is filled anew from its outline in its new turn, for 34,000 instructions, "
+               "and the marker is turned, for 145,000",
                {},
                5.15});
 }

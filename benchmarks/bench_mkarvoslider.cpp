@@ -49,8 +49,8 @@ PaintingMaker floor()
 
 void defineRows(Rows &rows, Tag<MKARVOSlider>)
 {
-    rows.paint("MKARVOSlider", "full scale", widgetOf<MKARVOSlider>(kSize, setUp), {floor()},
+    rows.paint("MKARVOSlider", "full scale", widgetOf<MKARVOSlider>(kSize, setUp),
+               {floor(), kScaleLimit},
                {{"QwtSlider", qwtSlider(kSize), kQwtLimit},
-                {"QwtScaleWidget", qwtScaleWidget(kSize), 1.0}},
-               textLimit(2.4));
+                {"QwtScaleWidget", qwtScaleWidget(kSize), 1.0}});
 }

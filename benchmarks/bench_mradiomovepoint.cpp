@@ -52,8 +52,7 @@ PaintingMaker floor()
 
 void defineRows(Rows &rows, Tag<MRadioMovePoint>)
 {
-    rows.paint("MRadioMovePoint", "full scale", widgetOf<Scale>(kSize), {floor()},
+    rows.paint("MRadioMovePoint", "full scale", widgetOf<Scale>(kSize), {floor(), kScaleLimit},
                {{"QwtSlider", qwtSlider(kSize), kQwtLimit},
-                {"QwtScaleWidget", qwtScaleWidget(kSize), 1.0}},
-               textLimit(4.6));
+                {"QwtScaleWidget", qwtScaleWidget(kSize), 1.0}});
 }

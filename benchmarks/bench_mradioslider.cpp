@@ -61,9 +61,9 @@ PaintingMaker dragged()
 
 void defineRows(Rows &rows, Tag<MRadioSlider>)
 {
-    rows.paint("MRadioSlider", "full scale", widgetOf<MRadioSlider>(kSize, setUp), {floor()},
+    rows.paint("MRadioSlider", "full scale", widgetOf<MRadioSlider>(kSize, setUp),
+               {floor(), kScaleLimit},
                {{"QwtSlider", qwtSlider(kSize), kQwtLimit},
-                {"QwtScaleWidget", qwtScaleWidget(kSize), 1.0}},
-               textLimit(4.2));
+                {"QwtScaleWidget", qwtScaleWidget(kSize), 1.0}});
     rows.move("MRadioSlider", "drag step", dragged(), {floor()}, {});
 }

@@ -21,8 +21,8 @@ namespace
 
 constexpr QSize kSize(300, 160);
 constexpr int kNever = 1000000; // ms, no tick comes by itself
-constexpr double kMovingLimit = 1.2; // of the floor
-constexpr double kPeerLimit = 1;
+constexpr double kFloorLimit = 0.15; // the floor draws its lines in each paint
+constexpr double kPeerLimit = 0.1;
 
 QString notice()
 {
@@ -135,8 +135,8 @@ PaintingMaker label()
 
 void defineRows(Rows &rows, Tag<MVScrollLabel>)
 {
-    rows.paint("MVScrollLabel", "at rest", widgetOf<MVScrollLabel>(kSize, prepare), {floor(0, 0)},
-               {{"QLabel", label(), kPeerLimit}}, textLimit(9.8));
-    rows.motion("MVScrollLabel", "scrolling step", scrolling(), {floor(1, 1), kMovingLimit},
+    rows.paint("MVScrollLabel", "at rest", widgetOf<MVScrollLabel>(kSize, prepare),
+               {floor(0, 0), kFloorLimit}, {{"QLabel", label(), kPeerLimit}});
+    rows.motion("MVScrollLabel", "scrolling step", scrolling(), {floor(1, 1), kFloorLimit},
                 {{"QScrollArea with QLabel", scrollArea(), kPeerLimit}});
 }

@@ -110,8 +110,9 @@ QString shortened()
 
 void defineRows(Rows &rows, Tag<SpDisLabel>)
 {
-    addString(rows, "square", label([](SpDisLabel &l) { l.setNormalBackgroundColor(kGround); }),
-              squareFloor(kGround), flatButton(shortText(), kGround, 0), textLimit(3.4));
+    addString(rows, "square",
+              onGround(label([](SpDisLabel &l) { l.setNormalBackgroundColor(kGround); })),
+              squareFloor(kGround), flatButton(shortText(), kGround, 0), keptTextLimit(2.1));
     addString(rows, "rounded", onGround(label([](SpDisLabel &l) {
                   l.setNormalBackgroundColor(kGround);
                   l.setRoundXY(kRadius);
@@ -123,11 +124,11 @@ void defineRows(Rows &rows, Tag<SpDisLabel>)
                   l.setIsDown(true);
               })),
               roundedFloor(kTranslucent), flatButton(shortText(), kTranslucent, kRadius));
-    addString(rows, "no ground", label(AsItIs()), floorOf([](QPainter &) {}),
-              flatButton(shortText(), Qt::transparent, 0), textLimit(4.55));
-    addString(rows, "shortened", label([](SpDisLabel &l) { l.setText(longText()); }),
+    addString(rows, "no ground", onGround(label(AsItIs())), floorOf([](QPainter &) {}),
+              flatButton(shortText(), Qt::transparent, 0), keptTextLimit(3.35));
+    addString(rows, "shortened", onGround(label([](SpDisLabel &l) { l.setText(longText()); })),
               floorOf([](QPainter &) {}, shortened()), flatButton(shortened(), Qt::transparent, 0),
-              textLimit(6.1));
+              keptTextLimit(2.05));
 
     rows.paint("SpDisLabel", "picture", label([](SpDisLabel &l) {
                    l.setDisplayMode(SpDisLabel::Picture);

@@ -43,6 +43,13 @@ OwnLimits textLimit(double blit)
         blit};
 }
 
+OwnLimits keptTextLimit(double blit)
+{
+    return {"the whole of its area is compared with what lay there and copied, of which its text "
+            "is a part",
+            blit};
+}
+
 PaintingMaker pictureFloor(const QPixmap &picture)
 {
     return bareWidget(picture.size(),

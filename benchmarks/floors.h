@@ -43,6 +43,9 @@ LaidOutText laidOut(const QString &text, const QFont &font, const QRectF &rect,
 /// The limit of a look at rest that draws a text.
 OwnLimits textLimit(double blit);
 
+/// Those of a text that is kept with all the area of its widget.
+OwnLimits keptTextLimit(double blit);
+
 /// The floor of a look that is one picture.
 PaintingMaker pictureFloor(const QPixmap &picture);
 

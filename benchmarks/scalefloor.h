@@ -14,7 +14,8 @@
 #include <qwt_scale_widget.h>
 #include <qwt_slider.h>
 
-constexpr double kQwtLimit = 1.0 / 3;
+constexpr double kQwtLimit = 0.15;
+constexpr double kScaleLimit = 0.6; // of the floor, which draws its scale in each paint
 
 /// The picture of a scale with all of its work done: rectangles and layouts where they belong.
 struct ScaleFloor {

@@ -4,7 +4,9 @@
 #include "detail/accessible.h"
 #include "detail/arithmetic.h"
 #include "detail/deviceview.h"
+#include "detail/drawntext.h"
 #include "detail/geometry.h"
+#include "detail/keptlook.h"
 #include "detail/layercache.h"
 #include "detail/lettercache.h"
 #include "detail/memo.h"
@@ -31,6 +33,7 @@ namespace
 constexpr int kLetterBox = 40; // px, width and height of the box of a character
 constexpr QRect kArcBox(-kLetterBox / 2, 0, kLetterBox, kLetterBox); // of a letter on the arc
 constexpr double kColumnTop = 5.0; // px above the box of the first row
+constexpr int kFewTurns = 8; // the painter keeps the letters of ten turns; the others it fills anew
 constexpr double kReach = 100.0; // px inside and outside the arc; a touch from there on is none
 constexpr int kTapSlop = 99; // px; a release in a column up to this far from the press is a tap
 constexpr double kPixelsPerDegree = 15.0; // finger travel that turns the arc
@@ -83,6 +86,26 @@ public:
         }
     };
 
+    // What the pixels of the letters depend on.
+    struct Letters {
+        double radius; // px
+        double startAngle; // degrees
+        double itemHight; // degrees
+        int showItem;
+        int pressedIndex;
+        QColor pressColor;
+        Qt::LayoutDirection direction;
+        QPen pen;
+        QVector<QChar> characters;
+        QFont font;
+
+        auto tied() const
+        {
+            return std::tie(startAngle, radius, itemHight, showItem, pressedIndex, pressColor,
+                            direction, pen, characters, font);
+        }
+    };
+
     static double tell(const QWidget *widget, AccessibleFact fact, const QPoint &at);
     bool isItem(qint64 index) const;
     double arcEnd() const;
@@ -93,6 +116,7 @@ public:
     void fling(double way, double low, double high);
     void startFling(const QPoint &pos);
     const std::vector<Place> &placesOnArc(const QPainter &painter);
+    void drawLetters(QPainter &painter);
     void drawMarker(QPainter &painter, int marker, int index);
 
     MArcList *const q;
@@ -118,6 +142,8 @@ public:
 
     LetterCache letters;
     Memo<Arc, std::vector<Place>> places;
+    QRectF inked; // where letters may have ink
+    KeptLook<Letters> look; // of the arc
     std::array<LayerCache<PictureKey>, 2> markers; // pressed, current
 };
 
@@ -274,18 +300,16 @@ void MArcList::drawTicks(QPainter *painter)
 {
     if (!painter)
         return;
-    d->letters.set(*painter, kArcBox.size(), Qt::AlignCenter);
-    const QTransform origin = painter->worldTransform();
-    const QPen pen = painter->pen();
-    for (const Private::Place &place : d->placesOnArc(*painter)) {
-        painter->setWorldTransform(place.transform);
-        if (place.index == d->pressedIndex)
-            painter->setPen(QPen(d->pressColor));
-        d->letters.draw(*painter, kArcBox.topLeft(), d->characters[place.index]);
-        if (place.index == d->pressedIndex)
-            painter->setPen(pen);
+    if (d->placesOnArc(*painter).size() <= kFewTurns || isFilledText(*painter)) {
+        d->look.forget();
+        d->drawLetters(*painter);
+        return;
     }
-    painter->setWorldTransform(origin);
+    d->look.draw(*painter, painter->worldTransform().inverted().mapRect(d->inked).toAlignedRect(),
+                 {d->radius, d->startAngle, d->itemHight, d->showItem, d->pressedIndex,
+                  d->pressColor, painter->layoutDirection(), painter->pen(), d->characters,
+                  painter->font()},
+                 [this](QPainter &p) { d->drawLetters(p); });
 }
 
 /** Draws the marker of the arc at the pressed character, and at the current one if it is another.
@@ -319,7 +343,7 @@ void MArcList::drawTicks1(QPainter *painter)
             boundedRect(d->textXOffset, toInt(double(i - first) * d->itemHight + kColumnTop),
                         kLetterBox, kLetterBox);
         if (view.shows(painter->worldTransform(), box))
-            d->letters.draw(*painter, box.topLeft(), d->characters[i]);
+            d->letters.draw(*painter, box.topLeft(), d->characters.at(i));
     }
 }
 
@@ -506,6 +530,22 @@ void MArcList::Private::startFling(const QPoint &pos)
     flingTimer.start();
 }
 
+void MArcList::Private::drawLetters(QPainter &painter)
+{
+    letters.set(painter, kArcBox.size(), Qt::AlignCenter);
+    const QTransform origin = painter.worldTransform();
+    const QPen pen = painter.pen();
+    for (const Place &place : placesOnArc(painter)) {
+        painter.setWorldTransform(place.transform);
+        if (place.index == pressedIndex)
+            painter.setPen(QPen(pressColor));
+        letters.draw(painter, kArcBox.topLeft(), characters.at(place.index));
+        if (place.index == pressedIndex)
+            painter.setPen(pen);
+    }
+    painter.setWorldTransform(origin);
+}
+
 // The arc is turned on from letter to letter, drawn or not, so that rounding is the same wherever
 // the list stands.
 const std::vector<MArcList::Private::Place> &MArcList::Private::placesOnArc(const QPainter &painter)
@@ -515,9 +555,11 @@ const std::vector<MArcList::Private::Place> &MArcList::Private::placesOnArc(cons
         int(characters.size())};
     return places.value(arc, [&](std::vector<Place> &seen) {
         seen.clear();
+        inked = QRectF();
         const qint64 first = toInt(ratio(-startAngle, itemHight));
         const qint64 last = std::min<qint64>(first + showItem, characters.size() - 1);
         const QRectF boxAndOverhang = QRectF(kArcBox).adjusted(-kLetterBox, 0, kLetterBox, 0);
+        const QRectF ink = boxAndOverhang.adjusted(0, -kLetterBox, 0, kLetterBox);
         QTransform turned = arc.origin;
         turned.rotate(qreal(startAngle - 90));
         for (int i = 0; i <= last; ++i, turned.rotate(qreal(itemHight))) {
@@ -526,8 +568,10 @@ const std::vector<MArcList::Private::Place> &MArcList::Private::placesOnArc(cons
             QTransform upright = turned;
             upright.translate(0, qreal(radius));
             upright.rotate(90);
-            if (arc.view.shows(upright, boxAndOverhang))
+            if (arc.view.shows(upright, boxAndOverhang)) {
                 seen.push_back({i, upright});
+                inked |= upright.mapRect(ink);
+            }
         }
     });
 }

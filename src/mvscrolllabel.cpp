@@ -5,6 +5,7 @@
 #include "detail/arithmetic.h"
 #include "detail/geometry.h"
 #include "detail/linescache.h"
+#include "detail/textstrip.h"
 
 #include <QByteArray>
 #include <QFontMetrics>
@@ -13,6 +14,8 @@
 #include <QPointer>
 #include <QTimer>
 #include <QTimerEvent>
+
+#include <algorithm>
 
 using namespace panelkit;
 
@@ -65,8 +68,26 @@ class Q_DECL_HIDDEN MVScrollLabel::Private
 public:
     explicit Private(MVScrollLabel *widget) : q(widget) { }
 
+    // What the pixels of a text depend on.
+    struct Look {
+        QRgb color;
+        int cycleHeight;
+        TextSetting text;
+
+        auto tied() const
+        {
+            return std::tie(color, cycleHeight, text.size, text.flags, text.direction, text.text,
+                            text.font);
+        }
+    };
+
     void endTimer();
     void pushTo(const QPoint &pos);
+    void drawText(QPainter &painter, const QRect &inSight);
+    void drawDirectly(QPainter &painter, qint64 offset, const QRect &inSight,
+                      const TextSetting &text);
+    bool copyText(QPainter &painter, const QRect &inSight, const Look &wanted);
+    QRect stretchFor(const QRect &part) const;
 
     MVScrollLabel *const q;
     int scrollOffset = 0; // px
@@ -78,6 +99,9 @@ public:
     QPoint lastTouch;
     bool isTicking = false; // the timer of the id runs
     LinesCache lines;
+    LastKey<Look> look;
+    TextSmoothing smoothing;
+    TextStrip strip;
 };
 
 /** An empty label. */
@@ -152,12 +176,8 @@ void MVScrollLabel::paintEvent(QPaintEvent *e)
 {
     if (d->cycleHeight <= 0)
         return;
-    const QRect inSight = e->rect();
     QPainter painter(this);
-    for (qint64 y = -qint64(d->scrollOffset); y < height(); y += d->cycleHeight) {
-        const QRect place(0, int(y), width(), boundedPixel(d->cycleHeight));
-        d->lines.draw(painter, place, int(alignment()), text(), inSight);
-    }
+    d->drawText(painter, e->rect() & rect());
 }
 
 void MVScrollLabel::showEvent(QShowEvent *) { metrics(); }
@@ -240,4 +260,58 @@ void MVScrollLabel::Private::pushTo(const QPoint &pos)
     if (scrollOffset >= cycleHeight)
         scrollOffset = 0;
     q->scroll(0, boundedPixel(saturated(-dy)));
+}
+
+void MVScrollLabel::Private::drawText(QPainter &painter, const QRect &inSight)
+{
+    if (-qint64(scrollOffset) > inSight.bottom())
+        return;
+    const Look wanted{
+        painter.pen().color().rgba(),
+        cycleHeight,
+        {q->text(), q->size(), int(q->alignment()), painter.font(), painter.layoutDirection()}};
+    if (!copyText(painter, inSight, wanted))
+        drawDirectly(painter, scrollOffset, inSight, wanted.text);
+}
+
+void MVScrollLabel::Private::drawDirectly(QPainter &painter, qint64 offset, const QRect &inSight,
+                                          const TextSetting &text)
+{
+    for (qint64 y = -offset; y <= inSight.bottom(); y += cycleHeight) {
+        const QRect place(0, int(y), q->width(), boundedPixel(cycleHeight));
+        lines.draw(painter, place, text.flags, text.text, inSight);
+    }
+}
+
+// A look that is shown once is drawn directly; when it is wanted again, its pixels are kept.
+bool MVScrollLabel::Private::copyText(QPainter &painter, const QRect &inSight, const Look &wanted)
+{
+    if (look.changesTo(wanted)) {
+        strip.clear();
+        return false;
+    }
+    const QColor color = painter.pen().color();
+    const QRect part = inSight.translated(0, scrollOffset);
+    if (part.isEmpty() || scrollOffset < 0 || !smoothing.canCopy(painter, color))
+        return false;
+    if (!strip.holds(painter, part)) {
+        const QRect stretch = stretchFor(part);
+        const auto drawStretch = [&](QPainter &p) {
+            p.translate(stretch.topLeft());
+            drawDirectly(p, stretch.top(), QRect(QPoint(), stretch.size()), wanted.text);
+        };
+        const bool isComposed = strip.compose(painter, color, stretch, drawStretch);
+        if (!isComposed)
+            return false;
+    }
+    strip.copy(painter, inSight.topLeft(), part);
+    return true;
+}
+
+// Twice the area of the label, from the place of the part on in the direction that the text goes.
+QRect MVScrollLabel::Private::stretchFor(const QRect &part) const
+{
+    const bool isBefore = !strip.stretch().isEmpty() && part.top() < strip.stretch().top();
+    const int top = isBefore ? std::max(0, scrollOffset - q->height()) : scrollOffset;
+    return {0, top, q->width(), 2 * q->height()};
 }

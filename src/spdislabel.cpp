@@ -2,6 +2,7 @@
 #include "spdislabel.h"
 
 #include "detail/accessible.h"
+#include "detail/drawntext.h"
 #include "detail/fonts.h"
 #include "detail/geometry.h"
 #include "detail/keptlook.h"
@@ -32,7 +33,7 @@ class Q_DECL_HIDDEN SpDisLabel::Private
 public:
     explicit Private(SpDisLabel *widget) : q(widget) { }
 
-    // What a string on a rounded ground depends on.
+    // What a string on its ground depends on.
     struct Look {
         int roundXY; // px
         QSize size; // px
@@ -50,12 +51,12 @@ public:
         }
     };
 
-    Look roundedLook(const QPainter &painter) const;
+    Look shownLook(const QPainter &painter) const;
     void drawString(QPainter &painter);
     QColor groundColor() const { return isDown ? pressBackgroundColor : normalBackgroundColor; }
     QColor textColor() const { return isDown ? pressFontColor : fontColor; }
     QString shortened(const QString &full) const;
-    void drawRoundedGround(QPainter &painter) const;
+    void drawGround(QPainter &painter) const;
     void drawText(QPainter &painter) const;
     void drawIcon(QPainter &painter) const;
 
@@ -306,31 +307,35 @@ QString SpDisLabel::Private::shortened(const QString &full) const
     return full.left(most - dropped) + kEllipsis;
 }
 
-SpDisLabel::Private::Look SpDisLabel::Private::roundedLook(const QPainter &painter) const
+SpDisLabel::Private::Look SpDisLabel::Private::shownLook(const QPainter &painter) const
 {
     return {roundXY,     q->size(),     groundColor(),
             textColor(), alignment,     painter.layoutDirection(),
             shownText,   painter.font()};
 }
 
-// Soft corners cost more than all the rest, so that they are kept, and the text with them. A square
-// ground is filled as fast as it is copied.
+// Soft corners and letters cost more than all the rest, so that they are kept. A square ground
+// alone is filled as fast as it is copied.
 void SpDisLabel::Private::drawString(QPainter &painter)
 {
-    if (roundXY == 0) {
+    const auto draw = [this](QPainter &p) {
+        drawGround(p);
+        drawText(p);
+    };
+    if ((roundXY == 0 && shownText.isEmpty()) || isFilledText(painter)) {
         look.forget();
-        painter.fillRect(q->rect(), groundColor());
-        drawText(painter);
+        draw(painter);
     } else {
-        look.draw(painter, q->rect(), roundedLook(painter), [this](QPainter &p) {
-            drawRoundedGround(p);
-            drawText(p);
-        });
+        look.draw(painter, q->rect(), shownLook(painter), draw);
     }
 }
 
-void SpDisLabel::Private::drawRoundedGround(QPainter &painter) const
+void SpDisLabel::Private::drawGround(QPainter &painter) const
 {
+    if (roundXY == 0) {
+        painter.fillRect(q->rect(), groundColor());
+        return;
+    }
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(groundColor());

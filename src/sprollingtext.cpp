@@ -3,20 +3,23 @@
 
 #include "detail/accessible.h"
 #include "detail/arithmetic.h"
+#include "detail/drawntext.h"
 #include "detail/fonts.h"
+#include "detail/keptlook.h"
 #include "detail/linescache.h"
+#include "detail/marquee.h"
 #include "detail/search.h"
 #include "detail/textcache.h"
 
 #include <QFontMetrics>
 #include <QGraphicsDropShadowEffect>
-#include <QLinearGradient>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTimer>
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 
 using namespace panelkit;
 
@@ -27,8 +30,6 @@ constexpr int kRollInterval = 150; // ms
 constexpr int kRollStep = 2; // px
 constexpr int kGap = 16; // spaces between the end of a rolling text and its restart
 constexpr int kSpareCharacters = 3; // beyond those that can be seen
-constexpr qreal kFadeIn = qreal(0.08); // of the diagonal
-constexpr qreal kFadeOut = qreal(0.92);
 constexpr qreal kShadowBlur = qreal(0.5); // px
 constexpr qreal kFarthestShadow = 16384; // px, either way
 
@@ -57,6 +58,7 @@ public:
     bool isTooWide(const QString &line) const;
     QString shortened() const;
     void startRolling();
+    void forgetPixels();
     void drawResting(QPainter &painter);
     void drawRolling(QPainter &painter);
     int displayWidth();
@@ -83,7 +85,9 @@ public:
     QFont measuredFont;
     int measuredWidth = 0; // px
     TextCache resting;
+    KeptLook<TextSetting> restingLook;
     LinesCache rolling;
+    std::unique_ptr<Marquee> marquee; // of a text that has rolled
 };
 
 /** An empty line. */
@@ -109,6 +113,7 @@ void SpRollingText::setText(QString text)
 {
     d->rollTimer->stop();
     d->isRolling = false;
+    d->forgetPixels();
     d->rollSource = text;
     d->text = std::move(text);
     d->nextIndex = 0;
@@ -187,6 +192,7 @@ void SpRollingText::setAutoRoll(bool on)
 void SpRollingText::clear()
 {
     d->rollTimer->stop();
+    d->forgetPixels();
     d->rollSource.clear();
     d->displayText.clear();
     d->nextIndex = 0;
@@ -270,6 +276,13 @@ void SpRollingText::paintFinishSlot()
         d->nextIndex = 0;
 }
 
+// What rests and what rolls are not both kept.
+void SpRollingText::Private::forgetPixels()
+{
+    restingLook.forget();
+    marquee.reset();
+}
+
 // A text as wide as the widget fits. A very long one is not laid out to its end just to see that it
 // does not.
 bool SpRollingText::Private::isTooWide(const QString &line) const
@@ -309,20 +322,41 @@ void SpRollingText::Private::startRolling()
 void SpRollingText::Private::drawResting(QPainter &painter)
 {
     painter.setPen(textColor);
-    resting.draw(painter, QRectF(q->rect()), int(textAlignment), displayText);
+    const auto draw = [this](QPainter &p) {
+        resting.draw(p, QRectF(q->rect()), int(textAlignment), displayText);
+    };
+    if (isFilledText(painter)) {
+        restingLook.forget();
+        draw(painter);
+        return;
+    }
+    restingLook.draw(painter, q->rect(),
+                     {displayText, QSizeF(q->size()), int(textAlignment), painter.font(),
+                      painter.layoutDirection()},
+                     draw);
 }
 
 // Both ends fade along the diagonal of the widget. A TextCache would place such a pen by the
 // window.
 void SpRollingText::Private::drawRolling(QPainter &painter)
 {
-    QLinearGradient fade(q->rect().topLeft(), q->rect().bottomRight());
-    fade.setColorAt(0, Qt::transparent);
-    fade.setColorAt(kFadeIn, textColor);
-    fade.setColorAt(kFadeOut, textColor);
-    fade.setColorAt(1, Qt::transparent);
-    painter.setPen(QPen(fade, qreal(q->width()), Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
-    const QRect place(-pixelOffset, 0, displayWidth(), q->height());
+    const QSize area = q->size();
+    const QRect place(-pixelOffset, 0, displayWidth(), area.height());
+    const Marquee::Look look{
+        textColor.rgba(),
+        area,
+        rolling.beginning(painter, place, int(textAlignment), displayText),
+        {displayText, place.size(), int(textAlignment), painter.font(), painter.layoutDirection()}};
+    const auto drawApart = [&](QPainter &p, int first) {
+        return rolling.drawEverySecond(p, place, int(textAlignment), displayText, first);
+    };
+    const bool isCut = isInFirstColumn(painter)
+        && rolling.mayBeginAt(0, painter, place, int(textAlignment), displayText);
+    if (!marquee)
+        marquee = std::make_unique<Marquee>();
+    if (!isCut && marquee->draw(painter, look, pixelOffset, firstWidth, drawApart))
+        return;
+    painter.setPen(Marquee::pen(area, textColor));
     rolling.draw(painter, place, int(textAlignment), displayText, q->rect());
 }
 

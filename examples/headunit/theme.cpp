@@ -2,6 +2,7 @@
 #include "theme.h"
 
 #include <QFile>
+#include <QImage>
 #include <QPainter>
 #include <QSvgRenderer>
 
@@ -78,12 +79,13 @@ QPixmap Theme::picture(const QString &key, const QSize &size,
         return {};
     if (const QPixmap *known = m_pictures->object(key))
         return *known;
-    QPixmap pixmap(size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     paint(painter);
     painter.end();
+    const QPixmap pixmap = QPixmap::fromImage(image); // which sees whether anything shines through
     const int cost = int(qint64(size.width()) * size.height() * pixmap.depth() / 8 / 1024) + 1;
     m_pictures->insert(key, new QPixmap(pixmap), cost);
     return pixmap;

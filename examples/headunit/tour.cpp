@@ -5,6 +5,7 @@
 #include "launch.h"
 #include "models/musiclibrary.h"
 #include "models/preferences.h"
+#include "steadypicture.h"
 #include "tournames.h"
 #include "virtualtime.h"
 
@@ -276,7 +277,7 @@ QWidget *Tour::visibleWidget(const QString &name) const
 void Tour::takePicture()
 {
     waitForMusic();
-    const QImage picture = m_screen.grab().toImage();
+    const QImage picture = steadyPicture(m_screen);
     m_log.check(!TourLog::isBlank(picture), QStringLiteral("There is nothing on the screen."));
     m_log.save(picture);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "deviceview.h"
 
+#include <QImage>
 #include <QPaintDevice>
 #include <QPaintEngine>
 #include <QPainter>
@@ -62,6 +63,15 @@ bool copiesPixels(const QPainter &painter)
         && device.m21() == own.m21() && device.m22() == own.m22()
         && isWholePixels(device.dx() - own.dx()) && isWholePixels(device.dy() - own.dy())
         && qFuzzyCompare(engine->paintDevice()->devicePixelRatioF(), qreal(1));
+}
+
+bool hasWholeColors(const QPainter &painter)
+{
+    const QPaintDevice *device = painter.paintEngine()->paintDevice();
+    if (device->devType() != QInternal::Image)
+        return false;
+    const QImage::Format format = static_cast<const QImage *>(device)->format();
+    return format == QImage::Format_RGB32 || format == QImage::Format_ARGB32_Premultiplied;
 }
 
 bool isOnPixels(const QPainter &painter)

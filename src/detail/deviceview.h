@@ -38,6 +38,10 @@ bool isWholePixels(double distance);
 /// painter that scales, fades or mixes it.
 bool copiesPixels(const QPainter &painter);
 
+/// Whether a painter's device keeps eight bits of each colour: only there do two steps of mixing
+/// round as one does.
+bool hasWholeColors(const QPainter &painter);
+
 /// Whether one unit of a painter is one pixel of its device and begins where a pixel does. Only
 /// there is a picture scaled in advance the same as one that is scaled in drawing, and a filled
 /// rectangle the same as a line.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "drawntext.h"
 
+#include <QFontInfo>
+#include <QPainter>
 #include <QStyle>
 
 #include <cmath>
@@ -18,6 +20,12 @@ bool isPlain(QChar c)
     default:
         return true;
     }
+}
+
+bool isFilledText(const QPainter &painter)
+{
+    constexpr int kLeast = 64; // px
+    return painter.fontInfo().pixelSize() >= kLeast;
 }
 
 bool isDecorated(const QFont &font)

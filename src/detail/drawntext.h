@@ -10,6 +10,8 @@
 
 #include <tuple>
 
+class QPainter;
+
 // What QPainter::drawText(rect, flags, text) does, for caches that set its lines themselves.
 
 namespace panelkit
@@ -34,6 +36,11 @@ constexpr qreal kUnwrapped = 1 << 24; ///< px, the width of a line that is never
 
 /// Whether a character stands for itself; drawText() interprets the others, or ends a line there.
 bool isPlain(QChar c);
+
+/// Whether a painter fills letters of this size from their outlines. Such text is not for keeping
+/// as pixels: Qt has FreeType move the outlines by the part of a pixel at which the last new letter
+/// of that font began, whatever its size, so that they change by some levels meanwhile.
+bool isFilledText(const QPainter &painter);
 
 /// Whether a line goes under, through or over the text. Each of Qt's functions places it otherwise.
 bool isDecorated(const QFont &font);

@@ -10,6 +10,8 @@
 #include <QString>
 #include <QTextLayout>
 
+#include <vector>
+
 class QPainter;
 
 namespace panelkit
@@ -26,11 +28,27 @@ public:
     void draw(QPainter &painter, const QRect &rect, int flags, const QString &text,
               const QRect &inSight);
 
+    /// Draws every second letter of it, from the first or the second one on. False, and nothing
+    /// drawn, where it cannot tell them apart or might draw one over another.
+    bool drawEverySecond(QPainter &painter, const QRect &rect, int flags, const QString &text,
+                         int first);
+
+    /// How far from the left of the rectangle the painter begins the only line: its place is cut
+    /// off to the right or to the left of the origin, so that it depends on where the rectangle
+    /// stands.
+    qreal beginning(QPainter &painter, const QRect &rect, int flags, const QString &text);
+
+    /// Whether a letter may begin there, to the pixel.
+    bool mayBeginAt(int x, QPainter &painter, const QRect &rect, int flags, const QString &text);
+
     /// How often a layout had to be made.
     int layouts() const { return m_setting.changes(); }
 
 private:
+    bool isSet(QPainter &painter, const QRect &rect, int flags, const QString &text);
     void layOut(QPainter &painter);
+    QPointF startOf(const QTextLine &line, const QRect &rect) const;
+    bool standApart() const;
     void drawLines(QPainter &painter, const QRect &rect, const QRect &inSight);
     bool mayHang() const;
 
@@ -39,6 +57,7 @@ private:
     QRectF m_bounds; // of all lines, in the rectangle
     bool m_isClipped = false;
     QTextLayout m_layout;
+    std::vector<qreal> m_letters; // of a single line: where they begin, from its own beginning on
 };
 
 } // namespace panelkit

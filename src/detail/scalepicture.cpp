@@ -35,6 +35,7 @@ void drawLines(QPainter &painter, const QColor &color, const QRect *lines, int c
 
 void ScalePicture::clear(const QSize &area)
 {
+    ++m_content;
     m_area = QRect(QPoint(), area).adjusted(-kOverhang, -kOverhang, kOverhang, kOverhang);
     for (QVector<QRect> &lines : m_lines)
         lines.clear();
@@ -50,6 +51,7 @@ void ScalePicture::clear(const QSize &area)
 
 void ScalePicture::addLine(Tone tone, int x, int y1, int y2)
 {
+    ++m_content;
     const int top = std::max(std::min(y1, y2), m_area.top());
     const int bottom = std::min(std::max(y1, y2), m_area.bottom());
     if (x < m_area.left() || x > m_area.right() || top > bottom)
@@ -66,6 +68,7 @@ void ScalePicture::addLine(Tone tone, int x, int y1, int y2)
 
 void ScalePicture::addLabel(const QRectF &box, double value, Write write)
 {
+    ++m_content;
     if (!box.isValid() || !box.intersects(QRectF(m_area)))
         return;
     m_labels.push_back({box, value, write, known(value, write)});
@@ -91,6 +94,35 @@ ScalePicture::Written *ScalePicture::known(double value, Write write)
 
 void ScalePicture::draw(QPainter &painter, const QRect &part, const QColor &solid,
                         const QColor &faint)
+{
+    if (!copy(painter, part, solid, faint))
+        drawDirectly(painter, part, solid, faint);
+}
+
+// What is drawn only once is not worth keeping. Colours that shine through could lie upon each
+// other, which is rounded in another way.
+bool ScalePicture::copy(QPainter &painter, const QRect &part, const QColor &solid,
+                        const QColor &faint)
+{
+    const Look look{m_content, solid.rgba(), faint.rgba(), painter.layoutDirection(),
+                    painter.font()};
+    if (m_look.changesTo(look)) {
+        m_strip.clear();
+        return false;
+    }
+    const QRect all = m_area.adjusted(kOverhang, kOverhang, -kOverhang, -kOverhang);
+    if (part.isEmpty() || !all.contains(part) || m_isToneMixed
+        || !m_smoothing.canCopy(painter, solid))
+        return false;
+    const auto drawAll = [&](QPainter &p) { drawDirectly(p, all, solid, faint); };
+    if (!m_strip.holds(painter, part) && !m_strip.compose(painter, solid, all, drawAll))
+        return false;
+    m_strip.copy(painter, part.topLeft(), part);
+    return true;
+}
+
+void ScalePicture::drawDirectly(QPainter &painter, const QRect &part, const QColor &solid,
+                                const QColor &faint)
 {
     const auto drawRun = [&](const Run &run) {
         if (run.kind == Labels) {

@@ -2,7 +2,9 @@
 #ifndef PANELKIT_DETAIL_SCALEPICTURE_H
 #define PANELKIT_DETAIL_SCALEPICTURE_H
 
+#include "memo.h"
 #include "textcache.h"
+#include "textstrip.h"
 
 #include <QColor>
 #include <QRect>
@@ -22,7 +24,8 @@ namespace panelkit
 /// The kept picture of a scale: vertical lines, one pixel wide and in two tones, and labels centred
 /// in boxes of one size. Drawing it makes the very pixels of drawing line after line with
 /// drawLine() and label after label with drawText(), in the order in which they were added, for a
-/// fraction of the cost.
+/// fraction of the cost. What is drawn again is kept as pixels, where they can be copied; two
+/// letters that touch each other's pixels may differ by one level there.
 class ScalePicture
 {
 public:
@@ -50,6 +53,8 @@ public:
     void draw(QPainter &painter, const QRect &part, const QColor &solid,
               const QColor &faint = QColor());
 
+    /// How often its pixels were composed.
+    int compositions() const { return m_strip.compositions(); }
     /// How often a text had to be written, and how many layouts the known ones have taken.
     int writings() const { return m_writings; }
     int layouts() const;
@@ -73,6 +78,20 @@ private:
         Written *known; // or none, beyond the most that stay known
     };
 
+    // What the kept pixels depend on.
+    struct Look {
+        int content;
+        QRgb solid;
+        QRgb faint;
+        Qt::LayoutDirection direction;
+        QFont font;
+
+        auto tied() const { return std::tie(content, solid, faint, direction, font); }
+    };
+
+    bool copy(QPainter &painter, const QRect &part, const QColor &solid, const QColor &faint);
+    void drawDirectly(QPainter &painter, const QRect &part, const QColor &solid,
+                      const QColor &faint);
     void extend(Kind kind, int end);
     Written *known(double value, Write write);
     bool isOrderFree(const QPainter &painter) const;
@@ -88,6 +107,10 @@ private:
     bool m_isToneMixed = false; // a faint line may lie over a solid one
     std::unordered_map<double, Written> m_written;
     int m_writings = 0;
+    int m_content = 0; // counts what was added and cleared
+    LastKey<Look> m_look;
+    TextSmoothing m_smoothing;
+    TextStrip m_strip;
 };
 
 } // namespace panelkit

@@ -8,6 +8,7 @@
 #include "pagetest.h"
 #include "sidekeys.h"
 #include "sounddevices.h"
+#include "steadypicture.h"
 #include "touch.h"
 #include "virtualtime.h"
 
@@ -79,7 +80,7 @@ struct Settings : PageWorld {
     SpTableList *list() const { return inPage<SpTableList>("list"); }
     QString text(const char *name) const { return child<QLabel>(name)->text(); }
     QColor ground() const { return unit->palette().color(QPalette::Window); }
-    QImage picture() const { return unit->grab().toImage(); }
+    QImage picture() const { return steadyPicture(*unit); }
 
     std::unique_ptr<HeadUnit> unit;
 };

@@ -1,18 +1,23 @@
 // SPDX-License-Identifier: Apache-2.0
+#include <MArcList>
 #include <MHorSlider>
 #include <MOnOffButton>
 #include <MOProgress>
 #include <MProgressBar>
+#include <MRadioSlider>
+#include <MVScrollLabel>
 #include <SpBackgroundImage>
 #include <SpDisLabel>
 #include <SpLabel>
 #include <SpLoadingRound>
 #include <SpMaskBackground>
+#include <SpRollingText>
 #include <SpSetupSlider>
 
 #include "pictures.h"
 #include "sliderpictures.h"
 #include "touch.h"
+#include "virtualtime.h"
 #include "widgettest.h"
 
 #include <QPainter>
@@ -155,7 +160,7 @@ private slots:
                              }),
             1.9);
         row("square label",
-            made<SpDisLabel>({600, 180}, [](auto &l) { l.setText(QStringLiteral("Radio")); }), 0);
+            made<SpDisLabel>({600, 180}, [](auto &l) { l.setText(QStringLiteral("Radio")); }), 1.9);
         row("mask",
             made<SpMaskBackground>({600, 400},
                                    [](auto &m) {
@@ -172,6 +177,40 @@ private slots:
                                         b.setRotateAngle(45);
                                     }),
             0.1);
+        const QString text = QStringLiteral("Midnight Lanterns, from the album Maps for Sundays. ");
+        const auto rolling = [text](SpRollingText &t) {
+            t.setFontSize(24);
+            t.setWaitRoll(1);
+            t.setText(text);
+        };
+        const Move step = [](QWidget &w) {
+            virtualtime::advance(200);
+            w.update();
+        };
+        row("rolling text", made<SpRollingText>({600, 120}, rolling), 0.7, step);
+        row("text cleared while it rolls", made<SpRollingText>({600, 120}, rolling), 0,
+            [step](QWidget &w) {
+                step(w);
+                const int steps = w.property("steps").toInt() + 1;
+                w.setProperty("steps", steps);
+                if (steps == 6)
+                    static_cast<SpRollingText &>(w).clear();
+            });
+        row("text at rest",
+            made<SpRollingText>({600, 120}, [](auto &t) { t.setText(QStringLiteral("Radio")); }),
+            1.9);
+        row("letters on an arc",
+            made<MArcList>({560, 400},
+                           [](MArcList &l) {
+                               for (char c = 'A'; c <= 'Z'; ++c)
+                                   l.addAlpha(QLatin1Char(c));
+                               l.setItemHight(3);
+                               l.setShowItem(25);
+                           }),
+            0.2);
+        row("scrolling text",
+            made<MVScrollLabel>({600, 160}, [text](auto &l) { l.setText(text.repeated(9)); }), 1.9);
+        row("tape of a radio", made<MRadioSlider>({600, 120}, [](auto &) {}), 0.9);
         row("veiled picture", made<SpLabel>({600, 400}, [](auto &l) { l.setImage(backdrop()); }),
             1.9);
     }

@@ -125,11 +125,12 @@ public:
     explicit Canvas(QWidget *widget)
         : m_widget(widget), m_image(widget->size(), QImage::Format_ARGB32_Premultiplied)
     {
-        m_image.fill(Qt::black);
     }
 
+    // Each time on the same ground, as in a window.
     void paint()
     {
+        m_image.fill(Qt::black);
         m_widget->render(&m_image, QPoint(), QRegion(), QWidget::DrawChildren);
         QCoreApplication::sendPostedEvents();
     }

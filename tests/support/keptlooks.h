@@ -2,6 +2,7 @@
 #ifndef KEPTLOOKS_H
 #define KEPTLOOKS_H
 
+#include "textcanvas.h"
 #include "widgettest.h"
 
 #include <QImage>
@@ -102,6 +103,21 @@ void checkKeptLookFollowsItsSize(const std::function<std::unique_ptr<Widget>()> 
     QVERIFY(after != before);
     for (int paint = 0; paint < 3; ++paint)
         QVERIFY(isSamePicture({rendered(*kept), after}, "after", paint));
+}
+
+/// A very large text is drawn in each paint, because Qt draws it in another way after each new
+/// letter of its font, of whatever size. Here that is one in a size that nothing else has.
+template <class Widget>
+void checkVeryLargeText(const std::function<std::unique_ptr<Widget>()> &make, int sizeOfNewLetter)
+{
+    const auto kept = make();
+    QImage before;
+    for (int paint = 0; paint < 4; ++paint)
+        before = onGround(*kept);
+    renderNewLetter(kept->font(), sizeOfNewLetter, 0.75);
+    const QImage expected = onGround(*make());
+    QVERIFY(expected != before);
+    COMPARE_PICTURES(onGround(*kept), expected);
 }
 
 #endif // KEPTLOOKS_H

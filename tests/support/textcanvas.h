@@ -19,6 +19,33 @@ inline QImage onCanvas(const QSize &size, const std::function<void(QPainter &)> 
     return image;
 }
 
+/// The largest difference of a colour between two pictures.
+inline int distance(const QImage &a, const QImage &b)
+{
+    int most = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            const QRgb p = a.pixel(x, y);
+            const QRgb q = b.pixel(x, y);
+            most = qMax(most,
+                        qMax(qAbs(qRed(p) - qRed(q)),
+                             qMax(qAbs(qGreen(p) - qGreen(q)), qAbs(qBlue(p) - qBlue(q)))));
+        }
+    }
+    return most;
+}
+
+/// Has a letter rendered, at this part of a pixel, in a size that nothing else is drawn in: very
+/// large text of the same font is drawn in another way from then on.
+inline void renderNewLetter(QFont font, int px, qreal part)
+{
+    font.setPixelSize(px);
+    onCanvas({60, 60}, [&](QPainter &painter) {
+        painter.setFont(font);
+        painter.drawText(QPointF(part, 50), QStringLiteral("g"));
+    });
+}
+
 inline QFont fontOf(int px)
 {
     QFont font(QStringLiteral("DejaVu Sans"));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <MArcList>
 
+#include "keptlooks.h"
 #include "parent.h"
 #include "setters.h"
 #include "signallog.h"
@@ -150,6 +151,97 @@ class tst_MArcList : public WidgetTest
     Q_OBJECT
 
 private slots:
+    void manyLettersOfAnArcAreKeptUntilSomethingChanges()
+    {
+        const auto list = makeList(kArc);
+        list->setItemHight(3);
+        list->setShowItem(25);
+        list->setStartAngle(-20);
+        QString letters = alphabet();
+        int pressed = -1;
+        QFont font = list->font();
+        font.setPixelSize(15);
+        list->setFont(font);
+        const auto check = [&](const char *what) {
+            for (int paint = 0; paint < 3; ++paint) {
+                const QImage expected =
+                    reference(*list, [&](QPainter &p) { paintArc(p, *list, letters, pressed); });
+                QVERIFY2(painted(*list) == expected, what);
+            }
+        };
+        check("as it is");
+        list->setRadius(430);
+        check("radius");
+        list->setStartAngle(-21.5);
+        check("start angle");
+        list->setItemHight(2.5);
+        check("height of an item");
+        list->setShowItem(9);
+        check("shown items");
+        list->setShowItem(25);
+        touch(list.get()).press(onArc(-21.5 + 6 * 2.5 + 1, 430).x(), onArc(-5.5, 430).y());
+        pressed = 6;
+        check("pressed");
+        list->setPressColor(Qt::blue);
+        check("colour of the pressed letter");
+        list->setPressColor(QColor(0, 0, 255, 90));
+        check("colour that shines through");
+        list->setPressColor(Qt::blue);
+        list->addAlpha(QLatin1Char('1'));
+        letters += QLatin1Char('1');
+        check("another letter");
+        font.setItalic(true);
+        list->setFont(font);
+        check("font");
+        QPalette palette = list->palette();
+        palette.setColor(QPalette::WindowText, Qt::darkGreen);
+        list->setPalette(palette);
+        check("colour");
+    }
+
+    void veryLargeLettersAreDrawnInEachPaint()
+    {
+        const auto make = [] {
+            auto list = makeList(kArc);
+            list->setItemHight(3);
+            list->setShowItem(25);
+            list->setStartAngle(-20);
+            QFont font = list->font();
+            font.setPixelSize(80);
+            list->setFont(font);
+            return list;
+        };
+        checkVeryLargeText<MArcList>(make, 29);
+    }
+
+    void keptLettersAreDrawnWhereTheyCannotBeCopied()
+    {
+        const auto kept = makeList(kArc);
+        const auto fresh = makeList(kArc);
+        for (MArcList *list : {kept.get(), fresh.get()}) {
+            list->setItemHight(3);
+            list->setShowItem(25);
+            list->setStartAngle(-20);
+        }
+        using Prepare = std::function<void(QPainter &)>;
+        for (const Prepare &prepare :
+             {Prepare([](QPainter &p) { p.scale(qreal(1.5), qreal(1.5)); }),
+              Prepare([](QPainter &p) { p.setOpacity(qreal(0.5)); }),
+              Prepare([](QPainter &p) { p.translate(qreal(0.5), qreal(0.5)); })}) {
+            const auto rendered = [&](MArcList &list) {
+                QImage image(700, 500, QImage::Format_ARGB32_Premultiplied);
+                image.fill(QColor(20, 60, 90));
+                QPainter painter(&image);
+                prepare(painter);
+                list.render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
+                return image;
+            };
+            for (int paint = 0; paint < 3; ++paint)
+                painted(*kept);
+            COMPARE_PICTURES(rendered(*kept), rendered(*fresh));
+        }
+    }
+
     // --- Construction and setters ---------------------------------------------------------------
 
     void defaults()

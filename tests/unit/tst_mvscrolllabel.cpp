@@ -3,6 +3,7 @@
 
 #include "measuredtext.h"
 #include "signallog.h"
+#include "tablerows.h"
 #include "touch.h"
 #include "virtualtime.h"
 #include "widgettest.h"
@@ -12,6 +13,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
+#include <QShowEvent>
 #include <QTimerEvent>
 
 #include <climits>
@@ -91,6 +93,9 @@ int cycleOf(const MVScrollLabel &label)
     return heightOf(label, 1 + label.text().count(QLatin1Char('\n'))) + label.height();
 }
 
+using Action = std::function<void(MVScrollLabel &)>;
+using Prepare = std::function<void(QPainter &)>;
+
 int runningTimers(MVScrollLabel &label)
 {
     return QAbstractEventDispatcher::instance()->registeredTimers(&label).size();
@@ -138,6 +143,8 @@ protected:
 };
 
 } // namespace
+
+Q_DECLARE_METATYPE(Action)
 
 // Stands before the function of the same name in Qt's library, and calls it.
 Qt::Alignment QLabel::alignment() const
@@ -659,6 +666,100 @@ private slots:
         label->startScroll();
         QCOMPARE(paints(neighbour, [] { virtualtime::advance(10 * kSpeed); }), 0);
         QCOMPARE(paints(*label, [] { virtualtime::advance(10 * kSpeed); }), 10);
+    }
+
+    void eachInputShowsInAKeptText_data()
+    {
+        const TableRows<Action> row("action");
+        row("colour", [](MVScrollLabel &l) {
+            QPalette palette = l.palette();
+            palette.setColor(QPalette::WindowText, QColor(250, 120, 3));
+            l.setPalette(palette);
+        });
+        row("alignment", [](MVScrollLabel &l) { l.setAlignment(Qt::AlignHCenter | Qt::AlignTop); });
+        row("font", [](MVScrollLabel &l) {
+            QFont font = l.font();
+            font.setItalic(true);
+            l.setFont(font);
+        });
+        row("text", [](MVScrollLabel &l) { l.QLabel::setText(l.text().toUpper()); });
+        row("width", [](MVScrollLabel &l) { l.resize(150, 60); });
+        row("offset", [](MVScrollLabel &l) { touch(&l).press(5, 50).moveTo(5, 30).release(); });
+    }
+
+    void eachInputShowsInAKeptText()
+    {
+        QFETCH(Action, action);
+        const auto label = makeLabel();
+        label->setText(tall());
+        label->setAlignment(Qt::AlignRight | Qt::AlignTop);
+        for (int paint = 0; paint < 3; ++paint)
+            COMPARE_PICTURES(painted(*label), documented(*label, 0));
+        const QImage before = painted(*label);
+        const int cycle = cycleOf(*label);
+        action(*label);
+        const bool isMoved = QTest::currentDataTag() == QByteArray("offset");
+        QVERIFY(painted(*label) != before);
+        for (int paint = 0; paint < 3; ++paint)
+            COMPARE_PICTURES(painted(*label), documented(*label, isMoved ? 20 : 0));
+        QCOMPARE(cycleOf(*label), cycle);
+    }
+
+    void aKeptTextIsLaidOutAnewForAnotherHeight()
+    {
+        const auto label = makeLabel();
+        label->setText(tall());
+        label->resize(160, 90);
+        for (int paint = 0; paint < 3; ++paint)
+            COMPARE_PICTURES(painted(*label), documented(*label, 0, 60));
+        QShowEvent shown;
+        QCoreApplication::sendEvent(label.get(), &shown);
+        for (int paint = 0; paint < 3; ++paint)
+            COMPARE_PICTURES(painted(*label), documented(*label, 0));
+    }
+
+    void aKeptTextFollowsTheFingerBackAndForth()
+    {
+        const auto label = makeLabel();
+        label->setText(tall());
+        int offset = 0;
+        for (const int way : {30, 40, 70, -10, -100, -29, 160, 5, -150}) {
+            touch(label.get()).press(5, 500).moveTo(5, 500 - way).release();
+            offset += way;
+            for (int paint = 0; paint < 2; ++paint)
+                COMPARE_PICTURES(painted(*label), documented(*label, offset));
+        }
+        touch(label.get()).press(5, 500).moveTo(5, 520 + offset).release(); // before the beginning
+        for (int paint = 0; paint < 3; ++paint)
+            COMPARE_PICTURES(painted(*label), documented(*label, -20));
+    }
+
+    void aKeptTextIsOneForPaintersThatCopyIt()
+    {
+        const auto label = makeLabel();
+        label->setText(tall());
+        const auto rendered = [](MVScrollLabel &shown, const Prepare &prepare) {
+            QImage image(400, 300, QImage::Format_ARGB32_Premultiplied);
+            image.fill(QColor(20, 60, 90));
+            QPainter painter(&image);
+            prepare(painter);
+            shown.render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
+            return image;
+        };
+        const std::vector<Prepare> painters{
+            [](QPainter &p) { p.scale(qreal(1.5), qreal(1.5)); },
+            [](QPainter &p) { p.setOpacity(qreal(0.5)); },
+            [](QPainter &p) { p.translate(qreal(10.5), qreal(4.5)); },
+            [](QPainter &p) { p.translate(10, 4); },
+        };
+        for (const Prepare &prepare : painters) {
+            const auto fresh = makeLabel();
+            fresh->setText(tall());
+            const QImage direct = rendered(*fresh, prepare);
+            for (int paint = 0; paint < 3; ++paint)
+                painted(*label);
+            COMPARE_PICTURES(rendered(*label, prepare), direct);
+        }
     }
 
     void theScreenShowsEachStep_data()

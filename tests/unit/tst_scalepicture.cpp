@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "detail/scalepicture.h"
 
+#include "textcanvas.h"
 #include "widgettest.h"
 
 #include <QPainter>
@@ -85,6 +86,103 @@ class tst_ScalePicture : public WidgetTest
     Q_OBJECT
 
 private slots:
+    void whatIsDrawnAgainIsCopied()
+    {
+        for (const int labelTop : {0, 55, 66}) {
+            const QVector<Item> items = scale(labelTop, 7);
+            ScalePicture picture;
+            add(picture, items);
+            const QColor faint(255, 255, 255, 70);
+            const QImage expected =
+                ::onCanvas(kArea, [&](QPainter &p) { drawOneByOne(p, items, Qt::white, faint); });
+            for (int paint = 0; paint < 4; ++paint) {
+                const QImage actual = ::onCanvas(kArea, [&](QPainter &p) {
+                    picture.draw(p, QRect(QPoint(), kArea), Qt::white, faint);
+                });
+                QVERIFY(distance(actual, expected) <= 1);
+            }
+            QCOMPARE(picture.compositions(), 1);
+            const QImage part = ::onCanvas(kArea, [&](QPainter &p) {
+                picture.draw(p, {40, 10, 99, 66}, Qt::white, faint);
+            });
+            QVERIFY(distance(part.copy(40, 10, 99, 66), expected.copy(40, 10, 99, 66)) <= 1);
+            COMPARE_PICTURES(part.copy(0, 0, 40, 80), ::onCanvas({40, 80}, [](QPainter &) {}));
+            QCOMPARE(picture.compositions(), 1);
+        }
+    }
+
+    void eachInputShowsInACopy()
+    {
+        QVector<Item> items = scale(0, 7);
+        ScalePicture picture;
+        add(picture, items);
+        QColor solid = Qt::white;
+        QColor faint(255, 255, 255, 70);
+        QFont font = fontOf(13);
+        int compositions = 0;
+        const auto show = [&](const char *what) {
+            const auto prepared = [&](const std::function<void(QPainter &)> &paint) {
+                return ::onCanvas(kArea, [&](QPainter &p) {
+                    p.setFont(font);
+                    paint(p);
+                });
+            };
+            for (int paint = 0; paint < 3; ++paint) {
+                const QImage actual = prepared(
+                    [&](QPainter &p) { picture.draw(p, QRect(QPoint(), kArea), solid, faint); });
+                const QImage expected =
+                    prepared([&](QPainter &p) { drawOneByOne(p, items, solid, faint); });
+                QVERIFY2(distance(actual, expected) <= 1, what);
+            }
+            QCOMPARE(picture.compositions(), ++compositions);
+        };
+        show("as it is");
+        solid = QColor(20, 200, 90);
+        show("solid colour");
+        faint = QColor(20, 200, 90, 150);
+        show("faint colour");
+        font = fontOf(15);
+        show("font");
+        items += {false, false, 299, 70, 5};
+        picture.addLine(ScalePicture::Solid, 299, 70, 5);
+        show("another line");
+        items += {true, false, 290, 10, 0};
+        picture.addLabel(QRect(260, 10, 60, 25), 290, written);
+        show("another label");
+        items = scale(0, 6);
+        add(picture, items);
+        show("all anew");
+    }
+
+    void aCopyIsOnlyForPaintersThatShowItAsDrawn()
+    {
+        const QVector<Item> items = scale(0, 7);
+        const std::vector<std::function<void(QPainter &)>> painters{
+            [](QPainter &p) { p.scale(qreal(1.5), qreal(1.5)); },
+            [](QPainter &p) { p.setOpacity(qreal(0.5)); },
+            [](QPainter &p) { p.translate(qreal(0.5), qreal(0.5)); },
+            [](QPainter &p) { p.translate(10, 4); },
+        };
+        for (const auto &prepare : painters) {
+            ScalePicture fresh;
+            ScalePicture kept;
+            add(fresh, items);
+            add(kept, items);
+            const auto drawn = [&](ScalePicture &picture) {
+                return ::onCanvas(kArea, [&](QPainter &p) {
+                    prepare(p);
+                    picture.draw(p, QRect(QPoint(), kArea), Qt::white, QColor(255, 255, 255, 70));
+                });
+            };
+            for (int paint = 0; paint < 3; ++paint)
+                ::onCanvas(kArea, [&](QPainter &p) {
+                    kept.draw(p, QRect(QPoint(), kArea), Qt::white, QColor(255, 255, 255, 70));
+                });
+            QCOMPARE(kept.compositions(), 1);
+            QVERIFY(distance(drawn(kept), drawn(fresh)) <= 1);
+        }
+    }
+
     void thePixelsAreThoseOfItemAfterItem_data()
     {
         QTest::addColumn<QVector<int>>("layout");

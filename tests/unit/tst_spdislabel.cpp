@@ -841,6 +841,18 @@ private slots:
         QVERIFY(painted(window) != reference(window, nothing()));
     }
 
+    void aVeryLargeTextIsDrawnInEachPaint()
+    {
+        const auto make = [] {
+            auto label = makeLabel();
+            label->resize(300, 110);
+            label->setFontSize(80);
+            label->setText(QStringLiteral("98.5"));
+            return label;
+        };
+        checkVeryLargeText<SpDisLabel>(make, 29);
+    }
+
     void aRoundedLabelThatIsKeptFollowsItsInputs()
     {
         const auto make = [] {
@@ -866,10 +878,15 @@ private slots:
                   l.setIcon(picture(Qt::green));
                   l.setDisplayMode(SpDisLabel::Picture);
               }},
-             {"square", [](SpDisLabel &l) {
+             {"square",
+              [](SpDisLabel &l) {
                   l.setDisplayMode(SpDisLabel::String);
                   l.setRoundXY(0);
-              }}});
+              }},
+             {"text of a square", [](SpDisLabel &l) { l.setText(QStringLiteral("FM")); }},
+             {"ground of a square", [](SpDisLabel &l) { l.setPressBackgroundColor(Qt::green); }},
+             {"square without text", [](SpDisLabel &l) { l.setText(QString()); }},
+             {"size of a square", [](SpDisLabel &l) { l.resize(120, 44); }}});
         checkKeptLookElsewhere<SpDisLabel>(make);
         checkKeptLookFollowsItsSize<SpDisLabel>(make);
     }

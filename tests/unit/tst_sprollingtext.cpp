@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <SpRollingText>
 
+#include "keptlooks.h"
 #include "measuredtext.h"
 #include "setters.h"
 #include "signallog.h"
@@ -326,6 +327,95 @@ private slots:
                 COMPARE_PICTURES(painted(*text), resting(*text, QString::fromUtf8(shown)));
                 QVERIFY(!isTicking(*text));
             }
+        }
+    }
+
+    void aTextAtRestIsTheSameInEachPaint()
+    {
+        const auto text = makeText();
+        text->setText(QStringLiteral("Radio (98.5)"));
+        const auto check = [&](const char *what) {
+            for (int paint = 0; paint < 3; ++paint)
+                QVERIFY2(painted(*text) == resting(*text, text->text()), what);
+        };
+        check("as it is");
+        text->setTextColor(QColor(250, 120, 3));
+        check("colour");
+        text->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+        check("alignment");
+        QFont italic = text->font();
+        italic.setItalic(true);
+        text->setFont(italic);
+        check("font");
+        text->setText(QStringLiteral("Radio (98.6)"));
+        check("text");
+        text->setTextAlignment(Qt::AlignRight | Qt::AlignTop);
+        check("alignment to the right");
+        text->resize(170, 30);
+        check("width");
+        text->setTextColor(QColor(250, 120, 3, 100));
+        check("colour that shines through");
+    }
+
+    void aTextThatIsKeptIsDrawnWhereItCannotBeCopied()
+    {
+        using Prepare = std::function<void(QPainter &)>;
+        const auto rendered = [](SpRollingText &shown, const Prepare &prepare) {
+            QImage image(400, 120, QImage::Format_ARGB32_Premultiplied);
+            image.fill(QColor(20, 60, 90));
+            QPainter painter(&image);
+            prepare(painter);
+            shown.render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
+            return image;
+        };
+        for (const QString &content : {QStringLiteral("Radio"), kLong}) {
+            for (const Prepare &prepare : {
+                     Prepare([](QPainter &p) { p.scale(qreal(1.5), qreal(1.5)); }),
+                     Prepare([](QPainter &p) { p.setOpacity(qreal(0.5)); }),
+                     Prepare([](QPainter &p) { p.translate(qreal(10.5), qreal(4.5)); }),
+                 }) {
+                const auto kept = makeText();
+                const auto fresh = makeText();
+                kept->setText(content);
+                fresh->setText(content);
+                for (int paint = 0; paint < 3; ++paint)
+                    painted(*kept);
+                COMPARE_PICTURES(rendered(*kept, prepare), rendered(*fresh, prepare));
+            }
+        }
+    }
+
+    // Sixteen bits of colour round a copy in another way.
+    void onADeviceOfFewColoursATextIsDrawn()
+    {
+        for (const QString &content : {QStringLiteral("Radio (98.5)"), kLong}) {
+            const auto text = makeText();
+            text->setText(content);
+            QImage first;
+            for (int paint = 0; paint < 3; ++paint) {
+                QImage image(160, 30, QImage::Format_RGB16);
+                image.fill(QColor(20, 60, 90));
+                text->render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
+                if (paint == 0)
+                    first = image;
+                COMPARE_PICTURES(image, first);
+            }
+        }
+    }
+
+    void aVeryLargeTextIsDrawnInEachPaint()
+    {
+        for (const bool isRolling : {false, true}) {
+            const auto make = [isRolling] {
+                auto text = makeText();
+                text->resize(600, 110);
+                text->setFontSize(80);
+                text->setAutoRoll(isRolling);
+                text->setWaitRoll(10000);
+                text->setText(isRolling ? kLong : QStringLiteral("Radio 98.5"));
+                return text;
+            };
+            checkVeryLargeText<SpRollingText>(make, isRolling ? 27 : 29);
         }
     }
 
