@@ -101,7 +101,7 @@ qreal LinesCache::beginning(QPainter &painter, const QRect &rect, int flags, con
 {
     if (!isSet(painter, rect, flags, text) || m_layout.lineCount() != 1)
         return rect.left() < 0 ? -kUnwrapped : kUnwrapped;
-    return lineStart(startOf(m_layout.lineAt(0), rect)).x() - rect.left();
+    return lineStart(startOf(m_layout.lineAt(0), rect)).x() - qreal(rect.left());
 }
 
 bool LinesCache::mayBeginAt(int x, QPainter &painter, const QRect &rect, int flags,
@@ -192,7 +192,7 @@ void LinesCache::layOut(QPainter &painter)
 // Ink may stand out of its line, but not by more than the height of one.
 void LinesCache::drawLines(QPainter &painter, const QRect &rect, const QRect &inSight)
 {
-    const qreal first = rect.top() + m_bounds.top();
+    const qreal first = qreal(rect.top()) + m_bounds.top();
     const int count = m_layout.lineCount();
     for (int i = 0; i < count; ++i) {
         const QTextLine line = m_layout.lineAt(i);

@@ -60,7 +60,7 @@ int endWidthIn(const QSize &area)
 
 QPen Marquee::pen(const QSize &area, const QColor &color)
 {
-    QLinearGradient gradient(0, 0, area.width() - 1, area.height() - 1);
+    QLinearGradient gradient(0, 0, qreal(area.width() - 1), qreal(area.height() - 1));
     gradient.setColorAt(0, Qt::transparent);
     gradient.setColorAt(qreal(kFadeIn), color);
     gradient.setColorAt(qreal(kFadeOut), color);

@@ -81,7 +81,7 @@ QImage drawnText(const QPainter &like, const QColor &color, const QSize &size, i
     painter.setPen(color);
     painter.setLayoutDirection(like.layoutDirection());
     painter.setRenderHints(like.renderHints());
-    painter.translate(column, 0);
+    painter.translate(qreal(column), 0);
     if (!paint(painter))
         return {};
     painter.end();

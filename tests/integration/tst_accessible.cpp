@@ -9,9 +9,9 @@
 
 #include <QAccessible>
 #include <QCoreApplication>
-#include <QProcess>
 #include <QLabel>
 #include <QLayout>
+#include <QProcess>
 
 #include <climits>
 
@@ -177,6 +177,7 @@ private slots:
         QCOMPARE(statesOf(&icon), QStringLiteral("pressed disabled focused invisible"));
         SpHorStrButton horizontal;
         horizontal.setPressState(true);
+        QCOMPARE(statesOf(&horizontal), QStringLiteral("pressed invisible"));
         horizontal.setBtnDisable(true);
         QCOMPARE(statesOf(&horizontal), QStringLiteral("pressed disabled invisible"));
         SpVerStrButton vertical;
