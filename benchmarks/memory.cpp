@@ -39,7 +39,7 @@ bool printMemory()
 {
     // The children that their interfaces promise, a kept look; a table's headers, bars and models.
     const std::map<std::string, double> most = {{"SpTableList", 35'000}, {"MArcList", 1650},
-                                                {"SpRollingText", 1850}, {"SpSetupSlider", 3200},
+                                                {"SpRollingText", 1600}, {"SpSetupSlider", 3200},
                                                 {"MHorSlider", 2300},    {"MRadioMovePoint", 4800}};
     const double bare = bytesOf(make<QWidget>);
     std::printf("| %-22s | %12s | %6s |\n|%s|%s:|%s:|\n", "class", "bytes", "most",

@@ -22,6 +22,7 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -143,7 +144,7 @@ public:
     LetterCache letters;
     Memo<Arc, std::vector<Place>> places;
     QRectF inked; // where letters may have ink
-    KeptLook<Letters> look; // of the arc
+    std::unique_ptr<KeptLook<Letters>> look; // of an arc of many letters
     std::array<LayerCache<PictureKey>, 2> markers; // pressed, current
 };
 
@@ -301,15 +302,17 @@ void MArcList::drawTicks(QPainter *painter)
     if (!painter)
         return;
     if (d->placesOnArc(*painter).size() <= kFewTurns || isFilledText(*painter)) {
-        d->look.forget();
+        d->look.reset();
         d->drawLetters(*painter);
         return;
     }
-    d->look.draw(*painter, painter->worldTransform().inverted().mapRect(d->inked).toAlignedRect(),
-                 {d->radius, d->startAngle, d->itemHight, d->showItem, d->pressedIndex,
-                  d->pressColor, painter->layoutDirection(), painter->pen(), d->characters,
-                  painter->font()},
-                 [this](QPainter &p) { d->drawLetters(p); });
+    if (!d->look)
+        d->look = std::make_unique<KeptLook<Private::Letters>>();
+    d->look->draw(*painter, painter->worldTransform().inverted().mapRect(d->inked).toAlignedRect(),
+                  {d->radius, d->startAngle, d->itemHight, d->showItem, d->pressedIndex,
+                   d->pressColor, painter->layoutDirection(), painter->pen(), d->characters,
+                   painter->font()},
+                  [this](QPainter &p) { d->drawLetters(p); });
 }
 
 /** Draws the marker of the arc at the pressed character, and at the current one if it is another.

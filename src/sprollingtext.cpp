@@ -85,7 +85,7 @@ public:
     QFont measuredFont;
     int measuredWidth = 0; // px
     TextCache resting;
-    KeptLook<TextSetting> restingLook;
+    std::unique_ptr<KeptLook<TextSetting>> restingLook;
     LinesCache rolling;
     std::unique_ptr<Marquee> marquee; // of a text that has rolled
 };
@@ -279,7 +279,7 @@ void SpRollingText::paintFinishSlot()
 // What rests and what rolls are not both kept.
 void SpRollingText::Private::forgetPixels()
 {
-    restingLook.forget();
+    restingLook.reset();
     marquee.reset();
 }
 
@@ -326,14 +326,16 @@ void SpRollingText::Private::drawResting(QPainter &painter)
         resting.draw(p, QRectF(q->rect()), int(textAlignment), displayText);
     };
     if (isFilledText(painter)) {
-        restingLook.forget();
+        restingLook.reset();
         draw(painter);
         return;
     }
-    restingLook.draw(painter, q->rect(),
-                     {displayText, QSizeF(q->size()), int(textAlignment), painter.font(),
-                      painter.layoutDirection()},
-                     draw);
+    if (!restingLook)
+        restingLook = std::make_unique<KeptLook<TextSetting>>();
+    restingLook->draw(painter, q->rect(),
+                      {displayText, QSizeF(q->size()), int(textAlignment), painter.font(),
+                       painter.layoutDirection()},
+                      draw);
 }
 
 // Both ends fade along the diagonal of the widget. A TextCache would place such a pen by the
