@@ -640,9 +640,6 @@ private slots:
         QCOMPARE(paints(*slider, [&] { finger.moveTo(25, 131); }), 0);
         QCOMPARE(paints(*slider, [&] { finger.moveTo(25, 229); }), 1);
         QCOMPARE(paints(*slider, [&] { finger.release(); }), 1);
-        slider->setPointPressImage(slider->pointNormalImage());
-        QCOMPARE(paints(*slider, [&] { finger.press(25, 229); }), 1); // although nothing changes
-        QCOMPARE(paints(*slider, [&] { finger.release(); }), 1);
     }
 
     void touchesGoOnToTheParent()
