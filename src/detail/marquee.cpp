@@ -106,7 +106,7 @@ int Marquee::pixels() const
                                     &m_ends[1].colors,
                                     &m_ends[1].laterColors,
                                     &m_ends[1].turns};
-    qsizetype bytes = qsizetype(m_meetings.size() * sizeof(Meeting));
+    qsizetype bytes = qsizetype(m_meetings.size()) * qsizetype(sizeof(Meeting));
     for (const QImage *image : images)
         bytes += image->sizeInBytes();
     return int(bytes / qsizetype(sizeof(QRgb)));
