@@ -19,6 +19,7 @@ constexpr double kFadeOut = 0.92;
 constexpr int kWidestEnd = 254; // px, what a byte counts
 constexpr int kSpare = 2; // px, that rounding may move the end of a fade
 constexpr int kFarthest = 255; // px, likewise
+constexpr int kLongestInk = 64; // px, of one letter: a text as large is not kept
 constexpr int kSixteenthsOfText = 20; // of a pixel's memory, its stretch included
 constexpr int kPicturesOfEnds = 6; // two of each end, their turns, and one for both
 
@@ -131,6 +132,7 @@ bool Marquee::composeEnds()
 
 // The place in the area counts, too. From the right to the left: what begins at each pixel, and how
 // much farther to the left something has to begin to come out as another colour, the last there is.
+// Ink may begin before the end does.
 bool Marquee::composeEnd(End &end) const
 {
     const QSize size(m_endWidth, m_fade->area.height());
@@ -145,14 +147,16 @@ bool Marquee::composeEnd(End &end) const
     const QBrush brush = pen(m_fade->area, QColor(m_fade->color)).brush();
     QPainter painter(&filled);
     painter.setCompositionMode(QPainter::CompositionMode_Source);
-    for (int begin = size.width() - 1; begin >= 0; --begin) {
+    for (int begin = size.width() - 1; begin >= -std::min(end.left, kLongestInk); --begin) {
         painter.fillRect(end.left + begin, 0, size.width() - begin, size.height(), brush);
         for (int y = 0; y < size.height(); ++y) {
             const QRgb *pixels = row(qAsConst(filled), y) + end.left;
             QRgb *colors = row(end.colors, y);
             uchar *turns = end.turns.scanLine(y);
-            colors[begin] = pixels[begin];
-            for (int x = begin + 1; x < size.width(); ++x) {
+            if (begin >= 0)
+                colors[begin] = pixels[begin];
+            const int last = std::min(size.width() - 1, begin + kFarthest);
+            for (int x = std::max(begin + 1, 0); x <= last; ++x) {
                 if (turns[x] == 0 && pixels[x] != colors[x]) {
                     turns[x] = uchar(x - begin);
                     row(end.laterColors, y)[x] = pixels[x];

@@ -446,6 +446,12 @@ void tst_AccessibleTouch::aLetterIsPressedAsByATap()
         });
         QCOMPARE(far.filter(QStringLiteral("itemClicked")).size(), 1);
         QVERIFY(far.filter(QStringLiteral("itemClicked")).at(0).contains(QStringLiteral("H")));
+        said(letters, [&](QWidget *widget) {
+            prepare(widget);
+            widget->setEnabled(false);
+            rowOf(widget, "H")->actionInterface()->doAction("Press");
+            QVERIFY(rowOf(widget, "H")->state().offscreen); // nor is it brought into sight
+        });
     }
 }
 

@@ -139,6 +139,38 @@ private slots:
         QCOMPARE(shown.marquee.fades(), 1);
     }
 
+    // Where no pixel belongs to two letters there is nothing to round. The text begins to the right
+    // of the canvas's left edge, where Qt would cut its place the other way.
+    void lettersApartAreExact_data()
+    {
+        QTest::addColumn<QColor>("color");
+        QTest::addColumn<QString>("text");
+        const QString words = QStringLiteral("Paper Motorway and more than that, and more of it");
+        const QString dashes = QStringLiteral("\u2014\u2014 \u2014\u2014\u2014 ").repeated(6);
+        QTest::newRow("white") << QColor(Qt::white) << words;
+        QTest::newRow("coloured") << QColor(250, 120, 3) << words;
+        QTest::newRow("long stretches") << QColor(Qt::white) << dashes;
+        QTest::newRow("long stretches, coloured") << QColor(250, 120, 3) << dashes;
+    }
+
+    void lettersApartAreExact()
+    {
+        QFETCH(QColor, color);
+        QFETCH(QString, text);
+        Subject subject = leftAligned();
+        subject.area = QSize(400, 36);
+        subject.width = 1200;
+        subject.color = color;
+        subject.text = QString(6, QLatin1Char(' ')) + text;
+        subject.font.setLetterSpacing(QFont::AbsoluteSpacing, 4);
+        Shown shown;
+        for (int offset = 0; offset < 40; ++offset) {
+            const QImage actual = shown.at(subject, offset);
+            QVERIFY(shown.isDrawn);
+            COMPARE_PICTURES(actual, expected(subject, offset));
+        }
+    }
+
     void aTextIsCutAtTheEndOfItsPlace()
     {
         Subject subject;
