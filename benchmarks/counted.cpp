@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "counted.h"
 
-#ifdef __aarch64__
+#ifdef PANELKIT_QEMU_PLUGIN
 
 #include "qemu/mark.h"
 

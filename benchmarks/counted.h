@@ -2,8 +2,8 @@
 #ifndef PANELKIT_BENCHMARKS_COUNTED_H
 #define PANELKIT_BENCHMARKS_COUNTED_H
 
-/// Marks for who counts the instructions of the program: Callgrind, or on 64-bit Arm the plugin of
-/// qemu. Without one of them they do nothing.
+/// Marks for who counts the instructions of the program: Callgrind, or the plugin of qemu where
+/// that runs what is built. Without one of them they do nothing.
 namespace counted
 {
 

@@ -137,11 +137,11 @@ def scene_table(scenes):
 
 
 def arm_table(scenes):
-    yield "| scene | frames | on Arm, millions | on the desktop, millions | Arm / desktop |"
+    yield "| scene | frames | on Arm, thousands | on the desktop, thousands | Arm / desktop |"
     yield "|---|--:|--:|--:|--:|"
     for scene in scenes:
-        yield (f"| {scene['scene']} | {scene['frames']} | {scene['arm'] / 1e6:.2f} "
-               f"| {scene['here'] / 1e6:.2f} | {scene['arm'] / scene['here']:.2f} |")
+        yield (f"| {scene['scene']} | {scene['frames']} | {scene['arm'] / 1e3:,.0f} "
+               f"| {scene['here'] / 1e3:,.0f} | {scene['arm'] / scene['here']:.2f} |")
 
 
 def replaced(page, mark, lines):
