@@ -225,6 +225,14 @@ void dressSwitch(MOnOffButton &button, const Theme &theme)
     button.setPressChunkPix(knob);
 }
 
+void standOnFace(QWidget &widget, const Theme &theme)
+{
+    QPalette palette = widget.palette();
+    palette.setColor(widget.backgroundRole(), theme.face);
+    widget.setPalette(palette);
+    widget.setAutoFillBackground(true);
+}
+
 void rollWhileShown(SpRollingText &text) { new RollWhileShown(text); }
 
 void dressLabel(QLabel &label, const Theme &theme, Theme::TextSize size, bool quiet)

@@ -28,6 +28,10 @@ void dressKey(SpIconButton &button, const Theme &theme, Theme::Style style,
 /// free of a size of its own: its size policy is to be "Ignored".
 void dressPanel(QLabel &panel, const Theme &theme);
 
+/// Gives what often moves a ground of its own, where it lies within a panel's face: each step would
+/// otherwise paint the panel, and the page below it, too.
+void standOnFace(QWidget &widget, const Theme &theme);
+
 /// Gives one of several choices that stand below each other its faces: it stays down while it is
 /// the one, with a tick at its end. The caption begins where lines begin, after the icon.
 void dressChoice(MFocusButton &button, const Theme &theme, const QString &icon = {});

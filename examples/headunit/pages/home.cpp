@@ -138,6 +138,7 @@ void HomePage::dressStrip()
     const int touch = theme().touch();
     m_ui->title->setFontSize(theme().textPx(Theme::Body));
     m_ui->title->setTextColor(theme().text);
+    standOnFace(*m_ui->title, theme());
     const Qt::Alignment side =
         isWide() ? Qt::AlignHCenter : leadingAlignment() & ~Qt::AlignVertical_Mask;
     m_ui->title->setTextAlignment(side | Qt::AlignBottom);

@@ -248,6 +248,7 @@ void RadioPage::dressTexts()
     for (SpRollingText *text : {m_ui->station, m_ui->radioText}) {
         text->setTextAlignment(leadingAlignment());
         text->setWaitRoll(kReading);
+        standOnFace(*text, theme());
     }
 }
 
