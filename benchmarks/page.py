@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: Apache-2.0
 """Puts what was counted and measured into the guide: a plot, and tables between marks in the page.
 
-usage: page.py COUNTS_JSON SCENES_JSON PAGE PLOT
+usage: page.py COUNTS_JSON SCENES_JSON ARM_JSON PAGE PLOT
 """
 
 import json
@@ -136,6 +136,14 @@ def scene_table(scenes):
         yield f"| {scene['scene']} | {scene['copies']:.2f} | {limit} |"
 
 
+def arm_table(scenes):
+    yield "| scene | frames | on Arm, thousands | on the desktop, thousands | Arm / desktop |"
+    yield "|---|--:|--:|--:|--:|"
+    for scene in scenes:
+        yield (f"| {scene['scene']} | {scene['frames']} | {scene['arm'] / 1e3:,.0f} "
+               f"| {scene['here'] / 1e3:,.0f} | {scene['arm'] / scene['here']:.2f} |")
+
+
 def replaced(page, mark, lines):
     """The page with other lines between the marks of that name."""
     pattern = rf"(<!-- {mark} -->\n).*?(<!-- end of {mark} -->)"
@@ -147,11 +155,12 @@ def replaced(page, mark, lines):
 
 
 def main():
-    counts, scenes, page, picture = map(pathlib.Path, sys.argv[1:])
+    counts, scenes, arm, page, picture = map(pathlib.Path, sys.argv[1:])
     classes = classes_of(json.loads(counts.read_text()))
     picture.write_text(plot(classes))
     content = replaced(page.read_text(), "classes", class_table(classes))
     content = replaced(content, "scenes", scene_table(json.loads(scenes.read_text())))
+    content = replaced(content, "scenes on Arm", arm_table(json.loads(arm.read_text())))
     page.write_text(content)
 
 

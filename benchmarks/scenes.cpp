@@ -2,10 +2,17 @@
 // What whole pages of the head unit cost: painted anew, and each frame while something in them
 // moves, through the backing store of a window. As a multiple of what it takes to copy the memory
 // of the screen once, which is measured after each frame.
+//
+// usage: panelkit-scenes [--count | FILE.json]
+//
+// With --count it prints nothing: Callgrind or a plugin of qemu counts the instructions of each
+// frame. Time is virtual then, so that the same frames are painted however slow that is.
 
 #include "car.h"
+#include "counted.h"
 #include "finger.h"
 #include "sidekeys.h"
+#include "virtualtime.h"
 
 #include <spiconbutton.h>
 #include <sprollingtext.h>
@@ -18,8 +25,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLoggingCategory>
-
-#include <valgrind/callgrind.h>
 
 #include <algorithm>
 #include <cstdio>
@@ -36,9 +41,6 @@ namespace
 constexpr int kTitles = 400;
 constexpr int kMarqueeWait = 150; // ms
 constexpr std::size_t kScreenBytes = std::size_t(kScreen.width()) * kScreen.height() * 4;
-
-// Counts are the same each time, times are not.
-int fullFrames() { return RUNNING_ON_VALGRIND != 0 ? 4 : 40; }
 
 /// The copy of a screen into another one.
 class ScreenCopy
@@ -60,20 +62,22 @@ struct Frame {
     double copy; // ms
 };
 
-/// Notes what each frame of a window costs, and the copy of a screen after it. Under Callgrind each
-/// leaves a dump under the name of the scene.
+/// Notes what each frame of a window costs, and the copy of a screen after it. What counts
+/// instructions counts those of each frame of a scene under its name.
 class Application : public QApplication
 {
 public:
     using QApplication::QApplication;
 
-    void setScene(const std::string &name)
+    /// The frames while something is played.
+    template <class Action> std::vector<Frame> framesOf(const std::string &scene, Action action)
     {
-        m_frameName = name + "/frame";
-        m_copyName = name + "/copy";
+        m_scene = scene;
         m_frames.clear();
+        action();
+        m_scene.clear();
+        return m_frames;
     }
-    const std::vector<Frame> &frames() const { return m_frames; }
 
     bool notify(QObject *receiver, QEvent *event) override
     {
@@ -83,9 +87,10 @@ public:
         m_isInFrame = true;
         m_hasPainted = false;
         bool result = false;
-        const double cost =
-            costOf(m_frameName, [&] { result = QApplication::notify(receiver, event); });
-        const double copy = costOf(m_copyName, [this] { m_screenCopy.run(); });
+        counted::begin();
+        const double cost = costOf([&] { result = QApplication::notify(receiver, event); });
+        counted::end(m_hasPainted ? m_scene.c_str() : "");
+        const double copy = costOf([this] { m_screenCopy.run(); });
         if (m_hasPainted)
             m_frames.push_back({cost, copy});
         m_isInFrame = false;
@@ -93,21 +98,14 @@ public:
     }
 
 private:
-    template <class Action> double costOf(const std::string &name, Action action)
+    template <class Action> double costOf(Action action)
     {
-        CALLGRIND_START_INSTRUMENTATION;
-        CALLGRIND_ZERO_STATS;
         const double before = used();
         action();
-        const double cost = used() - before;
-        if (RUNNING_ON_VALGRIND != 0)
-            CALLGRIND_DUMP_STATS_AT(name.c_str());
-        CALLGRIND_STOP_INSTRUMENTATION;
-        return cost;
+        return used() - before;
     }
 
-    std::string m_frameName; // Callgrind only points to it
-    std::string m_copyName;
+    std::string m_scene; // empty between the scenes
     std::vector<Frame> m_frames;
     ScreenCopy m_screenCopy;
     bool m_isInFrame = false;
@@ -136,9 +134,13 @@ struct Scene {
 class Scenes
 {
 public:
-    explicit Scenes(const QString &music) : m_car(music)
+    /// With so many frames where a page is painted anew as often as one likes.
+    Scenes(const QString &music, int fullFrames) : m_fullFrames(fullFrames), m_car(music)
     {
-        m_car.waitForMusic();
+        {
+            const virtualtime::Standstill clock;
+            m_car.waitForMusic();
+        }
         Finger(&m_car.screen).hold(500); // until all is at rest
     }
 
@@ -157,9 +159,7 @@ public:
 private:
     template <class Action> void add(const std::string &name, double limit, Action action)
     {
-        application().setScene(name);
-        action();
-        m_scenes.push_back({name, limit, application().frames()});
+        m_scenes.push_back({name, limit, application().framesOf(name, action)});
     }
 
     QWidget *open(const char *page)
@@ -180,7 +180,7 @@ private:
     void full(const std::string &page, double limit = 0)
     {
         add(page + ", all of it", limit, [this] {
-            for (int i = 0; i < fullFrames(); ++i) {
+            for (int i = 0; i < m_fullFrames; ++i) {
                 m_car.screen.update();
                 QCoreApplication::processEvents();
             }
@@ -190,9 +190,9 @@ private:
     void pressTile()
     {
         auto *tile = find<QWidget>("home", "soundTile");
-        add("home, a tile pressed and left", 0, [tile] {
+        add("home, a tile pressed and left", 0, [this, tile] {
             Finger finger(tile);
-            for (int i = 0; i < fullFrames() / 2; ++i) // it is left before it is released: no click
+            for (int i = 0; i < m_fullFrames / 2; ++i) // it is left before it is released: no click
                 finger.press().hold(20).moveTo({-200, -200}).hold(20).release().hold(20);
         });
     }
@@ -218,7 +218,7 @@ private:
         Finger finger(&m_car.screen);
         finger.hold(kMarqueeWait);
         add("home, the smallest frame", 0, [&] {
-            for (int i = 0; i < fullFrames() / 2; ++i) {
+            for (int i = 0; i < m_fullFrames / 2; ++i) {
                 dot.update();
                 finger.hold(kMarqueeWait);
             }
@@ -269,6 +269,7 @@ private:
         });
     }
 
+    int m_fullFrames;
     Car m_car;
     std::vector<Scene> m_scenes;
 };
@@ -310,17 +311,23 @@ bool writeJson(const QString &path, const std::vector<Scene> &scenes)
 
 int main(int argc, char **argv)
 {
+    const bool isCounted = argc == 2 && std::strcmp(argv[1], "--count") == 0;
+    if (isCounted)
+        virtualtime::start();
     Application app(argc, argv);
     QApplication::setFont(QFont(QStringLiteral("DejaVu Sans")));
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
     const QTemporaryDir music;
     writeMusic(music, kTitles);
-    Scenes player(music.path());
+    // Counts are the same each time, times are not.
+    Scenes player(music.path(), isCounted ? 4 : 40);
     const std::vector<Scene> scenes = player.play();
     for (const Scene &scene : scenes) {
         if (scene.frames.empty())
             qFatal("%s has no frames", scene.name.c_str());
     }
+    if (isCounted)
+        return 0;
     print(scenes);
     return argc < 2 || writeJson(QString::fromLocal8Bit(argv[1]), scenes) ? 0 : 1;
 }
