@@ -203,6 +203,30 @@ private slots:
     }
 
     // Once for its bounds and once for the layout that is kept; drawText() shapes it each time.
+    // Of one line; where there are several, any place may be one.
+    void itIsKnownWhereALetterMayBegin()
+    {
+        LinesCache lines;
+        const QString text = QStringLiteral("oo");
+        const int width = QFontMetrics(fontOf(16)).horizontalAdvance(QLatin1Char('o'));
+        onCanvas([&](QPainter &p) {
+            p.setFont(fontOf(16));
+            const QRect line(50, 0, 200, 30);
+            QVERIFY(lines.mayBeginAt(50, p, line, Qt::AlignLeft, text));
+            QVERIFY(!lines.mayBeginAt(51, p, line, Qt::AlignLeft, text));
+            QVERIFY(!lines.mayBeginAt(0, p, line, Qt::AlignLeft, text));
+            QVERIFY(!lines.mayBeginAt(50 + width + 2, p, line, Qt::AlignLeft, text));
+            QCOMPARE(lines.beginning(p, line, Qt::AlignRight | Qt::TextSingleLine, text),
+                     lines.beginning(p, line.translated(-50, 0),
+                                     Qt::AlignRight | Qt::TextSingleLine, text));
+            const QString more = text + QLatin1Char('\n') + text;
+            QVERIFY(lines.mayBeginAt(51, p, line, Qt::AlignLeft, more)); // it is not looked for
+            const qreal unknown = lines.beginning(p, line, Qt::AlignLeft, more);
+            QCOMPARE(lines.beginning(p, line.translated(-50, 0), Qt::AlignLeft, more), unknown);
+            QVERIFY(lines.beginning(p, line.translated(-51, 0), Qt::AlignLeft, more) != unknown);
+        });
+    }
+
     void aTextIsShapedTwiceAndThenNoMore()
     {
         const QString text = texts().at(1);

@@ -1304,6 +1304,18 @@ private slots:
         QCOMPARE(list->startAngle(), start - 60); // upwards at last
     }
 
+    void onePixelDownIsTheWayOfAFling()
+    {
+        const auto list = makeList(kArc);
+        list->setStartAngle(-100);
+        virtualtime::advance(10);
+        Touch finger = touch(list.get());
+        finger.press(10, 100).moveTo(10, 299).moveTo(10, 300).hold(100).release();
+        const double start = list->startAngle();
+        virtualtime::advance(1000);
+        QCOMPARE(list->startAngle(), start + 60);
+    }
+
     void theColumnFlingsTheOtherWay()
     {
         const auto list = makeList(kColumn);
@@ -1367,6 +1379,8 @@ private slots:
         finger.press(10, 100);
         QVERIFY(!isFlinging(*list));
         const double stopped = list->startAngle();
+        QMetaObject::invokeMethod(list.get(), "speedTimerSlot"); // none of its steps is left
+        QCOMPARE(list->startAngle(), stopped);
         finger.hold(1000).release().hold(1000);
         QCOMPARE(list->startAngle(), stopped);
     }

@@ -302,6 +302,25 @@ private slots:
         }
     }
 
+    void onlyRowsWithInkAreKept()
+    {
+        int pixels[3] = {};
+        for (int i : {0, 1, 2}) {
+            Subject subject;
+            subject.area = QSize(200, 90);
+            subject.flags = Qt::AlignLeft
+                | (i == 0       ? Qt::AlignTop
+                       : i == 1 ? Qt::AlignVCenter
+                                : Qt::AlignBottom);
+            Shown shown;
+            shown.at(subject, 0);
+            QVERIFY(shown.isDrawn);
+            pixels[i] = shown.marquee.pixels();
+        }
+        QCOMPARE(pixels[1], pixels[0]);
+        QCOMPARE(pixels[2], pixels[0]);
+    }
+
     void aTextWithoutInkIsNothing()
     {
         Subject subject;
