@@ -9,7 +9,6 @@
 #include <QListView>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
-#include <QThread>
 #include <sptablelist.h>
 
 namespace
@@ -145,10 +144,7 @@ void fling(SpTableList &list)
     int before = 0;
     do {
         list.verticalScrollBar()->setValue(0);
-        touch(list, QEvent::MouseButtonPress, kSize.height() - 1);
-        touch(list, QEvent::MouseMove, 0);
-        QThread::msleep(5);
-        touch(list, QEvent::MouseButtonRelease, 0);
+        flick(*list.viewport(), {100, kSize.height() - 1}, {100, 0}, {100, 0});
         before = bar->value();
         tick(list);
     } while (bar->value() == before);
