@@ -216,7 +216,7 @@ void addLooks(Rows &rows)
         bar([](MArcScrollBar &b) { b.setMaximum(kManyValues); }), {crowdedFloor()}, {},
         {"its ticks are so near to each other that their soft edges lie over each other, and "
          "each is drawn in every paint, for 14,000 instructions",
-         25});
+         22});
     rows.paint("MArcScrollBar", "straight", bar(straighten), {straightFloor()}, {scrollBar},
                {"it takes less than its blit; 5,500 instructions a paint go into its rules, which "
                 "its floor does not have",
