@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "canvas.h"
 #include "floors.h"
+#include "mouse.h"
 #include "rows.h"
 
 #include <mvscrolllabel.h>
@@ -82,6 +83,21 @@ PaintingMaker scrolling()
     };
 }
 
+// The finger pushes the text up and back, and each of its steps is painted.
+PaintingMaker pushed()
+{
+    return []() -> Painting {
+        const auto canvas = makeCanvas(kSize);
+        const auto label = shownOn<MVScrollLabel>(canvas, kSize, prepare);
+        sendMouse(*label, QEvent::MouseButtonPress, {150, 80});
+        return {canvas, [label, y = 80]() mutable {
+                    y = y == 80 ? 77 : 80;
+                    sendMouse(*label, QEvent::MouseMove, {150, y});
+                    label->paint();
+                }};
+    };
+}
+
 // Only the lines that are in sight, from each repetition of the text.
 PaintingMaker floor(int firstOffset, int speed)
 {
@@ -139,4 +155,5 @@ void defineRows(Rows &rows, Tag<MVScrollLabel>)
                {floor(0, 0), kFloorLimit}, {{"QLabel", label(), kPeerLimit}});
     rows.motion("MVScrollLabel", "scrolling step", scrolling(), {floor(1, 1), kFloorLimit},
                 {{"QScrollArea with QLabel", scrollArea(), kPeerLimit}});
+    rows.move("MVScrollLabel", "pushed", pushed(), {floor(0, 0), kFloorLimit}, {});
 }
