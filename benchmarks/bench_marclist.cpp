@@ -109,7 +109,7 @@ private:
     {
         const int way = isArc() ? -1 : 1;
         const QPoint from(kFingerX, kSize.height() / 2 + 20);
-        ::flick(*m_list, from, from + QPoint(0, way), from + QPoint(0, way * 2000000));
+        ::flick(*m_list, from, from + QPoint(0, way), from + QPoint(0, way * 1000000000));
     }
 
     std::shared_ptr<MArcList> m_list;

@@ -62,9 +62,9 @@ template <class Enter> PaintingMaker glidingButton(Enter enter)
         const auto canvas = makeCanvas(kSize);
         const auto button = shownOn<MOnOffButton>(canvas, kSize, enter);
         return {canvas, [button] {
-                    if (!hasTimer(*button))
+                    if (timerOf(*button) == 0)
                         button->changeStatus(!button->onoffStatus());
-                    sendTick(*button);
+                    sendTick(*button, timerOf(*button));
                     button->paint();
                 }};
     });

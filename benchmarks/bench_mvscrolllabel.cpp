@@ -3,9 +3,9 @@
 #include "floors.h"
 #include "mouse.h"
 #include "rows.h"
+#include "ticks.h"
 
 #include <mvscrolllabel.h>
-#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QFontMetrics>
 #include <QLabel>
@@ -13,7 +13,6 @@
 #include <QScrollBar>
 #include <QStaticText>
 #include <QStringList>
-#include <QTimerEvent>
 
 #include <vector>
 
@@ -73,11 +72,8 @@ PaintingMaker scrolling()
         const auto label = shownOn<MVScrollLabel>(canvas, kSize, prepare);
         label->setScrollSpeed(kNever);
         label->startScroll();
-        const int timer =
-            QAbstractEventDispatcher::instance()->registeredTimers(label.get()).first().timerId;
-        return {canvas, [label, timer] {
-                    QTimerEvent tick(timer);
-                    QCoreApplication::sendEvent(label.get(), &tick);
+        return {canvas, [label, timer = timerOf(*label)] {
+                    sendTick(*label, timer);
                     label->paint();
                 }};
     };

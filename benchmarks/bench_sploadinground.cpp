@@ -60,8 +60,8 @@ PaintingMaker ticked(SpLoadingRound::DrawStyle style)
             shown.setDrawStyle(style);
             shown.setTimer(1000000);
         });
-        return {canvas, [ring] {
-                    sendTick(*ring);
+        return {canvas, [ring, timer = timerOf(*ring)] {
+                    sendTick(*ring, timer);
                     ring->paint();
                 }};
     });

@@ -4,12 +4,12 @@
 #include "itemlooks.h"
 #include "mouse.h"
 #include "rows.h"
+#include "ticks.h"
 
 #include <QAbstractEventDispatcher>
 #include <QListView>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
-#include <QTimerEvent>
 #include <sptablelist.h>
 #include <styledelegate.h>
 
@@ -121,8 +121,9 @@ PaintingMaker flung()
                                               prepareList);
         return {shown.canvas(), [shown, ticks = 0]() mutable {
                     constexpr int kTicks = 20;
+                    const QScrollBar &bar = *shown.view().verticalScrollBar();
                     if (ticks++ % kTicks == 0)
-                        fling(shown.view(), shown.view().verticalScrollBar()->value());
+                        fling(shown.view(), bar.value() < bar.maximum() / 2 ? bar.value() : 0);
                     else
                         tick(shown.view());
                     shown.paint();
@@ -168,8 +169,7 @@ PaintingMaker rolled()
                                               std::make_shared<AlikeRows>(look, 2),
                                               [&look](SpTableList &list) { enter(list, look); });
         return {shown.canvas(), [shown, timer = rollTimer(shown.view())] {
-                    QTimerEvent tick(timer);
-                    QCoreApplication::sendEvent(&shown.view(), &tick);
+                    sendTick(shown.view(), timer);
                     shown.paint();
                 }};
     };

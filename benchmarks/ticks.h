@@ -7,17 +7,17 @@
 #include <QObject>
 #include <QTimerEvent>
 
-/// Whether a timer runs in the object itself.
-inline bool hasTimer(QObject &object)
-{
-    return !QAbstractEventDispatcher::instance()->registeredTimers(&object).isEmpty();
-}
-
-/// A tick of the first of its timers.
-inline void sendTick(QObject &object)
+/// The first timer that runs in the object itself; 0 if none does.
+inline int timerOf(QObject &object)
 {
     const auto timers = QAbstractEventDispatcher::instance()->registeredTimers(&object);
-    QTimerEvent tick(timers.constFirst().timerId);
+    return timers.isEmpty() ? 0 : timers.constFirst().timerId;
+}
+
+/// A tick of the timer.
+inline void sendTick(QObject &object, int timer)
+{
+    QTimerEvent tick(timer);
     QCoreApplication::sendEvent(&object, &tick);
 }
 
