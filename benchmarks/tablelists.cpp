@@ -93,7 +93,7 @@ void addLook(Rows &rows, const ItemLook &look)
     constexpr int kCount = 2;
     rows.paint("SpTableList", std::string("rows: ") + look.name, listOf(look, kCount),
                {bareWidget({kRowWidth, kCount * kRowHeight}, rowsDrawing(look, kCount))}, {},
-               look.style == SpTableList::LIST_STYLE_3 ? rollingLimits() : textLimit(3.2));
+               textLimit(3.2));
 }
 
 // The finger goes up and down, and each of its steps is painted.
@@ -241,9 +241,10 @@ void fling(SpTableList &list, int start)
 
 void defineRowsOfTableLists(Rows &rows)
 {
-    // Below a pressed row lies also what the view itself makes of a selected one.
+    // Below a pressed row lies also what the view itself makes of a selected one, and texts that
+    // roll may have rolled on by the clock before they are compared.
     for (const ItemLook &look : itemLooks()) {
-        if (!look.isPressed)
+        if (!look.isPressed && look.style != SpTableList::LIST_STYLE_3)
             addLook(rows, look);
     }
     addMotions(rows);
