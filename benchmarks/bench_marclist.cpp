@@ -1,173 +1,23 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "arclooks.h"
 #include "canvas.h"
 #include "floors.h"
 #include "mouse.h"
-#include "pictures.h"
 #include "rows.h"
 
 #include <marclist.h>
-#include <QApplication>
-#include <QGlyphRun>
 #include <QListWidget>
 #include <QScrollBar>
-#include <QTextLayout>
-
-#include <vector>
 
 namespace
 {
 
-constexpr QSize kSize(560, 400);
-constexpr int kBox = 40; // px
-constexpr int kCurrent = 3; // D
-constexpr int kRowHeight = 40; // px
-constexpr double kAngle = -20; // degrees
-constexpr double kRadius = 470; // px
-constexpr double kPitch = 8; // degrees
+using namespace arclooks;
+
 constexpr double kPeerLimit = 1;
+constexpr int kFlingStep = 50; // px, of the peer
 
-QFont letterFont() { return fontOf(24); }
-
-const QPixmap &marker()
-{
-    static const QPixmap instance = keyPicture(QColor(60, 170, 200), QSize(64, 44));
-    return instance;
-}
-
-void prepareList(MArcList &list)
-{
-    list.setFont(letterFont());
-    list.setPointPixmap(marker());
-    for (char c = 'A'; c <= 'Z'; ++c)
-        list.addAlpha(QLatin1Char(c));
-    list.setCurrentIndex(QLatin1Char('A' + kCurrent));
-}
-
-PaintingMaker arc()
-{
-    return widgetOf<MArcList>(kSize, [](MArcList &list) {
-        prepareList(list);
-        list.setStartAngle(kAngle);
-    });
-}
-
-PaintingMaker column()
-{
-    return widgetOf<MArcList>(kSize, [](MArcList &list) {
-        list.setAcrListStyle(MArcList::ARCLIST_STYLE_1);
-        list.setItemHight(kRowHeight);
-        list.setShowItem(10);
-        prepareList(list);
-        list.setStartAngle(0);
-    });
-}
-
-// A letter with everything that can be known before the paint.
-struct Letter {
-    QTransform transform;
-    QGlyphRun run;
-    QPointF at;
-};
-
-// The layout of a letter in a box, centred, and in the middle or at the bottom of it.
-Letter letterIn(const QTransform &transform, const QRectF &box, int flags, QChar letter)
-{
-    const QFont font = letterFont();
-    QTextLayout layout(letter, font);
-    layout.beginLayout();
-    QTextLine line = layout.createLine();
-    line.setLineWidth(kSize.width());
-    layout.endLayout();
-    const qreal y = QFontMetricsF(font).boundingRect(box, flags, letter).top();
-    return {transform,
-            layout.glyphRuns().constFirst(),
-            {lineStart(box.left() + (box.width() - line.horizontalAdvance()) / 2), lineStart(y)}};
-}
-
-// The marker turned to its place on the arc.
-QPixmap turnedMarker()
-{
-    return drawn(kSize, [](QPainter &painter) {
-        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-        painter.translate(0, 200);
-        painter.rotate(kCurrent * kPitch + kAngle + 2.5);
-        painter.drawPixmap(int(kRadius) - 32, -22, marker());
-    });
-}
-
-PaintingMaker arcFloor()
-{
-    std::vector<Letter> letters;
-    QTransform turned = QTransform::fromTranslate(0, 200);
-    turned.rotate(kAngle - 90);
-    const QRectF box(-20, 0, kBox, kBox);
-    for (char c = 'A'; c <= 'Z'; ++c) {
-        QTransform upright = turned;
-        upright.translate(0, kRadius).rotate(90);
-        if (upright.mapRect(box).intersects(QRectF(QPointF(), kSize)))
-            letters.push_back(letterIn(upright, box, Qt::AlignCenter, QLatin1Char(c)));
-        turned.rotate(kPitch);
-    }
-    // Around the marker there is nothing to copy.
-    const QRect place(390, 140, 170, 140);
-    const QImage turnedPicture = turnedMarker().toImage().copy(place);
-    return bareWidget(kSize, [letters, turnedPicture, place](QPainter &painter) {
-        painter.setFont(letterFont());
-        painter.setPen(QApplication::palette().color(QPalette::WindowText));
-        for (const Letter &letter : letters) {
-            painter.setWorldTransform(letter.transform);
-            painter.drawGlyphRun(letter.at, letter.run);
-        }
-        painter.resetTransform();
-        painter.drawImage(place.topLeft(), turnedPicture);
-    });
-}
-
-PaintingMaker columnFloor()
-{
-    std::vector<Letter> letters;
-    const int left = (kSize.width() - marker().width()) / 2;
-    for (int row = 0; row < 10; ++row)
-        letters.push_back(letterIn({}, QRect(left, row * kRowHeight + 5, kBox, kBox),
-                                   Qt::AlignHCenter | Qt::AlignBottom,
-                                   QLatin1Char(char('A' + row))));
-    return bareWidget(kSize, [letters, left](QPainter &painter) {
-        painter.setPen(QApplication::palette().color(QPalette::WindowText));
-        for (const Letter &letter : letters)
-            painter.drawGlyphRun(letter.at, letter.run);
-        painter.drawPixmap(left + 2, kCurrent * kRowHeight, marker());
-    });
-}
-
-std::shared_ptr<QListWidget> makePeer()
-{
-    auto list = std::make_shared<QListWidget>();
-    list->setFont(letterFont());
-    for (char c = 'A'; c <= 'Z'; ++c)
-        list->addItem(QString(QLatin1Char(c)));
-    for (int i = 0; i < list->count(); ++i) {
-        list->item(i)->setSizeHint(QSize(kBox, kRowHeight));
-        list->item(i)->setTextAlignment(Qt::AlignCenter);
-    }
-    list->item(kCurrent)->setIcon(QIcon(marker()));
-    list->setCurrentRow(kCurrent);
-    showOffScreen(*list, kSize);
-    return list;
-}
-
-// Ten rows with the same letters; a list view paints in its viewport.
-void paintPeer(QListWidget &list, QImage &canvas)
-{
-    list.viewport()->render(&canvas, QPoint(), QRegion(), QWidget::DrawChildren);
-}
-
-PaintingMaker peer()
-{
-    return []() -> Painting {
-        const auto canvas = makeCanvas(kSize);
-        return {canvas, [list = makePeer(), canvas] { paintPeer(*list, *canvas); }};
-    };
-}
+using Style = MArcList::ARCLIST_STYLE;
 
 // Where a finger is that goes up and down.
 class Finger
@@ -187,22 +37,26 @@ private:
     int m_way = -4; // px
 };
 
+void prepareStyle(MArcList &list, Style style)
+{
+    list.setAcrListStyle(style);
+    if (style == MArcList::ARCLIST_STYLE_1)
+        list.setItemHight(kRowHeight);
+    prepareList(list);
+}
+
 // One step of a drag, and the paint that it asks for.
-PaintingMaker drag(MArcList::ARCLIST_STYLE style)
+PaintingMaker drag(Style style)
 {
     return [style]() -> Painting {
         const auto canvas = makeCanvas(kSize);
-        const auto list = shownOn<MArcList>(canvas, kSize, [style](MArcList &fresh) {
-            fresh.setAcrListStyle(style);
-            if (style == MArcList::ARCLIST_STYLE_1)
-                fresh.setItemHight(kRowHeight);
-            prepareList(fresh);
-        });
+        const auto list =
+            shownOn<MArcList>(canvas, kSize, [style](MArcList &l) { prepareStyle(l, style); });
         Finger finger;
-        sendMouse(*list, QEvent::MouseButtonPress, {460, finger.y()});
+        sendMouse(*list, QEvent::MouseButtonPress, {kFingerX, finger.y()});
         return {canvas, [list, finger]() mutable {
                     finger.move();
-                    sendMouse(*list, QEvent::MouseMove, {460, finger.y()});
+                    sendMouse(*list, QEvent::MouseMove, {kFingerX, finger.y()});
                     list->paint();
                 }};
     };
@@ -213,9 +67,7 @@ PaintingMaker peerDrag()
 {
     return []() -> Painting {
         const auto canvas = makeCanvas(kSize);
-        const auto list = makePeer();
-        list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-        return {canvas, [list, canvas, finger = Finger()]() mutable {
+        return {canvas, [list = makePeer(), canvas, finger = Finger()]() mutable {
                     finger.move();
                     list->verticalScrollBar()->setValue(finger.y());
                     paintPeer(*list, *canvas);
@@ -223,24 +75,152 @@ PaintingMaker peerDrag()
     };
 }
 
-} // namespace
+void tick(MArcList &list) { QMetaObject::invokeMethod(&list, "speedTimerSlot"); }
 
-void defineRows(Rows &rows, Tag<MArcList>)
+// Ticks of a fling that shows as many letters in each of them, and begins anew before the list
+// comes to its end, which would stop it.
+class Fling
 {
-    rows.paint("MArcList", "arc", arc(), {arcFloor()}, {{"QListWidget", peer(), kPeerLimit}});
-    rows.paint("MArcList", "column", column(), {columnFloor()},
-               {{"QListWidget", peer(), kPeerLimit}});
-    rows.move("MArcList", "column dragged", drag(MArcList::ARCLIST_STYLE_1), {columnFloor()},
+public:
+    static constexpr int kTicks = 8; // from the start to the end
+
+    explicit Fling(std::shared_ptr<MArcList> list) : m_list(std::move(list))
+    {
+        do {
+            flick();
+            m_list->setStartAngle(start());
+            ::tick(*m_list);
+        } while (m_list->startAngle() == start());
+    }
+
+    void tick()
+    {
+        if (++m_ticks % kTicks == 0)
+            m_list->setStartAngle(start());
+        ::tick(*m_list);
+    }
+
+private:
+    bool isArc() const { return m_list->acrListStyle() == MArcList::ARCLIST_STYLE_0; }
+    double start() const { return isArc() ? -30 : 16; } // degrees, or the first row
+
+    // The finger goes so far that the ticks never run out.
+    void flick() const
+    {
+        const int way = isArc() ? -1 : 1;
+        const QPoint from(kFingerX, kSize.height() / 2 + 20);
+        ::flick(*m_list, from, from + QPoint(0, way), from + QPoint(0, way * 1000000000));
+    }
+
+    std::shared_ptr<MArcList> m_list;
+    int m_ticks = 0;
+};
+
+std::shared_ptr<OnCanvas<MArcList>> flungOn(const std::shared_ptr<QImage> &canvas, Style style)
+{
+    return shownOn<MArcList>(canvas, kSize, [style](MArcList &list) {
+        prepareStyle(list, style);
+        list.setShowItem(10);
+    });
+}
+
+// A tick of a fling, and the paint that it asks for. Each letter was laid out before.
+PaintingMaker flung(Style style)
+{
+    return [style]() -> Painting {
+        const auto canvas = makeCanvas(kSize);
+        const auto list = flungOn(canvas, style);
+        const Step step = [list, fling = Fling(list)]() mutable {
+            fling.tick();
+            list->paint();
+        };
+        for (int i = 0; i < Fling::kTicks; ++i)
+            step();
+        return {canvas, step};
+    };
+}
+
+StepMaker flingTicks(Style style)
+{
+    return [style]() -> Step {
+        return [fling = Fling(flungOn(makeCanvas(kSize), style))]() mutable { fling.tick(); };
+    };
+}
+
+// As far as such a tick scrolls ours.
+void scrollOn(QScrollBar &bar) { bar.setValue(bar.value() < bar.maximum() ? bar.value() + 80 : 0); }
+
+PaintingMaker peerFling()
+{
+    return []() -> Painting {
+        const auto canvas = makeCanvas(kSize);
+        return {canvas, [list = makePeer(), canvas] {
+                    scrollOn(*list->verticalScrollBar());
+                    paintPeer(*list, *canvas);
+                }};
+    };
+}
+
+StepMaker peerTicks()
+{
+    return []() -> Step { return [list = makePeer()] { scrollOn(*list->verticalScrollBar()); }; };
+}
+
+// Asking for a repaint by the name of a slot, as a tick does.
+StepMaker repaintRequests()
+{
+    return []() -> Step {
+        const auto widget = shownOn<QWidget>(makeCanvas(kSize), kSize);
+        return [widget] { QMetaObject::invokeMethod(widget.get(), "update"); };
+    };
+}
+
+void addDrags(Rows &rows)
+{
+    rows.move("MArcList", "column dragged", drag(MArcList::ARCLIST_STYLE_1), {columnFloor(false)},
               {{"QListWidget", peerDrag(), kPeerLimit}},
               {"besides the paint, which takes 1.10 floors, a step has the finger's move and the "
                "letters' new places",
                {},
                1.28});
-    rows.move("MArcList", "arc dragged", drag(MArcList::ARCLIST_STYLE_0), {arcFloor()},
+    rows.move("MArcList", "arc dragged", drag(MArcList::ARCLIST_STYLE_0), {arcFloor({})},
               {{"QListWidget", peerDrag()}},
               {"the letters and the marker of its floor stand still; in motion each of the eight "
                "letters is filled anew from its outline in its new turn, for 34,000 instructions, "
                "and the marker is turned, for 145,000",
                {},
                5.15});
+}
+
+void addFlings(Rows &rows)
+{
+    rows.move("MArcList", "column flung", flung(MArcList::ARCLIST_STYLE_1), {columnFloor(false)},
+              {{"QListWidget", peerFling(), kPeerLimit}});
+    rows.move("MArcList", "arc flung", flung(MArcList::ARCLIST_STYLE_0), {arcFloor({})},
+              {{"QListWidget", peerFling(), kPeerLimit}},
+              {"the letters of its floor stand still; in each tick the seven in sight are filled "
+               "anew from their outlines in their new turn, for 34,000 instructions each, and in "
+               "every fourth the marker is turned, for 145,000",
+               {},
+               3.9});
+    rows.work("MArcList", "fling tick of an arc, unpainted", flingTicks(MArcList::ARCLIST_STYLE_0),
+              {repaintRequests()}, {{"QListWidget", peerTicks(), kPeerLimit}});
+    rows.work("MArcList", "fling tick of a column, unpainted",
+              flingTicks(MArcList::ARCLIST_STYLE_1), {repaintRequests()},
+              {{"QListWidget", peerTicks(), kPeerLimit}});
+}
+
+} // namespace
+
+void defineRows(Rows &rows, Tag<MArcList>)
+{
+    const Against<PaintingMaker> list{"QListWidget", peer(), kPeerLimit};
+    rows.paint("MArcList", "arc", arc({}), {arcFloor({})}, {list});
+    rows.paint("MArcList", "arc pressed", arc({8, true}), {arcFloor({8, true})}, {});
+    rows.paint("MArcList", "arc of many letters", onGround(arc({4})), {arcFloor({4})}, {list},
+               keptTextLimit(2.4));
+    rows.paint("MArcList", "column", column(false), {columnFloor(false)}, {list});
+    rows.paint("MArcList", "column pressed", column(true), {columnFloor(true)}, {});
+    addDrags(rows);
+    addFlings(rows);
 }

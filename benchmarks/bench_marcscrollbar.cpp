@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "canvas.h"
+#include "mouse.h"
 #include "pictures.h"
 #include "rows.h"
 
@@ -13,6 +14,7 @@ namespace
 
 constexpr QSize kSize(160, 400);
 constexpr int kRange = 100;
+constexpr int kManyValues = 120; // ticks that lie over each other
 constexpr int kValue = 37;
 constexpr double kPeerLimit = 1;
 
@@ -53,13 +55,18 @@ QRect inkRect(const QImage &image)
             QPoint(ink.right() | kAlignment, ink.bottom())};
 }
 
+void place(QPainter &painter)
+{
+    painter.setPen(QApplication::palette().color(QPalette::WindowText));
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter.translate(-460, 200);
+    painter.rotate(90);
+}
+
 template <class Draw> Stamp stamp(Draw draw)
 {
     const QPixmap picture = drawn(kSize, [draw](QPainter &painter) {
-        painter.setPen(QApplication::palette().color(QPalette::WindowText));
-        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-        painter.translate(-460, 200);
-        painter.rotate(90);
+        place(painter);
         draw(painter);
     });
     const QImage image = picture.toImage();
@@ -67,22 +74,25 @@ template <class Draw> Stamp stamp(Draw draw)
     return {ink.topLeft(), image.copy(ink)};
 }
 
-Stamp ticks()
+void drawTicks(QPainter &painter, int range)
 {
-    return stamp([](QPainter &painter) {
-        painter.rotate(162);
-        for (int i = 0; i <= kRange; ++i) {
-            painter.drawLine(QLineF(0, qreal(0.9299999999999999 * 570), 0, qreal(0.98 * 570)));
-            painter.rotate(qreal(36.0 / kRange));
-        }
-    });
+    painter.rotate(162);
+    for (int i = 0; i <= range; ++i) {
+        painter.drawLine(QLineF(0, qreal(0.9299999999999999 * 570), 0, qreal(0.98 * 570)));
+        painter.rotate(qreal(36.0 / range));
+    }
 }
 
-Stamp triangle()
+Stamp ticks()
 {
-    return stamp([](QPainter &painter) {
+    return stamp([](QPainter &painter) { drawTicks(painter, kRange); });
+}
+
+Stamp triangle(int range = kRange)
+{
+    return stamp([range](QPainter &painter) {
         painter.rotate(162 - 180);
-        painter.rotate(qreal(36.0 / kRange * kValue));
+        painter.rotate(qreal(36.0 / range * kValue));
         painter.setPen(Qt::NoPen);
         painter.setBrush(QColor(94, 94, 94));
         painter.drawConvexPolygon(QVector<QPointF>{{-2, -456}, {2, -456}, {0, -570}});
@@ -103,6 +113,25 @@ PaintingMaker floorOf(const Stamp &first, const Stamp &second)
     return bareWidget(kSize, [first, second](QPainter &painter) {
         painter.drawImage(first.at, first.image);
         painter.drawImage(second.at, second.image);
+    });
+}
+
+PaintingMaker bareFloor(const Stamp &pointer)
+{
+    return bareWidget(kSize,
+                      [=](QPainter &painter) { painter.drawImage(pointer.at, pointer.image); });
+}
+
+// Soft edges over soft edges are not what they are as one picture.
+PaintingMaker crowdedFloor()
+{
+    const Stamp pointer = triangle(kManyValues);
+    return bareWidget(kSize, [pointer](QPainter &painter) {
+        painter.save();
+        place(painter);
+        drawTicks(painter, kManyValues);
+        painter.restore();
+        painter.drawImage(pointer.at, pointer.image);
     });
 }
 
@@ -143,31 +172,81 @@ template <class Bar, class Prepare> PaintingMaker slide(Prepare prepare)
     };
 }
 
+// A finger goes along the arc, and each of its steps is painted.
+template <class Bar, class Prepare> PaintingMaker drag(Prepare prepare)
+{
+    return [prepare]() -> Painting {
+        const auto canvas = makeCanvas(kSize);
+        const auto bar = shownOn<Bar>(canvas, kSize, prepare);
+        sendMouse(*bar, QEvent::MouseButtonPress, {100, 150});
+        return {canvas, [bar, y = 150, way = 8]() mutable {
+                    y += way;
+                    if (y < 60 || y > 340)
+                        way = -way;
+                    sendMouse(*bar, QEvent::MouseMove, {100, y});
+                    bar->paint();
+                }};
+    };
+}
+
 // It is turned by a finger along its edge, too, and draws its ticks anew with each value.
 void standUpright(QwtWheel &wheel) { wheel.setOrientation(Qt::Vertical); }
+
+void givePicture(MArcScrollBar &bar) { bar.setPointPixmap(knob()); }
+
+void straighten(MArcScrollBar &bar)
+{
+    bar.setRadius(0);
+    givePicture(bar);
+}
+
+void addLooks(Rows &rows)
+{
+    const Against<PaintingMaker> scrollBar{"QScrollBar", peer(), kPeerLimit};
+    rows.paint("MArcScrollBar", "arc", bar(AsItIs()), {floorOf(ticks(), triangle())}, {scrollBar});
+    rows.paint("MArcScrollBar", "arc with picture", bar(givePicture),
+               {floorOf(ticks(), turnedKnob())}, {scrollBar});
+    rows.paint("MArcScrollBar", "arc without ticks",
+               bar([](MArcScrollBar &b) { b.setShowTicks(false); }), {bareFloor(triangle())}, {},
+               {"3,200 instructions turn the painter to its pointer's place, which its floor knows",
+                {},
+                1.5});
+    rows.paint(
+        "MArcScrollBar", "arc of many values",
+        bar([](MArcScrollBar &b) { b.setMaximum(kManyValues); }), {crowdedFloor()}, {},
+        {"its ticks are so near to each other that their soft edges lie over each other, and "
+         "each is drawn in every paint, for 14,000 instructions",
+         22});
+    rows.paint("MArcScrollBar", "straight", bar(straighten), {straightFloor()}, {scrollBar},
+               {"it takes less than its blit; 5,500 instructions a paint go into its rules, which "
+                "its floor does not have",
+                {},
+                1.16});
+}
+
+void addMotions(Rows &rows)
+{
+    const std::string why = "the pointer of its floor stands still; a moved one is filled with "
+                            "soft edges in its new turn";
+    const Floor<PaintingMaker> floor{floorOf(ticks(), triangle())};
+    rows.move("MArcScrollBar", "value moved", slide<MArcScrollBar>(AsItIs()), floor,
+              {{"QwtWheel", slide<QwtWheel>(standUpright)}}, {why, {}, 2.22});
+    rows.move("MArcScrollBar", "dragged", drag<MArcScrollBar>(AsItIs()), floor,
+              {{"QwtWheel", drag<QwtWheel>(standUpright), kPeerLimit}}, {why, {}, 2.5});
+    rows.move("MArcScrollBar", "picture moved", slide<MArcScrollBar>(givePicture),
+              {floorOf(ticks(), turnedKnob())}, {},
+              {"the picture of its floor stands still; a moved one is turned and smoothed in its "
+               "new place, for 125,000 instructions",
+               {},
+               2.95});
+    rows.move("MArcScrollBar", "straight moved", slide<MArcScrollBar>(straighten),
+              {straightFloor()}, {});
+}
 
 } // namespace
 
 void defineRows(Rows &rows, Tag<MArcScrollBar>)
 {
-    rows.paint("MArcScrollBar", "arc", bar(AsItIs()), {floorOf(ticks(), triangle())},
-               {{"QScrollBar", peer(), kPeerLimit}});
-    rows.paint("MArcScrollBar", "arc with picture",
-               bar([](MArcScrollBar &b) { b.setPointPixmap(knob()); }),
-               {floorOf(ticks(), turnedKnob())}, {{"QScrollBar", peer(), kPeerLimit}});
-    rows.paint("MArcScrollBar", "straight", bar([](MArcScrollBar &b) {
-                   b.setRadius(0);
-                   b.setPointPixmap(knob());
-               }),
-               {straightFloor()}, {{"QScrollBar", peer(), kPeerLimit}},
-               {"it takes less than its blit; 5,500 instructions a paint go into its rules, which "
-                "its floor does not have",
-                {},
-                1.16});
-    rows.move("MArcScrollBar", "value moved", slide<MArcScrollBar>(AsItIs()),
-              {floorOf(ticks(), triangle())}, {{"QwtWheel", slide<QwtWheel>(standUpright)}},
-              {"the pointer of its floor stands still; a moved one is filled with soft edges in "
-               "its new turn",
-               {},
-               2.22});
+    addLooks(rows);
+    addMotions(rows);
 }

@@ -11,6 +11,7 @@ namespace
 {
 
 constexpr double kStartUpLimit = 1.3;
+const QString kCaption = QStringLiteral("Radio");
 
 } // namespace
 
@@ -31,6 +32,12 @@ void defineRows(Rows &rows, Tag<MFocusButton>)
     looks.addLook("disabled", art.disabled, disable, PeerState::Disabled);
     looks.addCaptionedLook("captioned", art.normal, Qt::white, AsItIs());
     looks.addCaptionedLook("captioned checked", art.pressed, Qt::yellow, check);
+    // Without pictures it is the button of Qt that it is.
+    const QSize size(120, 80);
+    rows.paint("MFocusButton", "no picture",
+               widgetOf<MFocusButton>(size, [](MFocusButton &b) { b.setText(kCaption); }),
+               {widgetOf<QRadioButton>(size, [](QRadioButton &b) { b.setText(kCaption); })}, {},
+               {"all of its 107,000 instructions are QRadioButton's own", 15});
     rows.work("MFocusButton", "made and deleted", makeAndDelete<MFocusButton>(),
               {makeAndDelete<QRadioButton>(), kStartUpLimit},
               {{"QPushButton", makeAndDelete<QPushButton>()}});

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "canvas.h"
+#include "mouse.h"
 #include "peers.h"
 #include "pictures.h"
 #include "rows.h"
@@ -22,16 +23,49 @@ const SliderArtwork &artwork()
     return instance;
 }
 
+void prepare(MHorSlider &slider)
+{
+    slider.setSliderNormalImage(artwork().groove);
+    slider.setSliderPressImage(artwork().fill);
+    slider.setPointNormalImage(artwork().knob);
+    slider.setPointPressImage(artwork().knob);
+}
+
 PaintingMaker slider(bool isNormal, int value)
 {
     return onGround(widgetOf<MHorSlider>(kSize, [=](MHorSlider &slider) {
         slider.setIsNormal(isNormal);
-        slider.setSliderNormalImage(artwork().groove);
-        slider.setSliderPressImage(artwork().fill);
-        slider.setPointNormalImage(artwork().knob);
-        slider.setPointPressImage(artwork().knob);
+        prepare(slider);
         slider.setCurrentValue(value);
     }));
+}
+
+// The same in the pictures of a disabled one.
+PaintingMaker disabledSlider()
+{
+    return onGround(widgetOf<MHorSlider>(kSize, [](MHorSlider &slider) {
+        slider.setSliderNormalDisablePix(artwork().fill);
+        slider.setSliderPressDisablePix(artwork().groove);
+        slider.setSliderNormalImage(artwork().groove);
+        slider.setPointNormalImage(artwork().knob);
+        slider.setPointPressImage(artwork().knob);
+        slider.setEnabled(false);
+    }));
+}
+
+// The finger goes by the way of a value and back, and each of its steps is painted.
+PaintingMaker dragged()
+{
+    return onGround([]() -> Painting {
+        const auto canvas = makeCanvas(kSize);
+        const auto slider = shownOn<MHorSlider>(canvas, kSize, prepare);
+        sendMouse(*slider, QEvent::MouseButtonPress, {kMiddle, 20});
+        return {canvas, [slider, x = kMiddle]() mutable {
+                    x = x == kMiddle ? kMiddle + 30 : kMiddle;
+                    sendMouse(*slider, QEvent::MouseMove, {x, 20});
+                    slider->paint();
+                }};
+    });
 }
 
 // The groove with the columns from `left` to `right` filled.
@@ -40,6 +74,14 @@ PaintingMaker floorOf(int left, int right)
     return bareWidget(kSize, [=](QPainter &painter) {
         painter.drawPixmap(0, kTop, artwork().groove);
         painter.drawPixmap(left, kTop, artwork().fill, left, 0, right - left + 1, kGroove.height());
+    });
+}
+
+PaintingMaker disabledFloor()
+{
+    return bareWidget(kSize, [=](QPainter &painter) {
+        painter.drawPixmap(0, kTop, artwork().fill);
+        painter.drawPixmap(0, kTop, artwork().groove, 0, 0, kMiddle, kGroove.height());
     });
 }
 
@@ -58,4 +100,10 @@ void defineRows(Rows &rows, Tag<MHorSlider>)
     rows.paint("MHorSlider", "from the middle", slider(false, 5),
                {floorOf(kMiddle + 2, knobAtEnd + kKnob.width() / 2 - 1)},
                {{"QSlider pictures", peer(100), kPeerLimit}});
+    rows.paint("MHorSlider", "disabled", disabledSlider(), {disabledFloor()}, {});
+    rows.move("MHorSlider", "dragged", dragged(), {floorOf(0, kMiddle - 1)}, {},
+              {"33,000 instructions of a step set the number in its label and move the label of "
+               "its knob; its floor stands still",
+               {},
+               1.4});
 }

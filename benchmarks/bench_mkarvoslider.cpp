@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "mouse.h"
 #include "rows.h"
 #include "scalefloor.h"
 
@@ -24,6 +25,24 @@ void setUp(MKARVOSlider &slider)
     slider.setFreqStep(0.1F);
     slider.setMarginX(kMargin);
     slider.setCurFreq(98.0F);
+}
+
+// The finger goes from a step to the next and back, and each of its moves is painted.
+PaintingMaker dragged()
+{
+    return []() -> Painting {
+        const auto canvas = makeCanvas(kSize);
+        const auto slider = shownOn<MKARVOSlider>(canvas, kSize, setUp, [](MKARVOSlider &s) {
+            s.setRealMinFreq(87.5F);
+            s.setRealMaxFreq(108.0F);
+            s.setRealFreqStep(0.1F);
+        });
+        return {canvas, [slider, x = 405]() mutable {
+                    x = x == 405 ? 405 + 3 * kGap : 405;
+                    sendMouse(*slider, QEvent::MouseMove, {x, 80});
+                    slider->paint();
+                }};
+    };
 }
 
 PaintingMaker floor()
@@ -53,4 +72,5 @@ void defineRows(Rows &rows, Tag<MKARVOSlider>)
                {floor(), kScaleLimit},
                {{"QwtSlider", qwtSlider(kSize), kQwtLimit},
                 {"QwtScaleWidget", qwtScaleWidget(kSize), 1.0}});
+    rows.move("MKARVOSlider", "dragged", dragged(), {floor(), kScaleLimit}, {});
 }

@@ -3,6 +3,7 @@
 #include "mouse.h"
 #include "pictures.h"
 #include "rows.h"
+#include "ticks.h"
 
 #include <monoffbutton.h>
 #include <QCheckBox>
@@ -48,6 +49,22 @@ template <class Enter> PaintingMaker movingButton(Enter enter)
         return {canvas, [button, x = kKnob]() mutable {
                     x = x == kKnob ? kKnob + 1 : kKnob;
                     sendMouse(*button, QEvent::MouseMove, {x, 10});
+                    button->paint();
+                }};
+    });
+}
+
+// The knob on its way to the other end: a tick of the glide, and its paint. Where it has come to
+// its end, it goes back.
+template <class Enter> PaintingMaker glidingButton(Enter enter)
+{
+    return onGround([enter]() -> Painting {
+        const auto canvas = makeCanvas(kSize);
+        const auto button = shownOn<MOnOffButton>(canvas, kSize, enter);
+        return {canvas, [button] {
+                    if (timerOf(*button) == 0)
+                        button->changeStatus(!button->onoffStatus());
+                    sendTick(*button, timerOf(*button));
                     button->paint();
                 }};
     });
@@ -162,6 +179,18 @@ QImage dimmed(const QPixmap &pixmap, const QPoint &at)
     return image;
 }
 
+// The knob on the border of both tracks.
+PaintingMaker movingFloor()
+{
+    const Artwork &art = artwork();
+    return bareWidget(kSize, [&art](QPainter &painter) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.drawPixmap(0, 0, kKnob, 48, art.on);
+        painter.drawPixmap(kKnob, 0, 120 - kKnob, 48, art.off);
+        painter.drawPixmap(kKnob - 24, 0, art.moving);
+    });
+}
+
 // Qt's own thing with two states.
 PaintingMaker checkBox(bool enabled)
 {
@@ -198,6 +227,16 @@ void addPaintedLooks(Rows &rows)
                    b.setUIStyle(MOnOffButton::ONOFF_STYLE_1);
                }),
                {floorOf(plates(76, kOn, part(kOn, 1, 2, 155)))}, {{"QCheckBox", checkBox(true)}});
+    const QColor dark = part(kOn, 1, 3);
+    rows.paint("MOnOffButton", "style 1 disabled", button([](MOnOffButton &b) {
+                   b.setOnoffStatus(true);
+                   b.setUIStyle(MOnOffButton::ONOFF_STYLE_1);
+                   b.setBtnDisable(true);
+               }),
+               {floorOf({plate(kWhole.adjusted(1, 1, -1, -1), part(kOn, 2, 3), part(kOn, 2, 3)),
+                         plate(kWhole.adjusted(6, 6, -6, -6), dark, dark),
+                         plate(QRect(76, 16, 28, 16), dark, dark)})},
+               {{"QCheckBox", checkBox(false)}});
     rows.move("MOnOffButton", "style 1 in motion", movingButton([](MOnOffButton &b) {
                   b.setOnoffStatus(true);
                   b.setUIStyle(MOnOffButton::ONOFF_STYLE_1);
@@ -206,6 +245,19 @@ void addPaintedLooks(Rows &rows)
               {{"QCheckBox", checkBox(true)}},
               {"its knob is filled and stroked with each step over plates that are kept; a check "
                "box does not move"});
+}
+
+void addGlides(Rows &rows)
+{
+    const QColor line(70, 70, 70);
+    rows.move("MOnOffButton", "style 0 gliding", glidingButton(AsItIs()),
+              {floorOf({slimTrack(1, kKnob - 1, line, part(kOff, 2, 3), kOff),
+                        slimTrack(kKnob, 118, line, part(kOn, 2, 3), kOn),
+                        roundKnob(kKnob - 24, line, kOff)})},
+              {});
+    rows.move("MOnOffButton", "style 1 gliding",
+              glidingButton([](MOnOffButton &b) { b.setUIStyle(MOnOffButton::ONOFF_STYLE_1); }),
+              {floorOf(plates(39, part(kOn, 1, 2), part(kOn, 1, 2)))}, {});
 }
 
 void addPicturedLooks(Rows &rows)
@@ -229,15 +281,8 @@ void addPicturedLooks(Rows &rows)
                     setPictures(b);
                     moveKnob(b);
                 }),
-                {bareWidget(kSize,
-                            [&art](QPainter &painter) {
-                                painter.setRenderHint(QPainter::Antialiasing);
-                                painter.drawPixmap(0, 0, kKnob, 48, art.on);
-                                painter.drawPixmap(kKnob, 0, 120 - kKnob, 48, art.off);
-                                painter.drawPixmap(kKnob - 24, 0, art.moving);
-                            }),
-                 kMovingLimit},
-                {{"QCheckBox", checkBox(true)}});
+                {movingFloor(), kMovingLimit}, {{"QCheckBox", checkBox(true)}});
+    rows.move("MOnOffButton", "pictures gliding", glidingButton(setPictures), {movingFloor()}, {});
 }
 
 } // namespace
@@ -246,4 +291,5 @@ void defineRows(Rows &rows, Tag<MOnOffButton>)
 {
     addPaintedLooks(rows);
     addPicturedLooks(rows);
+    addGlides(rows);
 }

@@ -52,6 +52,36 @@ PaintingMaker floorRing()
     }));
 }
 
+// A caption below the percentage, and no outline.
+QString caption() { return QStringLiteral("Radio"); }
+
+void enter(MOProgress &ring)
+{
+    ring.setBoundary(false);
+    ring.setDispalyText(caption());
+}
+
+PaintingMaker captionedFloor()
+{
+    const QFont font = fontOf(25);
+    const LaidOutText text =
+        laidOut(caption(), font, QRectF(-100, 20, 200, 80), Qt::AlignHCenter | Qt::AlignTop);
+    return onGround(bareWidget(kSize, [prepared = Prepared(), font, text](QPainter &painter) {
+        painter.translate(110, 110);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setBrush(QColor(0, 0, 0, 100));
+        painter.drawPath(prepared.disc);
+        painter.setBrush(QColor(150, 150, 150, 100));
+        painter.setPen(Qt::NoPen);
+        painter.drawPath(prepared.ring);
+        painter.setBrush(QColor(255, 125, 0));
+        painter.drawPath(prepared.done);
+        prepared.percentage.draw(painter, Qt::white);
+        painter.setFont(font);
+        text.draw(painter, Qt::white);
+    }));
+}
+
 // Another value, and its paint.
 PaintingMaker moved()
 {
@@ -76,6 +106,8 @@ void defineRows(Rows &rows, Tag<MOProgress>)
 {
     rows.paint("MOProgress", "half done", onGround(widgetOf<MOProgress>(kSize)), {floorRing()},
                {{"QProgressBar", peer(), kPeerLimit}});
+    rows.paint("MOProgress", "captioned, no outline", onGround(widgetOf<MOProgress>(kSize, enter)),
+               {captionedFloor()}, {});
     rows.move("MOProgress", "value moved", moved(), {floorRing(), kMovingLimit},
               {{"QProgressBar", peer()}},
               {"a half of it cuts the part that is done out of its circle, for which there is no "

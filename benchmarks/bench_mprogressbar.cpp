@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "canvas.h"
+#include "floors.h"
 #include "peers.h"
 #include "pictures.h"
 #include "rows.h"
 
 #include <mprogressbar.h>
+#include <QApplication>
 #include <QPalette>
 #include <qwt_thermo.h>
 
@@ -54,6 +56,70 @@ PaintingMaker picturesFloor()
         painter.drawPixmap(kLeft, kTop, artwork().fill, 0, 0, kGroove.width() / 2,
                            kGroove.height());
         painter.drawPixmap((kSize.width() - kKnob.width()) / 2, 0, artwork().knob);
+    });
+}
+
+// A knob that is wide enough for a time.
+const QPixmap &wideKnob()
+{
+    static const QPixmap picture = keyPicture(QColor(60, 170, 200), QSize(90, 40));
+    return picture;
+}
+
+void giveTime(MProgressBar &bar)
+{
+    givePictures(bar);
+    bar.setPointNormalImage(wideKnob());
+    bar.setPointPressImage(wideKnob());
+    bar.setShowValue(true);
+}
+
+PaintingMaker timeFloor()
+{
+    const QRect knob(QPoint((kSize.width() - 90) / 2, 0), wideKnob().size());
+    const LaidOutText time = laidOut(QStringLiteral("00:00:50"), QApplication::font(), knob);
+    return bareWidget(kSize, [=](QPainter &painter) {
+        painter.drawPixmap(kLeft, kTop, artwork().groove);
+        painter.drawPixmap(kLeft, kTop, artwork().fill, 0, 0, kGroove.width() / 2,
+                           kGroove.height());
+        painter.drawPixmap(knob.topLeft(), wideKnob());
+        time.draw(painter, QApplication::palette().color(QPalette::WindowText));
+    });
+}
+
+// A disabled one has its own fill, squeezed into the part that is played.
+void disable(MProgressBar &bar)
+{
+    givePictures(bar);
+    bar.setSliderDisableImage(artwork().fill);
+    bar.setEnabled(false);
+}
+
+PaintingMaker disabledFloor()
+{
+    const QPixmap squeezed = drawn({kGroove.width() / 2, kGroove.height()}, [](QPainter &painter) {
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+        painter.drawPixmap(QRect(0, 0, kGroove.width() / 2, kGroove.height()), artwork().fill);
+    });
+    return bareWidget(kSize, [squeezed](QPainter &painter) {
+        painter.drawPixmap(kLeft, kTop, artwork().groove);
+        painter.drawPixmap(kLeft, kTop, squeezed);
+        painter.drawPixmap((kSize.width() - kKnob.width()) / 2, 0, artwork().knob);
+    });
+}
+
+PaintingMaker outlinedFloor()
+{
+    return bareWidget(kSize, [](QPainter &painter) {
+        const QRect track(0, 16, kSize.width(), 8);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QColor(210, 210, 210));
+        painter.setBrush(QColor(150, 150, 150));
+        painter.drawRect(track);
+        painter.setBrush(QColor(255, 125, 0));
+        painter.drawRect(track.adjusted(0, 0, -kSize.width() / 2, 0));
+        painter.setBrush(QColor(230, 230, 230));
+        painter.drawEllipse((kSize.width() - 20) / 2, 10, 20, 20);
     });
 }
 
@@ -122,6 +188,16 @@ void defineRows(Rows &rows, Tag<MProgressBar>)
                {plainFloor()},
                {{"QSlider style sheet", peer()},
                 {"QwtThermo", onGround(widgetOf<QwtThermo>(kSize, giveBar))}});
+    rows.paint("MProgressBar", "pictures with time",
+               onGround(widgetOf<MProgressBar>(kSize, giveTime,
+                                               [](MProgressBar &bar) { bar.setRealValue(50); })),
+               {timeFloor()}, {});
+    rows.paint("MProgressBar", "pictures disabled",
+               onGround(widgetOf<MProgressBar>(kSize, disable)), {disabledFloor()}, {});
+    rows.paint("MProgressBar", "plain colours outlined",
+               onGround(widgetOf<MProgressBar>(kSize, giveKnob,
+                                               [](MProgressBar &bar) { bar.setBoundary(true); })),
+               {outlinedFloor()}, {});
     rows.move("MProgressBar", "pictures moved", moved(givePictures), {picturesFloor()}, {});
     rows.move("MProgressBar", "plain colours moved", moved(giveKnob), {plainFloor()},
               {{"QwtThermo", movedThermo()}});

@@ -66,4 +66,7 @@ void defineRows(Rows &rows, Tag<MultipleStateButton>)
             sendMouse(button, QEvent::MouseButtonPress, {5, 5});
         },
         pressedIcon(), PeerState::Pressed);
+    addLook(
+        rows, "disabled", [](Button &button) { button.setButtonDisable(true); }, icon(),
+        PeerState::Disabled);
 }

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "canvas.h"
 #include "floors.h"
+#include "mouse.h"
 #include "rows.h"
+#include "ticks.h"
 
 #include <mvscrolllabel.h>
-#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QFontMetrics>
 #include <QLabel>
@@ -12,7 +13,6 @@
 #include <QScrollBar>
 #include <QStaticText>
 #include <QStringList>
-#include <QTimerEvent>
 
 #include <vector>
 
@@ -72,11 +72,23 @@ PaintingMaker scrolling()
         const auto label = shownOn<MVScrollLabel>(canvas, kSize, prepare);
         label->setScrollSpeed(kNever);
         label->startScroll();
-        const int timer =
-            QAbstractEventDispatcher::instance()->registeredTimers(label.get()).first().timerId;
-        return {canvas, [label, timer] {
-                    QTimerEvent tick(timer);
-                    QCoreApplication::sendEvent(label.get(), &tick);
+        return {canvas, [label, timer = timerOf(*label)] {
+                    sendTick(*label, timer);
+                    label->paint();
+                }};
+    };
+}
+
+// The finger pushes the text up and back, and each of its steps is painted.
+PaintingMaker pushed()
+{
+    return []() -> Painting {
+        const auto canvas = makeCanvas(kSize);
+        const auto label = shownOn<MVScrollLabel>(canvas, kSize, prepare);
+        sendMouse(*label, QEvent::MouseButtonPress, {150, 80});
+        return {canvas, [label, y = 80]() mutable {
+                    y = y == 80 ? 77 : 80;
+                    sendMouse(*label, QEvent::MouseMove, {150, y});
                     label->paint();
                 }};
     };
@@ -139,4 +151,5 @@ void defineRows(Rows &rows, Tag<MVScrollLabel>)
                {floor(0, 0), kFloorLimit}, {{"QLabel", label(), kPeerLimit}});
     rows.motion("MVScrollLabel", "scrolling step", scrolling(), {floor(1, 1), kFloorLimit},
                 {{"QScrollArea with QLabel", scrollArea(), kPeerLimit}});
+    rows.move("MVScrollLabel", "pushed", pushed(), {floor(0, 0), kFloorLimit}, {});
 }

@@ -41,4 +41,7 @@ void defineRows(Rows &rows, Tag<PlayButton>)
             sendMouse(button, QEvent::MouseButtonPress, {5, 5});
         },
         artwork().pressed, PeerState::Pressed);
+    addLook(
+        rows, "disabled", [](Button &button) { button.setButtonDisable(true); }, artwork().normal,
+        PeerState::Disabled);
 }

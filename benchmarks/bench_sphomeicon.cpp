@@ -1,14 +1,21 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "canvas.h"
+#include "files.h"
 #include "floors.h"
+#include "gifs.h"
 #include "mouse.h"
 #include "peers.h"
 #include "pictures.h"
 #include "rows.h"
 
+#include <QCoreApplication>
+#include <QMovie>
+#include <QTemporaryDir>
 #include <QToolButton>
 #include <sphomeicon.h>
 
+#include <climits>
+#include <functional>
 #include <vector>
 
 namespace
@@ -141,6 +148,62 @@ OwnLimits layersLimit(double blit)
         blit};
 }
 
+// An animation without end, of two frames that look alike: whoever is a frame behind paints the
+// same.
+const QString &animationFile()
+{
+    static const QTemporaryDir folder;
+    static const QString path = [] {
+        const QImage frame = gifFrames(1, kIcon / 2).constFirst();
+        return writtenFile(folder.filePath(QStringLiteral("tile.gif")), gifOf({frame, frame}));
+    }();
+    return path;
+}
+
+// Each step is a frame, which comes without any delay, and its paint.
+template <class Tile, class Prepare> PaintingMaker playing(Prepare prepare)
+{
+    return [make = widgetOf<Tile>(kTile, prepare)]() -> Painting {
+        const Painting painting = make();
+        return {painting.canvas, [step = painting.step] {
+                    QCoreApplication::processEvents();
+                    step();
+                }};
+    };
+}
+
+void setUpPlaying(SpHomeIcon &tile)
+{
+    setUp(tile);
+    tile.setUpdatesEnabled(false); // each step is one paint
+    tile.setGifSpeed(INT_MAX);
+    tile.setGifImage(animationFile());
+}
+
+// The least that playing takes: the movie, each of its frames stretched once, and the caption.
+class BarePlayer : public QWidget
+{
+public:
+    BarePlayer()
+    {
+        setUpdatesEnabled(false);
+        m_movie.setSpeed(INT_MAX);
+        m_movie.start();
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        painter.drawPixmap(QRect(QPoint(), kIcon), m_movie.currentPixmap());
+        m_drawCaption(painter);
+    }
+
+private:
+    QMovie m_movie{animationFile()};
+    std::function<void(QPainter &)> m_drawCaption = tileDrawing({});
+};
+
 // A peer shows one picture, so that only looks of one are held to a limit against it.
 void addLook(Rows &rows, const char *state, const PaintingMaker &ours,
              const QVector<QPixmap> &pictures, const OwnLimits &own = {})
@@ -180,6 +243,8 @@ void addStates(Rows &rows)
     addLook(rows, "frame of an animation",
             tile([](SpHomeIcon &t) { t.setGifImage(fileOf(artwork().highlighted)); }),
             {artwork().highlighted});
+    rows.motion("SpHomeIcon", "playing", playing<SpHomeIcon>(setUpPlaying),
+                {playing<BarePlayer>(AsItIs())}, {});
 }
 
 void addScaledLooks(Rows &rows)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "canvas.h"
 #include "rows.h"
+#include "ticks.h"
 
 #include <QProgressBar>
 #include <sploadinground.h>
@@ -49,38 +50,68 @@ PaintingMaker turned()
     });
 }
 
+// A tick of the timer, which would go on too seldom by itself, and its paint.
+PaintingMaker ticked(SpLoadingRound::DrawStyle style)
+{
+    return onGround([style]() -> Painting {
+        const auto canvas = makeCanvas(kSize);
+        const auto ring = shownOn<SpLoadingRound>(canvas, kSize, [style](SpLoadingRound &shown) {
+            shown.setRadius(kRadius);
+            shown.setDrawStyle(style);
+            shown.setTimer(1000000);
+        });
+        return {canvas, [ring, timer = timerOf(*ring)] {
+                    sendTick(*ring, timer);
+                    ring->paint();
+                }};
+    });
+}
+
 // Qt has no busy ring; its busy bar stands for it.
 PaintingMaker busyBar()
 {
     return widgetOf<QProgressBar>(kSize, [](QProgressBar &bar) { bar.setRange(0, 0); });
 }
 
+PaintingMaker floorOf(SpLoadingRound::DrawStyle style)
+{
+    switch (style) {
+    case SpLoadingRound::RectStyle:
+        return floorOf([](QPainter &painter, int i) {
+            painter.setBrush(faded(i));
+            painter.drawRect(27, 0, 18, 7);
+        });
+    case SpLoadingRound::GrayStyle:
+        return floorOf([](QPainter &painter, int i) {
+            const int grey = 252 - 21 * i;
+            painter.setBrush(QColor(grey, grey, grey));
+            painter.drawRoundedRect(19, 0, 22, 7, 25, 25, Qt::RelativeSize);
+        });
+    default:
+        return floorOf([](QPainter &painter, int i) {
+            painter.setBrush(faded(i));
+            painter.drawEllipse(27, -3, 18, 6);
+        });
+    }
+}
+
 } // namespace
 
 void defineRows(Rows &rows, Tag<SpLoadingRound>)
 {
-    rows.paint("SpLoadingRound", "ellipses", ring(SpLoadingRound::EllipseStyle),
-               {floorOf([](QPainter &painter, int i) {
-                   painter.setBrush(faded(i));
-                   painter.drawEllipse(27, -3, 18, 6);
-               })},
-               {{"QProgressBar", busyBar()}});
-    rows.paint("SpLoadingRound", "rectangles", ring(SpLoadingRound::RectStyle),
-               {floorOf([](QPainter &painter, int i) {
-                   painter.setBrush(faded(i));
-                   painter.drawRect(27, 0, 18, 7);
-               })},
-               {{"QProgressBar", busyBar()}});
-    rows.paint("SpLoadingRound", "greys", ring(SpLoadingRound::GrayStyle),
-               {floorOf([](QPainter &painter, int i) {
-                   const int grey = 252 - 21 * i;
-                   painter.setBrush(QColor(grey, grey, grey));
-                   painter.drawRoundedRect(19, 0, 22, 7, 25, 25, Qt::RelativeSize);
-               })},
-               {{"QProgressBar", busyBar()}});
-    rows.move("SpLoadingRound", "turned", turned(), {floorOf([](QPainter &painter, int i) {
-                  painter.setBrush(faded(i));
-                  painter.drawEllipse(27, -3, 18, 6);
-              })},
+    const struct {
+        const char *name;
+        SpLoadingRound::DrawStyle style;
+    } looks[] = {{"ellipses", SpLoadingRound::EllipseStyle},
+                 {"rectangles", SpLoadingRound::RectStyle},
+                 {"greys", SpLoadingRound::GrayStyle}};
+    for (const auto &look : looks)
+        rows.paint("SpLoadingRound", look.name, ring(look.style), {floorOf(look.style)},
+                   {{"QProgressBar", busyBar()}});
+    rows.move("SpLoadingRound", "turned", turned(), {floorOf(SpLoadingRound::EllipseStyle)},
               {{"QProgressBar", busyBar(), 1.0}});
+    rows.move("SpLoadingRound", "timer tick, rectangles", ticked(SpLoadingRound::RectStyle),
+              {floorOf(SpLoadingRound::RectStyle)}, {});
+    rows.move("SpLoadingRound", "timer tick, greys", ticked(SpLoadingRound::GrayStyle),
+              {floorOf(SpLoadingRound::GrayStyle)}, {});
 }

@@ -34,6 +34,21 @@ void addLook(Rows &rows, const char *state, Enter enter, const QPixmap &picture,
                 {"QToolButton icon", iconButton<QToolButton>(kSize, look), 0.6}});
 }
 
+// Down, with a picture of its own and a caption.
+void addCaptionedLook(Rows &rows)
+{
+    const QPixmap &pressed = buttonArtwork(kSize).pressed;
+    const QString caption = QStringLiteral("Radio");
+    const auto press = [&pressed, caption](SpLockButton &button) {
+        button.setShowMode(SpLockButton::HighlightMode);
+        button.setPressImage(pressed);
+        button.setDisplayText(caption);
+        button.setIsDown(true);
+    };
+    rows.paint("SpLockButton", "captioned down", widgetOf<SpLockButton>(kSize, setUp, press),
+               {captionedFloor(pressed, caption, QColor(255, 0, 0))}, {});
+}
+
 } // namespace
 
 void defineRows(Rows &rows, Tag<SpLockButton>)
@@ -49,4 +64,5 @@ void defineRows(Rows &rows, Tag<SpLockButton>)
             b.setDisableState(true);
         },
         faded(normal(), kFade));
+    addCaptionedLook(rows);
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "canvas.h"
+#include "mouse.h"
 #include "peers.h"
 #include "pictures.h"
 #include "rows.h"
@@ -31,6 +32,31 @@ void prepare(SpSetupSlider &slider)
     slider.setPointPressImage(artwork().knob);
 }
 
+// The finger goes by the way of a value and back, and each of its steps is painted.
+PaintingMaker dragged()
+{
+    return onGround([]() -> Painting {
+        const auto canvas = makeCanvas(kSize);
+        const auto slider = shownOn<SpSetupSlider>(canvas, kSize, prepare);
+        sendMouse(*slider, QEvent::MouseButtonPress, {25, kMiddle});
+        return {canvas, [slider, y = kMiddle]() mutable {
+                    y = y == kMiddle ? kMiddle + 24 : kMiddle;
+                    sendMouse(*slider, QEvent::MouseMove, {25, y});
+                    slider->paint();
+                }};
+    });
+}
+
+PaintingMaker floor()
+{
+    const int rowsBelow = kBand + kTrack.height() - 1 - kMiddle;
+    return bareWidget(kSize, [=](QPainter &painter) {
+        painter.drawPixmap(kLeft, kBand, artwork().groove);
+        painter.drawPixmap(kLeft, kMiddle, artwork().fill, 0, kMiddle - kBand, kTrack.width(),
+                           rowsBelow);
+    });
+}
+
 // The knob of ours is a widget of its own.
 PaintingMaker peer()
 {
@@ -44,13 +70,7 @@ PaintingMaker peer()
 
 void defineRows(Rows &rows, Tag<SpSetupSlider>)
 {
-    const int rowsBelow = kBand + kTrack.height() - 1 - kMiddle;
     rows.paint("SpSetupSlider", "track and fill", onGround(widgetOf<SpSetupSlider>(kSize, prepare)),
-               {bareWidget(kSize,
-                           [=](QPainter &painter) {
-                               painter.drawPixmap(kLeft, kBand, artwork().groove);
-                               painter.drawPixmap(kLeft, kMiddle, artwork().fill, 0,
-                                                  kMiddle - kBand, kTrack.width(), rowsBelow);
-                           })},
-               {{"QSlider pictures", peer(), kPeerLimit}});
+               {floor()}, {{"QSlider pictures", peer(), kPeerLimit}});
+    rows.move("SpSetupSlider", "dragged", dragged(), {floor()}, {});
 }

@@ -4,14 +4,13 @@
 #include "canvas.h"
 #include "mouse.h"
 #include "rows.h"
+#include "ticks.h"
 #include "widgetclasses.h"
 
-#include <QAbstractEventDispatcher>
 #include <QAbstractScrollArea>
 #include <QMetaProperty>
 #include <QPushButton>
 #include <QSlider>
-#include <QTimerEvent>
 
 #include <algorithm>
 #include <array>
@@ -154,28 +153,17 @@ StepMaker ticking(Maker maker, const QSize &size)
 {
     return [maker, size]() -> Step {
         const auto widget = shown(maker, size);
-        const auto timers = QAbstractEventDispatcher::instance()->registeredTimers(widget.get());
-        return [widget, id = timers.constFirst().timerId] {
-            QTimerEvent tick(id);
-            QCoreApplication::sendEvent(widget.get(), &tick);
-        };
+        return [widget, timer = timerOf(*widget)] { sendTick(*widget, timer); };
     };
 }
 
-bool hasTimer(const WidgetClass &of)
-{
-    const auto widget = shown(of.make, of.size);
-    return !QAbstractEventDispatcher::instance()->registeredTimers(widget.get()).isEmpty();
-}
+bool hasTimer(const WidgetClass &of) { return timerOf(*shown(of.make, of.size)) != 0; }
 
 StepMaker nothingButAnEvent()
 {
     return []() -> Step {
         const auto widget = shown(make<QWidget>, {100, 100});
-        return [widget] {
-            QTimerEvent tick(0);
-            QCoreApplication::sendEvent(widget.get(), &tick);
-        };
+        return [widget] { sendTick(*widget, 0); };
     };
 }
 

@@ -13,6 +13,15 @@
 namespace
 {
 
+constexpr double kFormLimit = 1.1;
+
+QByteArray page(const QByteArray &children)
+{
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?><ui version=\"4.0\"><class>Page</class>"
+           "<widget class=\"QWidget\" name=\"Page\">"
+        + children + "</widget></ui>";
+}
+
 // A form of twenty buttons with a text each.
 QByteArray form(const QByteArray &className, const QByteArray &property)
 {
@@ -26,9 +35,17 @@ QByteArray form(const QByteArray &className, const QByteArray &property)
               "<property name=\""
             + property + "\"><string>Button " + number + "</string></property></widget>";
     }
-    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?><ui version=\"4.0\"><class>Page</class>"
-           "<widget class=\"QWidget\" name=\"Page\">"
-        + children + "</widget></ui>";
+    return page(children);
+}
+
+// A form with one widget of each class, or with as many of another class.
+QByteArray formOfEveryClass(const QByteArray &className = {})
+{
+    QByteArray children;
+    for (const WidgetClass &known : widgetClasses())
+        children += "<widget class=\"" + (className.isEmpty() ? QByteArray(known.name) : className)
+            + "\" name=\"" + known.name + "\"/>";
+    return page(children);
 }
 
 // Knows the classes without their plugin.
@@ -48,13 +65,26 @@ public:
     }
 };
 
-StepMaker loading(const QByteArray &className, const QByteArray &property)
+StepMaker loading(const QByteArray &form)
 {
     return [=]() -> Step {
-        return [loader = std::make_shared<Loader>(), text = form(className, property)]() mutable {
+        return [loader = std::make_shared<Loader>(), text = form]() mutable {
             QBuffer device(&text);
             device.open(QIODevice::ReadOnly);
             delete loader->load(&device);
+        };
+    };
+}
+
+// Loads as many bare widgets from a form, and makes one widget of each class without it.
+StepMaker loadingAndMaking()
+{
+    return [load = loading(formOfEveryClass("QWidget"))]() -> Step {
+        return [loadOne = load()] {
+            loadOne();
+            QWidget page;
+            for (const WidgetClass &known : widgetClasses())
+                known.make(&page);
         };
     };
 }
@@ -63,7 +93,9 @@ StepMaker loading(const QByteArray &className, const QByteArray &property)
 
 void defineRowsOfForms(Rows &rows)
 {
-    rows.work("SpIconButton", "form of twenty", loading("SpIconButton", "displayText"),
-              {loading("QWidget", "toolTip")},
-              {{"QPushButton", loading("QPushButton", "text"), 1.0}});
+    rows.work("SpIconButton", "form of twenty", loading(form("SpIconButton", "displayText")),
+              {loading(form("QWidget", "toolTip"))},
+              {{"QPushButton", loading(form("QPushButton", "text")), 1.0}});
+    rows.work("every class", "form", loading(formOfEveryClass()), {loadingAndMaking(), kFormLimit},
+              {});
 }

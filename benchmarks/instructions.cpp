@@ -21,12 +21,13 @@ namespace
 
 constexpr int kWarmUp = 3; // steps; the first computes what is kept for the others
 constexpr int kSteps = 20;
-constexpr int kPeerSteps = 6; // they are what takes the time
+constexpr int kFewSteps = 6; // of peers, which are what takes the time, and of looks at rest
 
-int stepsOf(const std::string &subject)
+// At rest, after the warm-up, a paint is like the next.
+int stepsOf(const Row &row, const std::string &subject)
 {
     const bool isPeer = subject != "ours" && subject != "blit" && subject != "floor";
-    return isPeer ? kPeerSteps : kSteps;
+    return isPeer || row.isAtRest() ? kFewSteps : kSteps;
 }
 
 void count(const std::string &name, int steps, const StepMaker &make)
@@ -81,8 +82,8 @@ bool countInstructions(const std::vector<Row> &rows, const QString &names)
             continue;
         const auto countOne = [&](const std::string &subject, const StepMaker &make) {
             const std::string name = row.nameOf(subject);
-            steps.insert(QString::fromStdString(name), stepsOf(subject));
-            count(name, stepsOf(subject), make);
+            steps.insert(QString::fromStdString(name), stepsOf(row, subject));
+            count(name, stepsOf(row, subject), make);
         };
         countOne("ours", row.ours);
         for (const Against<StepMaker> &rival : row.rivals) {

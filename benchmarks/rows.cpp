@@ -125,6 +125,8 @@ std::string Row::nameOf(const std::string &subject) const
     return className + '/' + state + '/' + subject;
 }
 
+bool Row::isAtRest() const { return kind == kAtRest; }
+
 void Rows::paint(const std::string &className, const std::string &state, const PaintingMaker &ours,
                  const Floor<PaintingMaker> &floor,
                  const std::vector<Against<PaintingMaker>> &peers, const OwnLimits &own)
@@ -171,7 +173,7 @@ bool Rows::accepts(const std::string &className, const std::string &state,
 void Rows::addPainted(Row row, const PaintingMaker &ours, const Floor<PaintingMaker> &floor,
                       const std::vector<Against<PaintingMaker>> &peers, const OwnLimits &own)
 {
-    const bool isAtRest = row.kind == kAtRest;
+    const bool isAtRest = row.isAtRest();
     const double usualBlit = isAtRest ? kBlitLimit : kNoLimit;
     const double usualFloor = isAtRest ? kRestingFloorLimit : kMovingFloorLimit;
     const bool isOnGround = ours().isOnGround;

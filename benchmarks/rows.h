@@ -71,6 +71,8 @@ struct Row {
 
     /// The full name of one of the things measured, as in "SpIconButton/pressed/floor".
     std::string nameOf(const std::string &subject) const;
+
+    bool isAtRest() const;
 };
 
 /// Everything that is measured, in the order of its definition.
