@@ -389,7 +389,7 @@ private slots:
             add(picture, {{false, false, x, 5, 50}});
             const auto aside = [=](const std::function<void(QPainter &)> &paint) {
                 return onCanvas([&](QPainter &p) {
-                    p.translate(20 - x, 0);
+                    p.translate(qreal(20 - x), 0);
                     paint(p);
                 });
             };

@@ -95,7 +95,7 @@ private slots:
             for (const bool isCopied : {false, true}) {
                 images[isCopied] = onCanvas(kSize, [&](QPainter &p) {
                     p.setFont(fontOf(16));
-                    p.translate(column, 0);
+                    p.translate(qreal(column), 0);
                     TextStrip strip;
                     const auto yes = [](QPainter &q) { q.drawText(0, 20, QStringLiteral("yes")); };
                     if (isCopied) {
