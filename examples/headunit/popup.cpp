@@ -88,10 +88,8 @@ void Popup::place()
     const int width = m_theme.px(620);
     const QSize size(width,
                      std::max(layout.totalHeightForWidth(width), layout.totalSizeHint().height()));
-    QColor face = m_theme.face;
-    face.setAlpha(255); // nothing of the page shines through
     m_panel->setFixedSize(size);
-    m_panel->setPixmap(m_theme.panel(size, face, m_theme.line, m_theme.px(20)));
+    m_panel->setPixmap(m_theme.panel(size, m_theme.face, m_theme.line, m_theme.px(20)));
     m_panel->move(rect().center() - m_panel->rect().center());
 }
 
